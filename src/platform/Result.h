@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <tl/expected.hpp>
+#include <utility>
+
+namespace kestrel {
+
+// Why an operation failed. `number` is an errno value for system failures or one of the codes
+// below; `description` is the text a message box may show, without a final period.
+struct Error {
+    int number = 0;
+    std::string description;
+};
+
+// The user closed a standard dialog without choosing; commands end silently on it.
+inline constexpr int kDialogCancelled = 32755;
+// The bytes are not a picture that the reader understands.
+inline constexpr int kInvalidPicture = 481;
+
+// A value or the reason why there is none. May not be dropped.
+template <class T>
+class [[nodiscard]] Result : public tl::expected<T, Error> {
+  public:
+    using tl::expected<T, Error>::expected;
+};
+
+inline tl::unexpected<Error> Fail(int number, std::string description) {
+    return tl::unexpected<Error>(Error{number, std::move(description)});
+}
+
+}  // namespace kestrel

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "platform/Result.h"
+#include "platform/icons/IconImage.h"
+
+namespace kestrel::icons {
+
+// Where one image of an icon file lies, in bytes from the file's start, and what its header says.
+struct ImageEntry {
+    std::size_t offset = 0;
+    std::size_t size = 0;
+    ImageInfo info;
+};
+
+// No icon file that this program reads is larger; callers cap what they load by it.
+inline constexpr std::size_t kMaxIconFileBytes = std::size_t{32} << 20;
+
+// Lists the images of an icon or cursor file, or of a PNG that bears an icon's name, in the order
+// of the directory. Entries whose image header cannot be used are left out. Fails with
+// kInvalidPicture when the bytes are no such file or nothing is left.
+// Formats: the ICO/CUR directory with BITMAPINFOHEADER images (sizes 40..124), and PNG images.
+Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file);
+
+// Decodes one listed image, or fails with kInvalidPicture.
+Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEntry& entry);
+
+// Decodes the image that suits a 32 x 32 icon best: 32 x 32 with the most bits per pixel, else the
+// smallest max(|w - 32|, |h - 32|), ties to the larger, the deeper, the first. A damaged image is
+// skipped and the next best taken; fails with kInvalidPicture when none can be read.
+Result<IconImage> ReadBestImage(std::span<const std::uint8_t> file);
+
+}  // namespace kestrel::icons

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kestrel::system {
+
+// Held while the program runs: at most one per user and display. The lock goes with the process,
+// however that ends.
+class InstanceLock {
+  public:
+    // Nothing when another process holds the lock. When no lock can be made at all (no folder to
+    // keep it in), the lock counts as taken, so that the program still starts.
+    static std::optional<InstanceLock> Take(const std::string& folder, std::string_view program,
+                                            std::string_view display);
+
+    InstanceLock(InstanceLock&& other) noexcept;
+    InstanceLock& operator=(InstanceLock&& other) noexcept;
+    InstanceLock(const InstanceLock&) = delete;
+    InstanceLock& operator=(const InstanceLock&) = delete;
+    ~InstanceLock();
+
+  private:
+    explicit InstanceLock(int file) : file_(file) {}
+    int file_;
+};
+
+// The name that tells this session's display from others: the X or Wayland display, without its
+// screen number; empty when there is none.
+std::string CurrentDisplay();
+
+}  // namespace kestrel::system

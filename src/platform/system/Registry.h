@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/Result.h"
+
+namespace kestrel::system {
+
+enum class RegistryRoot { ClassesRoot, CurrentUser, LocalMachine };
+
+// The registry: keys ("Software\Vendor\Product", matched without regard to letter case) that hold
+// named string values; the empty name is a key's default value.
+class Registry {
+  public:
+    virtual ~Registry() = default;
+
+    // Nothing when key or value is missing or the registry cannot be read.
+    virtual std::optional<std::string> ReadValue(RegistryRoot root, std::string_view key,
+                                                 std::string_view name) = 0;
+    virtual bool KeyExists(RegistryRoot root, std::string_view key) = 0;
+    // Creates the key as needed.
+    virtual Result<void> WriteValue(RegistryRoot root, std::string_view key, std::string_view name,
+                                    std::string_view value) = 0;
+    // Deleting what is not there succeeds.
+    virtual Result<void> DeleteValue(RegistryRoot root, std::string_view key,
+                                     std::string_view name) = 0;
+};
+
+}  // namespace kestrel::system

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/Result.h"
+
+namespace kestrel::system {
+
+// Starts other programs, which go on by themselves.
+class Shell {
+  public:
+    virtual ~Shell() = default;
+
+    // Starts a program, found on PATH when its name has no separator. Fails with the system's
+    // reason when it cannot be started.
+    virtual Result<void> RunProgram(const std::string& program,
+                                    const std::vector<std::string>& arguments) = 0;
+    // Opens a URL or a file with the desktop's opener.
+    virtual Result<void> Open(const std::string& target) = 0;
+};
+
+}  // namespace kestrel::system
