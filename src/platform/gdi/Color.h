@@ -15,8 +15,14 @@ inline constexpr COLORREF CLR_INVALID = 0xFFFFFFFF;
 constexpr COLORREF Rgb(std::uint8_t red, std::uint8_t green, std::uint8_t blue) {
     return static_cast<COLORREF>(red | (green << 8) | (blue << 16));
 }
-constexpr std::uint8_t Red(COLORREF color) { return static_cast<std::uint8_t>(color); }
-constexpr std::uint8_t Green(COLORREF color) { return static_cast<std::uint8_t>(color >> 8); }
-constexpr std::uint8_t Blue(COLORREF color) { return static_cast<std::uint8_t>(color >> 16); }
+constexpr std::uint8_t Red(COLORREF color) {
+    return static_cast<std::uint8_t>(color);
+}
+constexpr std::uint8_t Green(COLORREF color) {
+    return static_cast<std::uint8_t>(color >> 8);
+}
+constexpr std::uint8_t Blue(COLORREF color) {
+    return static_cast<std::uint8_t>(color >> 16);
+}
 
 }  // namespace kestrel::gdi
