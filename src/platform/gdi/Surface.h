@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cassert>
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -61,10 +63,33 @@ class Surface {
     bool SamePixels(const Surface& other) const;
 
   private:
+    std::size_t Index(int x, int y) const {
+        return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_) +
+               static_cast<std::size_t>(x);
+    }
+
     int width_;
     int height_;
     COLORREF backColor_;
     std::vector<COLORREF> pixels_;
 };
+
+inline COLORREF Surface::GetPixel(int x, int y) const {
+    return Contains(x, y) ? pixels_[Index(x, y)] : CLR_INVALID;
+}
+
+inline void Surface::SetPixel(int x, int y, COLORREF color) {
+    if (Contains(x, y)) pixels_[Index(x, y)] = color & kWhite;
+}
+
+inline std::span<COLORREF> Surface::Row(int y) {
+    assert(y >= 0 && y < height_);
+    return std::span(pixels_).subspan(Index(0, y), static_cast<std::size_t>(width_));
+}
+
+inline std::span<const COLORREF> Surface::Row(int y) const {
+    assert(y >= 0 && y < height_);
+    return std::span(pixels_).subspan(Index(0, y), static_cast<std::size_t>(width_));
+}
 
 }  // namespace kestrel::gdi
