@@ -1,0 +1,107 @@
+#include "platform/gdi/Blit.h"
+
+#include <climits>
+#include <cstdint>
+
+#include "tests/support/PictureText.h"
+
+namespace kestrel::gdi {
+namespace {
+
+using test::ComparePicture;
+
+constexpr RasterOp kOps[] = {RasterOp::Copy, RasterOp::And, RasterOp::Xor};
+
+Surface Noise(int width, int height, std::uint32_t seed) {
+    Surface noise(width, height);
+    for (int i = 0; i < width * height; ++i) {
+        seed = seed * 1664525 + 1013904223;
+        noise.SetPixel(i % width, i / width, seed >> 8);
+    }
+    return noise;
+}
+
+// Looks at every target pixel and asks which source pixel belongs there.
+void SlowStretch(Surface& target, Rect to, const Surface& source, Rect from, RasterOp op) {
+    for (int pixel = 0; pixel < target.Width() * target.Height(); ++pixel) {
+        const int x = pixel % target.Width();
+        const int y = pixel / target.Width();
+        const std::int64_t i = std::int64_t{x} - to.left;
+        const std::int64_t j = std::int64_t{y} - to.top;
+        if (from.width <= 0 || i < 0 || i >= to.width || j < 0 || j >= to.height) continue;
+        const std::int64_t sx = from.left + i * from.width / to.width;
+        const std::int64_t sy = from.top + j * from.height / to.height;
+        if (sx < 0 || sx >= source.Width() || sy < 0 || sy >= source.Height()) continue;
+        const COLORREF s = source.GetPixel(static_cast<int>(sx), static_cast<int>(sy));
+        const COLORREF t = target.GetPixel(x, y);
+        target.SetPixel(x, y, op == RasterOp::Copy ? s : op == RasterOp::And ? (s & t) : (s ^ t));
+    }
+}
+
+TEST(Blit, AgreesWithSlowTwinInsideOutsideAndAtTheEndsOfInt) {
+    const Rect table[][2] = {
+        {{0, 0, 5, 4}, {0, 0, 5, 4}},
+        {{2, 1, 90, 90}, {1, 2, 90, 90}},
+        {{-3, -2, 9, 9}, {-4, 1, 9, 9}},
+        {{-INT_MAX, -INT_MAX, INT_MAX, INT_MAX}, {-INT_MAX, 0, INT_MAX, INT_MAX}},
+        {{-INT_MAX + 6, 3, INT_MAX, INT_MAX}, {-INT_MAX + 5, -2, INT_MAX, INT_MAX}},
+        {{INT_MAX, INT_MAX, INT_MAX, INT_MAX}, {INT_MIN, INT_MIN, INT_MAX, INT_MAX}},
+        {{1, 1, -3, INT_MIN}, {1, 1, -3, INT_MIN}},
+        // From here on the sizes differ.
+        {{-7, -15, 100, 100}, {0, 0, 10, 10}},
+        {{0, 0, 7, 3}, {0, 0, 10, 10}},
+        {{3, 2, 13, 11}, {-3, -2, 17, 5}},
+        {{-5, 1, 31, 9}, {4, 8, 20, 20}},
+        {{INT_MIN, -5, INT_MAX, 40}, {-100, 3, INT_MAX, 1}},
+        {{-1000, -1000, INT_MAX, INT_MAX}, {0, 0, 10, 10}},
+        {{2, 2, 5, 5}, {INT_MIN, -1000, INT_MAX, INT_MAX}},
+        {{0, 0, 5, 5}, {0, 0, 0, 3}},
+    };
+    const Surface source = Noise(10, 11, 1);
+    const Surface before = Noise(20, 15, 2);
+    for (const auto& [to, from] : table) {
+        for (const RasterOp op : kOps) {
+            SCOPED_TRACE(testing::Message() << to.left << ", " << to.width << ", " << from.width);
+            Surface expected = before;
+            SlowStretch(expected, to, source, from, op);
+            Surface stretched = before;
+            StretchBlt(stretched, to, source, from, op);
+            EXPECT_TRUE(ComparePicture(stretched, expected));
+            if (to.width != from.width) continue;
+            Surface copied = before;
+            BitBlt(copied, to.left, to.top, to.width, to.height, source, from.left, from.top, op);
+            EXPECT_TRUE(ComparePicture(copied, expected));
+        }
+    }
+}
+
+TEST(Blit, OverlappingBlockArrivesAsItWas) {
+    const Surface before = Noise(9, 8, 3);
+    const Rect from{2, 2, 6, 5};
+    for (const RasterOp op : kOps) {
+        for (int shift = 0; shift < 25; ++shift) {
+            const Rect to{shift % 5, shift / 5, from.width, from.height};
+            Surface expected = before;
+            SlowStretch(expected, to, before, from, op);
+            Surface copied = before;
+            BitBlt(copied, to.left, to.top, to.width, to.height, copied, from.left, from.top, op);
+            EXPECT_TRUE(ComparePicture(copied, expected)) << "shift " << shift;
+            Surface stretched = before;
+            StretchBlt(stretched, to, stretched, from, op);
+            EXPECT_TRUE(ComparePicture(stretched, expected)) << "shift " << shift;
+        }
+    }
+}
+
+TEST(Blit, PatBltFillsWhateverTheDrawingState) {
+    Surface target(4, 2);
+    target.state.drawMode = DrawMode::Invert;
+    PatBlt(target, {2, 1, INT_MAX, INT_MAX}, kBlack);
+    PatBlt(target, {INT_MIN, INT_MIN, INT_MAX, INT_MAX}, kBlack);
+    PatBlt(target, {-1, 0, 2, 1}, kBlack);
+    PatBlt(target, {0, 1, -1, 1}, kBlack);
+    EXPECT_PICTURE(target, test::kBlackOnWhite, "# . . .\n. . # #");
+}
+
+}  // namespace
+}  // namespace kestrel::gdi
