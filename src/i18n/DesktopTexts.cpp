@@ -1,0 +1,59 @@
+#include "i18n/DesktopTexts.h"
+
+#include <algorithm>
+#include <array>
+
+#include "i18n/Language.h"
+
+namespace kestrel::i18n {
+
+namespace {
+
+// The English texts are those that the desktop library asks a translation for.
+constexpr std::array kDesktopTexts = {
+    // Standard buttons.
+    Text{"OK", "确定"},
+    Text{"Cancel", "取消"},
+    Text{"&Yes", "是(&Y)"},
+    Text{"&No", "否(&N)"},
+    Text{"&Open", "打开(&O)"},
+    Text{"&Save", "保存(&S)"},
+    Text{"Open", "打开"},
+    Text{"Save", "保存"},
+    // File dialogs.
+    Text{"Look in:", "查找范围:"},
+    Text{"File &name:", "文件名(&N):"},
+    Text{"Files of type:", "文件类型:"},
+    Text{"Back", "后退"},
+    Text{"Forward", "前进"},
+    Text{"Parent Directory", "上级文件夹"},
+    Text{"Create New Folder", "新建文件夹"},
+    Text{"&New Folder", "新建文件夹(&N)"},
+    Text{"New Folder", "新建文件夹"},
+    Text{"List View", "列表"},
+    Text{"Detail View", "详细信息"},
+    Text{"&Rename", "重命名(&R)"},
+    Text{"&Delete", "删除(&D)"},
+    Text{"Show &hidden files", "显示隐藏文件(&H)"},
+    Text{"Computer", "计算机"},
+    Text{"Name", "名称"},
+    Text{"Size", "大小"},
+    Text{"Type", "类型"},
+    Text{"Date Modified", "修改日期"},
+    Text{"%1 already exists.\nDo you want to replace it?", "%1 已存在.\n是否替换?"},
+    Text{"%1\nFile not found.\nPlease verify the correct file name was given.",
+         "%1\n找不到文件.\n请检查文件名是否正确."},
+    Text{"%1\nDirectory not found.\nPlease verify the correct directory name was given.",
+         "%1\n找不到文件夹.\n请检查文件夹名是否正确."},
+};
+
+}  // namespace
+
+std::string_view DesktopText(std::string_view english) {
+    if (UiLanguage() != kChinese) return {};
+    const auto* found = std::find_if(kDesktopTexts.begin(), kDesktopTexts.end(),
+                                     [&](const Text& row) { return row.english == english; });
+    return found == kDesktopTexts.end() ? std::string_view() : found->chinese;
+}
+
+}  // namespace kestrel::i18n

@@ -1,0 +1,59 @@
+#include "i18n/Messages.h"
+
+namespace kestrel::i18n {
+
+namespace {
+
+// Puts `name` in the place of every "%1".
+std::string Fill(std::string_view pattern, std::string_view name) {
+    std::string text;
+    for (std::size_t start = 0; start < pattern.size();) {
+        const std::size_t hole = pattern.find("%1", start);
+        text += pattern.substr(start, hole - start);
+        if (hole == std::string_view::npos) break;
+        text += name;
+        start = hole + 2;
+    }
+    return text;
+}
+
+constexpr Text kUntitledWindow{"KestrelIconEditor - Untitled", "KestrelIconEditor - 未命名"};
+constexpr Text kCannotOpenChosen{"Unable to open the file %1", "不能打开 %1文件"};
+constexpr Text kCannotOpenNamed{"Unable to open the file %1", "不能打开%1文件"};
+constexpr Text kCannotSaveUntitled{"Unable to save Untitled.", "不能保存 Untitled.ico 文件."};
+constexpr Text kCannotSave{"Unable to save %1", "不能保存 %1 文件."};
+constexpr Text kSeveralIcons{
+    "The file \"%1\" contains multiple icons.\r\n"
+    "This \"Save\" will overwrite the other icons in the file.\r\n\r\n"
+    "Click Ok to continue with \"Save\".\r\n"
+    "Click Cancel to \"Save As\".",
+    "\"%1\" 文件包含多个图标.\r\n"
+    "若 \"保存\" 将覆盖此文件中的其它图标.\r\n\r\n"
+    "点击‘确定’继续 \"保存\".\r\n"
+    "点击 ‘取消’ 将 \"另存为\"."};
+
+}  // namespace
+
+std::string WindowTitle(std::string_view fileTitle) {
+    if (fileTitle.empty()) return std::string(kUntitledWindow.Now());
+    return std::string(kProgramName) + " - " + std::string(fileTitle);
+}
+
+std::string CannotOpenChosen(std::string_view fileTitle) {
+    return Fill(kCannotOpenChosen.Now(), fileTitle);
+}
+
+std::string CannotOpenNamed(std::string_view fileTitle) {
+    return Fill(kCannotOpenNamed.Now(), fileTitle);
+}
+
+std::string CannotSave(std::string_view reason, std::string_view fileTitle) {
+    const Text& sentence = fileTitle.empty() ? kCannotSaveUntitled : kCannotSave;
+    return std::string(reason) + ".\r\n\r\n" + Fill(sentence.Now(), fileTitle);
+}
+
+std::string SeveralIcons(std::string_view fileTitle) {
+    return Fill(kSeveralIcons.Now(), fileTitle);
+}
+
+}  // namespace kestrel::i18n

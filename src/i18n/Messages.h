@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "i18n/Language.h"
+
+namespace kestrel::i18n {
+
+inline constexpr std::string_view kProgramName = "KestrelIconEditor";
+inline constexpr Text kErrorTitle{"KestrelIconEditor - Error", "KestrelIconEditor - 错误"};
+
+// Start-up: the checks speak before the window exists.
+inline constexpr Text kRunningText{"Program is running !", "请不要重复运行程序！"};
+inline constexpr Text kRunningTitle{"error!", "错误!"};
+inline constexpr Text kScreenTooSmall{
+    "KestrelIconEditor requires a screen resolution of at least 640 x 480 pixels.\r\n\r\n"
+    "Please adjust your screen resolution and try again.",
+    "KestrelIconEditor 显示屏分辨率需设置为640×480以上.\r\n\r\n请在调整分辨率后重新运行程序."};
+inline constexpr Text kTooFewColors{
+    "KestrelIconEditor requires at least high color mode.\r\n\r\n"
+    "Please adjust your color mode and try again.",
+    "KestrelIconEditor 颜色模式需设置为真彩色.\r\n\r\n请在调整颜色模式后重新运行程序."};
+
+// Document commands.
+inline constexpr Text kSaveChanges{"Save changes to current icon?", "是否保存当前编辑的图标?"};
+inline constexpr Text kOpenTitle{"KestrelIconEditor - Open", "KestrelIconEditor - 打开"};
+inline constexpr Text kSaveAsTitle{"KestrelIconEditor - Save As", "KestrelIconEditor - 保存为"};
+inline constexpr std::string_view kIconFilter = "Icon Files (*.ico)|*.ico";
+
+// The window title of an icon whose file has this name; empty for a new icon.
+std::string WindowTitle(std::string_view fileTitle);
+
+// A file that Open refused: chosen in the dialog, or named by command line, drop or recent list.
+std::string CannotOpenChosen(std::string_view fileTitle);
+std::string CannotOpenNamed(std::string_view fileTitle);
+
+// A save that failed; `reason` is the system's description. Empty file title: a new icon.
+std::string CannotSave(std::string_view reason, std::string_view fileTitle);
+
+// The warning before a save replaces a file that held several icons.
+std::string SeveralIcons(std::string_view fileTitle);
+
+}  // namespace kestrel::i18n
