@@ -1,0 +1,153 @@
+#include "document/Canvas.h"
+
+#include "document/GridCoordinates.h"
+#include "platform/gdi/Blit.h"
+#include "platform/gdi/Draw.h"
+#include "platform/gdi/PixelArt.h"
+#include "resources/TransparentTile.h"
+
+namespace kestrel::document {
+
+namespace {
+
+using gdi::RasterOp;
+
+// The grid has one line more than it has cells.
+constexpr int kGridPixels = kGridSize + 1;
+constexpr gdi::Rect kIconArea{0, 0, kIconSize, kIconSize};
+
+}  // namespace
+
+Canvas::Canvas(IconDocument& document, CanvasWindow& window, gdi::COLORREF windowColor)
+    : PicMain(kGridPixels, kGridPixels, gdi::kWhite),
+      PicMainCopy(kGridSize, kGridSize, gdi::kWhite),
+      PicIcon(kIconSize, kIconSize, windowColor),
+      document_(document),
+      window_(window),
+      gridLinesImage_(kGridPixels, kGridPixels, gdi::kWhite),
+      transparentGridImage_(kGridPixels, kGridPixels, gdi::kBlack) {
+    MakeGridLines();
+    MakeTransparentGrid();
+    ClearView();
+    OverlayGrid();
+}
+
+void Canvas::MakeGridLines() {
+    for (int v = 0; v <= kGridSize; v += kCellSize) {
+        gdi::DrawLine(gridLinesImage_, v, 0, v, kGridPixels, gdi::kBlack);
+        gdi::DrawLine(gridLinesImage_, 0, v, kGridPixels, v, gdi::kBlack);
+    }
+}
+
+void Canvas::MakeTransparentGrid() {
+    const gdi::Surface tile =
+        gdi::ReadPixelArt(resources::kTransparentTile, {{'W', gdi::kWhite}, {'G', 0x808080}});
+    for (int y = 1; y < kGridPixels; y += kCellSize) {
+        for (int x = 1; x < kGridPixels; x += kCellSize) {
+            gdi::BitBlt(transparentGridImage_, x, y, tile.Width(), tile.Height(), tile, 0, 0,
+                        RasterOp::Copy);
+        }
+    }
+}
+
+void Canvas::ClearView() {
+    gdi::BitBlt(PicMain, 0, 0, kGridPixels, kGridPixels, transparentGridImage_, 0, 0,
+                RasterOp::Copy);
+    gdi::BitBlt(PicMainCopy, 0, 0, kGridSize, kGridSize, transparentGridImage_, 0, 0,
+                RasterOp::Copy);
+}
+
+void Canvas::OverlayGrid() {
+    gdi::BitBlt(PicMain, 0, 0, kGridPixels, kGridPixels, gridLinesImage_, 0, 0, RasterOp::And);
+    window_.RepaintView(View::Grid, PicMain.Bounds());
+}
+
+void Canvas::RebuildBackingCopy() {
+    const gdi::Rect all = PicMainCopy.Bounds();
+    gdi::BitBlt(PicMainCopy, 0, 0, kGridSize, kGridSize, transparentGridImage_, 0, 0,
+                RasterOp::Copy);
+    gdi::StretchBlt(PicMainCopy, all, document_.PicMask, kIconArea, RasterOp::And);
+    gdi::StretchBlt(PicMainCopy, all, document_.PicImage, kIconArea, RasterOp::Xor);
+}
+
+void Canvas::RebuildGrid() {
+    RebuildBackingCopy();
+    gdi::BitBlt(PicMain, 0, 0, kGridSize, kGridSize, PicMainCopy, 0, 0, RasterOp::Copy);
+    OverlayGrid();
+}
+
+void Canvas::RedrawAll() {
+    RebuildGrid();
+    PreviewIcon();
+    document_.Modified = true;
+}
+
+void Canvas::EraseAndRedraw(gdi::Rect cells) {
+    gdi::PatBlt(document_.PicMask, cells, gdi::kWhite);
+    gdi::PatBlt(document_.PicImage, cells, gdi::kBlack);
+    RedrawAll();
+}
+
+void Canvas::PreviewIcon() {
+    PicIcon.Clear();
+    gdi::BitBlt(PicIcon, 0, 0, kIconSize, kIconSize, document_.PicMask, 0, 0, RasterOp::And);
+    gdi::BitBlt(PicIcon, 0, 0, kIconSize, kIconSize, document_.PicImage, 0, 0, RasterOp::Xor);
+    window_.RepaintView(View::Preview, PicIcon.Bounds());
+}
+
+void Canvas::ShowEmptyIcon() {
+    PicIcon.Clear();
+    window_.RepaintView(View::Preview, PicIcon.Bounds());
+    ClearView();
+    OverlayGrid();
+}
+
+void Canvas::ReadIconIntoDocument(const icons::IconImage& icon) {
+    using icons::DrawPart;
+    icons::DrawIcon(document_.PicMask, icon, kIconSize, kIconSize, DrawPart::Mask);
+    icons::DrawIcon(document_.PicImage, icon, kIconSize, kIconSize, DrawPart::Image);
+    PreviewIcon();
+    RebuildGrid();
+}
+
+void Canvas::PaintCell(int cx, int cy, gdi::COLORREF color) {
+    if (!document_.PicImage.Contains(cx, cy)) return;
+    const int x = cx * kCellSize;
+    const int y = cy * kCellSize;
+    gdi::FillBox(PicMain, x, y, x + kCellSize, y + kCellSize, color);
+    gdi::DrawBox(PicMain, x, y, x + kCellSize, y + kCellSize, gdi::kBlack);
+    gdi::PatBlt(PicMainCopy, {x, y, kCellSize, kCellSize}, color);
+    PicIcon.SetPixel(cx, cy, color);
+    document_.PicImage.SetPixel(cx, cy, color);
+    document_.PicMask.SetPixel(cx, cy, gdi::kBlack);
+    RepaintCell(cx, cy);
+}
+
+void Canvas::PaintCellTransparent(int cx, int cy) {
+    if (!document_.PicImage.Contains(cx, cy)) return;
+    const int x = cx * kCellSize;
+    const int y = cy * kCellSize;
+    // The tile lies between the lines, which stay black on the grid; in the backing copy they took
+    // the cell's colour and go back to black with the tile.
+    for (gdi::Surface* view : {&PicMain, &PicMainCopy}) {
+        gdi::BitBlt(*view, x, y, kCellSize, kCellSize, transparentGridImage_, x, y, RasterOp::Copy);
+    }
+    PicIcon.SetPixel(cx, cy, PicIcon.BackColor());
+    document_.PicImage.SetPixel(cx, cy, gdi::kBlack);
+    document_.PicMask.SetPixel(cx, cy, gdi::kWhite);
+    RepaintCell(cx, cy);
+}
+
+void Canvas::RepaintCell(int cx, int cy) {
+    window_.RepaintView(View::Grid, {cx * kCellSize, cy * kCellSize, kCellSize + 1, kCellSize + 1});
+    window_.RepaintView(View::Preview, {cx, cy, 1, 1});
+}
+
+void Canvas::SetPenColor(gdi::COLORREF color) {
+    for (gdi::Surface* surface : {&PicMain, &PicMainCopy, &PicIcon, &document_.PicImage}) {
+        surface->state.foreColor = color;
+        surface->state.fillColor = color;
+    }
+}
+
+}  // namespace kestrel::document

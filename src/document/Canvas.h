@@ -1,0 +1,75 @@
+#pragma once
+
+#include "document/IconDocument.h"
+#include "platform/gdi/Surface.h"
+#include "platform/icons/IconImage.h"
+
+namespace kestrel::document {
+
+// What the user sees of the icon: PicMain and PicIcon.
+enum class View { Grid, Preview };
+
+// The window in which the views stand.
+class CanvasWindow {
+  public:
+    virtual ~CanvasWindow() = default;
+    // Part of a view has new pixels; `area` is in pixels of that view.
+    virtual void RepaintView(View view, gdi::Rect area) = 0;
+};
+
+// The magnified editing grid, the preview and the images they are composed from. Composition is
+// always (ground AND mask) XOR colour; the grid's ground is the hatch of transparent cells, the
+// preview's the window colour.
+class Canvas {
+  public:
+    // `windowColor` is the desktop's window colour. The views show the empty icon afterwards.
+    Canvas(IconDocument& document, CanvasWindow& window, gdi::COLORREF windowColor);
+
+    // The editing grid with its lines, 10 grid units per icon pixel.
+    gdi::Surface PicMain;
+    // The same without lines: what rubber bands and a floating selection are drawn over.
+    gdi::Surface PicMainCopy;
+    // The icon in actual size.
+    gdi::Surface PicIcon;
+
+    // Shows an all-transparent icon, without lines until OverlayGrid.
+    void ClearView();
+    // Blackens the grid lines and repaints the grid.
+    void OverlayGrid();
+    // Rebuilds every view from the planes and marks the document modified.
+    void RedrawAll();
+    // Makes these icon pixels transparent (an empty rectangle: none), then rebuilds every view and
+    // marks the document modified.
+    void EraseAndRedraw(gdi::Rect cells);
+    // Recomposes the preview from the planes.
+    void PreviewIcon();
+    // Empties the preview and the grid; the planes are the caller's.
+    void ShowEmptyIcon();
+    // Rebuilds the grid and its backing copy from the planes; the document's flags stay.
+    void RebuildGrid();
+
+    // Makes `icon` the content of the planes and views, fitted to 32 x 32. Both planes are empty
+    // before. Modified stays as it is.
+    void ReadIconIntoDocument(const icons::IconImage& icon);
+
+    // Paints one icon pixel, given in icon coordinates, in planes and views without touching the
+    // others. Outside the icon nothing happens.
+    void PaintCell(int cx, int cy, gdi::COLORREF color);
+    void PaintCellTransparent(int cx, int cy);
+
+    // What every drawing surface draws with from now on.
+    void SetPenColor(gdi::COLORREF color);
+
+  private:
+    void MakeGridLines();
+    void MakeTransparentGrid();
+    void RebuildBackingCopy();
+    void RepaintCell(int cx, int cy);
+
+    IconDocument& document_;
+    CanvasWindow& window_;
+    gdi::Surface gridLinesImage_;
+    gdi::Surface transparentGridImage_;
+};
+
+}  // namespace kestrel::document
