@@ -1,0 +1,39 @@
+#include "document/GridCoordinates.h"
+
+#include <gtest/gtest.h>
+
+namespace kestrel::document {
+namespace {
+
+using Helper = void (*)(int&, int&);
+
+struct Case {
+    const char* name;
+    Helper helper;
+    int x, y;
+    int wantX, wantY;
+};
+
+TEST(GridCoordinates, HelpersMovePoints) {
+    const Case cases[] = {
+        {"cell, first and second", SnapToCell, 9, 10, 0, 10},
+        {"cell, truncating toward zero", SnapToCell, -9, -11, 0, -10},
+        {"nearest line, below and at the middle", SnapToNearestLine, 14, 15, 10, 20},
+        {"nearest line, negative", SnapToNearestLine, -4, -14, 0, -10},
+        {"centre", CellCentre, 0, 319, 5, 315},
+        {"centre outside", CellCentre, -3, 325, 5, 325},
+        {"clamp keeps the last line", ClampToGrid, 320, 321, 320, 320},
+        {"clamp", ClampToGrid, -1, 32767, 0, 320},
+        {"swap", SwapInt, 1, 2, 2, 1},
+    };
+    for (const Case& c : cases) {
+        int x = c.x;
+        int y = c.y;
+        c.helper(x, y);
+        EXPECT_EQ(x, c.wantX) << c.name;
+        EXPECT_EQ(y, c.wantY) << c.name;
+    }
+}
+
+}  // namespace
+}  // namespace kestrel::document
