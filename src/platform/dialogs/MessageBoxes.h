@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+namespace kestrel::dialogs {
+
+enum class BoxIcon { Question, Information, Exclamation, Critical };
+enum class BoxButtons { Ok, OkCancel, YesNoCancel };
+enum class Answer { Ok, Cancel, Yes, No };
+
+// The system's message boxes: modal, plain text with CR LF line breaks. Closing a box answers
+// Cancel, or Ok where that is all there is.
+class MessageBoxes {
+  public:
+    virtual ~MessageBoxes() = default;
+    virtual Answer Show(BoxIcon icon, BoxButtons buttons, const std::string& text,
+                        const std::string& title) = 0;
+};
+
+}  // namespace kestrel::dialogs
