@@ -1,0 +1,129 @@
+#include "editing/Editor.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/Recorders.h"
+
+namespace kestrel::editing {
+namespace {
+
+constexpr gdi::COLORREF kWindowColor = 0xC8D0D4;
+
+class EditorTest : public testing::Test {
+  protected:
+    void Stroke(Button button, std::initializer_list<std::pair<int, int>> points) {
+        const auto [x, y] = *points.begin();
+        editor_.PicMain_MouseMove(Button::None, x, y);
+        editor_.PicMain_MouseDown(button, x, y);
+        for (const auto& [px, py] : points)
+            editor_.PicMain_MouseMove(button, px, py);
+        const auto [lastX, lastY] = *(points.end() - 1);
+        editor_.PicMain_MouseUp(button, lastX, lastY);
+    }
+    int OpaquePixels() {
+        int count = 0;
+        for (int i = 0; i < 1024; ++i)
+            count += icon_.IsTransparent(i % 32, i / 32) ? 0 : 1;
+        return count;
+    }
+
+    test::RecordingWindow window_;
+    Editor editor_{window_, kWindowColor};
+    document::IconDocument& icon_ = editor_.Document();
+};
+
+TEST_F(EditorTest, AClickPaintsOneCellAndRecordsOneEntry) {
+    Stroke(Button::Left, {{45, 59}});
+    EXPECT_FALSE(icon_.IsTransparent(4, 5));
+    EXPECT_EQ(icon_.PicImage.GetPixel(4, 5), gdi::kBlack);
+    EXPECT_EQ(OpaquePixels(), 1);
+    EXPECT_TRUE(icon_.Modified);
+    EXPECT_EQ(editor_.History().UndoCount(), 2U);
+    Stroke(Button::Right, {{45, 59}, {55, 59}});
+    EXPECT_EQ(icon_.PicImage.GetPixel(4, 5), gdi::kWhite);
+    EXPECT_EQ(icon_.PicImage.GetPixel(5, 5), gdi::kWhite);
+    EXPECT_EQ(editor_.History().UndoCount(), 3U);
+}
+
+TEST_F(EditorTest, OnlyCellsUnderPointerEventsArePainted) {
+    Stroke(Button::Left, {{5, 5}, {65, 5}, {-15, 5}, {330, 5}, {20, 400}, {32767, -32768}});
+    EXPECT_EQ(OpaquePixels(), 2);
+    EXPECT_FALSE(icon_.IsTransparent(6, 0));
+}
+
+TEST_F(EditorTest, TheOuterLinesOnTheLeftAndTopPaintNothing) {
+    Stroke(Button::Left, {{0, 5}});
+    Stroke(Button::Left, {{5, 0}});
+    EXPECT_EQ(OpaquePixels(), 0);
+    Stroke(Button::Left, {{1, 1}});
+    EXPECT_FALSE(icon_.IsTransparent(0, 0));
+}
+
+TEST_F(EditorTest, ATransparentWellClears) {
+    Stroke(Button::Left, {{5, 5}, {15, 5}});
+    editor_.Wells().SetTransparent(Button::Left);
+    Stroke(Button::Left, {{5, 5}});
+    EXPECT_TRUE(icon_.IsTransparent(0, 0));
+    EXPECT_EQ(icon_.PicImage.GetPixel(0, 0), gdi::kBlack);
+    EXPECT_FALSE(icon_.IsTransparent(1, 0));
+}
+
+TEST_F(EditorTest, AGestureBelongsToTheButtonThatBeganIt) {
+    editor_.PicMain_MouseDown(Button::Left, 5, 5);
+    editor_.PicMain_MouseDown(Button::Right, 5, 5);
+    editor_.PicMain_MouseMove(Button::None, 15, 5);  // both held
+    editor_.PicMain_MouseUp(Button::Right, 15, 5);
+    editor_.PicMain_MouseMove(Button::Left, 25, 5);
+    EXPECT_EQ(icon_.PicImage.GetPixel(0, 0), gdi::kBlack);
+    EXPECT_EQ(OpaquePixels(), 2);
+    EXPECT_EQ(editor_.History().UndoCount(), 1U);
+    // The release was lost to a dialog: the next press of the button ends the old stroke first.
+    editor_.PicMain_MouseDown(Button::Left, 35, 5);
+    editor_.PicMain_MouseUp(Button::Left, 35, 5);
+    EXPECT_EQ(editor_.History().UndoCount(), 3U);
+    editor_.PicMain_MouseUp(Button::Left, 35, 5);
+    editor_.PicMain_MouseDown(Button::None, 95, 95);
+    EXPECT_EQ(editor_.History().UndoCount(), 3U);
+    EXPECT_EQ(OpaquePixels(), 3);
+}
+
+TEST_F(EditorTest, ResetEndsAStrokeAndEmptiesEverything) {
+    icon_.FilePath = "/icons/a.ico";
+    editor_.PicMain_MouseDown(Button::Left, 5, 5);
+    editor_.ResetDocument();
+    editor_.PicMain_MouseMove(Button::Left, 15, 5);
+    editor_.PicMain_MouseUp(Button::Left, 15, 5);
+    EXPECT_EQ(OpaquePixels(), 0);
+    EXPECT_FALSE(icon_.Modified);
+    EXPECT_TRUE(icon_.IsUntitled());
+    EXPECT_EQ(editor_.History().UndoCount(), 1U);
+    EXPECT_EQ(window_.title, "KestrelIconEditor - Untitled");
+}
+
+TEST_F(EditorTest, ReadoutsTellPixelAndCell) {
+    editor_.Wells().SetPenColor(Button::Left, 0x0000FF);
+    Stroke(Button::Left, {{5, 5}});
+    Stroke(Button::Right, {{15, 5}});
+    struct {
+        int x, y;
+        const char* pixel;
+        const char* cell;
+    } const cases[] = {
+        {9, 9, "#FF", "0 , 0"}, {10, 0, "#FFFFFF", "1 , 0"}, {319, 319, "Transparent", "31 , 31"},
+        {320, 5, "", "31 , 0"}, {-1, 5, "", "0 , 0"},        {5, 9999, "", "0 , 31"},
+    };
+    for (const auto& c : cases) {
+        editor_.PicMain_MouseMove(Button::None, c.x, c.y);
+        EXPECT_EQ(window_.panels[2], c.pixel) << c.x << "," << c.y;
+        EXPECT_EQ(window_.panels[3], c.cell) << c.x << "," << c.y;
+        EXPECT_EQ(window_.printedCell, c.cell);
+    }
+    EXPECT_EQ(window_.panels[1], "Left-Click (Forecolor) Or Right-Click (Backcolor)");
+    i18n::SetUiLanguage(i18n::kChinese);
+    editor_.PicMain_MouseMove(Button::None, 319, 319);
+    i18n::SetUiLanguage(i18n::kEnglish);
+    EXPECT_EQ(window_.panels[2], "透明");
+}
+
+}  // namespace
+}  // namespace kestrel::editing
