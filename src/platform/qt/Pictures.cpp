@@ -1,0 +1,44 @@
+#include "platform/qt/Pictures.h"
+
+namespace kestrel::qt {
+
+namespace {
+
+QRgb ToRgb(gdi::COLORREF color) {
+    return qRgb(gdi::Red(color), gdi::Green(color), gdi::Blue(color));
+}
+
+}  // namespace
+
+QImage ToImage(const gdi::Surface& surface, gdi::Rect area) {
+    QImage image(area.width, area.height, QImage::Format_RGB32);
+    for (int y = 0; y < area.height; ++y) {
+        const auto source = surface.Row(area.top + y).subspan(static_cast<std::size_t>(area.left));
+        auto* target = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < area.width; ++x)
+            target[x] = ToRgb(source[static_cast<std::size_t>(x)]);
+    }
+    return image;
+}
+
+QImage ToImage(const gdi::Surface& mask, const gdi::Surface& color) {
+    QImage image = ToImage(color, color.Bounds()).convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (mask.GetPixel(x, y) == gdi::kWhite) image.setPixel(x, y, 0);
+        }
+    }
+    return image;
+}
+
+QColor ToColor(gdi::COLORREF color) {
+    return {ToRgb(color)};
+}
+
+gdi::COLORREF ToColorRef(const QColor& color) {
+    return gdi::Rgb(static_cast<std::uint8_t>(color.red()),
+                    static_cast<std::uint8_t>(color.green()),
+                    static_cast<std::uint8_t>(color.blue()));
+}
+
+}  // namespace kestrel::qt

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QColor>
+#include <QCursor>
+#include <QIcon>
+#include <QImage>
+
+#include "platform/gdi/Surface.h"
+
+namespace kestrel::qt {
+
+// Part of a surface as a picture of the desktop; `area` must lie inside.
+QImage ToImage(const gdi::Surface& surface, gdi::Rect area);
+
+// An icon's two planes as one picture: transparent where the mask is white.
+QImage ToImage(const gdi::Surface& mask, const gdi::Surface& color);
+
+QColor ToColor(gdi::COLORREF color);
+gdi::COLORREF ToColorRef(const QColor& color);
+
+}  // namespace kestrel::qt

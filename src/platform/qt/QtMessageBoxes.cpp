@@ -1,0 +1,63 @@
+#include "platform/qt/QtMessageBoxes.h"
+
+#include <QMessageBox>
+
+namespace kestrel::qt {
+
+namespace {
+
+using dialogs::Answer;
+using dialogs::BoxButtons;
+using dialogs::BoxIcon;
+
+QMessageBox::Icon ToIcon(BoxIcon icon) {
+    switch (icon) {
+        case BoxIcon::Question:
+            return QMessageBox::Question;
+        case BoxIcon::Information:
+            return QMessageBox::Information;
+        case BoxIcon::Exclamation:
+            return QMessageBox::Warning;
+        case BoxIcon::Critical:
+            return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ToButtons(BoxButtons buttons) {
+    switch (buttons) {
+        case BoxButtons::Ok:
+            return QMessageBox::Ok;
+        case BoxButtons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case BoxButtons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+Answer ToAnswer(int button, BoxButtons asked) {
+    switch (button) {
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        default:
+            return asked == BoxButtons::Ok ? Answer::Ok : Answer::Cancel;
+    }
+}
+
+}  // namespace
+
+Answer QtMessageBoxes::Show(BoxIcon icon, BoxButtons buttons, const std::string& text,
+                            const std::string& title) {
+    QMessageBox box(ToIcon(icon), QString::fromStdString(title),
+                    QString::fromStdString(text).remove(QLatin1Char('\r')), ToButtons(buttons),
+                    owner_);
+    box.setTextFormat(Qt::PlainText);
+    return ToAnswer(box.exec(), buttons);
+}
+
+}  // namespace kestrel::qt

@@ -1,0 +1,58 @@
+#include "platform/qt/SurfaceWidget.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "platform/qt/Pictures.h"
+
+namespace kestrel::qt {
+
+namespace {
+
+// Left of or above the widget rounds away from it, so that -0.5 is not its first pixel.
+QPoint PointOf(const QMouseEvent& event) {
+    return {static_cast<int>(std::floor(event.position().x())),
+            static_cast<int>(std::floor(event.position().y()))};
+}
+
+}  // namespace
+
+SurfaceWidget::SurfaceWidget(const gdi::Surface& surface, QWidget* parent)
+    : QWidget(parent), surface_(surface) {
+    setFixedSize(surface.Width(), surface.Height());
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+}
+
+void SurfaceWidget::Repaint(gdi::Rect area) {
+    update(area.left, area.top, area.width, area.height);
+}
+
+void SurfaceWidget::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    for (const QRect& part : event->region()) {
+        const QRect inside = part & rect();
+        painter.drawImage(inside.topLeft(), ToImage(surface_, {inside.x(), inside.y(),
+                                                               inside.width(), inside.height()}));
+    }
+}
+
+void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
+    if (onMouseDown) onMouseDown(event->button(), PointOf(*event));
+}
+
+// The second press of a quick pair is a press like any other.
+void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
+    if (onMouseMove) onMouseMove(event->buttons(), PointOf(*event));
+}
+
+void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
+    if (onMouseUp) onMouseUp(event->button(), PointOf(*event));
+}
+
+}  // namespace kestrel::qt

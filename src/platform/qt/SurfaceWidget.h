@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QMouseEvent>
+#include <QWidget>
+#include <functional>
+
+#include "platform/gdi/Surface.h"
+
+namespace kestrel::qt {
+
+// Shows a surface, one pixel of it a unit of the window, and hands on its mouse events. Points are
+// in pixels of the surface and may lie outside while a button is held.
+class SurfaceWidget : public QWidget {
+  public:
+    SurfaceWidget(const gdi::Surface& surface, QWidget* parent);
+
+    // These pixels changed.
+    void Repaint(gdi::Rect area);
+
+    std::function<void(Qt::MouseButton button, QPoint point)> onMouseDown;
+    std::function<void(Qt::MouseButtons held, QPoint point)> onMouseMove;
+    std::function<void(Qt::MouseButton button, QPoint point)> onMouseUp;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    const gdi::Surface& surface_;
+};
+
+}  // namespace kestrel::qt

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QTranslator>
+#include <functional>
+#include <string_view>
+
+namespace kestrel::qt {
+
+// Gives the desktop's own texts (buttons, file dialogs) in the language of the program. `lookUp`
+// gets the English text and answers with the one to show, empty to leave it.
+class TableTranslator : public QTranslator {
+  public:
+    using LookUp = std::function<std::string_view(std::string_view english)>;
+
+    explicit TableTranslator(LookUp lookUp) : lookUp_(std::move(lookUp)) {}
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char* /*context*/, const char* sourceText,
+                      const char* /*disambiguation*/, int /*n*/) const override {
+        const std::string_view text = lookUp_(sourceText);
+        return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    }
+
+  private:
+    LookUp lookUp_;
+};
+
+}  // namespace kestrel::qt
