@@ -1,0 +1,16 @@
+#include "app/ApplicationIcon.h"
+
+#include "platform/gdi/PixelArt.h"
+#include "resources/KestrelIcon.h"
+
+namespace kestrel::app {
+
+document::IconDocument ApplicationIcon() {
+    using namespace resources;
+    document::IconDocument icon;
+    icon.PicImage = gdi::ReadPixelArt(kKestrelIcon, kKestrelInks, gdi::kBlack);
+    icon.PicMask = gdi::ReadPixelArt(kKestrelIcon, {{'.', gdi::kWhite}}, gdi::kBlack);
+    return icon;
+}
+
+}  // namespace kestrel::app

@@ -1,0 +1,179 @@
+#include "app/DocumentCommands.h"
+
+#include "document/IcoFile.h"
+#include "i18n/Messages.h"
+#include "platform/icons/IconFile.h"
+#include "platform/system/PathText.h"
+
+namespace kestrel::app {
+
+namespace {
+
+using dialogs::Answer;
+using dialogs::BoxButtons;
+using dialogs::BoxIcon;
+
+dialogs::FileRequest IconRequest(std::string_view title) {
+    dialogs::FileRequest request;
+    request.title = title;
+    request.filter = i18n::kIconFilter;
+    request.defaultExtension = ".ico";
+    return request;
+}
+
+// What the save dialog proposes. A file that held several icons is not proposed again.
+std::string ProposedName(const document::IconDocument& document) {
+    if (document.IsUntitled()) return "Untitled.ico";
+    return document.MultipleIcons ? "*.ico" : document.FilePath;
+}
+
+}  // namespace
+
+DocumentCommands::DocumentCommands(editing::Editor& editor, editing::EditorWindow& titleBar,
+                                   DocumentWindow& window, dialogs::FileDialogs& cdb,
+                                   dialogs::MessageBoxes& boxes, system::FileSystem& files)
+    : editor_(editor),
+      document_(editor.Document()),
+      titleBar_(titleBar),
+      window_(window),
+      cdb_(cdb),
+      boxes_(boxes),
+      files_(files) {}
+
+bool DocumentCommands::PromptSaveChanges() {
+    document_.SaveSucceeded = false;
+    if (!document_.Modified) return true;
+    switch (boxes_.Show(BoxIcon::Question, BoxButtons::YesNoCancel,
+                        std::string(i18n::kSaveChanges.Now()), std::string(i18n::kProgramName))) {
+        case Answer::Yes:
+            SaveDocument(document_.IsUntitled() ? SaveMode::SaveAs : SaveMode::Save);
+            return document_.SaveSucceeded;
+        case Answer::No:
+            document_.Modified = false;
+            return true;
+        default:
+            return false;
+    }
+}
+
+void DocumentCommands::mnuNew_Click() {
+    if (PromptSaveChanges()) editor_.ResetDocument();
+}
+
+void DocumentCommands::mnuOpen_Click() {
+    if (!PromptSaveChanges()) return;
+    window_.EnableGrid(false);
+    OpenChosenFile();
+}
+
+void DocumentCommands::OpenChosenFile() {
+    dialogs::FileRequest request = IconRequest(i18n::kOpenTitle.Now());
+    request.fileMustExist = true;
+    const Result<dialogs::ChosenFile> chosen = cdb_.ShowOpen(request);
+    if (!chosen) {
+        window_.EnableGrid(true);
+        return;
+    }
+    window_.ProcessPendingEvents();
+    if (OpenFile(*chosen)) return;
+    window_.EnableGrid(true);
+    ShowError(i18n::CannotOpenChosen(chosen->fileTitle));
+}
+
+void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
+    if (!PromptSaveChanges()) return;
+    window_.EnableGrid(false);
+    const std::string titleToOpen(system::FileTitleOf(pathToOpen));
+    if (OpenFile({pathToOpen, titleToOpen})) return;
+    window_.EnableGrid(true);
+    ShowError(i18n::CannotOpenNamed(titleToOpen));
+}
+
+// False, with nothing changed, when the file is no icon.
+bool DocumentCommands::OpenFile(const dialogs::ChosenFile& file) {
+    const auto bytes = files_.ReadFile(file.path, icons::kMaxIconFileBytes);
+    if (!bytes) return false;
+    const Result<icons::IconImage> icon = icons::ReadBestImage(*bytes);
+    if (!icon) return false;
+
+    editor_.ResetDocument();
+    document_.FilePath = file.path;
+    document_.FileTitle = file.fileTitle;
+    ShowTitle();
+    editor_.ShowOpenedIcon(*icon);
+    document_.MultipleIcons = document::DetectMultipleIcons(*bytes);
+    window_.StartTmr();
+    return true;
+}
+
+void DocumentCommands::mnuSave_Click() {
+    SaveDocument(SaveMode::Save);
+}
+
+void DocumentCommands::mnuSaveAs_Click() {
+    SaveDocument(SaveMode::SaveAs);
+}
+
+void DocumentCommands::SaveDocument(SaveMode mode) {
+    if (mode == SaveMode::SaveAs || document_.IsUntitled()) {
+        SaveUnderNewName();
+    } else {
+        SaveInPlace();
+    }
+}
+
+void DocumentCommands::SaveUnderNewName() {
+    dialogs::FileRequest request = IconRequest(i18n::kSaveAsTitle.Now());
+    request.fileName = ProposedName(document_);
+    request.overwritePrompt = true;
+    request.pathMustExist = true;
+    const Result<dialogs::ChosenFile> chosen = cdb_.ShowSave(request);
+    if (!chosen) {
+        document_.SaveSucceeded = false;
+        return;
+    }
+    window_.ProcessPendingEvents();
+    WriteIcoFile(chosen->path);
+}
+
+void DocumentCommands::SaveInPlace() {
+    if (document_.MultipleIcons && boxes_.Show(BoxIcon::Information, BoxButtons::OkCancel,
+                                               i18n::SeveralIcons(document_.FileTitle),
+                                               std::string(i18n::kProgramName)) == Answer::Cancel) {
+        SaveUnderNewName();
+        return;
+    }
+    WriteIcoFile(document_.FilePath);
+}
+
+void DocumentCommands::WriteIcoFile(const std::string& path) {
+    window_.ShowHourglass(true);
+    document_.FileTitle = system::FileTitleOf(path);
+    ShowTitle();
+    const Result<void> written = document::WriteIcoCopy(files_, document_, path);
+    window_.ShowHourglass(false);
+    document_.SaveSucceeded = written.has_value();
+    if (!written) {
+        const std::string_view named =
+            document_.IsUntitled() ? std::string_view() : document_.FileTitle;
+        ShowError(i18n::CannotSave(written.error().description, named));
+        return;
+    }
+    document_.FilePath = path;
+    document_.Modified = false;
+    document_.MultipleIcons = false;
+}
+
+void DocumentCommands::mnuExit_Click() {
+    window_.Unload();
+}
+
+void DocumentCommands::ShowTitle() {
+    titleBar_.SetTitle(i18n::WindowTitle(document_.FileTitle));
+}
+
+void DocumentCommands::ShowError(const std::string& text) {
+    boxes_.Show(BoxIcon::Exclamation, BoxButtons::Ok, text, std::string(i18n::kErrorTitle.Now()));
+}
+
+}  // namespace kestrel::app

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <string>
+
+#include "editing/Editor.h"
+#include "platform/dialogs/FileDialogs.h"
+#include "platform/dialogs/MessageBoxes.h"
+#include "platform/system/FileSystem.h"
+
+namespace kestrel::app {
+
+// What the document commands need of the main window.
+class DocumentWindow {
+  public:
+    virtual ~DocumentWindow() = default;
+    // A disabled grid ignores the mouse.
+    virtual void EnableGrid(bool enabled) = 0;
+    // Enables the grid a quarter of a second from now, when the clicks that chose the file are
+    // over.
+    virtual void StartTmr() = 0;
+    // The hourglass pointer, and back to the one before.
+    virtual void ShowHourglass(bool shown) = 0;
+    // Lets pending paint and window events run, but no input.
+    virtual void ProcessPendingEvents() = 0;
+    // Asks the window to close, which runs its unload handler.
+    virtual void Unload() = 0;
+};
+
+enum class SaveMode { Save, SaveAs };
+
+// The commands that change which icon is open or where it is kept.
+class DocumentCommands {
+  public:
+    DocumentCommands(editing::Editor& editor, editing::EditorWindow& titleBar,
+                     DocumentWindow& window, dialogs::FileDialogs& cdb,
+                     dialogs::MessageBoxes& boxes, system::FileSystem& files);
+
+    void mnuNew_Click();
+    // Asks for the file with the open dialog.
+    void mnuOpen_Click();
+    // Opens a file named by the command line, a drop or the recent list.
+    void OpenNamed(const std::string& pathToOpen);
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void mnuExit_Click();
+
+    // Asks about unsaved changes; true when the caller may go on.
+    bool PromptSaveChanges();
+    void SaveDocument(SaveMode mode);
+
+  private:
+    void OpenChosenFile();
+    bool OpenFile(const dialogs::ChosenFile& file);
+    void SaveUnderNewName();
+    void SaveInPlace();
+    void WriteIcoFile(const std::string& path);
+    void ShowTitle();
+    void ShowError(const std::string& text);
+
+    editing::Editor& editor_;
+    document::IconDocument& document_;
+    editing::EditorWindow& titleBar_;
+    DocumentWindow& window_;
+    dialogs::FileDialogs& cdb_;
+    dialogs::MessageBoxes& boxes_;
+    system::FileSystem& files_;
+};
+
+}  // namespace kestrel::app

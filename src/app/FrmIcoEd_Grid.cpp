@@ -1,0 +1,86 @@
+#include <QCursor>
+#include <QPixmap>
+
+#include "app/FrmIcoEd.h"
+#include "i18n/Language.h"
+#include "platform/gdi/PixelArt.h"
+#include "platform/qt/Pictures.h"
+#include "resources/Cursors.h"
+
+namespace kestrel::app {
+
+namespace {
+
+using editing::Button;
+using editing::StatusPanel;
+
+constexpr i18n::Text kActualSize{"Actual Size", "图标实际大小"};
+
+Button ToButton(Qt::MouseButton button) {
+    if (button == Qt::LeftButton) return Button::Left;
+    return button == Qt::RightButton ? Button::Right : Button::None;
+}
+
+// The drawing button that is held alone.
+Button ToHeldButton(Qt::MouseButtons held) {
+    if (held == Qt::LeftButton) return Button::Left;
+    return held == Qt::RightButton ? Button::Right : Button::None;
+}
+
+QCursor PencilCursor() {
+    const gdi::Surface mask =
+        gdi::ReadPixelArt(resources::kPencilCursor, {{'.', gdi::kWhite}}, gdi::kBlack);
+    const gdi::Surface color = gdi::ReadPixelArt(
+        resources::kPencilCursor, {{'k', gdi::kBlack}, {'w', gdi::kWhite}}, gdi::kBlack);
+    return QCursor(QPixmap::fromImage(qt::ToImage(mask, color)), resources::kPencilHotX,
+                   resources::kPencilHotY);
+}
+
+}  // namespace
+
+void FrmIcoEd::ConnectGrid() {
+    picMain_->onMouseDown = [this](Qt::MouseButton button, QPoint at) {
+        editor_.PicMain_MouseDown(ToButton(button), at.x(), at.y());
+    };
+    picMain_->onMouseMove = [this](Qt::MouseButtons held, QPoint at) {
+        editor_.PicMain_MouseMove(ToHeldButton(held), at.x(), at.y());
+    };
+    picMain_->onMouseUp = [this](Qt::MouseButton button, QPoint at) {
+        editor_.PicMain_MouseUp(ToButton(button), at.x(), at.y());
+    };
+    picIcon_->onMouseMove = [this](Qt::MouseButtons /*held*/, QPoint /*at*/) {
+        SetStatusPanel(StatusPanel::Hint, kActualSize.Now());
+    };
+}
+
+void FrmIcoEd::RepaintView(document::View view, gdi::Rect area) {
+    qt::SurfaceWidget* widget = view == document::View::Grid ? picMain_ : picIcon_;
+    // While the editor is being built there is no widget yet.
+    if (widget != nullptr) widget->Repaint(area);
+}
+
+void FrmIcoEd::SetGridCursor(editing::GridCursor cursor) {
+    static const QCursor pencil = PencilCursor();
+    picMain_->setCursor(cursor == editing::GridCursor::Pencil ? pencil : Qt::CrossCursor);
+}
+
+void FrmIcoEd::SetStatusPanel(StatusPanel panel, std::string_view text) {
+    statusBar_->SetText(static_cast<int>(panel), text);
+}
+
+std::string FrmIcoEd::StatusText(StatusPanel panel) const {
+    return statusBar_->Text(static_cast<int>(panel));
+}
+
+void FrmIcoEd::ClearStatusPanels() {
+    for (const StatusPanel panel :
+         {StatusPanel::Hint, StatusPanel::Pixel, StatusPanel::Cell, StatusPanel::DragSize}) {
+        SetStatusPanel(panel, {});
+    }
+}
+
+void FrmIcoEd::mouseMoveEvent(QMouseEvent* /*event*/) {
+    ClearStatusPanels();
+}
+
+}  // namespace kestrel::app

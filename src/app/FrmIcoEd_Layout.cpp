@@ -1,0 +1,101 @@
+#include <qdrawutil.h>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScreen>
+
+#include "app/FrmIcoEd.h"
+
+namespace kestrel::app {
+
+namespace {
+
+// The client area, and the whole window with its frame as it was designed.
+constexpr QSize kClientSize(565, 432);
+constexpr QSize kWindowSize(571, 457);
+
+constexpr QRect kMenuBar(0, 2, 565, 24);
+constexpr QPoint kPicMain(12, 69);
+constexpr QPoint kPicIcon(350, 69);
+constexpr QRect kLabel1(392, 68, 62, 34);
+constexpr QRect kStatusBar(2, 408, 561, 22);
+constexpr QRect kPicTools(458, 69, 92, 66);
+constexpr QRect kColorWells(344, 156, 208, 20);
+constexpr QRect kPicPal(344, 184, 208, 208);
+// Where the text of the cell under the pointer is printed, beside the preview.
+constexpr QRect kPointerCell(371, 111, 60, 16);
+
+// Hint, pixel, cell, drag size, magnification.
+const std::vector<int> kPanelWidths{0, 84, 56, 56, 44};
+
+constexpr int kFontPixels = 12;
+constexpr int kSmallFontPixels = 11;
+
+QFont FontOf(const QWidget& widget, int pixels) {
+    QFont font = widget.font();
+    font.setPixelSize(pixels);
+    return font;
+}
+
+// A sunken edge four pixels outside the control on every side.
+void DrawEdgeAround(QPainter& painter, const QRect& control, const QPalette& colors) {
+    constexpr int kDistance = 4;
+    qDrawShadePanel(&painter, control.adjusted(-kDistance, -kDistance, kDistance, kDistance),
+                    colors, true, 1);
+}
+
+}  // namespace
+
+void FrmIcoEd::LayOutControls() {
+    setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
+    setFixedSize(kClientSize);
+    setFont(FontOf(*this, kFontPixels));
+
+    menuBar_ = new QMenuBar(this);
+    menuBar_->setNativeMenuBar(false);
+    menuBar_->setGeometry(kMenuBar);
+
+    picMain_ = new qt::SurfaceWidget(editor_.Views().PicMain, this);
+    picMain_->move(kPicMain);
+    picIcon_ = new qt::SurfaceWidget(editor_.Views().PicIcon, this);
+    picIcon_->move(kPicIcon);
+
+    label1_ = new QLabel(this);
+    label1_->setGeometry(kLabel1);
+    label1_->setFont(FontOf(*this, kSmallFontPixels));
+    label1_->setWordWrap(true);
+    label1_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+
+    statusBar_ = new qt::StatusBar(kPanelWidths, this);
+    statusBar_->setFont(FontOf(*this, kSmallFontPixels));
+    statusBar_->setGeometry(kStatusBar);
+}
+
+// Centred, and one third down.
+void FrmIcoEd::PlaceOnScreen() {
+    const QRect area = screen()->geometry();
+    move(area.x() + (area.width() - kWindowSize.width()) / 2,
+         area.y() + (area.height() - kWindowSize.height()) / 3);
+}
+
+void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    qDrawShadePanel(&painter, QRect(0, 0, width() + 1, 2), palette(), true, 1);
+    DrawEdgeAround(painter, picMain_->geometry(), palette());
+    DrawEdgeAround(painter, picIcon_->geometry(), palette());
+    DrawEdgeAround(painter, kPicTools, palette());
+    for (const QRect& place : {kColorWells, kPicPal}) {
+        qDrawShadePanel(&painter, place, palette(), true, 1);
+    }
+    painter.setFont(FontOf(*this, kSmallFontPixels));
+    painter.drawText(kPointerCell, Qt::AlignLeft | Qt::AlignVCenter, pointerCell_);
+}
+
+void FrmIcoEd::PrintPointerCell(std::string_view text) {
+    const QString printed = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    if (printed == pointerCell_) return;
+    pointerCell_ = printed;
+    update(kPointerCell);
+}
+
+}  // namespace kestrel::app

@@ -1,0 +1,62 @@
+#include <QMenu>
+#include <map>
+
+#include "app/FrmIcoEd.h"
+#include "i18n/MenuTable.h"
+
+namespace kestrel::app {
+
+namespace {
+
+constexpr i18n::Text kLabel1{"32 * 32 True Color", "32 * 32 真彩色"};
+
+QString ToText(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// A Chinese caption such as "(F) 文件" shows its letter in front; it opens the menu like an
+// underlined one.
+QString WithMnemonic(std::string_view caption) {
+    QString text = ToText(caption);
+    if (text.size() > 2 && text.front() == QLatin1Char('(') && text[2] == QLatin1Char(')')) {
+        text.insert(1, QLatin1Char('&'));
+    }
+    return text;
+}
+
+}  // namespace
+
+void FrmIcoEd::BuildMenuBar() {
+    std::map<std::string_view, QMenu*> menus;
+    for (const i18n::MenuItem& item : i18n::MenuBar()) {
+        QAction* action = nullptr;
+        if (item.parent.empty()) {
+            menus[item.key] = menuBar_->addMenu(QString());
+            action = menus[item.key]->menuAction();
+        } else if (item.kind == i18n::ItemKind::Separator) {
+            menus[item.parent]->addSeparator();
+        } else {
+            action = menus[item.parent]->addAction(QString());
+            action->setShortcut(QKeySequence(ToText(item.shortcut)));
+            connect(action, &QAction::triggered, this,
+                    [this, key = item.key] { dispatch_.SmartMenuXP1_Click(key); });
+        }
+        menuActions_.push_back(action);
+    }
+}
+
+void FrmIcoEd::ApplyMenuCaptions() {
+    for (std::size_t i = 0; i < menuActions_.size(); ++i) {
+        if (menuActions_[i] == nullptr) continue;
+        menuActions_[i]->setText(WithMnemonic(i18n::MenuBar()[i].caption.Now()));
+    }
+}
+
+void FrmIcoEd::ApplyMainCaptions() {
+    label1_->setText(ToText(kLabel1.Now()));
+}
+
+// No Edit commands in the menu yet.
+void FrmIcoEd::RefreshEditCommands() {}
+
+}  // namespace kestrel::app

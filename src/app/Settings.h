@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/system/FileSystem.h"
+
+namespace kestrel::app {
+
+// The settings file: named after the executable, in the application folder or, where that cannot
+// be written, in the user's configuration folder. The path is worked out on first use.
+class Settings {
+  public:
+    explicit Settings(system::FileSystem& files) : files_(files) {}
+
+    std::string ReadSetting(std::string_view section, std::string_view key,
+                            std::string_view otherwise);
+    // A failure is silent.
+    void WriteSetting(std::string_view section, std::string_view key, std::string_view value);
+
+  private:
+    const std::string& File();
+
+    system::FileSystem& files_;
+    std::string file_;
+};
+
+// The language chosen last lives in the settings file.
+std::string ReadSavedLanguage(Settings& settings);
+
+}  // namespace kestrel::app

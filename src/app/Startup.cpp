@@ -1,0 +1,101 @@
+#include "app/Startup.h"
+
+#include <array>
+
+#include "app/ApplicationIcon.h"
+#include "document/IcoFile.h"
+#include "i18n/Language.h"
+#include "i18n/Messages.h"
+#include "platform/system/Folders.h"
+#include "platform/system/PathText.h"
+
+namespace kestrel::app {
+
+namespace {
+
+using dialogs::BoxButtons;
+using dialogs::BoxIcon;
+
+void Refuse(dialogs::MessageBoxes& boxes, BoxIcon icon, const i18n::Text& text,
+            const i18n::Text& title) {
+    boxes.Show(icon, BoxButtons::Ok, std::string(text.Now()), std::string(title.Now()));
+}
+
+// The folder is made on the first start, with the tray picture in it.
+void PrepareWindowsFolder(const std::string& folder, system::FileSystem& files) {
+    const std::string trayIcon = folder + "/kestrel.ico";
+    if (files.FileExists(trayIcon) || !system::MakeFolder(folder)) return;
+    static_cast<void>(document::WriteIcoCopy(files, ApplicationIcon(), trayIcon));
+}
+
+char LowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool StartsWithoutCase(std::string_view text, std::string_view lowerPrefix) {
+    if (text.size() < lowerPrefix.size()) return false;
+    for (std::size_t i = 0; i < lowerPrefix.size(); ++i) {
+        if (LowerAscii(text[i]) != lowerPrefix[i]) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool CheckScreenSize(const StartupFacts& facts, dialogs::MessageBoxes& boxes) {
+    if (facts.screenHeight >= 480 && facts.screenWidth >= 640) return true;
+    Refuse(boxes, BoxIcon::Critical, i18n::kScreenTooSmall, i18n::kErrorTitle);
+    return false;
+}
+
+bool CheckColorDepth(const StartupFacts& facts, dialogs::MessageBoxes& boxes) {
+    if (facts.bitsPerPixel >= 9) return true;
+    Refuse(boxes, BoxIcon::Critical, i18n::kTooFewColors, i18n::kErrorTitle);
+    return false;
+}
+
+void RegisterIcoAssociation(system::Registry& registry, const std::string& applicationFolder) {
+    std::string program = applicationFolder;
+    if (!program.ends_with('\\') && !program.ends_with('/')) program += '\\';
+    program += "KestrelIconEditor.exe";
+
+    const std::array<std::array<std::string, 2>, 4> defaults = {{
+        {".ico", "icofile"},
+        {"icofile", "Windows Icon"},
+        {"icofile\\DefaultIcon", "%1"},
+        {"icofile\\Shell\\Open\\Command", program + " /open %1"},
+    }};
+    for (const auto& [key, value] : defaults) {
+        static_cast<void>(registry.WriteValue(system::RegistryRoot::ClassesRoot, key, "", value));
+    }
+}
+
+std::optional<ProcessValues> PrepareStart(const StartupFacts& facts,
+                                          const StartupServices& services) {
+    ProcessValues values;
+    values.SystemLcidText = std::to_string(facts.systemLcid);
+    i18n::SetUiLanguage(i18n::LanguageOfLocale(values.SystemLcidText));
+    if (facts.anotherInstanceRuns) {
+        Refuse(services.boxes, BoxIcon::Exclamation, i18n::kRunningText, i18n::kRunningTitle);
+        return std::nullopt;
+    }
+    if (!CheckScreenSize(facts, services.boxes)) return std::nullopt;
+    if (!CheckColorDepth(facts, services.boxes)) return std::nullopt;
+    RegisterIcoAssociation(services.registry, facts.applicationFolder);
+    values.WindowsFolder = facts.windowsDirectory;
+    PrepareWindowsFolder(values.WindowsFolder, services.files);
+    i18n::SetUiLanguage(ReadSavedLanguage(services.settings));
+    return values;
+}
+
+std::string PathOfCommandLine(std::string_view commandLine) {
+    constexpr std::string_view kOpen = "/open ";
+    if (!StartsWithoutCase(commandLine, kOpen)) return {};
+    const std::string typed(commandLine.substr(kOpen.size()));
+    std::string proper = system::ProperCase(typed);
+    // Where two files differ in letter case alone, the one that was typed is meant.
+    const std::string found = system::ResolvePath(proper);
+    return found == system::ResolvePath(typed) || found == proper ? proper : typed;
+}
+
+}  // namespace kestrel::app

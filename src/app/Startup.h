@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "app/Settings.h"
+#include "platform/dialogs/MessageBoxes.h"
+#include "platform/system/FileSystem.h"
+#include "platform/system/Registry.h"
+
+namespace kestrel::app {
+
+// What start-up finds on the machine. Width and height are in device pixels of the primary screen.
+struct StartupFacts {
+    std::uint32_t systemLcid = 0;
+    bool anotherInstanceRuns = false;
+    int screenWidth = 0;
+    int screenHeight = 0;
+    int bitsPerPixel = 0;
+    // Where this program lies, and the folder that stands for the Windows directory.
+    std::string applicationFolder;
+    std::string windowsDirectory;
+};
+
+struct StartupServices {
+    dialogs::MessageBoxes& boxes;
+    system::Registry& registry;
+    system::FileSystem& files;
+    Settings& settings;
+};
+
+// What start-up learned, for the life of the process.
+struct ProcessValues {
+    // The system's locale identifier as decimal text.
+    std::string SystemLcidText;
+    std::string WindowsFolder;
+};
+
+// Everything before the main window: chooses the language, makes the checks, registers the icon
+// association and the Windows folder. Nothing when the process is to end; the user has been told.
+std::optional<ProcessValues> PrepareStart(const StartupFacts& facts,
+                                          const StartupServices& services);
+
+// At least 640 x 480 pixels; at least 9 bits per pixel. Say so themselves where it is not.
+bool CheckScreenSize(const StartupFacts& facts, dialogs::MessageBoxes& boxes);
+bool CheckColorDepth(const StartupFacts& facts, dialogs::MessageBoxes& boxes);
+
+// Makes the program the opener of .ico files. A key that cannot be written is skipped.
+void RegisterIcoAssociation(system::Registry& registry, const std::string& applicationFolder);
+
+// The icon file that a command line of "/open <path>" names, in proper case as long as that still
+// names the same file; empty for any other command line.
+std::string PathOfCommandLine(std::string_view commandLine);
+
+}  // namespace kestrel::app

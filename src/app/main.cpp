@@ -1,0 +1,64 @@
+#include <QApplication>
+#include <QScreen>
+
+#include "app/FrmIcoEd.h"
+#include "app/Settings.h"
+#include "app/Startup.h"
+#include "i18n/DesktopTexts.h"
+#include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtMessageBoxes.h"
+#include "platform/qt/TableTranslator.h"
+#include "platform/system/DiskFiles.h"
+#include "platform/system/FileRegistry.h"
+#include "platform/system/Folders.h"
+#include "platform/system/InstanceLock.h"
+#include "platform/system/Locale.h"
+
+namespace {
+
+using namespace kestrel;
+
+app::StartupFacts FactsOf(const QScreen& screen, bool anotherInstanceRuns) {
+    app::StartupFacts facts;
+    facts.systemLcid = system::GetSystemDefaultLCID();
+    facts.anotherInstanceRuns = anotherInstanceRuns;
+    facts.screenWidth = qRound(screen.size().width() * screen.devicePixelRatio());
+    facts.screenHeight = qRound(screen.size().height() * screen.devicePixelRatio());
+    facts.bitsPerPixel = screen.depth();
+    facts.applicationFolder = system::ApplicationFolder();
+    facts.windowsDirectory = system::WindowsDirectory();
+    return facts;
+}
+
+// The arguments as the one line that was typed.
+std::string CommandLine(const QStringList& arguments) {
+    return arguments.mid(1).join(QLatin1Char(' ')).toStdString();
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    const QApplication application(argc, argv);
+    qt::TableTranslator translator(i18n::DesktopText);
+    QApplication::installTranslator(&translator);
+    QApplication::setApplicationName(QStringLiteral("KestrelIconEditor"));
+    QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("KestrelIconEditor"));
+
+    const auto lock = system::InstanceLock::Take(system::RuntimeFolder(), "KestrelIconEditor",
+                                                 system::CurrentDisplay());
+    system::DiskFiles files;
+    system::FileRegistry registry(files, system::ConfigFolder() + "/registry.txt");
+    app::Settings settings(files);
+    qt::QtMessageBoxes boxes;
+    const app::StartupFacts facts = FactsOf(*QGuiApplication::primaryScreen(), !lock);
+    if (!app::PrepareStart(facts, {boxes, registry, files, settings})) return 0;
+
+    qt::QtFileDialogs cdb;
+    app::FrmIcoEd window({boxes, cdb, files});
+    boxes.SetOwner(&window);
+    cdb.SetOwner(&window);
+    window.Form_Load(app::PathOfCommandLine(CommandLine(QApplication::arguments())));
+    window.show();
+    return QApplication::exec();
+}

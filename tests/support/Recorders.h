@@ -1,0 +1,121 @@
+#pragma once
+
+#include <algorithm>
+#include <deque>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "app/DocumentCommands.h"
+#include "editing/EditorWindow.h"
+#include "platform/dialogs/FileDialogs.h"
+#include "platform/dialogs/MessageBoxes.h"
+#include "platform/system/FileSystem.h"
+
+namespace kestrel::test {
+
+// A main window without a screen: remembers what it was told last.
+class RecordingWindow : public editing::EditorWindow, public app::DocumentWindow {
+  public:
+    void RepaintView(document::View view, gdi::Rect area) override {
+        repainted.emplace_back(view, area);
+    }
+    void SetTitle(const std::string& text) override { title = text; }
+    void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override {
+        panels[static_cast<int>(panel)] = text;
+    }
+    void PrintPointerCell(std::string_view text) override { printedCell = text; }
+    void SetGridCursor(editing::GridCursor shape) override { cursor = shape; }
+    void RefreshEditCommands() override { ++refreshes; }
+
+    void EnableGrid(bool enabled) override { gridEnabled = enabled; }
+    void StartTmr() override { tmrStarted = true; }
+    void ShowHourglass(bool shown) override { hourglasses += shown ? 1 : -1; }
+    void ProcessPendingEvents() override {}
+    void Unload() override { unloaded = true; }
+
+    std::vector<std::pair<document::View, gdi::Rect>> repainted;
+    std::string title;
+    std::map<int, std::string> panels;
+    std::string printedCell;
+    editing::GridCursor cursor = editing::GridCursor::Cross;
+    int refreshes = 0;
+    bool gridEnabled = true;
+    bool tmrStarted = false;
+    int hourglasses = 0;
+    bool unloaded = false;
+};
+
+// Message boxes that a test answers beforehand; unexpected ones are answered Cancel.
+class ScriptedBoxes : public dialogs::MessageBoxes {
+  public:
+    struct Shown {
+        dialogs::BoxIcon icon;
+        dialogs::BoxButtons buttons;
+        std::string text;
+        std::string title;
+    };
+
+    dialogs::Answer Show(dialogs::BoxIcon icon, dialogs::BoxButtons buttons,
+                         const std::string& text, const std::string& title) override {
+        shown.push_back({icon, buttons, text, title});
+        if (answers.empty()) return dialogs::Answer::Cancel;
+        const dialogs::Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+
+    std::deque<dialogs::Answer> answers;
+    std::vector<Shown> shown;
+};
+
+// File dialogs in which the user chooses `choice`; an empty one cancels.
+class ScriptedDialogs : public dialogs::FileDialogs {
+  public:
+    Result<dialogs::ChosenFile> ShowOpen(const dialogs::FileRequest& request) override {
+        opens.push_back(request);
+        return Choose();
+    }
+    Result<dialogs::ChosenFile> ShowSave(const dialogs::FileRequest& request) override {
+        saves.push_back(request);
+        return Choose();
+    }
+
+    std::string choice;
+    std::vector<dialogs::FileRequest> opens;
+    std::vector<dialogs::FileRequest> saves;
+
+  private:
+    Result<dialogs::ChosenFile> Choose() const {
+        if (choice.empty()) return Fail(kDialogCancelled, "Cancel was selected");
+        return dialogs::ChosenFile{choice, choice.substr(choice.find_last_of('/') + 1)};
+    }
+};
+
+// A disk in memory; with `writeError` set every write fails with it.
+class MemoryFiles : public system::FileSystem {
+  public:
+    Result<std::vector<std::uint8_t>> ReadFile(const std::string& path,
+                                               std::size_t limit) override {
+        const auto found = contents.find(path);
+        if (found == contents.end()) return Fail(2, "No such file or directory");
+        if (found->second.size() > limit) return Fail(27, "File too large");
+        return found->second;
+    }
+    Result<void> ReplaceFile(const std::string& path,
+                             std::span<const std::uint8_t> bytes) override {
+        if (writeError.number != 0) return Fail(writeError.number, writeError.description);
+        contents[path].assign(bytes.begin(), bytes.end());
+        return {};
+    }
+    bool FileExists(const std::string& path) override { return contents.contains(path); }
+    Result<void> RemoveFile(const std::string& path) override {
+        contents.erase(path);
+        return {};
+    }
+
+    std::map<std::string, std::vector<std::uint8_t>> contents;
+    Error writeError;
+};
+
+}  // namespace kestrel::test
