@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "i18n/Language.h"
 #include "tests/support/Recorders.h"
 
 namespace kestrel::editing {
