@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+#include "platform/icons/ByteReader.h"
+#include "platform/icons/IconImage.h"
+
+namespace kestrel::icons {
+
+// Where the parts of an icon's bitmap lie, in bytes from its header, and how its pixels are stored.
+// Made only of header fields: the parts need not be inside the data.
+struct DibLayout {
+    ImageInfo info;
+    bool topDown = false;
+    std::uint64_t paletteOffset = 0;
+    std::uint64_t paletteColors = 0;
+    std::uint64_t colorOffset = 0;
+    std::uint64_t colorStride = 0;
+    std::uint64_t maskOffset = 0;
+    std::uint64_t maskStride = 0;
+    std::uint64_t end = 0;
+    // Bits of red, green, blue and alpha in a pixel of 16 or 32 bits; 0 = not stored.
+    std::array<std::uint32_t, 4> channels{};
+};
+
+// Reads the BITMAPINFOHEADER (40 to 124 bytes, so V4 and V5 too) at the start of `image`. The
+// height in an icon's header counts colour image and mask together; some writers leave the
+// doubling out, which shows by header and `directory` naming the same size. Nothing when the
+// header is cut, compressed or out of range.
+std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int directoryHeight);
+
+// Decodes the image; nothing when the colour data is cut. A cut mask counts as opaque.
+std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout);
+
+}  // namespace kestrel::icons

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/icons/ByteReader.h"
+#include "platform/icons/IconImage.h"
+
+namespace kestrel::icons {
+
+// Whether the bytes begin with the eight bytes of every PNG.
+bool IsPng(Bytes image);
+
+// What the IHDR chunk says; nothing when it is missing, malformed or out of range.
+std::optional<ImageInfo> ReadPngInfo(Bytes image);
+
+// Decodes a PNG of any type; its alpha becomes the mask, without alpha all is opaque. Ancillary
+// chunks (gamma, profiles, texts) are skipped unread: colours are taken as stored.
+std::optional<IconImage> DecodePng(Bytes image);
+
+}  // namespace kestrel::icons
