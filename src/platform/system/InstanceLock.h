@@ -3,6 +3,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+
+#include "platform/system/FileHandle.h"
 
 namespace kestrel::system {
 
@@ -15,15 +18,9 @@ class InstanceLock {
     static std::optional<InstanceLock> Take(const std::string& folder, std::string_view program,
                                             std::string_view display);
 
-    InstanceLock(InstanceLock&& other) noexcept;
-    InstanceLock& operator=(InstanceLock&& other) noexcept;
-    InstanceLock(const InstanceLock&) = delete;
-    InstanceLock& operator=(const InstanceLock&) = delete;
-    ~InstanceLock();
-
   private:
-    explicit InstanceLock(int file) : file_(file) {}
-    int file_;
+    explicit InstanceLock(FileHandle file) : file_(std::move(file)) {}
+    FileHandle file_;
 };
 
 // The name that tells this session's display from others: the X or Wayland display, without its

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/system/Shell.h"
+
+namespace kestrel::system {
+
+// The shell of a freedesktop.org desktop. Programs it starts belong to nobody here: they outlive
+// this process, and none is left behind as a zombie.
+class DesktopShell : public Shell {
+  public:
+    Result<void> RunProgram(const std::string& program,
+                            const std::vector<std::string>& arguments) override;
+    // Through xdg-open, else gio. A file that does not exist fails with ENOENT; what an opener
+    // that did start makes of its target is not known.
+    Result<void> Open(const std::string& target) override;
+};
+
+}  // namespace kestrel::system

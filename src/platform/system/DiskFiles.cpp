@@ -1,0 +1,128 @@
+#include "platform/system/DiskFiles.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <limits>
+
+#include "platform/system/PathText.h"
+#include "platform/system/Retry.h"
+#include "platform/system/SystemError.h"
+#include "platform/system/TemporaryFile.h"
+
+namespace kestrel::system {
+namespace {
+
+constexpr int kMaxLinks = 40;
+constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+// A new file is everybody's as far as the umask lets it; a replacement is private until it has
+// taken over the old file's permissions.
+constexpr mode_t kNewFileMode = 0666;
+constexpr mode_t kReplacementMode = 0600;
+
+// 0 for a regular file, else the errno value that refuses it.
+int RefusalOf(const struct stat& status) {
+    if (S_ISDIR(status.st_mode)) return EISDIR;
+    return S_ISREG(status.st_mode) ? 0 : EINVAL;
+}
+
+// The same for a file that is to be replaced. The superuser is held to the write bits as well: a
+// file without any was meant to be kept.
+int RefusalToReplace(const std::string& path, const struct stat& status) {
+    if (const int refusal = RefusalOf(status); refusal != 0) return refusal;
+    if ((status.st_mode & kAnyWrite) == 0) return EACCES;
+    return access(path.c_str(), W_OK) < 0 ? errno : 0;
+}
+
+// The place that a chain of links ends at, also when nothing is there yet.
+Result<std::string> FollowLinks(std::filesystem::path path) {
+    for (int links = 0; links < kMaxLinks; ++links) {
+        std::error_code notALink;
+        const std::filesystem::path target = std::filesystem::read_symlink(path, notALink);
+        if (notALink) return path.string();
+        path = path.parent_path() / target;
+    }
+    return SystemFailure(ELOOP);
+}
+
+}  // namespace
+
+DiskFiles::DiskFiles() : calls_(systemCalls_) {}
+
+DiskFiles::DiskFiles(FileCalls& calls) : calls_(calls) {}
+
+Result<std::vector<std::uint8_t>> DiskFiles::ReadFile(const std::string& path, std::size_t limit) {
+    const std::string found = ResolvePath(path);
+    // Looked at before it is opened too: opening alone can move a device or wake a pipe's writer.
+    struct stat status {};
+    if (stat(found.c_str(), &status) < 0) return SystemFailure(errno);
+    if (const int refusal = RefusalOf(status); refusal != 0) return SystemFailure(refusal);
+    constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+    const int file = Retry([&] { return calls_.Open(found, kFlags, 0); });
+    if (file < 0) return SystemFailure(errno);
+    Result<std::vector<std::uint8_t>> content = ReadOpened(file, limit);
+    calls_.Close(file);
+    return content;
+}
+
+Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t limit) {
+    struct stat status {};
+    if (fstat(file, &status) < 0) return SystemFailure(errno);
+    if (const int refusal = RefusalOf(status); refusal != 0) return SystemFailure(refusal);
+    limit = std::min(limit, std::numeric_limits<std::size_t>::max() - 1);
+    const auto size = static_cast<std::size_t>(status.st_size);
+    if (size > limit) return SystemFailure(EFBIG);
+
+    // One byte of room past the stated size: the file may have grown, or state none at all.
+    std::vector<std::uint8_t> bytes(size + 1);
+    std::size_t filled = 0;
+    for (;;) {
+        const ssize_t count =
+            Retry([&] { return calls_.Read(file, bytes.data() + filled, bytes.size() - filled); });
+        if (count < 0) return SystemFailure(errno);
+        if (count == 0) break;
+        filled += static_cast<std::size_t>(count);
+        if (filled > limit) return SystemFailure(EFBIG);
+        if (filled == bytes.size()) bytes.resize(std::min(filled * 2, limit) + 1);
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
+Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+    const Result<std::string> target = FollowLinks(ResolvePath(path));
+    if (!target) return tl::unexpected(target.error());
+    struct stat old {};
+    const bool exists = stat(target->c_str(), &old) == 0;
+    if (!exists && errno != ENOENT) return SystemFailure(errno);
+    if (exists) {
+        if (const int refusal = RefusalToReplace(*target, old); refusal != 0) {
+            return SystemFailure(refusal);
+        }
+    }
+    const std::size_t slash = target->rfind('/');
+    TemporaryFile replacement(calls_, slash == std::string::npos ? "." : target->substr(0, slash));
+    int error = replacement.Create(exists ? kReplacementMode : kNewFileMode);
+    if (error == 0) error = replacement.Write(bytes);
+    if (error == 0 && exists) error = replacement.Inherit(old);
+    if (error == 0) error = replacement.Finish();
+    if (error == 0) error = replacement.MoveTo(*target);
+    if (error != 0) return SystemFailure(error);
+    return {};
+}
+
+bool DiskFiles::FileExists(const std::string& path) {
+    struct stat status {};
+    return stat(ResolvePath(path).c_str(), &status) == 0 && RefusalOf(status) == 0;
+}
+
+Result<void> DiskFiles::RemoveFile(const std::string& path) {
+    if (calls_.Unlink(ResolvePath(path)) < 0) return SystemFailure(errno);
+    return {};
+}
+
+}  // namespace kestrel::system

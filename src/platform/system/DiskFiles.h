@@ -1,0 +1,32 @@
+#pragma once
+
+#include "platform/system/FileCalls.h"
+#include "platform/system/FileSystem.h"
+
+namespace kestrel::system {
+
+// The files of the running system.
+class DiskFiles : public FileSystem {
+  public:
+    DiskFiles();
+    // `calls` must outlive this object.
+    explicit DiskFiles(FileCalls& calls);
+    DiskFiles(const DiskFiles&) = delete;
+    DiskFiles& operator=(const DiskFiles&) = delete;
+
+    Result<std::vector<std::uint8_t>> ReadFile(const std::string& path, std::size_t limit) override;
+    // The new content is written to a hidden file beside the old one, which it then replaces under
+    // its name, with the old one's permissions. Other hard links to the old file keep the old
+    // content. Needs write permission to the folder too.
+    Result<void> ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
+    bool FileExists(const std::string& path) override;
+    Result<void> RemoveFile(const std::string& path) override;
+
+  private:
+    Result<std::vector<std::uint8_t>> ReadOpened(int file, std::size_t limit);
+
+    FileCalls systemCalls_;
+    FileCalls& calls_;
+};
+
+}  // namespace kestrel::system
