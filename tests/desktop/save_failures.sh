@@ -1,0 +1,87 @@
+#!/usr/bin/env bash
+# A save that fails says so, names the file that was tried, leaves the old file byte for byte as it
+# was and the changes unsaved.
+# shellcheck source=tests/desktop/desktop.sh
+source "$(dirname "$0")/desktop.sh"
+StartDesktop
+
+picture=$scratch/picture.ico
+convert -size 32x32 xc:'#204060' "$picture"
+
+# OpenAndDraw <file>
+OpenAndDraw() {
+    cp "$picture" "$1"
+    WaitForNoWindow 'KestrelIconEditor*'
+    StartEditor /open "$1"
+    WaitForWindow "KestrelIconEditor - ${1##*/}"
+    PaintCell 3 4 1 000000
+}
+
+# ExpectRefusal <opened file> <name that was tried> <reason pattern>
+ExpectRefusal() {
+    ExpectBox 'KestrelIconEditor - Error' "$3*Unable to save $2"
+    Press Return
+    ExpectUnsaved "$1" "$2"
+}
+
+# ExpectUnsaved <opened file> <name in the title>
+ExpectUnsaved() {
+    WaitForWindow "KestrelIconEditor - $2"
+    cmp "$1" "$picture" || Fail "a failed save changed the file"
+    local left
+    left=$(find "$(dirname "$1")" -mindepth 1 ! -name '*.ico')
+    [[ -z $left ]] || Fail "a failed save left $left"
+    Press alt+F4
+    ExpectBox 'KestrelIconEditor' 'Save changes to current icon?'
+    Press alt+n
+    WaitForEnd
+}
+
+# A file without write permission.
+OpenAndDraw "$files/Readonly.ico"
+chmod 444 "$files/Readonly.ico"
+Press ctrl+s
+ExpectRefusal "$files/Readonly.ico" Readonly.ico 'Permission denied'
+
+# A folder that went away.
+mkdir "$files/folder"
+OpenAndDraw "$files/folder/Lost.ico"
+mv "$files/folder" "$files/elsewhere"
+Press ctrl+s
+ExpectRefusal "$files/elsewhere/Lost.ico" Lost.ico 'No such file or directory'
+
+# The dialog takes no folder that is missing.
+OpenAndDraw "$files/Old.ico"
+Press ctrl+shift+s
+WaitForWindow 'KestrelIconEditor - Save As'
+dialog=$window
+Press ctrl+a
+Type "$files/missing/New.ico"
+Press Return
+WaitFor "$kPatience" IsNotInFront "$dialog" || Fail "no complaint about the missing folder"
+ExpectBox 'KestrelIconEditor - Save As' '*Directory not found*'
+Press Return
+WaitFor "$kPatience" IsInFront "$dialog" || Fail "the dialog did not stay"
+Press Escape
+ExpectUnsaved "$files/Old.ico" Old.ico
+
+# A full disk, where one may be mounted.
+mkdir "$files/disk"
+if mount -t tmpfs -o size=8k,mode=755 tmpfs "$files/disk" 2>/dev/null; then
+    trap 'umount "$files/disk"; EndDesktop' EXIT
+    OpenAndDraw "$files/disk/Full.ico"
+    head -c 8192 /dev/zero >"$files/disk/Ballast.ico" 2>/dev/null || true
+    Press ctrl+s
+    ExpectRefusal "$files/disk/Full.ico" Full.ico 'No space left on device'
+    umount "$files/disk"
+    trap EndDesktop EXIT
+else
+    echo "No tmpfs may be mounted here; the full disk is left out"
+fi
+
+# A file-size limit: the write fails like one on a full disk and the signal that comes along does
+# not end the program.
+OpenAndDraw "$files/Limited.ico"
+prlimit --fsize=0 --pid "$editor"
+Press ctrl+s
+ExpectRefusal "$files/Limited.ico" Limited.ico 'File too large'
