@@ -14,7 +14,7 @@ trap 'exit 130' INT
 export HOME=$scratch/home XDG_CONFIG_HOME=$scratch/config XDG_DATA_HOME=$scratch/data
 export XDG_RUNTIME_DIR=$scratch/run XDG_CACHE_HOME=$scratch/cache QT_QPA_PLATFORM=xcb
 unset DBUS_SESSION_BUS_ADDRESS
-mkdir -p -m 700 "$HOME" "$XDG_RUNTIME_DIR"
+mkdir -m 700 "$HOME" "$XDG_RUNTIME_DIR"
 StartDisplay "$scratch"
 
 # A copy: the program may keep settings beside itself.
