@@ -28,6 +28,7 @@ TEST_F(ProfileTest, MakesTheFileAndItsFolder) {
     EXPECT_EQ(Write("SETTINGS", "Language", "CHS"), 0);
     EXPECT_EQ(ContentOf(File()),
               "[Settings]\nZoom=300\nLanguage=CHS\n[Positions]\nfrmZoom=1,2,3,4,True\n");
+    EXPECT_EQ(ModeOf(Path("new")), 0700U);
 }
 
 TEST_F(ProfileTest, ReadsTheFirstMatch) {
@@ -41,7 +42,7 @@ TEST_F(ProfileTest, ReadsTheFirstMatch) {
         {"first", "KEY", "a b"},  {"First", "dq", " x "},        {"First", "sq", "y"},
         {"First", "odd", "\"z"},  {"First", "empty", ""},        {"First", "eq", "a=b"},
         {"GRÖßE", "key", "2"},    {"First", "late", "default"},  {"First", "no value", "default"},
-        {"none", "k", "default"}, {"First", "; key", "comment"}, {"", "key", "default"}};
+        {"none", "k", "default"}, {"First", "; key", "default"}, {"", "key", "default"}};
     for (const auto& [section, key, value] : cases) {
         EXPECT_EQ(Read(section, key), value) << section << " / " << key;
     }
@@ -87,7 +88,7 @@ TEST_F(ProfileTest, LeavesAloneWhatIsNoSettingsText) {
     }
     MakeFile(File(), "");
     const char* unusable[][3] = {{"S]", "k", "v"}, {"S", "k=", "v"},     {"S", "[k", "v"},
-                                 {"S", "", "v"},   {"S", "k", "v\nw=x"}, {"S\n", "k", "v"}};
+                                 {"S", ";k", "v"}, {"S", "k", "v\nw=x"}, {"S\n", "k", "v"}};
     for (const auto& [section, key, value] : unusable) {
         EXPECT_EQ(Write(section, key, value), EINVAL);
     }

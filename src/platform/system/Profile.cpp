@@ -69,7 +69,8 @@ std::optional<std::string_view> HeadingOf(std::string_view line) {
 
 bool HoldsKey(std::string_view line, std::string_view key) {
     const std::size_t equals = line.find('=');
-    return equals != kNone && SameName(Trimmed(line.substr(0, equals)), key);
+    const bool isComment = Trimmed(line).starts_with(';');
+    return equals != kNone && !isComment && SameName(Trimmed(line.substr(0, equals)), key);
 }
 
 std::string_view ValueOf(std::string_view line) {
@@ -167,7 +168,7 @@ std::string ReadProfileString(FileSystem& files, std::string_view section, std::
 
 Result<void> WriteProfileString(FileSystem& files, std::string_view section, std::string_view key,
                                 std::string_view value, const std::string& file) {
-    if (!IsUsableName(section, "]") || !IsUsableName(key, "[=") || !FitsOneLine(value)) {
+    if (!IsUsableName(section, "]") || !IsUsableName(key, "[=;") || !FitsOneLine(value)) {
         return SystemFailure(EINVAL);
     }
     Result<std::vector<Line>> lines = LoadLines(files, file);
