@@ -11,8 +11,8 @@ namespace {
 using namespace test;
 
 // Every byte of the headers matters; in the pixels after them a sample does.
-constexpr std::size_t kHeaders = 200;
-constexpr std::size_t kSample = 11;
+constexpr std::size_t kHeaders = 110;
+constexpr std::size_t kSample = 31;
 std::size_t Step(std::size_t position) {
     return position < kHeaders ? 1 : kSample;
 }
@@ -61,7 +61,7 @@ TEST(BadInput, IsRefused) {
     }
 }
 
-TEST(BadInput, EveryTruncationIsRefusedOrRead) {
+TEST(BadInput, TruncationsAreRefusedOrRead) {
     ASSERT_GE(IconFiles().size(), 10U);
     for (const auto& path : IconFiles()) {
         SCOPED_TRACE(path);
@@ -72,7 +72,7 @@ TEST(BadInput, EveryTruncationIsRefusedOrRead) {
     }
 }
 
-TEST(BadInput, EveryChangedByteIsRefusedOrRead) {
+TEST(BadInput, ChangedBytesAreRefusedOrRead) {
     for (const auto& path : IconFiles()) {
         SCOPED_TRACE(path);
         ByteList file = ReadFile(path);

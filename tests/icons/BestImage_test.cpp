@@ -77,20 +77,39 @@ TEST(BestImage, OneBadEntryLosesNoOther) {
     EXPECT_EQ(ReadBestImage(file)->info.width, 16);
 }
 
+TEST(BestImage, LimitsSizes) {
+    EXPECT_TRUE(ReadBestImage(IconFile({ImageOf({1024, 1, 1}, 0)})));
+    EXPECT_FALSE(ReadBestImage(IconFile({ImageOf({1025, 1, 1}, 0)})));
+    EXPECT_TRUE(ReadBestImage(IconFile({ImageOf({1, 1024, 1}, 0)})));
+    EXPECT_FALSE(ReadBestImage(IconFile({ImageOf({1, 1025, 1}, 0)})));
+}
+
+// The directory's 0 x 0 means 256 x 256; an image whose own header says the same counts its height
+// once.
+TEST(BestImage, TakesSizeZeroFor256) {
+    EXPECT_EQ(ReadBestImage(IconFile({ImageOf({256, 128, 8}, 0)}))->info.height, 256);
+    EXPECT_EQ(ReadBestImage(IconFile({ImageOf({128, 128, 8}, 0)}))->info.height, 128);
+}
+
 TEST(BestImage, ManyEntriesForOneDamagedImageCostOneTrial) {
     const ByteList icons = ReadFile(TEST_DATA "/magick.ico");
     const ImageEntry png = ListImages(icons)->at(2);
     ASSERT_TRUE(png.info.png);
+    const ByteList good = ImageOf({1024, 1, 1}, 0);  // suits less than the damaged image
     constexpr std::uint32_t kCount = 0xFFFF;
+    constexpr std::uint32_t kGoodOffset = 6 + 16 * kCount;
     ByteList file = Hex("0000 0100 FFFF");
-    for (std::uint32_t i = 0; i < kCount; ++i) {
+    for (std::uint32_t i = 1; i <= kCount; ++i) {
         file.resize(file.size() + 12);
-        Append(file, 6 + 16 * kCount, 4);
+        Append(file, i == kCount ? kGoodOffset : kGoodOffset + good.size(), 4);
     }
+    Append(file, good);
     file.insert(file.end(), &icons[png.offset], &icons[png.offset] + png.size - 100);
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(ListImages(file)->size(), kCount);
-    EXPECT_FALSE(ReadBestImage(file));
+    const auto icon = ReadBestImage(file);
+    ASSERT_TRUE(icon);
+    EXPECT_EQ(icon->info.width, 1024);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
 }
 

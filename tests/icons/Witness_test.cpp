@@ -75,7 +75,8 @@ TEST(Witness, AgreesOnEveryImage) {
           {16, 16, 4},
           {24, 24, 64},
           {24, 24, 16},
-          {24, 24, 32}}}};
+          {24, 24, 32},
+          {16, 16, 24}}}};
     const std::string folder = TEST_DATA "/";
     for (const auto& [name, images] : files) {
         const ByteList bytes = ReadFile(folder + name);

@@ -50,9 +50,6 @@ class FailingCalls : public FileCalls {
         if (interrupted_) errno = EINTR;
         return interrupted_ ? -1 : FileCalls::Write(file, bytes, std::min<std::size_t>(count, 2));
     }
-    int ChangeOwner(int file, uid_t user, gid_t group) override {
-        return Fails("owner") ? -1 : FileCalls::ChangeOwner(file, user, group);
-    }
     int ChangeMode(int file, mode_t mode) override {
         return Fails("mode") ? -1 : FileCalls::ChangeMode(file, mode);
     }

@@ -74,10 +74,7 @@ TEST_F(SessionTest, FoldersFollowTheEnvironment) {
     EXPECT_EQ(WindowsDirectory(), "/home/u/.local/share/KestrelIconEditor/Windows");
     EXPECT_EQ(ConfigFolder(), "/home/u/.config/KestrelIconEditor");
     environment_.Set("XDG_DATA_HOME", "/data/");
-    environment_.Set("XDG_CONFIG_HOME", "/config");
     EXPECT_EQ(WindowsDirectory(), "/data/KestrelIconEditor/Windows");
-    EXPECT_EQ(ConfigFolder(), "/config/KestrelIconEditor");
-    environment_.Set("XDG_CONFIG_HOME", "");
     environment_.Set("HOME", nullptr);
     EXPECT_TRUE(ConfigFolder().starts_with('/'));
     EXPECT_EQ(ExecutableName(), "system_test");
@@ -96,14 +93,6 @@ TEST_F(SessionTest, RuntimeFolderIsTheUsersAlone) {
         EXPECT_EQ(RuntimeFolder(), "/tmp/KestrelIconEditor-" + std::to_string(geteuid()));
     }
     EXPECT_EQ(ModeOf(RuntimeFolder()), 0700U);
-}
-
-TEST_F(SessionTest, FoldersAreMadeForTheUserAlone) {
-    EXPECT_TRUE(MakeFolder(Path("a/b")) && MakeFolder(Path("a/b")));
-    EXPECT_EQ(ModeOf(Path("a")), 0700U);
-    MakeFile(Path("file"), "");
-    EXPECT_FALSE(MakeFolder(Path("file")));
-    EXPECT_FALSE(MakeFolder(Path("file/below")));
 }
 
 TEST_F(SessionTest, OneProcessHoldsTheLockUntilItEnds) {
