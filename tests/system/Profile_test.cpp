@@ -58,7 +58,7 @@ TEST_F(ProfileTest, KeepsEverythingElseInTheFile) {
         {"B", "new", "4",
          "; mine\r\n\r\n[A]\r\n Key = 1 ; x\r\n\xB0\xA1\r\n\r\n[B]\nlast=1\r\nnew=4\r\n"},
         {"C", "k", " 5", text + "\r\n[C]\r\nk=\" 5\"\r\n"},
-        {"B", "last", "1", text}};
+        {"A", "Key", "1 ; x", text}};
     for (const auto& [section, key, value, expected] : cases) {
         MakeFile(File(), text);
         EXPECT_EQ(Write(section, key, value), 0);
