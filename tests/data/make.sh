@@ -6,6 +6,8 @@ set -eu
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
+# By its full name: other programs are called convert too.
+convert() { convert-im6.q16 "$@"; }
 
 # picture <name> <width> <height> [<convert options>]: a slanted ramp from green to violet with a
 # red disc, a white stroke and a transparent corner, as a PNG without dates.
@@ -48,17 +50,20 @@ icotool -c --cursor --hotspot-x=3 --hotspot-y=5 -b 24 -o pointer.cur "$work/24.p
 icotool -c -o several.ico -b 4 "$work/16.png" -b 8 "$work/48.png" -b 32 "$work/32.png" \
     -r "$work/big.png"
 
-# PNG images of every type: 1-bit grey, 8-bit grey, RGB, palette with transparency, 16 bits a
-# sample, grey with alpha, interlaced with an alpha ramp.
+# PNGs of every type: 1-bit grey, 8-bit grey, RGB, palette with transparency (which is left to
+# ImageMagick: asked for a palette it drops the transparency), 16 bits a sample, grey with alpha,
+# interlaced with an alpha ramp, RGB with one colour transparent.
 picture kind0 16 16 -alpha off -monochrome -define png:color-type=0 -define png:bit-depth=1
 picture kind1 48 48 -alpha off -colorspace Gray -define png:color-type=0
 picture kind2 32 32 -alpha off -define png:color-type=2
-picture kind3 16 16 +dither -colors 12 -define png:color-type=3 -define png:bit-depth=4
+picture kind3 16 16 +dither -colors 12
 picture kind4 24 24 -depth 16 -define png:color-type=6 -define png:bit-depth=16
 picture kind5 24 24 -colorspace Gray -define png:color-type=4
 picture kind6 24 24 -channel A -fx 'i/w' +channel -interlace PNG -define png:color-type=6
+picture kind7 16 16 -background magenta -alpha background -define png:color-type=2
 icotool -c -o png-kinds.ico -r "$work/kind0.png" -r "$work/kind1.png" -r "$work/kind2.png" \
-    -r "$work/kind3.png" -r "$work/kind4.png" -r "$work/kind5.png" -r "$work/kind6.png"
+    -r "$work/kind3.png" -r "$work/kind4.png" -r "$work/kind5.png" -r "$work/kind6.png" \
+    -r "$work/kind7.png"
 cp "$work/kind3.png" png-named.ico
 
 convert "$work/16.png" "$work/48.png" "$work/bigrgba.png" magick.ico
@@ -66,7 +71,7 @@ convert "$work/16.png" "$work/48.png" "$work/bigrgba.png" magick.ico
 for file in bits1 bits4 bits8 bits24 bits32 wide png-named; do witness $file.ico 0; done
 witness pointer.cur 0
 for image in 0 1 2; do witness several.ico $image && witness png-kinds.ico $image; done
-for image in 3 4 5 6; do witness png-kinds.ico $image; done
+for image in 3 4 5 6 7; do witness png-kinds.ico $image; done
 witness several.ico 3
 # ImageMagick wrote this file, so icotool has to read it.
 for image in 0 1 2; do
