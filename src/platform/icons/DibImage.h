@@ -25,9 +25,9 @@ struct DibLayout {
     std::array<std::uint32_t, 4> channels{};
 };
 
-// Reads the BITMAPINFOHEADER (40 to 124 bytes, so V4 and V5 too) at the start of `image`. The
-// height in an icon's header counts colour image and mask together; some writers leave the
-// doubling out, which shows by header and `directory` naming the same size. Nothing when the
+// Reads the BITMAPINFOHEADER (40 to 124 bytes, so V4 and V5 too, but not OS/2's 64) at the start of
+// `image`. The height in an icon's header counts colour image and mask together; some writers leave
+// the doubling out, which shows by header and `directory` naming the same size. Nothing when the
 // header is cut, compressed or out of range.
 std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int directoryHeight);
 

@@ -18,6 +18,8 @@ constexpr std::uint64_t kAlphaMask = 52;
 
 constexpr std::uint32_t kMinHeaderSize = 40;
 constexpr std::uint32_t kMaxHeaderSize = 124;
+// OS/2's own header, whose fields mean other things.
+constexpr std::uint32_t kOs2HeaderSize = 64;
 // From this size on the three colour masks are part of the header.
 constexpr std::uint32_t kHeaderSizeWithMasks = 52;
 constexpr std::uint32_t kHeaderSizeWithAlpha = 56;
@@ -93,7 +95,8 @@ bool ReadChannels(const ByteReader& reader, std::uint32_t headerSize, DibLayout&
 std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int directoryHeight) {
     const ByteReader reader(image);
     const std::uint32_t headerSize = reader.U32(0);
-    if (headerSize < kMinHeaderSize || headerSize > kMaxHeaderSize || !reader.Has(0, headerSize))
+    if (headerSize < kMinHeaderSize || headerSize > kMaxHeaderSize ||
+        headerSize == kOs2HeaderSize || !reader.Has(0, headerSize))
         return std::nullopt;
     DibLayout layout;
     layout.paletteOffset = headerSize;

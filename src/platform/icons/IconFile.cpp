@@ -44,11 +44,10 @@ int DirectorySide(std::uint8_t stored) {
 
 // An image's own header is believed; the directory only tells where the image begins and whether
 // its height is doubled. Its planes, depth (a cursor's hotspot) and length are often wrong.
-std::optional<ImageEntry> ReadEntry(const ByteReader& file, std::uint64_t entry,
-                                    std::uint64_t directoryEnd) {
+std::optional<ImageEntry> ReadEntry(const ByteReader& file, std::uint64_t entry) {
     const std::uint64_t offset = file.U32(entry + 12);
     const Bytes image = file.Part(offset);
-    if (offset < directoryEnd || image.empty()) return std::nullopt;
+    if (offset < entry + kEntrySize || image.empty()) return std::nullopt;
     const auto start = static_cast<std::size_t>(offset);
     if (const auto info = ReadPngInfo(image)) return ImageEntry{start, image.size(), *info};
     const auto dib =
@@ -58,14 +57,17 @@ std::optional<ImageEntry> ReadEntry(const ByteReader& file, std::uint64_t entry,
     return ImageEntry{start, static_cast<std::size_t>(size), dib->info};
 }
 
+// The count may promise more entries than there are: they end where the first image begins.
 std::vector<ImageEntry> ListDirectory(Bytes file) {
     const ByteReader reader(file);
-    const std::uint64_t room = (reader.Size() - kDirectorySize) / kEntrySize;
-    const std::uint64_t count = std::min<std::uint64_t>(reader.U16(4), room);
-    const std::uint64_t directoryEnd = kDirectorySize + count * kEntrySize;
+    std::uint64_t end = std::min(reader.Size(), kDirectorySize + kEntrySize * reader.U16(4));
     std::vector<ImageEntry> entries;
-    for (std::uint64_t at = kDirectorySize; at < directoryEnd; at += kEntrySize)
-        if (const auto entry = ReadEntry(reader, at, directoryEnd)) entries.push_back(*entry);
+    for (std::uint64_t at = kDirectorySize; at + kEntrySize <= end; at += kEntrySize) {
+        const auto entry = ReadEntry(reader, at);
+        if (!entry) continue;
+        entries.push_back(*entry);
+        end = std::min<std::uint64_t>(end, entry->offset);
+    }
     return entries;
 }
 
