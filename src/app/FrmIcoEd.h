@@ -42,6 +42,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
     qt::SurfaceWidget& GridWidget() { return *picMain_; }
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -54,6 +55,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
 
     // FrmIcoEd_Layout.cpp
     void LayOutControls();
+    void ShowTextControls(bool shown);
     void PlaceOnScreen();
     // FrmIcoEd_Menu.cpp
     void BuildMenuBar();

@@ -63,12 +63,24 @@ void FrmIcoEd::LayOutControls() {
     label1_ = new QLabel(this);
     label1_->setGeometry(kLabel1);
     label1_->setFont(FontOf(*this, kSmallFontPixels));
-    label1_->setWordWrap(true);
     label1_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
 
     statusBar_ = new qt::StatusBar(kPanelWidths, this);
     statusBar_->setFont(FontOf(*this, kSmallFontPixels));
     statusBar_->setGeometry(kStatusBar);
+    ShowTextControls(false);
+}
+
+void FrmIcoEd::ShowTextControls(bool shown) {
+    for (QWidget* control : std::initializer_list<QWidget*>{menuBar_, label1_, statusBar_}) {
+        control->setVisible(shown);
+    }
+}
+
+// Laying out the first text loads the fonts, a third of the whole start: the window is put on the
+// screen first and gets its texts before it is painted.
+void FrmIcoEd::showEvent(QShowEvent* /*event*/) {
+    QTimer::singleShot(0, this, [this] { ShowTextControls(true); });
 }
 
 // Centred, and one third down.

@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QScreen>
+#include <csignal>
 
 #include "app/FrmIcoEd.h"
 #include "app/Settings.h"
@@ -38,6 +39,8 @@ std::string CommandLine(const QStringList& arguments) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    // A write beyond the file size limit is a failed save, not the end of the program.
+    std::signal(SIGXFSZ, SIG_IGN);
     const QApplication application(argc, argv);
     qt::TableTranslator translator(i18n::DesktopText);
     QApplication::installTranslator(&translator);

@@ -25,6 +25,7 @@ class FrmIcoEdTest : public testing::Test {
         files_.contents["/icons/a.ico"] = {empty.begin(), empty.end()};
         window_.Form_Load("");
         window_.show();
+        QApplication::processEvents();
     }
     document::IconDocument& Icon() { return window_.OpenEditor().Document(); }
     qt::SurfaceWidget* Grid() { return &window_.GridWidget(); }

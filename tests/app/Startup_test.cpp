@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
 
+#include "app/ApplicationIcon.h"
+#include "document/IcoFile.h"
 #include "i18n/Language.h"
+#include "platform/system/DiskFiles.h"
 #include "tests/support/Recorders.h"
 
 namespace kestrel::app {
@@ -154,6 +158,14 @@ TEST_F(StartupTest, CommandLineNamesAFileInProperCase) {
     std::ofstream(folder / "Bird.ico");
     EXPECT_TRUE(PathOfCommandLine("/open " + typed).ends_with("/bird.ico"));
     std::filesystem::remove_all(folder);
+}
+
+TEST(ApplicationIcon, TheSampleIsTheProgramsIcon) {
+    system::DiskFiles files;
+    const auto sample = files.ReadFile(TEST_DATA "/../../samples/kestrel.ico", 10000);
+    ASSERT_TRUE(sample);
+    const document::IcoBytes icon = document::EncodeIco(ApplicationIcon());
+    EXPECT_TRUE(std::equal(sample->begin(), sample->end(), icon.begin(), icon.end()));
 }
 
 }  // namespace
