@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
+#include "platform/system/PathText.h"
+
 namespace kestrel::qt {
 
 namespace {
@@ -58,7 +60,10 @@ Result<ChosenFile> Run(QFileDialog& dialog, const FileRequest& request) {
     dialog.selectNameFilter(dialog.nameFilters().value(request.filterIndex - 1));
     dialog.setDefaultSuffix(QString::fromStdString(request.defaultExtension));
     dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.overwritePrompt);
-    if (!request.fileName.empty()) dialog.selectFile(QString::fromStdString(request.fileName));
+    // The name may differ in letter case from the file it names.
+    if (!request.fileName.empty()) {
+        dialog.selectFile(QString::fromStdString(system::ResolvePath(request.fileName)));
+    }
     const QString path =
         dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
     if (path.isEmpty()) return Fail(kDialogCancelled, "Cancel was selected");
