@@ -1,0 +1,43 @@
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QtTest/QTest>
+
+#include "app/FrmIcoEd.h"
+#include "tests/support/Recorders.h"
+
+namespace {
+
+using namespace kestrel;
+
+// One cell of a pencil stroke in the real window: mouse event, planes, views and the repaint.
+void PencilCellWithRepaint(benchmark::State& state) {
+    test::ScriptedBoxes boxes;
+    test::ScriptedDialogs cdb;
+    test::MemoryFiles files;
+    app::FrmIcoEd window({boxes, cdb, files});
+    window.Form_Load("");
+    window.show();
+    QApplication::processEvents();
+    qt::SurfaceWidget* grid = &window.GridWidget();
+    QTest::mousePress(grid, Qt::LeftButton, {}, QPoint(5, 5));
+    int x = 0;
+    for (auto _ : state) {
+        x = (x + 10) % 320;
+        QMouseEvent move(QEvent::MouseMove, QPointF(x + 5, 45), QPointF(x + 5, 45), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(grid, &move);
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(PencilCellWithRepaint);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
