@@ -53,7 +53,9 @@ void FrmIcoEd::ApplyMenuCaptions() {
 }
 
 void FrmIcoEd::ApplyMainCaptions() {
-    label1_->setText(ToText(kLabel1.Now()));
+    // The place is narrow: the size on the first line, the depth below.
+    label1_->setText(
+        ToText(kLabel1.Now()).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
 }
 
 // No Edit commands in the menu yet.
