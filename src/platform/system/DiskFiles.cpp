@@ -10,7 +10,6 @@
 #include <limits>
 
 #include "platform/system/PathText.h"
-#include "platform/system/Retry.h"
 #include "platform/system/SystemError.h"
 #include "platform/system/TemporaryFile.h"
 
@@ -94,6 +93,7 @@ Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t li
 }
 
 Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+    if (path.empty()) return SystemFailure(ENOENT);
     const Result<std::string> target = FollowLinks(ResolvePath(path));
     if (!target) return tl::unexpected(target.error());
     struct stat old {};
