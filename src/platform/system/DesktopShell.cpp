@@ -11,7 +11,6 @@
 #include <string_view>
 
 #include "platform/system/PathText.h"
-#include "platform/system/Retry.h"
 #include "platform/system/SystemError.h"
 
 namespace kestrel::system {

@@ -4,9 +4,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cerrno>
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
+#include <string_view>
 #include <vector>
 
 namespace kestrel::system {

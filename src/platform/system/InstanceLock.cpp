@@ -3,8 +3,6 @@
 #include <cerrno>
 #include <cstdlib>
 
-#include "platform/system/LockFile.h"
-
 namespace kestrel::system {
 namespace {
 

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <utility>
 
-#include "platform/system/FileHandle.h"
+#include "platform/system/LockFile.h"
 
 namespace kestrel::system {
 

@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <thread>
 
-#include "platform/system/Retry.h"
 #include "platform/system/SystemError.h"
 
 namespace kestrel::system {

@@ -7,7 +7,7 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/system/Retry.h"
+#include "platform/system/SystemError.h"
 
 namespace kestrel::system {
 namespace {
