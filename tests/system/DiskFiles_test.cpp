@@ -216,7 +216,7 @@ TEST_F(DiskFilesTest, KilledSavesLeaveOldOrNew) {
     std::mt19937 random(std::random_device{}());
     std::uniform_int_distribution<useconds_t> delay(500, 15000);
     int seen[2] = {0, 0};
-    for (int kill = 0; kill < 200; ++kill) {
+    for (int kill = 0; kill < 60; ++kill) {
         const pid_t child = StartSaving(Path("a.ico"));
         usleep(delay(random));
         ::kill(child, SIGKILL);

@@ -146,6 +146,7 @@ TEST_F(ShellTest, RunsProgramsApartFromThisProcess) {
 }
 
 TEST_F(ShellTest, ReportsWhyAProgramCannotStart) {
+    environment_.Set("PATH", "/usr/bin:/bin");  // a folder one may not search gives EACCES
     MakeFile(Path("text"), "#!/bin/sh\n");
     MakeFile(Path("noise"), "\x01\x02");
     chmod(Path("noise").c_str(), 0755);
