@@ -155,11 +155,14 @@ ExpectCell() {
 # PaintCell <column> <row> <button> <RRGGBB>: clicks until the cell shows the colour, since the grid
 # ignores the mouse for a quarter of a second after Open.
 PaintCell() {
-    local _
-    for _ in {1..10}; do
+    local deadline=$((SECONDS + kPatience)) _
+    while [[ $SECONDS -lt $deadline ]]; do
         CellPoint "$1" "$2"
         Click "$cellX" "$cellY" "$3"
-        WaitFor 2 CellHas "$1" "$2" "$4" && return 0
+        for _ in {1..5}; do
+            CellHas "$1" "$2" "$4" && return 0
+            sleep 0.05
+        done
     done
     Fail "cell ($1, $2) cannot be painted $4"
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The editor dies at a random moment of drawing and saving: kill_during_save.sh [times]. The file is
-# then the old icon or a new one, whole; never anything between.
+# The editor is killed while it draws and saves, in turns at a random moment and in the middle of a
+# save: kill_during_save.sh [times]. The file is then the old icon or a new one, whole.
 # shellcheck source=tests/desktop/desktop.sh
 source "$(dirname "$0")/desktop.sh"
 StartDesktop
@@ -30,6 +30,13 @@ ExpectWholeIcon() {
     [[ $(sort <<<"$colors" | tr '\n' ' ') == '000000 204060 ' ]] || Fail "strange colours: $colors"
 }
 
+# Returns as soon as a save has begun its new file; without forks, since that file lives for
+# milliseconds.
+CatchSave() {
+    local until=$((SECONDS + 3))
+    while ! compgen -G "$files/.*.tmp" >/dev/null && [[ $SECONDS -lt $until ]]; do :; done
+}
+
 saved=0
 halfway=0
 storm=()
@@ -40,7 +47,11 @@ for ((round = 1; round <= times; ++round)); do
     [[ ${#storm[@]} -gt 0 ]] || FillStorm
     PaintCell 3 4 1 000000
     Start xdotool "${storm[@]}"
-    sleep "0.$(printf '%03d' $((RANDOM % 500)))"
+    if ((round % 2)); then
+        sleep "0.$(printf '%03d' $((RANDOM % 500)))"
+    else
+        CatchSave
+    fi
     kill -KILL "$editor" "$lastStarted" 2>/dev/null || true
     wait "$editor" "$lastStarted" 2>/dev/null || true
     WaitForNoWindow 'KestrelIconEditor*'

@@ -29,7 +29,7 @@ ExpectUnsaved() {
     WaitForWindow "KestrelIconEditor - $2"
     cmp "$1" "$picture" || Fail "a failed save changed the file"
     local left
-    left=$(find "$(dirname "$1")" -mindepth 1 ! -name '*.ico')
+    left=$(find "$(dirname "$1")" -type f ! -name '*.ico')
     [[ -z $left ]] || Fail "a failed save left $left"
     Press alt+F4
     ExpectBox 'KestrelIconEditor' 'Save changes to current icon?'
