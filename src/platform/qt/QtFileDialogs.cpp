@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 #include "platform/system/PathText.h"
 
@@ -26,46 +27,77 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
-// Refuses names that a file cannot get: wildcards, and folders that do not exist.
-class NameCheckingDialog : public QFileDialog {
-  public:
-    using QFileDialog::QFileDialog;
+bool Exists(const QString& path) {
+    return QFileInfo::exists(path);
+}
 
-  protected:
-    void accept() override {
-        if (acceptMode() == AcceptSave && !NameCanBeSaved()) return;
-        QFileDialog::accept();
-    }
+QMessageBox::StandardButton Tell(QFileDialog& dialog, const char* sentence, const QString& name,
+                                 QMessageBox::StandardButtons buttons) {
+    QMessageBox box(QMessageBox::Warning, dialog.windowTitle(),
+                    QFileDialog::tr(sentence).arg(QDir::toNativeSeparators(name)), buttons,
+                    &dialog);
+    box.setTextFormat(Qt::PlainText);
+    return static_cast<QMessageBox::StandardButton>(box.exec());
+}
 
-  private:
-    bool NameCanBeSaved() {
-        const QFileInfo chosen(selectedFiles().value(0));
-        auto* name = findChild<QLineEdit*>();
-        if (chosen.fileName().contains(QLatin1Char('*')) ||
-            chosen.fileName().contains(QLatin1Char('?'))) {
-            if (name != nullptr) name->selectAll();
-            return false;
-        }
-        if (chosen.absoluteDir().exists()) return true;
-        QMessageBox::warning(this, windowTitle(),
-                             QFileDialog::tr("%1\nDirectory not found.\nPlease verify the "
-                                             "correct directory name was given.")
-                                 .arg(chosen.absolutePath()));
+// Whether the user may have this name for saving; says why not.
+bool MaySaveAs(QFileDialog& dialog, const FileRequest& request, const QString& path) {
+    const QFileInfo chosen(path);
+    // The desktop library takes quotes as marks between several names.
+    const auto* typed = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    const bool quoted = typed != nullptr && typed->text().contains(QLatin1Char('"'));
+    const bool wildcards =
+        !Exists(path) && chosen.fileName().contains(QRegularExpression(QStringLiteral("[*?]")));
+    if (quoted || wildcards) {
+        Tell(dialog, QT_TR_NOOP("%1\nThe file name is not valid."),
+             quoted ? typed->text() : chosen.fileName(), QMessageBox::Ok);
         return false;
     }
-};
+    if (request.pathMustExist && !chosen.absoluteDir().exists()) {
+        Tell(dialog,
+             QT_TR_NOOP("%1\nDirectory not found.\nPlease verify the correct directory name was "
+                        "given."),
+             chosen.absolutePath(), QMessageBox::Ok);
+        return false;
+    }
+    if (!request.overwritePrompt || !Exists(path)) return true;
+    return Tell(dialog, QT_TR_NOOP("%1 already exists.\nDo you want to replace it?"),
+                chosen.fileName(), QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+}
+
+bool MayOpen(QFileDialog& dialog, const FileRequest& request, const QString& path) {
+    if (!request.fileMustExist || Exists(path)) return true;
+    Tell(dialog, QT_TR_NOOP("%1\nFile not found.\nPlease verify the correct file name was given."),
+         QFileInfo(path).fileName(), QMessageBox::Ok);
+    return false;
+}
+
+// The name that was chosen, as it is spelled on the disk; empty when the dialog was closed.
+QString Choose(QFileDialog& dialog, const FileRequest& request) {
+    while (dialog.exec() == QDialog::Accepted) {
+        const std::string chosen = dialog.selectedFiles().value(0).toStdString();
+        const QString path = QString::fromStdString(system::ResolvePath(chosen));
+        const bool opens = dialog.acceptMode() == QFileDialog::AcceptOpen;
+        if (opens ? MayOpen(dialog, request, path) : MaySaveAs(dialog, request, path)) {
+            return path;
+        }
+    }
+    return {};
+}
 
 Result<ChosenFile> Run(QFileDialog& dialog, const FileRequest& request) {
     dialog.setNameFilters(NameFilters(request.filter));
     dialog.selectNameFilter(dialog.nameFilters().value(request.filterIndex - 1));
     dialog.setDefaultSuffix(QString::fromStdString(request.defaultExtension));
-    dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.overwritePrompt);
-    // The name may differ in letter case from the file it names.
-    if (!request.fileName.empty()) {
-        dialog.selectFile(QString::fromStdString(system::ResolvePath(request.fileName)));
+    // Names are checked here, where those in other letter case are known to be the same file.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    // A path may differ in letter case from the file it names; a mere name is only a proposal.
+    if (const std::string& name = request.fileName; !name.empty()) {
+        const bool isPath = !system::FolderOf(name).empty();
+        dialog.selectFile(QString::fromStdString(isPath ? system::ResolvePath(name) : name));
     }
-    const QString path =
-        dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    const QString path = Choose(dialog, request);
     if (path.isEmpty()) return Fail(kDialogCancelled, "Cancel was selected");
     return ChosenFile{path.toStdString(), QFileInfo(path).fileName().toStdString()};
 }
@@ -75,14 +107,12 @@ Result<ChosenFile> Run(QFileDialog& dialog, const FileRequest& request) {
 Result<ChosenFile> QtFileDialogs::ShowOpen(const FileRequest& request) {
     QFileDialog dialog(owner_, QString::fromStdString(request.title));
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(request.fileMustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     return Run(dialog, request);
 }
 
 Result<ChosenFile> QtFileDialogs::ShowSave(const FileRequest& request) {
-    NameCheckingDialog dialog(owner_, QString::fromStdString(request.title));
+    QFileDialog dialog(owner_, QString::fromStdString(request.title));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
     return Run(dialog, request);
 }
 

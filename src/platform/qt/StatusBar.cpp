@@ -1,5 +1,7 @@
 #include "platform/qt/StatusBar.h"
 
+#include "platform/qt/Text.h"
+
 namespace kestrel::qt {
 
 namespace {
@@ -8,7 +10,7 @@ constexpr int kGap = 2;
 
 }  // namespace
 
-StatusBar::StatusBar(const std::vector<int>& widths, QWidget* parent) : QWidget(parent) {
+StatusBar::StatusBar(std::span<const int> widths, QWidget* parent) : QWidget(parent) {
     for (const int width : widths) {
         auto* label = new QLabel(this);
         label->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
@@ -22,7 +24,7 @@ void StatusBar::SetText(int panel, std::string_view text) {
     Panel& changed = panels_.at(static_cast<std::size_t>(panel) - 1);
     if (changed.text == text) return;
     changed.text = text;
-    changed.label->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    changed.label->setText(ToText(text));
 }
 
 std::string StatusBar::Text(int panel) const {

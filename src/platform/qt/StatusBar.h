@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QWidget>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,7 @@ namespace kestrel::qt {
 class StatusBar : public QWidget {
   public:
     // Panel widths in pixels, from the left; 0 takes what the others leave (one panel may).
-    StatusBar(const std::vector<int>& widths, QWidget* parent);
+    StatusBar(std::span<const int> widths, QWidget* parent);
 
     // Panels count from 1. A text that is too long is cut at its end.
     void SetText(int panel, std::string_view text);

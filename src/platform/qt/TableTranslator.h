@@ -4,6 +4,8 @@
 #include <functional>
 #include <string_view>
 
+#include "platform/qt/Text.h"
+
 namespace kestrel::qt {
 
 // Gives the desktop's own texts (buttons, file dialogs) in the language of the program. `lookUp`
@@ -17,8 +19,7 @@ class TableTranslator : public QTranslator {
     bool isEmpty() const override { return false; }
     QString translate(const char* /*context*/, const char* sourceText,
                       const char* /*disambiguation*/, int /*n*/) const override {
-        const std::string_view text = lookUp_(sourceText);
-        return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+        return ToText(lookUp_(sourceText));
     }
 
   private:
