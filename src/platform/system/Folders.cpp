@@ -102,4 +102,8 @@ bool MakeFolder(const std::string& folder) {
     return IsFolder(folder);
 }
 
+bool CanWriteIn(const std::string& folder) {
+    return ::access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
 }  // namespace kestrel::system

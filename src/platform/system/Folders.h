@@ -21,4 +21,7 @@ std::string RuntimeFolder();
 // does not exist afterwards.
 bool MakeFolder(const std::string& folder);
 
+// Whether this user may create files in the folder.
+bool CanWriteIn(const std::string& folder);
+
 }  // namespace kestrel::system
