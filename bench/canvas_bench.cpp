@@ -44,7 +44,7 @@ void PencilCell(benchmark::State& state) {
     for (auto _ : state) {
         window.repainted.clear();
         x = (x + document::kIconSize / 3) % 320;
-        editor.PicMain_MouseMove(editing::Button::Left, x, 5);
+        editor.PicMain_MouseMove({true, false}, x, 5);
     }
 }
 BENCHMARK(PencilCell);

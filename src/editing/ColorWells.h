@@ -9,6 +9,15 @@ namespace kestrel::editing {
 // The mouse buttons that draw; others do nothing on the grid.
 enum class Button { None = 0, Left = 1, Right = 2 };
 
+// The drawing buttons held during a pointer move.
+struct HeldButtons {
+    bool left = false;
+    bool right = false;
+
+    bool Has(Button button) const { return button == Button::Left ? left : right; }
+    bool IsOnly(Button button) const { return Has(button) && left != right; }
+};
+
 // What each mouse button draws with: a colour, or transparency.
 class ColorWells {
   public:

@@ -17,7 +17,7 @@ Editor::Editor(EditorWindow& window, gdi::COLORREF windowColor)
 void Editor::ResetDocument() {
     gestureTool_ = nullptr;
     document_.Reset();
-    window_.SetTitle(i18n::WindowTitle(document_.FileTitle));
+    ShowTitle();
     tools_.SelectTool(ToolId::Pencil);
     wells_.ClearTransparent();
     wells_.ResetDefaultColors();
@@ -40,8 +40,9 @@ void Editor::PicMain_MouseDown(Button button, int x, int y) {
     if (button == Button::None) return;
     if (gestureTool_ != nullptr) {
         if (button != gestureButton_) return;
-        PicMain_MouseLost();
+        EndGesture();
     }
+    readout_.Show(tools_.CurrentTool(), x, y);
     pointerX_ = x;
     pointerY_ = y;
     gestureTool_ = CurrentGridTool();
@@ -51,11 +52,15 @@ void Editor::PicMain_MouseDown(Button button, int x, int y) {
     gestureTool_->Press(button, x, y);
 }
 
-void Editor::PicMain_MouseMove(Button held, int x, int y) {
+void Editor::PicMain_MouseMove(HeldButtons held, int x, int y) {
+    // The button came up where nobody saw it.
+    if (gestureTool_ != nullptr && !held.Has(gestureButton_)) EndGesture();
     readout_.Show(tools_.CurrentTool(), x, y);
     pointerX_ = x;
     pointerY_ = y;
-    if (gestureTool_ != nullptr && held == gestureButton_) gestureTool_->Move(held, x, y);
+    if (gestureTool_ != nullptr && held.IsOnly(gestureButton_)) {
+        gestureTool_->Move(gestureButton_, x, y);
+    }
 }
 
 void Editor::PicMain_MouseUp(Button button, int x, int y) {
@@ -64,8 +69,12 @@ void Editor::PicMain_MouseUp(Button button, int x, int y) {
     RecordGesture();
 }
 
-void Editor::PicMain_MouseLost() {
+void Editor::EndGesture() {
     PicMain_MouseUp(gestureButton_, pointerX_, pointerY_);
+}
+
+void Editor::ShowTitle() {
+    window_.SetTitle(i18n::WindowTitle(document_.FileTitle));
 }
 
 void Editor::RecordGesture() {

@@ -32,11 +32,14 @@ class Editor {
     // Mouse events of the editing grid; points in grid units, also outside while captured. A
     // gesture belongs to the button that began it; others are ignored until it ends.
     void PicMain_MouseDown(Button button, int x, int y);
-    // `held` is the drawing button held, None when none or both are.
-    void PicMain_MouseMove(Button held, int x, int y);
+    void PicMain_MouseMove(HeldButtons held, int x, int y);
     void PicMain_MouseUp(Button button, int x, int y);
-    // The gesture's button came up unseen (a dialog took the mouse): ends it where it was.
-    void PicMain_MouseLost();
+    // Ends a gesture where it is, as if its button came up there. For whatever may take the mouse
+    // away in its midst, such as a command by keyboard.
+    void EndGesture();
+
+    // Shows the document's file title in the title of the window.
+    void ShowTitle();
 
   private:
     GridTool* CurrentGridTool();

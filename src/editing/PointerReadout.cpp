@@ -3,38 +3,16 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <string>
 
 #include "document/GridCoordinates.h"
-#include "i18n/Language.h"
+#include "i18n/Captions.h"
 
 namespace kestrel::editing {
 
-namespace {
-
-constexpr i18n::Text kPencilHint{"Left-Click (Forecolor) Or Right-Click (Backcolor)",
-                                 "点击鼠标左键 (前景色) 或 点击鼠标右键 (背景色)"};
-constexpr i18n::Text kTransparent{"Transparent", "透明"};
-
-// A short text in a buffer of its own: the readouts change with every pointer event.
-class ShortText {
-  public:
-    template <class... Values>
-    explicit ShortText(const char* format, Values... values) {
-        const int length = std::snprintf(buffer_.data(), buffer_.size(), format, values...);
-        length_ = std::clamp<std::size_t>(static_cast<std::size_t>(length), 0, buffer_.size() - 1);
-    }
-    std::string_view View() const { return {buffer_.data(), length_}; }
-
-  private:
-    std::array<char, 32> buffer_{};
-    std::size_t length_ = 0;
-};
-
-}  // namespace
-
 void PointerReadout::Show(ToolId tool, int x, int y) {
     window_.SetStatusPanel(StatusPanel::Hint,
-                           tool == ToolId::Pencil ? kPencilHint.Now() : std::string_view());
+                           tool == ToolId::Pencil ? i18n::kPencilHint.Now() : std::string_view());
     // Left of or above the grid, -9 to -1 would truncate into the first cell.
     const int cx = x < 0 ? -1 : document::CellOf(x);
     const int cy = y < 0 ? -1 : document::CellOf(y);
@@ -46,18 +24,22 @@ void PointerReadout::ShowPixel(int cx, int cy) {
     if (!document_.PicMask.Contains(cx, cy)) {
         window_.SetStatusPanel(StatusPanel::Pixel, {});
     } else if (document_.IsTransparent(cx, cy)) {
-        window_.SetStatusPanel(StatusPanel::Pixel, kTransparent.Now());
+        window_.SetStatusPanel(StatusPanel::Pixel, i18n::kTransparent.Now());
     } else {
-        const ShortText text("#%X", document_.PicImage.GetPixel(cx, cy));
-        window_.SetStatusPanel(StatusPanel::Pixel, text.View());
+        // Blue, green, red without leading zeros.
+        std::array<char, 8> digits{};
+        std::snprintf(digits.data(), digits.size(), "#%X", document_.PicImage.GetPixel(cx, cy));
+        window_.SetStatusPanel(StatusPanel::Pixel, digits.data());
     }
 }
 
 void PointerReadout::ShowPointerReadout(int cx, int cy) {
-    const ShortText text("%d , %d", std::clamp(cx, 0, document::kIconSize - 1),
-                         std::clamp(cy, 0, document::kIconSize - 1));
-    window_.SetStatusPanel(StatusPanel::Cell, text.View());
-    window_.PrintPointerCell(text.View());
+    const auto inside = [](int cell) {
+        return std::to_string(std::clamp(cell, 0, document::kIconSize - 1));
+    };
+    const std::string text = inside(cx) + " , " + inside(cy);
+    window_.SetStatusPanel(StatusPanel::Cell, text);
+    window_.PrintPointerCell(text);
 }
 
 }  // namespace kestrel::editing

@@ -12,12 +12,15 @@ constexpr gdi::COLORREF kWindowColor = 0xC8D0D4;
 
 class EditorTest : public testing::Test {
   protected:
+    static HeldButtons Held(Button button) {
+        return {button == Button::Left, button == Button::Right};
+    }
     void Stroke(Button button, std::initializer_list<std::pair<int, int>> points) {
         const auto [x, y] = *points.begin();
-        editor_.PicMain_MouseMove(Button::None, x, y);
+        editor_.PicMain_MouseMove({}, x, y);
         editor_.PicMain_MouseDown(button, x, y);
         for (const auto& [px, py] : points)
-            editor_.PicMain_MouseMove(button, px, py);
+            editor_.PicMain_MouseMove(Held(button), px, py);
         const auto [lastX, lastY] = *(points.end() - 1);
         editor_.PicMain_MouseUp(button, lastX, lastY);
     }
@@ -72,15 +75,17 @@ TEST_F(EditorTest, ATransparentWellClears) {
 TEST_F(EditorTest, AGestureBelongsToTheButtonThatBeganIt) {
     editor_.PicMain_MouseDown(Button::Left, 5, 5);
     editor_.PicMain_MouseDown(Button::Right, 5, 5);
-    editor_.PicMain_MouseMove(Button::None, 15, 5);  // both held
+    editor_.PicMain_MouseMove({true, true}, 15, 5);
     editor_.PicMain_MouseUp(Button::Right, 15, 5);
-    editor_.PicMain_MouseMove(Button::Left, 25, 5);
+    editor_.PicMain_MouseMove(Held(Button::Left), 25, 5);
     EXPECT_EQ(icon_.PicImage.GetPixel(0, 0), gdi::kBlack);
     EXPECT_EQ(OpaquePixels(), 2);
     EXPECT_EQ(editor_.History().UndoCount(), 1U);
     // The release was lost to a dialog: the next press of the button ends the old stroke first.
     editor_.PicMain_MouseDown(Button::Left, 35, 5);
-    editor_.PicMain_MouseUp(Button::Left, 35, 5);
+    EXPECT_EQ(editor_.History().UndoCount(), 2U);
+    // ... and so does a move without it.
+    editor_.PicMain_MouseMove({}, 45, 5);
     EXPECT_EQ(editor_.History().UndoCount(), 3U);
     editor_.PicMain_MouseUp(Button::Left, 35, 5);
     editor_.PicMain_MouseDown(Button::None, 95, 95);
@@ -92,13 +97,22 @@ TEST_F(EditorTest, ResetEndsAStrokeAndEmptiesEverything) {
     icon_.FilePath = "/icons/a.ico";
     editor_.PicMain_MouseDown(Button::Left, 5, 5);
     editor_.ResetDocument();
-    editor_.PicMain_MouseMove(Button::Left, 15, 5);
+    editor_.PicMain_MouseMove(Held(Button::Left), 15, 5);
     editor_.PicMain_MouseUp(Button::Left, 15, 5);
     EXPECT_EQ(OpaquePixels(), 0);
     EXPECT_FALSE(icon_.Modified);
     EXPECT_TRUE(icon_.IsUntitled());
     EXPECT_EQ(editor_.History().UndoCount(), 1U);
     EXPECT_EQ(window_.title, "KestrelIconEditor - Untitled");
+}
+
+TEST_F(EditorTest, APressShowsTheReadoutsWithoutAMoveBefore) {
+    editor_.PicMain_MouseDown(Button::Left, 15, 25);
+    EXPECT_EQ(window_.panels[3], "1 , 2");
+    EXPECT_EQ(window_.panels[2], "Transparent") << "as it was before the pencil";
+    editor_.EndGesture();
+    EXPECT_EQ(window_.panels[2], "#0");
+    EXPECT_TRUE(icon_.Modified);
 }
 
 TEST_F(EditorTest, ReadoutsTellPixelAndCell) {
@@ -114,14 +128,14 @@ TEST_F(EditorTest, ReadoutsTellPixelAndCell) {
         {320, 5, "", "31 , 0"}, {-1, 5, "", "0 , 0"},        {5, 9999, "", "0 , 31"},
     };
     for (const auto& c : cases) {
-        editor_.PicMain_MouseMove(Button::None, c.x, c.y);
+        editor_.PicMain_MouseMove({}, c.x, c.y);
         EXPECT_EQ(window_.panels[2], c.pixel) << c.x << "," << c.y;
         EXPECT_EQ(window_.panels[3], c.cell) << c.x << "," << c.y;
         EXPECT_EQ(window_.printedCell, c.cell);
     }
     EXPECT_EQ(window_.panels[1], "Left-Click (Forecolor) Or Right-Click (Backcolor)");
     i18n::SetUiLanguage(i18n::kChinese);
-    editor_.PicMain_MouseMove(Button::None, 319, 319);
+    editor_.PicMain_MouseMove({}, 319, 319);
     i18n::SetUiLanguage(i18n::kEnglish);
     EXPECT_EQ(window_.panels[2], "透明");
 }
