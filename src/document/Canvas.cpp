@@ -143,6 +143,11 @@ void Canvas::RepaintCell(int cx, int cy) {
     window_.RepaintView(View::Preview, {cx, cy, 1, 1});
 }
 
+void Canvas::SetWindowColor(gdi::COLORREF color) {
+    PicIcon.SetBackColor(color);
+    PreviewIcon();
+}
+
 void Canvas::SetPenColor(gdi::COLORREF color) {
     for (gdi::Surface* surface : {&PicMain, &PicMainCopy, &PicIcon, &document_.PicImage}) {
         surface->state.foreColor = color;

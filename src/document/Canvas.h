@@ -57,6 +57,9 @@ class Canvas {
     void PaintCell(int cx, int cy, gdi::COLORREF color);
     void PaintCellTransparent(int cx, int cy);
 
+    // The desktop's window colour has changed.
+    void SetWindowColor(gdi::COLORREF color);
+
     // What every drawing surface draws with from now on.
     void SetPenColor(gdi::COLORREF color);
 

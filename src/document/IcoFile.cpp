@@ -98,8 +98,10 @@ Result<void> WriteIcoCopy(system::FileSystem& files, const IconDocument& documen
 bool DetectMultipleIcons(std::span<const std::uint8_t> file) {
     constexpr std::size_t kDirectoryBytes = 6;
     if (file.size() < kDirectoryBytes) return false;
-    const unsigned count = file[4] + 256U * file[5];
-    return count > 1;
+    const auto word = [&](std::size_t at) { return file[at] + 256U * file[at + 1]; };
+    // A PNG under an icon's name has no directory.
+    const bool isDirectory = word(0) == 0 && (word(2) == 1 || word(2) == 2);
+    return isDirectory && word(4) > 1;
 }
 
 }  // namespace kestrel::document

@@ -28,8 +28,8 @@ std::uint8_t BitsToByte(std::string_view bits);
 Result<void> WriteIcoCopy(system::FileSystem& files, const IconDocument& document,
                           const std::string& path);
 
-// Whether the directory at the head of an icon file counts more than one image. Bytes that are too
-// few count as one.
+// Whether the directory at the head of an icon or cursor file counts more than one image. Bytes
+// that are too few, or no directory, count as one.
 bool DetectMultipleIcons(std::span<const std::uint8_t> file);
 
 }  // namespace kestrel::document

@@ -74,6 +74,8 @@ TEST(IcoFile, CountsImagesInTheDirectory) {
         {{0, 0, 1, 0, 3}, false},
         {{0, 0}, false},
         {{}, false},
+        {{0, 0, 2, 0, 2, 0}, true},
+        {{0x89, 'P', 'N', 'G', 0x0D, 0x0A}, false},
     };
     for (const auto& c : cases)
         EXPECT_EQ(DetectMultipleIcons(c.bytes), c.several);
