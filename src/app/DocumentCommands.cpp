@@ -29,12 +29,11 @@ std::string ProposedName(const document::IconDocument& document) {
 
 }  // namespace
 
-DocumentCommands::DocumentCommands(editing::Editor& editor, editing::EditorWindow& titleBar,
-                                   DocumentWindow& window, dialogs::FileDialogs& cdb,
-                                   dialogs::MessageBoxes& boxes, system::FileSystem& files)
+DocumentCommands::DocumentCommands(editing::Editor& editor, DocumentWindow& window,
+                                   dialogs::FileDialogs& cdb, dialogs::MessageBoxes& boxes,
+                                   system::FileSystem& files)
     : editor_(editor),
       document_(editor.Document()),
-      titleBar_(titleBar),
       window_(window),
       cdb_(cdb),
       boxes_(boxes),
@@ -99,7 +98,7 @@ bool DocumentCommands::OpenFile(const dialogs::ChosenFile& file) {
     editor_.ResetDocument();
     document_.FilePath = file.path;
     document_.FileTitle = file.fileTitle;
-    ShowTitle();
+    editor_.ShowTitle();
     editor_.ShowOpenedIcon(*icon);
     document_.MultipleIcons = document::DetectMultipleIcons(*bytes);
     window_.StartTmr();
@@ -149,7 +148,7 @@ void DocumentCommands::SaveInPlace() {
 void DocumentCommands::WriteIcoFile(const std::string& path) {
     window_.ShowHourglass(true);
     document_.FileTitle = system::FileTitleOf(path);
-    ShowTitle();
+    editor_.ShowTitle();
     const Result<void> written = document::WriteIcoCopy(files_, document_, path);
     window_.ShowHourglass(false);
     document_.SaveSucceeded = written.has_value();
@@ -166,10 +165,6 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
 
 void DocumentCommands::mnuExit_Click() {
     window_.Unload();
-}
-
-void DocumentCommands::ShowTitle() {
-    titleBar_.SetTitle(i18n::WindowTitle(document_.FileTitle));
 }
 
 void DocumentCommands::ShowError(const std::string& text) {

@@ -31,8 +31,7 @@ enum class SaveMode { Save, SaveAs };
 // The commands that change which icon is open or where it is kept.
 class DocumentCommands {
   public:
-    DocumentCommands(editing::Editor& editor, editing::EditorWindow& titleBar,
-                     DocumentWindow& window, dialogs::FileDialogs& cdb,
+    DocumentCommands(editing::Editor& editor, DocumentWindow& window, dialogs::FileDialogs& cdb,
                      dialogs::MessageBoxes& boxes, system::FileSystem& files);
 
     void mnuNew_Click();
@@ -54,12 +53,10 @@ class DocumentCommands {
     void SaveUnderNewName();
     void SaveInPlace();
     void WriteIcoFile(const std::string& path);
-    void ShowTitle();
     void ShowError(const std::string& text);
 
     editing::Editor& editor_;
     document::IconDocument& document_;
-    editing::EditorWindow& titleBar_;
     DocumentWindow& window_;
     dialogs::FileDialogs& cdb_;
     dialogs::MessageBoxes& boxes_;

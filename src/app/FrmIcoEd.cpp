@@ -22,6 +22,31 @@ gdi::COLORREF WindowColor(const QWidget& window) {
     return color == gdi::kWhite ? kGreyForWhite : color;
 }
 
+// The local file of a URL, byte for byte: its name need not be UTF-8.
+std::string LocalFile(const QUrl& url) {
+    if (!url.isLocalFile()) return {};
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+}
+
+// The file is only read: a source that would move it must not delete it.
+void AcceptToRead(QDropEvent& event) {
+    for (const Qt::DropAction action : {Qt::CopyAction, Qt::LinkAction}) {
+        if (!event.possibleActions().testFlag(action)) continue;
+        event.setDropAction(action);
+        event.accept();
+        return;
+    }
+    event.ignore();
+}
+
+// The first of the dragged files that lies on this machine; empty for none.
+std::string FirstLocalFile(const QMimeData& dragged) {
+    for (const QUrl& url : dragged.urls()) {
+        if (std::string file = LocalFile(url); !file.empty()) return file;
+    }
+    return {};
+}
+
 QIcon ProgramIcon() {
     const document::IconDocument icon = ApplicationIcon();
     return QIcon(QPixmap::fromImage(qt::ToImage(icon.PicMask, icon.PicImage)));
@@ -31,13 +56,11 @@ QIcon ProgramIcon() {
 
 FrmIcoEd::FrmIcoEd(const MainWindowServices& services)
     : editor_(*this, WindowColor(*this)),
-      commands_(editor_, *this, *this, services.cdb, services.boxes, services.files),
+      commands_(editor_, *this, services.cdb, services.boxes, services.files),
       dispatch_(commands_, *this) {}
 
 void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, qt::ToColor(WindowColor(*this)));
-    setPalette(colors);
+    FollowDesktopColors();
     setWindowIcon(ProgramIcon());
     setMouseTracking(true);
     setAcceptDrops(true);
@@ -65,28 +88,49 @@ bool FrmIcoEd::Form_Unload() {
     return true;
 }
 
+void FrmIcoEd::RunCommand(const std::function<void()>& command) {
+    if (commandRunning_) return;
+    commandRunning_ = true;
+    editor_.EndGesture();
+    command();
+    commandRunning_ = false;
+}
+
 void FrmIcoEd::closeEvent(QCloseEvent* event) {
-    event->setAccepted(Form_Unload());
+    event->ignore();
+    RunCommand([&] { event->setAccepted(Form_Unload()); });
+}
+
+void FrmIcoEd::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) FollowDesktopColors();
+    QWidget::changeEvent(event);
+}
+
+// The window and the preview's ground share one colour.
+void FrmIcoEd::FollowDesktopColors() {
+    const gdi::COLORREF color = WindowColor(*this);
+    if (palette().color(QPalette::Window) != qt::ToColor(color)) {
+        QPalette colors = palette();
+        colors.setColor(QPalette::Window, qt::ToColor(color));
+        setPalette(colors);
+    }
+    editor_.Views().SetWindowColor(color);
 }
 
 void FrmIcoEd::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+    if (!FirstLocalFile(*event->mimeData()).empty()) AcceptToRead(*event);
 }
 
 void FrmIcoEd::dropEvent(QDropEvent* event) {
-    event->acceptProposedAction();
+    AcceptToRead(*event);
     // The program that dropped the file waits until this returns; a question must not keep it.
     QMetaObject::invokeMethod(
-        this, [this, files = event->mimeData()->urls()] { Form_OLEDragDrop(files); },
+        this, [this, file = FirstLocalFile(*event->mimeData())] { Form_OLEDragDrop(file); },
         Qt::QueuedConnection);
 }
 
-void FrmIcoEd::Form_OLEDragDrop(const QList<QUrl>& files) {
-    for (const QUrl& file : files) {
-        if (!file.isLocalFile()) continue;
-        commands_.OpenNamed(file.toLocalFile().toStdString());
-        return;
-    }
+void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
+    RunCommand([&] { commands_.OpenNamed(pathToOpen); });
 }
 
 void FrmIcoEd::SetTitle(const std::string& title) {
@@ -96,6 +140,8 @@ void FrmIcoEd::SetTitle(const std::string& title) {
 }
 
 void FrmIcoEd::EnableGrid(bool enabled) {
+    // A tick that is still due belongs to an earlier Open.
+    tmr_->stop();
     picMain_->setEnabled(enabled);
 }
 
@@ -116,7 +162,8 @@ void FrmIcoEd::ProcessPendingEvents() {
 }
 
 void FrmIcoEd::Unload() {
-    close();
+    // After the command that asked for it has returned.
+    QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
 }  // namespace kestrel::app

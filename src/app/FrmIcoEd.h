@@ -5,7 +5,7 @@
 #include <QMenuBar>
 #include <QTimer>
 #include <QWidget>
-#include <optional>
+#include <functional>
 #include <vector>
 
 #include "app/CommandDispatch.h"
@@ -37,7 +37,6 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
     void Form_Load(const std::string& pathToOpen);
 
     editing::Editor& OpenEditor() { return editor_; }
-    DocumentCommands& Commands() { return commands_; }
     std::string StatusText(editing::StatusPanel panel) const;
     qt::SurfaceWidget& GridWidget() { return *picMain_; }
 
@@ -45,13 +44,17 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
   private:
     bool Form_Unload();
-    void Form_OLEDragDrop(const QList<QUrl>& files);
+    void Form_OLEDragDrop(const std::string& pathToOpen);
+    // Runs a command of the user, unless one is running and waits for a dialog.
+    void RunCommand(const std::function<void()>& command);
+    void FollowDesktopColors();
 
     // FrmIcoEd_Layout.cpp
     void LayOutControls();
@@ -87,6 +90,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
     qt::StatusBar* statusBar_ = nullptr;
     QTimer* tmr_ = nullptr;
     QString pointerCell_;
+    bool commandRunning_ = false;
 
     // After the widgets: they call back into the window from their first moment.
     editing::Editor editor_;

@@ -2,7 +2,7 @@
 #include <QPixmap>
 
 #include "app/FrmIcoEd.h"
-#include "i18n/Language.h"
+#include "i18n/Captions.h"
 #include "platform/gdi/PixelArt.h"
 #include "platform/qt/Pictures.h"
 #include "resources/Cursors.h"
@@ -14,17 +14,13 @@ namespace {
 using editing::Button;
 using editing::StatusPanel;
 
-constexpr i18n::Text kActualSize{"Actual Size", "图标实际大小"};
-
 Button ToButton(Qt::MouseButton button) {
     if (button == Qt::LeftButton) return Button::Left;
     return button == Qt::RightButton ? Button::Right : Button::None;
 }
 
-// The drawing button that is held alone.
-Button ToHeldButton(Qt::MouseButtons held) {
-    if (held == Qt::LeftButton) return Button::Left;
-    return held == Qt::RightButton ? Button::Right : Button::None;
+editing::HeldButtons ToHeldButtons(Qt::MouseButtons held) {
+    return {held.testFlag(Qt::LeftButton), held.testFlag(Qt::RightButton)};
 }
 
 QCursor PencilCursor() {
@@ -43,13 +39,13 @@ void FrmIcoEd::ConnectGrid() {
         editor_.PicMain_MouseDown(ToButton(button), at.x(), at.y());
     };
     picMain_->onMouseMove = [this](Qt::MouseButtons held, QPoint at) {
-        editor_.PicMain_MouseMove(ToHeldButton(held), at.x(), at.y());
+        editor_.PicMain_MouseMove(ToHeldButtons(held), at.x(), at.y());
     };
     picMain_->onMouseUp = [this](Qt::MouseButton button, QPoint at) {
         editor_.PicMain_MouseUp(ToButton(button), at.x(), at.y());
     };
     picIcon_->onMouseMove = [this](Qt::MouseButtons /*held*/, QPoint /*at*/) {
-        SetStatusPanel(StatusPanel::Hint, kActualSize.Now());
+        SetStatusPanel(StatusPanel::Hint, i18n::kActualSize.Now());
     };
 }
 

@@ -1,9 +1,12 @@
 #include <qdrawutil.h>
+
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScreen>
+#include <array>
 
 #include "app/FrmIcoEd.h"
+#include "platform/qt/Text.h"
 
 namespace kestrel::app {
 
@@ -16,7 +19,7 @@ constexpr QSize kWindowSize(571, 457);
 constexpr QRect kMenuBar(0, 2, 565, 24);
 constexpr QPoint kPicMain(12, 69);
 constexpr QPoint kPicIcon(350, 69);
-constexpr QRect kLabel1(392, 68, 62, 34);
+constexpr QRect kLabel1(392, 70, 62, 34);
 constexpr QRect kStatusBar(2, 408, 561, 22);
 constexpr QRect kPicTools(458, 69, 92, 66);
 constexpr QRect kColorWells(344, 156, 208, 20);
@@ -25,7 +28,7 @@ constexpr QRect kPicPal(344, 184, 208, 208);
 constexpr QRect kPointerCell(371, 111, 60, 16);
 
 // Hint, pixel, cell, drag size, magnification.
-const std::vector<int> kPanelWidths{0, 84, 56, 56, 44};
+constexpr std::array kPanelWidths{0, 84, 56, 56, 44};
 
 constexpr int kFontPixels = 12;
 constexpr int kSmallFontPixels = 11;
@@ -104,7 +107,7 @@ void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void FrmIcoEd::PrintPointerCell(std::string_view text) {
-    const QString printed = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const QString printed = qt::ToText(text);
     if (printed == pointerCell_) return;
     pointerCell_ = printed;
     update(kPointerCell);

@@ -2,17 +2,15 @@
 #include <map>
 
 #include "app/FrmIcoEd.h"
+#include "i18n/Captions.h"
 #include "i18n/MenuTable.h"
+#include "platform/qt/Text.h"
 
 namespace kestrel::app {
 
 namespace {
 
-constexpr i18n::Text kLabel1{"32 * 32 True Color", "32 * 32 真彩色"};
-
-QString ToText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
+using qt::ToText;
 
 // A Chinese caption such as "(F) 文件" shows its letter in front; it opens the menu like an
 // underlined one.
@@ -38,8 +36,9 @@ void FrmIcoEd::BuildMenuBar() {
         } else {
             action = menus[item.parent]->addAction(QString());
             action->setShortcut(QKeySequence(ToText(item.shortcut)));
-            connect(action, &QAction::triggered, this,
-                    [this, key = item.key] { dispatch_.SmartMenuXP1_Click(key); });
+            connect(action, &QAction::triggered, this, [this, key = item.key] {
+                RunCommand([this, key] { dispatch_.SmartMenuXP1_Click(key); });
+            });
         }
         menuActions_.push_back(action);
     }
@@ -55,7 +54,7 @@ void FrmIcoEd::ApplyMenuCaptions() {
 void FrmIcoEd::ApplyMainCaptions() {
     // The place is narrow: the size on the first line, the depth below.
     label1_->setText(
-        ToText(kLabel1.Now()).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
+        ToText(i18n::kLabel1.Now()).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
 }
 
 // No Edit commands in the menu yet.

@@ -15,8 +15,6 @@ class Settings {
 
     std::string ReadSetting(std::string_view section, std::string_view key,
                             std::string_view otherwise);
-    // A failure is silent.
-    void WriteSetting(std::string_view section, std::string_view key, std::string_view value);
 
   private:
     const std::string& File();

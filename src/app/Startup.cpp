@@ -1,6 +1,7 @@
 #include "app/Startup.h"
 
 #include <array>
+#include <filesystem>
 
 #include "app/ApplicationIcon.h"
 #include "document/IcoFile.h"
@@ -94,8 +95,10 @@ std::string PathOfCommandLine(std::string_view commandLine) {
     const std::string typed(commandLine.substr(kOpen.size()));
     std::string proper = system::ProperCase(typed);
     // Where two files differ in letter case alone, the one that was typed is meant.
-    const std::string found = system::ResolvePath(proper);
-    return found == system::ResolvePath(typed) || found == proper ? proper : typed;
+    std::error_code ignored;
+    const bool otherFile = std::filesystem::exists(typed, ignored) &&
+                           system::ResolvePath(proper) != system::ResolvePath(typed);
+    return otherFile ? typed : proper;
 }
 
 }  // namespace kestrel::app

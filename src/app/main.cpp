@@ -19,21 +19,26 @@ namespace {
 
 using namespace kestrel;
 
-app::StartupFacts FactsOf(const QScreen& screen, bool anotherInstanceRuns) {
+app::StartupFacts FactsOf(const QScreen* screen, bool anotherInstanceRuns) {
     app::StartupFacts facts;
     facts.systemLcid = system::GetSystemDefaultLCID();
     facts.anotherInstanceRuns = anotherInstanceRuns;
-    facts.screenWidth = qRound(screen.size().width() * screen.devicePixelRatio());
-    facts.screenHeight = qRound(screen.size().height() * screen.devicePixelRatio());
-    facts.bitsPerPixel = screen.depth();
+    if (screen != nullptr) {
+        facts.screenWidth = qRound(screen->size().width() * screen->devicePixelRatio());
+        facts.screenHeight = qRound(screen->size().height() * screen->devicePixelRatio());
+        facts.bitsPerPixel = screen->depth();
+    }
     facts.applicationFolder = system::ApplicationFolder();
     facts.windowsDirectory = system::WindowsDirectory();
     return facts;
 }
 
-// The arguments as the one line that was typed.
-std::string CommandLine(const QStringList& arguments) {
-    return arguments.mid(1).join(QLatin1Char(' ')).toStdString();
+// The arguments as the one line that was typed, byte for byte: file names need not be UTF-8.
+std::string CommandLine(int argc, char* argv[]) {
+    std::string line;
+    for (int i = 1; i < argc; ++i)
+        line += (i > 1 ? " " : "") + std::string(argv[i]);
+    return line;
 }
 
 }  // namespace
@@ -54,14 +59,14 @@ int main(int argc, char* argv[]) {
     system::FileRegistry registry(files, system::ConfigFolder() + "/registry.txt");
     app::Settings settings(files);
     qt::QtMessageBoxes boxes;
-    const app::StartupFacts facts = FactsOf(*QGuiApplication::primaryScreen(), !lock);
+    const app::StartupFacts facts = FactsOf(QGuiApplication::primaryScreen(), !lock);
     if (!app::PrepareStart(facts, {boxes, registry, files, settings})) return 0;
 
     qt::QtFileDialogs cdb;
     app::FrmIcoEd window({boxes, cdb, files});
     boxes.SetOwner(&window);
     cdb.SetOwner(&window);
-    window.Form_Load(app::PathOfCommandLine(CommandLine(QApplication::arguments())));
+    window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv)));
     window.show();
     return QApplication::exec();
 }

@@ -62,7 +62,7 @@ class DocumentCommandsTest : public testing::Test {
     test::MemoryFiles files_;
     editing::Editor editor_{window_, 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
-    DocumentCommands commands_{editor_, window_, window_, cdb_, boxes_, files_};
+    DocumentCommands commands_{editor_, window_, cdb_, boxes_, files_};
 };
 
 TEST_F(DocumentCommandsTest, OpensByDialogAndByName) {
@@ -175,7 +175,7 @@ TEST_F(DocumentCommandsTest, SavesInPlaceAndUnderANewName) {
     EXPECT_EQ(cdb_.saves.at(0).fileName, "/icons/red.ico");
     EXPECT_EQ(icon_.FilePath, "/icons/other.ico");
     EXPECT_EQ(window_.title, "KestrelIconEditor - other.ico");
-    EXPECT_EQ(window_.hourglasses, 0);
+    EXPECT_EQ(window_.hourglasses, "on off on off ");
     const auto saved = icons::ReadBestImage(files_.contents.at("/icons/other.ico"));
     ASSERT_TRUE(saved);
     EXPECT_TRUE(saved->color.SamePixels(icon_.PicImage));
@@ -205,6 +205,12 @@ TEST_F(DocumentCommandsTest, WarnsBeforeReplacingSeveralIcons) {
     EXPECT_EQ(boxes_.shown.size(), 2U) << "one image now";
 }
 
+TEST_F(DocumentCommandsTest, ExitAsksTheWindowToClose) {
+    commands_.mnuExit_Click();
+    EXPECT_TRUE(window_.unloaded);
+    EXPECT_TRUE(boxes_.shown.empty()) << "the question is the window's";
+}
+
 TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
     files_.writeError = {28, "No space left on device"};
     Draw();
@@ -229,7 +235,7 @@ TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
     EXPECT_TRUE(icon_.MultipleIcons);
     EXPECT_FALSE(icon_.SaveSucceeded);
     EXPECT_FALSE(icon_.IsTransparent(9, 9));
-    EXPECT_EQ(window_.hourglasses, 0);
+    EXPECT_EQ(window_.hourglasses, "on off on off ");
 }
 
 }  // namespace

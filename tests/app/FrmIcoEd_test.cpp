@@ -32,12 +32,15 @@ class FrmIcoEdTest : public testing::Test {
     void Drop(const QList<QUrl>& urls) {
         QMimeData files;
         files.setUrls(urls);
-        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &files, Qt::LeftButton,
-                              Qt::NoModifier);
+        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction | Qt::MoveAction, &files,
+                              Qt::LeftButton, Qt::ShiftModifier);
         QApplication::sendEvent(&window_, &enter);
         ASSERT_TRUE(enter.isAccepted());
-        QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+        ASSERT_EQ(enter.proposedAction(), Qt::MoveAction);
+        QDropEvent drop(QPointF(50, 50), Qt::CopyAction | Qt::MoveAction, &files, Qt::LeftButton,
+                        Qt::ShiftModifier);
         QApplication::sendEvent(&window_, &drop);
+        EXPECT_EQ(drop.dropAction(), Qt::CopyAction) << "a moved file would be deleted";
         QApplication::processEvents();
     }
 
@@ -53,6 +56,8 @@ TEST_F(FrmIcoEdTest, StandsWhereAndAsItWasDesigned) {
     const QRect screen = window_.screen()->geometry();
     EXPECT_EQ(window_.pos(), QPoint((screen.width() - 571) / 2, (screen.height() - 457) / 3));
     EXPECT_EQ(Grid()->geometry(), QRect(12, 69, 321, 321));
+    EXPECT_EQ(window_.childAt(350, 69)->geometry(), QRect(350, 69, 32, 32));
+    EXPECT_EQ(window_.childAt(393, 72)->pos(), QPoint(392, 70));
     EXPECT_EQ(window_.StatusText(StatusPanel::Zoom), "10:1");
     EXPECT_FALSE(Icon().Modified);
 }
@@ -99,6 +104,7 @@ TEST_F(FrmIcoEdTest, ShortcutsReachTheirCommands) {
     QTest::keyClick(&window_, Qt::Key_N, Qt::ControlModifier);
     EXPECT_TRUE(Icon().IsUntitled());
     QTest::keyClick(&window_, Qt::Key_F4, Qt::AltModifier);
+    QApplication::processEvents();
     EXPECT_FALSE(window_.isVisible());
 }
 
@@ -109,6 +115,40 @@ TEST_F(FrmIcoEdTest, ClosingAsksAboutUnsavedChanges) {
     boxes_.answers = {Answer::No};
     window_.close();
     EXPECT_FALSE(window_.isVisible());
+}
+
+TEST_F(FrmIcoEdTest, ACommandEndsTheStrokeThatItInterrupts) {
+    QTest::mousePress(Grid(), Qt::LeftButton, {}, QPoint(25, 35));
+    QTest::keyClick(&window_, Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(boxes_.shown.size(), 1U) << "the stroke is a change to be saved";
+    EXPECT_FALSE(Icon().IsTransparent(2, 3)) << "the question was answered Cancel";
+    EXPECT_EQ(window_.OpenEditor().History().UndoCount(), 2U);
+}
+
+TEST_F(FrmIcoEdTest, CommandsWaitUntilADialogIsAnswered) {
+    QTest::mouseClick(Grid(), Qt::LeftButton, {}, QPoint(5, 5));
+    boxes_.whileShown = [this] {
+        Drop({QUrl::fromLocalFile(QStringLiteral("/icons/a.ico"))});
+        window_.close();
+    };
+    window_.close();
+    EXPECT_EQ(boxes_.shown.size(), 1U);
+    EXPECT_TRUE(Icon().IsUntitled());
+    EXPECT_TRUE(window_.isVisible());
+}
+
+TEST_F(FrmIcoEdTest, ThePreviewFollowsTheDesktopsColours) {
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(0x30, 0x20, 0x10));
+    QApplication::setPalette(dark);
+    QApplication::processEvents();
+    EXPECT_EQ(window_.OpenEditor().Views().PicIcon.GetPixel(0, 0), 0x102030U);
+    dark.setColor(QPalette::Window, Qt::white);
+    QApplication::setPalette(dark);
+    QApplication::processEvents();
+    EXPECT_EQ(window_.OpenEditor().Views().PicIcon.GetPixel(0, 0), 0xF0F0F0U);
+    EXPECT_EQ(window_.palette().color(QPalette::Window), QColor(0xF0, 0xF0, 0xF0));
+    QApplication::setPalette(QPalette());
 }
 
 TEST_F(FrmIcoEdTest, ADropOpensTheFirstFileAndGuardsTheGridForAMoment) {

@@ -11,6 +11,7 @@
 #include "document/IcoFile.h"
 #include "i18n/Language.h"
 #include "platform/system/DiskFiles.h"
+#include "platform/system/Folders.h"
 #include "tests/support/Recorders.h"
 
 namespace kestrel::app {
@@ -73,6 +74,20 @@ TEST_F(StartupTest, ChoosesTheLanguageByLocaleAndMakesTheWindowsFolder) {
     }
     EXPECT_EQ(files_.contents.at(facts_.windowsDirectory + "/kestrel.ico").size(), 3262U);
     EXPECT_TRUE(boxes_.shown.empty());
+}
+
+TEST_F(StartupTest, TheLanguageChosenLastReplacesTheLocales) {
+    const std::string folder = system::CanWriteIn(system::ApplicationFolder())
+                                   ? system::ApplicationFolder()
+                                   : system::ConfigFolder();
+    const std::string text = "[Settings]\r\nLanguage=CHS\r\n";
+    files_.contents[folder + "/" + system::ExecutableName() + ".ini"] = {text.begin(), text.end()};
+    facts_.anotherInstanceRuns = true;
+    EXPECT_FALSE(PrepareStart(facts_, services_));
+    EXPECT_EQ(boxes_.shown.at(0).title, "error!") << "the checks speak the locale's language";
+    facts_.anotherInstanceRuns = false;
+    EXPECT_TRUE(PrepareStart(facts_, services_));
+    EXPECT_EQ(i18n::UiLanguage(), "CHS");
 }
 
 TEST_F(StartupTest, FailedChecksEndTheStartWithTheirMessage) {
@@ -155,6 +170,8 @@ TEST_F(StartupTest, CommandLineNamesAFileInProperCase) {
     std::ofstream(folder / "bird.ico");
     const std::string typed = (folder / "bird.ico").string();
     EXPECT_TRUE(PathOfCommandLine("/open " + typed).ends_with("/Bird.ico"));
+    const std::string missing = (folder / "none.ico").string();
+    EXPECT_TRUE(PathOfCommandLine("/open " + missing).ends_with("/None.ico"));
     std::ofstream(folder / "Bird.ico");
     EXPECT_TRUE(PathOfCommandLine("/open " + typed).ends_with("/bird.ico"));
     std::filesystem::remove_all(folder);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -26,11 +27,11 @@ class RecordingWindow : public editing::EditorWindow, public app::DocumentWindow
     }
     void PrintPointerCell(std::string_view text) override { printedCell = text; }
     void SetGridCursor(editing::GridCursor shape) override { cursor = shape; }
-    void RefreshEditCommands() override { ++refreshes; }
+    void RefreshEditCommands() override {}
 
     void EnableGrid(bool enabled) override { gridEnabled = enabled; }
     void StartTmr() override { tmrStarted = true; }
-    void ShowHourglass(bool shown) override { hourglasses += shown ? 1 : -1; }
+    void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
     void ProcessPendingEvents() override {}
     void Unload() override { unloaded = true; }
 
@@ -39,10 +40,9 @@ class RecordingWindow : public editing::EditorWindow, public app::DocumentWindow
     std::map<int, std::string> panels;
     std::string printedCell;
     editing::GridCursor cursor = editing::GridCursor::Cross;
-    int refreshes = 0;
     bool gridEnabled = true;
     bool tmrStarted = false;
-    int hourglasses = 0;
+    std::string hourglasses;
     bool unloaded = false;
 };
 
@@ -59,6 +59,7 @@ class ScriptedBoxes : public dialogs::MessageBoxes {
     dialogs::Answer Show(dialogs::BoxIcon icon, dialogs::BoxButtons buttons,
                          const std::string& text, const std::string& title) override {
         shown.push_back({icon, buttons, text, title});
+        if (whileShown) whileShown();
         if (answers.empty()) return dialogs::Answer::Cancel;
         const dialogs::Answer answer = answers.front();
         answers.pop_front();
@@ -66,6 +67,8 @@ class ScriptedBoxes : public dialogs::MessageBoxes {
     }
 
     std::deque<dialogs::Answer> answers;
+    // What happens while a box waits.
+    std::function<void()> whileShown;
     std::vector<Shown> shown;
 };
 
