@@ -24,6 +24,7 @@ started=()
 evidence=${KESTREL_EVIDENCE-}
 
 Fail() {
+    set +e # Whatever can still be told is told.
     echo "FAILED: $*" >&2
     if [[ -n $displayServer ]]; then
         evidence=${evidence:-$(mktemp -d)}
@@ -31,7 +32,7 @@ Fail() {
         xprop -root -notype _NET_CLIENT_LIST | grep -o '0x[0-9a-f]*' |
             xargs -rn1 xdotool getwindowname | sed 's/^/window: /' >&2
     fi
-    [[ ! -s $scratch/editor.log ]] || sed 's/^/editor: /' "$scratch/editor.log" >&2
+    sed 's/^/program: /' "$scratch/editor.log" >&2
     exit 1
 }
 
