@@ -3,7 +3,6 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QRegularExpression>
 
 #include "platform/system/PathText.h"
 
@@ -27,77 +26,81 @@ QStringList NameFilters(const std::string& filter) {
     return filters;
 }
 
-bool Exists(const QString& path) {
-    return QFileInfo::exists(path);
-}
-
-QMessageBox::StandardButton Tell(QFileDialog& dialog, const char* sentence, const QString& name,
-                                 QMessageBox::StandardButtons buttons) {
-    QMessageBox box(QMessageBox::Warning, dialog.windowTitle(),
-                    QFileDialog::tr(sentence).arg(QDir::toNativeSeparators(name)), buttons,
-                    &dialog);
-    box.setTextFormat(Qt::PlainText);
-    return static_cast<QMessageBox::StandardButton>(box.exec());
-}
-
-// Whether the user may have this name for saving; says why not.
-bool MaySaveAs(QFileDialog& dialog, const FileRequest& request, const QString& path) {
-    const QFileInfo chosen(path);
-    // The desktop library takes quotes as marks between several names.
-    const auto* typed = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    const bool quoted = typed != nullptr && typed->text().contains(QLatin1Char('"'));
-    const bool wildcards =
-        !Exists(path) && chosen.fileName().contains(QRegularExpression(QStringLiteral("[*?]")));
-    if (quoted || wildcards) {
-        Tell(dialog, QT_TR_NOOP("%1\nThe file name is not valid."),
-             quoted ? typed->text() : chosen.fileName(), QMessageBox::Ok);
-        return false;
-    }
-    if (request.pathMustExist && !chosen.absoluteDir().exists()) {
-        Tell(dialog,
-             QT_TR_NOOP("%1\nDirectory not found.\nPlease verify the correct directory name was "
-                        "given."),
-             chosen.absolutePath(), QMessageBox::Ok);
-        return false;
-    }
-    if (!request.overwritePrompt || !Exists(path)) return true;
-    return Tell(dialog, QT_TR_NOOP("%1 already exists.\nDo you want to replace it?"),
-                chosen.fileName(), QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
-}
-
-bool MayOpen(QFileDialog& dialog, const FileRequest& request, const QString& path) {
-    if (!request.fileMustExist || Exists(path)) return true;
-    Tell(dialog, QT_TR_NOOP("%1\nFile not found.\nPlease verify the correct file name was given."),
-         QFileInfo(path).fileName(), QMessageBox::Ok);
-    return false;
-}
-
-// The name that was chosen, as it is spelled on the disk; empty when the dialog was closed.
-QString Choose(QFileDialog& dialog, const FileRequest& request) {
-    while (dialog.exec() == QDialog::Accepted) {
-        const std::string chosen = dialog.selectedFiles().value(0).toStdString();
-        const QString path = QString::fromStdString(system::ResolvePath(chosen));
-        const bool opens = dialog.acceptMode() == QFileDialog::AcceptOpen;
-        if (opens ? MayOpen(dialog, request, path) : MaySaveAs(dialog, request, path)) {
-            return path;
+// Qt's own dialog in every desktop: it asks about names by the rules of this program, where names
+// in other letter case are known to be the same file, and it speaks the program's language.
+class NameCheckingDialog : public QFileDialog {
+  public:
+    NameCheckingDialog(QWidget* owner, const FileRequest& request)
+        : QFileDialog(owner, QString::fromStdString(request.title)), request_(request) {
+        setOption(QFileDialog::DontUseNativeDialog);
+        setOption(QFileDialog::DontConfirmOverwrite);
+        setFileMode(QFileDialog::AnyFile);
+        setNameFilters(NameFilters(request.filter));
+        selectNameFilter(nameFilters().value(request.filterIndex - 1));
+        setDefaultSuffix(QString::fromStdString(request.defaultExtension));
+        // A path may differ in letter case from the file it names; a mere name is only a proposal.
+        if (const std::string& name = request.fileName; !name.empty()) {
+            const bool isPath = !system::FolderOf(name).empty();
+            selectFile(QString::fromStdString(isPath ? system::ResolvePath(name) : name));
         }
     }
-    return {};
-}
 
-Result<ChosenFile> Run(QFileDialog& dialog, const FileRequest& request) {
-    dialog.setNameFilters(NameFilters(request.filter));
-    dialog.selectNameFilter(dialog.nameFilters().value(request.filterIndex - 1));
-    dialog.setDefaultSuffix(QString::fromStdString(request.defaultExtension));
-    // Names are checked here, where those in other letter case are known to be the same file.
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    // A path may differ in letter case from the file it names; a mere name is only a proposal.
-    if (const std::string& name = request.fileName; !name.empty()) {
-        const bool isPath = !system::FolderOf(name).empty();
-        dialog.selectFile(QString::fromStdString(isPath ? system::ResolvePath(name) : name));
+    // The name that was chosen, as it is spelled on the disk.
+    QString ChosenPath() const {
+        const std::string chosen = selectedFiles().value(0).toStdString();
+        return QString::fromStdString(system::ResolvePath(chosen));
     }
-    const QString path = Choose(dialog, request);
+
+  protected:
+    void accept() override {
+        const QFileInfo chosen(ChosenPath());
+        const bool isFolder = chosen.isDir();  // the dialog goes there
+        const bool opens = acceptMode() == AcceptOpen;
+        if (isFolder || (opens ? MayOpen(chosen) : MaySaveAs(chosen))) QFileDialog::accept();
+    }
+
+  private:
+    bool MayOpen(const QFileInfo& chosen) {
+        if (!request_.fileMustExist || chosen.exists()) return true;
+        Tell(tr("%1\nFile not found.\nPlease verify the correct file name was given."),
+             chosen.fileName());
+        return false;
+    }
+
+    bool MaySaveAs(const QFileInfo& chosen) {
+        // The library takes quotes as marks between several names.
+        const auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        const QString typed = edit == nullptr ? chosen.fileName() : edit->text();
+        const bool wildcards = typed.contains(QLatin1Char('*')) || typed.contains(QLatin1Char('?'));
+        if (typed.contains(QLatin1Char('"')) || (wildcards && !chosen.exists())) {
+            Tell(tr("%1\nThe file name is not valid."), typed);
+            return false;
+        }
+        if (request_.pathMustExist && !chosen.absoluteDir().exists()) {
+            Tell(
+                tr("%1\nDirectory not found.\nPlease verify the correct directory name was given."),
+                chosen.absolutePath());
+            return false;
+        }
+        return !request_.overwritePrompt || !chosen.exists() ||
+               Tell(tr("%1 already exists.\nDo you want to replace it?"), chosen.fileName(),
+                    QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    }
+
+    int Tell(const QString& sentence, const QString& name,
+             QMessageBox::StandardButtons buttons = QMessageBox::Ok) {
+        QMessageBox box(QMessageBox::Warning, windowTitle(), sentence.arg(name), buttons, this);
+        box.setTextFormat(Qt::PlainText);
+        return box.exec();
+    }
+
+    const FileRequest& request_;
+};
+
+Result<ChosenFile> Run(QFileDialog::AcceptMode mode, const FileRequest& request, QWidget* owner) {
+    NameCheckingDialog dialog(owner, request);
+    dialog.setAcceptMode(mode);
+    const QString path = dialog.exec() == QDialog::Accepted ? dialog.ChosenPath() : QString();
     if (path.isEmpty()) return Fail(kDialogCancelled, "Cancel was selected");
     return ChosenFile{path.toStdString(), QFileInfo(path).fileName().toStdString()};
 }
@@ -105,15 +108,11 @@ Result<ChosenFile> Run(QFileDialog& dialog, const FileRequest& request) {
 }  // namespace
 
 Result<ChosenFile> QtFileDialogs::ShowOpen(const FileRequest& request) {
-    QFileDialog dialog(owner_, QString::fromStdString(request.title));
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    return Run(dialog, request);
+    return Run(QFileDialog::AcceptOpen, request, owner_);
 }
 
 Result<ChosenFile> QtFileDialogs::ShowSave(const FileRequest& request) {
-    QFileDialog dialog(owner_, QString::fromStdString(request.title));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    return Run(dialog, request);
+    return Run(QFileDialog::AcceptSave, request, owner_);
 }
 
 }  // namespace kestrel::qt
