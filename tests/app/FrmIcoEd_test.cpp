@@ -165,9 +165,3 @@ TEST_F(FrmIcoEdTest, ADropOpensTheFirstFileAndGuardsTheGridForAMoment) {
 
 }  // namespace
 }  // namespace kestrel::app
-
-int main(int argc, char* argv[]) {
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -1,0 +1,116 @@
+#include "platform/qt/QtFileDialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFile>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QtTest/QTest>
+
+namespace kestrel::qt {
+namespace {
+
+// A user at the keyboard: types names into the file dialog, one after the other, and answers every
+// box that comes up in between.
+class Typist {
+  public:
+    Typist(QStringList names, QMessageBox::StandardButton answer)
+        : names_(std::move(names)), answer_(answer) {
+        Wait();
+    }
+    QStringList boxes;
+
+  private:
+    void Wait() {
+        QTimer::singleShot(kPause, &life_, [this] { Act(); });
+    }
+    void Act() {
+        Wait();  // a key may open a box, which only comes back when it is answered
+        QWidget* front = QApplication::activeModalWidget();
+        if (auto* box = qobject_cast<QMessageBox*>(front)) {
+            boxes << box->text();
+            const bool asks = box->buttons().size() > 1;
+            box->button(asks ? answer_ : QMessageBox::Ok)->click();
+        } else if (front != nullptr && names_.isEmpty()) {
+            QTest::keyClick(front, Qt::Key_Escape);
+        } else if (front != nullptr) {
+            auto* edit = front->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            edit->setText(names_.takeFirst());
+            QTest::keyClick(edit, Qt::Key_Return);
+        }
+    }
+
+    // Milliseconds: the dialog has read its folder by then.
+    static constexpr int kPause = 120;
+    QStringList names_;
+    QMessageBox::StandardButton answer_;
+    QObject life_;
+};
+
+class QtFileDialogsTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        for (const char* name : {"bird.ico", "st*r.ico"}) {
+            QFile file(folder_.filePath(QString::fromUtf8(name)));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        }
+        request_.title = "Title";
+        request_.filter = "Icon Files (*.ico)|*.ico";
+        request_.defaultExtension = ".ico";
+        request_.fileMustExist = request_.overwritePrompt = request_.pathMustExist = true;
+        request_.fileName = folder_.filePath(QStringLiteral("bird.ico")).toStdString();
+    }
+
+    QTemporaryDir folder_;
+    dialogs::FileRequest request_;
+    QtFileDialogs dialogs_;
+};
+
+TEST_F(QtFileDialogsTest, SavingChecksNamesAndAsksBeforeReplacing) {
+    struct {
+        const char* typed;
+        QMessageBox::StandardButton answer;
+        const char* box;     // how its text goes on after the name; empty for no box
+        const char* chosen;  // empty: the dialog stayed
+    } const cases[] = {
+        {"new", QMessageBox::No, "", "new.ico"},
+        {"bird.ico", QMessageBox::No, " already exists.", ""},
+        {"bird.ico", QMessageBox::Yes, " already exists.", "bird.ico"},
+        {"BIRD.Ico", QMessageBox::No, " already exists.", ""},
+        {"BIRD.Ico", QMessageBox::Yes, " already exists.", "bird.ico"},
+        {"*.ico", QMessageBox::Yes, "\nThe file name is not valid.", ""},
+        {"what?", QMessageBox::Yes, "\nThe file name is not valid.", ""},
+        {"a\"b\".ico", QMessageBox::Yes, "\nThe file name is not valid.", ""},
+        {"st*r.ico", QMessageBox::Yes, " already exists.", "st*r.ico"},
+        {"<b>gone/new.ico", QMessageBox::Yes, "\nDirectory not found.", ""},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.typed);
+        Typist typist({QString::fromUtf8(c.typed)}, c.answer);
+        const auto file = dialogs_.ShowSave(request_);
+        const std::string path = folder_.filePath(QString::fromUtf8(c.chosen)).toStdString();
+        EXPECT_EQ(file ? file->path : "", *c.chosen == '\0' ? "" : path);
+        const QString said = typist.boxes.join(QLatin1Char('|'));
+        EXPECT_EQ(typist.boxes.size(), *c.box == '\0' ? 0 : 1);
+        EXPECT_TRUE(said.contains(QString::fromUtf8(c.box))) << said.toStdString();
+    }
+}
+
+TEST_F(QtFileDialogsTest, OpeningFindsFilesInOtherLetterCase) {
+    Typist typist({folder_.filePath(QStringLiteral("none.ico")),
+                   folder_.filePath(QStringLiteral("Bird.ICO"))},
+                  QMessageBox::No);
+    request_.fileName.clear();
+    const auto file = dialogs_.ShowOpen(request_);
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->fileTitle, "bird.ico");
+    ASSERT_EQ(typist.boxes.size(), 1);
+    EXPECT_TRUE(typist.boxes[0].startsWith(QStringLiteral("none.ico\nFile not found.")));
+}
+
+}  // namespace
+}  // namespace kestrel::qt
