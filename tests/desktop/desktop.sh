@@ -104,8 +104,12 @@ HasKeyboard() {
     [[ ${title,,} == ${1,,} ]]
 }
 
-IsInFront() { [[ $(xdotool getactivewindow 2>/dev/null) == "$1" ]]; }
-IsNotInFront() { ! IsInFront "$1"; }
+# A file dialog and the box that complains about a name in it bear the same title, but not the same
+# height.
+HasDialog() { HasKeyboard "$1" && [[ $(WindowHeight) -gt 300 ]]; }
+HasBox() { HasKeyboard "$1" && [[ $(WindowHeight) -lt 300 ]]; }
+WindowHeight() { xwininfo -id "$window" 2>/dev/null | awk '/Height:/ {print $NF}'; }
+
 IsNotTitled() { ! IsWindowTitled "$1"; }
 WaitForNoWindow() { WaitFor "$kPatience" IsNotTitled "$1" || Fail "the window \"$1\" stays"; }
 
@@ -200,7 +204,7 @@ BoxText() {
 
 # ExpectBox <title> <text pattern>: a message box with this title and text is in front.
 ExpectBox() {
-    WaitForWindow "$1"
+    WaitFor "$kPatience" HasBox "$1" || Fail "no box \"$1\" came to the front"
     boxPattern=$2
     WaitFor "$kPatience" BoxSays || Fail "the box \"$1\" says \"$(BoxText)\", not \"$2\""
 }
@@ -212,7 +216,7 @@ BoxSays() {
 
 # AnswerDialog <title> <path>: types the path into the file dialog in front and accepts it.
 AnswerDialog() {
-    WaitForWindow "$1"
+    WaitFor "$kPatience" HasDialog "$1" || Fail "no dialog \"$1\" came to the front"
     Press ctrl+a
     Type "$2"
     Press Return

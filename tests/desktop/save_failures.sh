@@ -53,15 +53,13 @@ ExpectRefusal "$files/elsewhere/Lost.ico" Lost.ico 'No such file or directory'
 # The dialog takes no folder that is missing.
 OpenAndDraw "$files/Old.ico"
 Press ctrl+shift+s
-WaitForWindow 'KestrelIconEditor - Save As'
-dialog=$window
+WaitFor "$kPatience" HasDialog 'KestrelIconEditor - Save As' || Fail "no dialog to save"
 Press ctrl+a
 Type "$files/missing/New.ico"
 Press Return
-WaitFor "$kPatience" IsNotInFront "$dialog" || Fail "no complaint about the missing folder"
 ExpectBox 'KestrelIconEditor - Save As' '*Directory not found*'
 Press Return
-WaitFor "$kPatience" IsInFront "$dialog" || Fail "the dialog did not stay"
+WaitFor "$kPatience" HasDialog 'KestrelIconEditor - Save As' || Fail "the dialog did not come back"
 Press Escape
 ExpectUnsaved "$files/Old.ico" Old.ico
 
