@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <climits>
+#include <cmath>
 #include <cstdlib>
+#include <utility>
 
 #include "platform/gdi/Blit.h"
 #include "tests/support/PictureText.h"
@@ -13,157 +15,186 @@ namespace {
 using test::ComparePicture;
 using test::kBlackOnWhite;
 
-TEST(Line, RunsOnePixelAStepWithinHalfAPixelOfTheTrueLine) {
-    for (int end = 0; end < 19 * 19; ++end) {
-        const int dx = end % 19 - 9;
-        const int dy = end / 19 - 9;
-        SCOPED_TRACE(testing::Message() << dx << ", " << dy);
-        Surface target(19, 19);
-        target.state.drawMode = DrawMode::Invert;
-        DrawLine(target, 9, 9, 9 + dx, 9 + dy, kBlack);
-        // Each step, the end left out, finds one pixel close to where the true line is.
-        const int length = std::max(std::abs(dx), std::abs(dy));
-        Surface rest = target;
-        for (int i = 0; i < length; ++i) {
-            int hits = 0;
-            for (int pixel = 0; pixel < 19 * 19; ++pixel) {
-                const int x = pixel % 19;
-                const int y = pixel / 19;
-                const int away = std::max(std::abs((x - 9) * length - i * dx),
-                                          std::abs((y - 9) * length - i * dy));
-                if (2 * away > length || rest.GetPixel(x, y) == kWhite) continue;
-                rest.SetPixel(x, y, kWhite);
-                ++hits;
-            }
-            EXPECT_EQ(hits, 1) << "step " << i;
-        }
-        EXPECT_TRUE(rest.SamePixels(Surface(19, 19)));
-        DrawLine(target, 9, 9, 9 + dx, 9 + dy, kBlack);
-        EXPECT_TRUE(target.SamePixels(Surface(19, 19)));
+int StepOf(const Surface& target) {
+    return target.state.lineStyle == LineStyle::Dot ? 2 : 1;
+}
+
+// Divides for every step; half way between two pixels counts to the one nearer to the start.
+void SlowLine(Surface& target, int x1, int y1, int x2, int y2, COLORREF color) {
+    const int length = std::max(std::abs(x2 - x1), std::abs(y2 - y1));
+    for (int i = 0; i < length; i += StepOf(target)) {
+        const auto at = [&](int from, int to) {
+            const int way = (2 * std::abs(to - from) * i + length - 1) / (2 * length);
+            return to < from ? from - way : from + way;
+        };
+        target.SetPixel(at(x1, x2), at(y1, y2), color);
     }
 }
 
-TEST(Line, HalfWayPixelsStayWithTheStartAndDotsAreEverySecondStep) {
-    Surface target(8, 5);
+// All pixels of a box, or of its outline those at an even distance from the top left corner.
+template <bool filled>
+void SlowBox(Surface& target, int x1, int y1, int x2, int y2, COLORREF color) {
+    const auto [left, right] = std::minmax(x1, x2);
+    const auto [top, bottom] = std::minmax(y1, y2);
+    for (int y = top; y <= bottom; ++y) {
+        for (int x = left; x <= right; ++x) {
+            const bool rim = x == left || x == right || y == top || y == bottom;
+            const bool dot = (x - left + y - top) % StepOf(target) == 0;
+            if (filled || (rim && dot)) target.SetPixel(x, y, color);
+        }
+    }
+}
+
+using Figure = void (*)(Surface&, int, int, int, int, COLORREF);
+
+// In invert mode a pixel that is touched twice shows.
+void ExpectAgreesWithTwin(Figure fast, Figure slow, LineStyle style) {
+    Surface blank(17, 13);
+    blank.state.drawMode = DrawMode::Invert;
+    blank.state.lineStyle = style;
+    for (const auto& [x1, y1] : {std::pair{8, 6}, {0, 12}, {-37, 5}, {3, -30}, {40, 31}}) {
+        for (int end = 0; end < 25 * 21; ++end) {
+            const int x2 = end % 25 - 4;
+            const int y2 = end / 25 - 4;
+            Surface target = blank;
+            Surface expected = blank;
+            fast(target, x1, y1, x2, y2, kBlack);
+            slow(expected, x1, y1, x2, y2, kBlack);
+            ASSERT_TRUE(ComparePicture(target, expected))
+                << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
+        }
+    }
+}
+
+TEST(Draw, AgreesWithSlowTwinsInEveryDirectionAndWhereItIsCut) {
+    for (const LineStyle style : {LineStyle::Solid, LineStyle::Dot}) {
+        ExpectAgreesWithTwin(DrawLine, SlowLine, style);
+        ExpectAgreesWithTwin(DrawBox, SlowBox<false>, style);
+        ExpectAgreesWithTwin(FillBox, SlowBox<true>, style);
+    }
+}
+
+TEST(Draw, HalfWayPixelsStayWithTheStartAndEndsOfIntAreDrawn) {
+    Surface target(12, 5);
     DrawLine(target, 0, 0, 4, 2, kBlack);
     DrawLine(target, 4, 4, 0, 2, kBlack);
+    DrawLine(target, INT_MAX, 2, INT_MIN, 2, kBlack);
     target.state.lineStyle = LineStyle::Dot;
-    DrawLine(target, 5, 0, 5, 5, kBlack);
-    DrawLine(target, 7, 3, 7, 0, kBlack);
+    DrawBox(target, 7, -3, INT_MAX, 1, kBlack);
+    DrawBox(target, INT_MIN, INT_MAX, 10, INT_MIN, kBlack);
+    FillBox(target, 11, 4, INT_MAX, INT_MAX, kBlack);
     EXPECT_PICTURE(target, kBlackOnWhite, R"(
-        # # . . . # . .
-        . . # # . . . #
-        . . . . . # . .
-        . # # . . . . #
-        . . . # # # . .)");
-}
-
-TEST(Line, FarEndsAreCutWithoutBendingTheLine) {
-    const int table[][4] = {{-37, 5, 60, 31}, {60, 31, -37, 5},   {3, -90, 17, 77},
-                            {17, 77, 3, -90}, {-80, 99, 99, -80}, {-50, 4, 99, 4},
-                            {4, 99, 4, -50},  {-9, 30, 30, 90}};
-    for (const auto& [x1, y1, x2, y2] : table) {
-        Surface big(200, 200);
-        Surface cut(20, 20);
-        big.state.lineStyle = cut.state.lineStyle = LineStyle::Dot;
-        DrawLine(big, x1 + 100, y1 + 100, x2 + 100, y2 + 100, kBlack);
-        DrawLine(cut, x1, y1, x2, y2, kBlack);
-        Surface expected(20, 20);
-        BitBlt(expected, 0, 0, 20, 20, big, 100, 100, RasterOp::Copy);
-        EXPECT_TRUE(ComparePicture(cut, expected)) << x1 << ", " << y1;
-    }
-    Surface target(4, 4);
-    DrawLine(target, INT_MIN, INT_MIN, INT_MAX, INT_MAX, kBlack);
-    DrawLine(target, INT_MAX, 1, INT_MIN, 1, kBlack);
-    DrawLine(target, INT_MIN, INT_MAX, INT_MAX, INT_MAX, kBlack);
-    EXPECT_PICTURE(target, kBlackOnWhite, "# . . .\n # # # #\n . . # .\n . . . #");
-}
-
-TEST(Box, TouchesEachPixelOnceFromAnyCornerInEverySize) {
-    for (int size = 0; size < 5 * 5 * 4; ++size) {
-        const int right = 2 + size % 5;
-        const int bottom = 2 + size / 5 % 5;
-        const int x1 = size / 25 % 2 == 0 ? 2 : right;
-        const int y1 = size / 50 == 0 ? 2 : bottom;
-        Surface outline(9, 9);
-        Surface inside(9, 9);
-        for (int y = 2; y <= bottom; ++y) {
-            for (int x = 2; x <= right; ++x) {
-                const bool rim = x == 2 || y == 2 || x == right || y == bottom;
-                (rim ? outline : inside).SetPixel(x, y, kBlack);
-            }
-        }
-        Surface target(9, 9);
-        DrawBox(target, x1, y1, right + 2 - x1, bottom + 2 - y1, kBlack);
-        EXPECT_TRUE(ComparePicture(target, outline));
-        target.state.drawMode = DrawMode::Invert;
-        FillBox(target, x1, y1, right + 2 - x1, bottom + 2 - y1, kBlack);
-        EXPECT_TRUE(ComparePicture(target, inside));
-        DrawBox(target, x1, y1, right + 2 - x1, bottom + 2 - y1, kBlack);
-        FillBox(target, INT_MIN, INT_MAX, INT_MAX, INT_MIN, kBlack);
-        FillBox(target, INT_MAX, -9, -9, INT_MAX, kBlack);
-        DrawBox(target, x1, y1, right + 2 - x1, bottom + 2 - y1, kBlack);
-        EXPECT_TRUE(ComparePicture(target, inside));
-    }
-}
-
-TEST(Box, DotsGoRoundTheOutlineInStepAlsoWhenCut) {
-    Surface target(24, 6);
-    target.state.lineStyle = LineStyle::Dot;
-    target.state.drawMode = DrawMode::Invert;
-    DrawBox(target, 4, 3, 0, 0, kBlack);
-    DrawBox(target, 6, 0, 9, 4, kBlack);
-    DrawBox(target, 11, 5, 11, 1, kBlack);
-    DrawBox(target, 13, 2, 15, 2, kBlack);
-    DrawBox(target, 17, -3, INT_MAX, 3, kBlack);
-    DrawBox(target, 22, INT_MIN, 20, INT_MAX, kBlack);
-    DrawBox(target, INT_MIN, 5, 3, INT_MAX, kBlack);
-    EXPECT_PICTURE(target, kBlackOnWhite, R"(
-        # . # . # . # . # . . . . . . . . . . . # . # .
-        . . . . . . . . . # . # . . . . . # . . . . . .
-        # . . . # . # . . . . . . # . # . . . . # . # .
-        . # . # . . . . . # . # . . . . . # . # . # . #
-        . . . . . . # . # . . . . . . . . . . . # . # .
-        # . # . . . . . . . . # . . . . . . . . . . . .)");
+        # # . . . . . . . . # .
+        . . # # . . . # . # . #
+        # # # # # # # # # # # #
+        . # # . . . . . . . . .
+        . . . # # . . . . . # #)");
 }
 
 TEST(Edge, ShadowLeftAndTopHighlightRightAndBottom) {
     static constexpr test::Inks kInks = {{'s', 0x808080}, {'h', kWhite}, {'.', 0xC0C0C0}};
-    Surface target(11, 4, 0xC0C0C0);
+    Surface target(6, 3, 0xC0C0C0);
     target.state.drawMode = DrawMode::Invert;
-    DrawSunkenEdge(target, 0, 0, 4, 4);
-    DrawSunkenEdge(target, 5, 0, 12, 2);
-    DrawSunkenEdge(target, 5, 3, 6, 4);
-    DrawSunkenEdge(target, 7, 3, 7, 4);
-    EXPECT_PICTURE(target, kInks, R"(
-        s s s h . s s s s s s
-        s . . h . h h h h h h
-        s . . h . . . . . . .
-        h h h h . h . . . . .)");
+    DrawSunkenEdge(target, 0, 0, 3, 3);
+    DrawSunkenEdge(target, 4, 0, 9, 2);
+    DrawSunkenEdge(target, 4, 2, 4, 3);
+    EXPECT_PICTURE(target, kInks, "s s h . s s\n s . h . h h\n h h h . . .");
     EXPECT_EQ(target.state.drawMode, DrawMode::Invert);
 }
 
 TEST(Flood, PaintsWhatHangsTogetherBySides) {
     static constexpr test::Inks kInks = {{'#', kBlack}, {'.', kWhite}, {'r', 0x0000FF}};
-    Surface target = ReadPixelArt(R"(
-        . # . . . . . #
-        . # . # # # . #
-        . # . # . # . #
-        . . . # . . # .
-        # # # # # # . .)",
-                                  kInks);
-    const Surface before = target;
-    FloodFillSurface(target, 6, 2, kWhite, kWhite);
-    FloodFillSurface(target, 6, 2, kBlack, kWhite);
+    Surface target = ReadPixelArt(". # . . .\n . # . # .\n . . . # .\n # # # . #", kInks);
+    FloodFillSurface(target, 3, 0, kWhite, kWhite);
+    FloodFillSurface(target, 3, 0, kBlack, 0x0000FF);
     FloodFillSurface(target, -1, 2, CLR_INVALID, kBlack);
-    EXPECT_TRUE(ComparePicture(target, before));
-    FloodFillSurface(target, 6, 2, kWhite, 0x0000FF);
-    EXPECT_PICTURE(target, kInks, R"(
-        r # r r r r r #
-        r # r # # # r #
-        r # r # . # r #
-        r r r # . . # .
-        # # # # # # . .)");
+    FloodFillSurface(target, 3, 0, kWhite, 0x0000FF);
+    EXPECT_PICTURE(target, kInks, "r # r r r\n r # r # r\n r r r # r\n # # # . #");
+}
+
+constexpr COLORREF kInside = 0x0000FF;
+constexpr test::Inks kInks = {{'#', kBlack}, {'o', kInside}, {'.', kWhite}};
+
+// The box at (1, 1) on a surface that leaves one pixel free all round.
+Surface Drawn(int width, int height, FillStyle fill, DrawMode mode = DrawMode::CopyPen) {
+    Surface target(width + 2, height + 2);
+    target.state = {kBlack, kInside, mode, LineStyle::Solid, fill};
+    Ellipse(target, 1, 1, width + 1, height + 1);
+    return target;
+}
+
+// Covered pixels touch the ellipse of the box; uncovered ones are at most one pixel inside it.
+bool KeepsToTheCurve(const Surface& filled, int x, int y) {
+    const double a = (filled.Width() - 2) / 2.0;
+    const double b = (filled.Height() - 2) / 2.0;
+    const double dx = std::abs(x + 0.5 - filled.Width() / 2.0);
+    const double dy = std::abs(y + 0.5 - filled.Height() / 2.0);
+    if (filled.GetPixel(x, y) == kWhite)
+        return a <= 1 || b <= 1 || std::hypot(dx / (a - 1), dy / (b - 1)) >= 1;
+    return std::hypot(std::max(dx - 0.5, 0.0) / a, std::max(dy - 0.5, 0.0) / b) < 1;
+}
+
+// An outline pixel has a side where nothing is covered, an inner one has none: thin and closed.
+bool IsOutlineWhereItEnds(const Surface& filled, int x, int y) {
+    bool ends = false;
+    for (const auto& [sideX, sideY] : {std::pair{x - 1, y}, {x + 1, y}, {x, y - 1}, {x, y + 1}})
+        ends = ends || filled.GetPixel(sideX, sideY) == kWhite;
+    const COLORREF pixel = filled.GetPixel(x, y);
+    return pixel == kWhite || pixel == (ends ? kBlack : kInside);
+}
+
+void CheckEllipse(int width, int height) {
+    SCOPED_TRACE(testing::Message() << width << " x " << height);
+    const Surface filled = Drawn(width, height, FillStyle::Solid);
+    Surface hollow = filled;
+    int wrong = 0;
+    for (int i = 0; i < (width + 2) * (height + 2); ++i) {
+        const int x = i % (width + 2);
+        const int y = i / (width + 2);
+        const COLORREF pixel = filled.GetPixel(x, y);
+        if (pixel == kInside) hollow.SetPixel(x, y, kWhite);
+        const bool symmetric = pixel == filled.GetPixel(width + 1 - x, y) &&
+                               pixel == filled.GetPixel(x, height + 1 - y);
+        if (!symmetric || !KeepsToTheCurve(filled, x, y) || !IsOutlineWhereItEnds(filled, x, y))
+            ++wrong;
+    }
+    EXPECT_EQ(wrong, 0) << test::PictureText(filled, kInks);
+    EXPECT_EQ(filled.GetPixel(1 + width / 2, 1), kBlack);
+    for (const DrawMode mode : {DrawMode::CopyPen, DrawMode::Invert})
+        EXPECT_TRUE(ComparePicture(Drawn(width, height, FillStyle::Transparent, mode), hollow));
+}
+
+TEST(Ellipse, IsSymmetricThinClosedAndTrueToItsBoxInEverySize) {
+    for (int size = 0; size < 36 * 36 && !testing::Test::HasFailure(); ++size)
+        CheckEllipse(1 + size % 36, 1 + size / 36);
+    CheckEllipse(320, 91);
+    // The first row holds the columns where the curve is half a pixel high: |x| <= 9 * sqrt(3/4).
+    EXPECT_PICTURE(Drawn(19, 3, FillStyle::Solid), kInks, R"(
+        . . . . . . . . . . . . . . . . . . . . .
+        . . . # # # # # # # # # # # # # # # . . .
+        . # # o o o o o o o o o o o o o o o # # .
+        . . . # # # # # # # # # # # # # # # . . .
+        . . . . . . . . . . . . . . . . . . . . .)");
+}
+
+TEST(Ellipse, IsCutAtTheSurfaceAndTakesItsEdgesInAnyOrder) {
+    const Surface whole = Drawn(50, 37, FillStyle::Solid);
+    for (int corner = 0; corner < 9; ++corner) {
+        const int left = 1 - corner % 3 * 20;
+        const int top = 1 - corner / 3 * 15;
+        Surface cut(20, 15);
+        cut.state = whole.state;
+        Ellipse(cut, left + 50, top, left, top + 37);
+        Surface expected(20, 15);
+        BitBlt(expected, 0, 0, 20, 15, whole, 1 - left, 1 - top, RasterOp::Copy);
+        EXPECT_TRUE(ComparePicture(cut, expected, kInks)) << corner;
+    }
+    // Where a curve as large as this is cut it looks straight, and its corners are far away.
+    Surface target(3, 3);
+    target.state = whole.state;
+    Ellipse(target, 0, 0, INT_MAX, INT_MAX);
+    Ellipse(target, INT_MIN, 1, INT_MAX, INT_MAX);
+    EXPECT_PICTURE(target, kInks, ". . .\n# # #\no o o");
 }
 
 }  // namespace

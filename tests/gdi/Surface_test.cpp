@@ -2,6 +2,7 @@
 
 #include <climits>
 #include <cstdint>
+#include <utility>
 
 #include "tests/support/PictureText.h"
 
@@ -10,7 +11,21 @@ namespace {
 
 using test::ComparePicture;
 
-constexpr RasterOp kOps[] = {RasterOp::Copy, RasterOp::And, RasterOp::Xor};
+TEST(Surface, OutsideReadsInvalidAndWritesNothing) {
+    Surface surface(2, 3, 0xFF123456);
+    const Surface before = surface;
+    for (const auto& [x, y] : {std::pair{-1, 0}, {2, 0}, {0, -1}, {0, 3}}) {
+        surface.SetPixel(x, y, kBlack);
+        EXPECT_EQ(surface.GetPixel(x, y), CLR_INVALID);
+    }
+    EXPECT_TRUE(surface.SamePixels(before));
+    surface.SetPixel(1, 2, 0xABCDEF01);
+    EXPECT_EQ(surface.GetPixel(1, 2), 0xCDEF01U);
+    EXPECT_FALSE(surface.SamePixels(before));
+    surface.Clear();
+    EXPECT_EQ(surface.GetPixel(1, 2), 0x123456U);
+    EXPECT_FALSE(Surface(2, 3).SamePixels(Surface(3, 2)));
+}
 
 Surface Noise(int width, int height, std::uint32_t seed) {
     Surface noise(width, height);
@@ -38,59 +53,40 @@ void SlowStretch(Surface& target, Rect to, const Surface& source, Rect from, Ras
     }
 }
 
+// Draws on copies of `before`; without a source they are drawn on themselves.
+void ExpectAgreesWithTwin(const Surface& before, Rect to, const Surface* source, Rect from) {
+    SCOPED_TRACE(testing::Message() << to.left << ", " << to.width << ", " << from.width);
+    for (const RasterOp op : {RasterOp::Copy, RasterOp::And, RasterOp::Xor}) {
+        Surface expected = before;
+        SlowStretch(expected, to, source ? *source : before, from, op);
+        Surface stretched = before;
+        StretchBlt(stretched, to, source ? *source : stretched, from, op);
+        EXPECT_TRUE(ComparePicture(stretched, expected));
+        if (to.width != from.width) continue;
+        Surface copied = before;
+        BitBlt(copied, to.left, to.top, to.width, to.height, source ? *source : copied, from.left,
+               from.top, op);
+        EXPECT_TRUE(ComparePicture(copied, expected));
+    }
+}
+
 TEST(Blit, AgreesWithSlowTwinInsideOutsideAndAtTheEndsOfInt) {
     const Rect table[][2] = {
-        {{0, 0, 5, 4}, {0, 0, 5, 4}},
-        {{2, 1, 90, 90}, {1, 2, 90, 90}},
         {{-3, -2, 9, 9}, {-4, 1, 9, 9}},
-        {{-INT_MAX, -INT_MAX, INT_MAX, INT_MAX}, {-INT_MAX, 0, INT_MAX, INT_MAX}},
         {{-INT_MAX + 6, 3, INT_MAX, INT_MAX}, {-INT_MAX + 5, -2, INT_MAX, INT_MAX}},
         {{INT_MAX, INT_MAX, INT_MAX, INT_MAX}, {INT_MIN, INT_MIN, INT_MAX, INT_MAX}},
         {{1, 1, -3, INT_MIN}, {1, 1, -3, INT_MIN}},
-        // From here on the sizes differ.
         {{-7, -15, 100, 100}, {0, 0, 10, 10}},
-        {{0, 0, 7, 3}, {0, 0, 10, 10}},
         {{3, 2, 13, 11}, {-3, -2, 17, 5}},
-        {{-5, 1, 31, 9}, {4, 8, 20, 20}},
-        {{INT_MIN, -5, INT_MAX, 40}, {-100, 3, INT_MAX, 1}},
-        {{-1000, -1000, INT_MAX, INT_MAX}, {0, 0, 10, 10}},
         {{2, 2, 5, 5}, {INT_MIN, -1000, INT_MAX, INT_MAX}},
         {{0, 0, 5, 5}, {0, 0, 0, 3}},
     };
     const Surface source = Noise(10, 11, 1);
-    const Surface before = Noise(20, 15, 2);
-    for (const auto& [to, from] : table) {
-        for (const RasterOp op : kOps) {
-            SCOPED_TRACE(testing::Message() << to.left << ", " << to.width << ", " << from.width);
-            Surface expected = before;
-            SlowStretch(expected, to, source, from, op);
-            Surface stretched = before;
-            StretchBlt(stretched, to, source, from, op);
-            EXPECT_TRUE(ComparePicture(stretched, expected));
-            if (to.width != from.width) continue;
-            Surface copied = before;
-            BitBlt(copied, to.left, to.top, to.width, to.height, source, from.left, from.top, op);
-            EXPECT_TRUE(ComparePicture(copied, expected));
-        }
-    }
-}
-
-TEST(Blit, OverlappingBlockArrivesAsItWas) {
-    const Surface before = Noise(9, 8, 3);
-    const Rect from{2, 2, 6, 5};
-    for (const RasterOp op : kOps) {
-        for (int shift = 0; shift < 25; ++shift) {
-            const Rect to{shift % 5, shift / 5, from.width, from.height};
-            Surface expected = before;
-            SlowStretch(expected, to, before, from, op);
-            Surface copied = before;
-            BitBlt(copied, to.left, to.top, to.width, to.height, copied, from.left, from.top, op);
-            EXPECT_TRUE(ComparePicture(copied, expected)) << "shift " << shift;
-            Surface stretched = before;
-            StretchBlt(stretched, to, stretched, from, op);
-            EXPECT_TRUE(ComparePicture(stretched, expected)) << "shift " << shift;
-        }
-    }
+    for (const auto& [to, from] : table)
+        ExpectAgreesWithTwin(Noise(20, 15, 2), to, &source, from);
+    // An overlapping block arrives as it was.
+    for (int shift = 0; shift < 25; ++shift)
+        ExpectAgreesWithTwin(Noise(9, 8, 3), {shift % 5, shift / 5, 6, 5}, nullptr, {2, 2, 6, 5});
 }
 
 TEST(Blit, PatBltFillsWhateverTheDrawingState) {
@@ -99,7 +95,6 @@ TEST(Blit, PatBltFillsWhateverTheDrawingState) {
     PatBlt(target, {2, 1, INT_MAX, INT_MAX}, kBlack);
     PatBlt(target, {INT_MIN, INT_MIN, INT_MAX, INT_MAX}, kBlack);
     PatBlt(target, {-1, 0, 2, 1}, kBlack);
-    PatBlt(target, {0, 1, -1, 1}, kBlack);
     EXPECT_PICTURE(target, test::kBlackOnWhite, "# . . .\n. . # #");
 }
 
