@@ -24,20 +24,10 @@ inline void MakeFile(const std::string& path, const std::string& content) {
     std::ofstream(path, std::ios::binary) << content;
 }
 
-inline mode_t ModeOf(const std::string& path) {
+inline struct stat StatusOf(const std::string& path) {
     struct stat status {};
     EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
-    return status.st_mode & 07777;
-}
-
-// What `action` returns (0..255) in a process of its own.
-template <class Action>
-int InOtherProcess(Action action) {
-    const pid_t child = fork();
-    if (child == 0) _exit(action());
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return status;
 }
 
 // Each test has a folder of its own, gone afterwards.

@@ -1,0 +1,177 @@
+#include "platform/system/DiskFiles.h"
+#include "platform/system/FileRegistry.h"
+#include "platform/system/Profile.h"
+#include "tests/system/TemporaryFolder.h"
+
+namespace kestrel::system {
+namespace {
+
+constexpr auto kUser = RegistryRoot::CurrentUser;
+constexpr auto kClasses = RegistryRoot::ClassesRoot;
+constexpr std::string_view kKey = "Software\\Vendor\\Product";
+
+class SettingsTest : public TemporaryFolder {
+  protected:
+    std::string File() const { return Path("new/folder/settings"); }
+    void MakeSettings(const std::string& text) {
+        std::filesystem::create_directories(Path("new/folder"));
+        MakeFile(File(), text);
+    }
+
+    DiskFiles files_;
+};
+
+class FileRegistryTest : public SettingsTest {
+  protected:
+    FileRegistry registry_{files_, File()};
+};
+
+TEST_F(FileRegistryTest, KeepsEveryTextUnderItsName) {
+    int number = 0;
+    for (const std::string& value :
+         {std::string(), std::string(" /a b/图标.ico "), std::string("two\nlines\r\n"),
+          std::string(R"([a="b"\n])"), std::string("zero\0byte\xFF", 10)}) {
+        const std::string name = std::to_string(++number) + ".=\"]\n" + value;
+        ASSERT_TRUE(registry_.WriteValue(kUser, kKey, name, value));
+        ASSERT_TRUE(registry_.WriteValue(kUser, "odd]\n\\" + value, "", value));
+        EXPECT_EQ(registry_.ReadValue(kUser, kKey, name), value);
+        EXPECT_EQ(registry_.ReadValue(kUser, "ODD]\n\\" + value + "\\", ""), value);
+    }
+}
+
+TEST_F(FileRegistryTest, FindsKeysAndNamesInAnyLetterCase) {
+    EXPECT_FALSE(registry_.KeyExists(kUser, "Software"));
+    EXPECT_EQ(registry_.ReadValue(kUser, kKey, "1."), std::nullopt);
+    EXPECT_TRUE(registry_.DeleteValue(kUser, "no such key", ""));
+    ASSERT_TRUE(registry_.WriteValue(kUser, kKey, "Größe", "1"));
+    ASSERT_TRUE(registry_.WriteValue(kUser, "SOFTWARE\\VENDOR\\PRODUCT", "GRÖßE", "2"));
+    EXPECT_EQ(registry_.ReadValue(kUser, "\\software\\vendor\\product\\", "größe"), "2");
+    EXPECT_EQ(registry_.ReadValue(kClasses, kKey, "Größe"), std::nullopt);
+    EXPECT_TRUE(registry_.KeyExists(kUser, "software\\VENDOR"));
+    EXPECT_FALSE(registry_.KeyExists(kUser, "software\\VEND"));
+    // A value that is there already is not written again.
+    const auto written = StatusOf(File()).st_ino;
+    ASSERT_TRUE(registry_.WriteValue(kUser, kKey, "größe", "2"));
+    EXPECT_EQ(StatusOf(File()).st_ino, written);
+    ASSERT_TRUE(registry_.DeleteValue(kUser, kKey, "GRÖßE"));
+    EXPECT_EQ(registry_.ReadValue(kUser, kKey, "Größe"), std::nullopt);
+}
+
+TEST_F(FileRegistryTest, LeavesAloneWhatItDoesNotUnderstand) {
+    const std::string good =
+        "KestrelIconEditor registry 1\n\n[ClassesRoot\\\\.ico]\n\"\"=\"icofile\"\n";
+    MakeSettings(good);
+    EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), "icofile");
+    const std::string large(kMaxRegistryText, 'x');
+    EXPECT_EQ(registry_.WriteValue(kClasses, "large", "", large).error().number, EFBIG);
+    EXPECT_EQ(ContentOf(File()), good);
+    // Cut off, another header, a value before any key, noise, and lines of no known kind.
+    std::vector<std::string> damaged = {
+        good.substr(0, good.size() - 1), good.substr(1), good.substr(0, 29) + "\"value\"=\"\"\n",
+        std::string(300, '\0'), good + std::string(kMaxRegistryText, '\n')};
+    for (const char* line : {"x", R"("a"="b)", R"("a"="b" )", R"("a"="\q")", R"(""="twice")",
+                             "[unfinished", "[]", "[a]b"})
+        damaged.push_back(good + line + "\n");
+    for (const std::string& text : damaged) {
+        MakeSettings(text);
+        EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), std::nullopt) << text.substr(0, 200);
+        EXPECT_FALSE(registry_.WriteValue(kClasses, "b", "", "c"));
+        EXPECT_FALSE(registry_.DeleteValue(kClasses, ".ico", ""));
+        EXPECT_EQ(ContentOf(File()), text);
+    }
+}
+
+TEST_F(FileRegistryTest, TwoSessionsKeepEachOthersValues) {
+    constexpr int kValues = 25;
+    const auto writeAll = [&](const std::string& session) {
+        for (int i = 0; i < kValues; ++i)
+            if (!registry_.WriteValue(kUser, kKey, session + std::to_string(i), "x")) return 1;
+        return 0;
+    };
+    const pid_t other = fork();
+    if (other == 0) _exit(writeAll("a"));
+    EXPECT_EQ(writeAll("b"), 0);
+    int status = -1;
+    waitpid(other, &status, 0);
+    EXPECT_EQ(status, 0);
+    for (int i = 0; i < kValues; ++i)
+        for (const char* session : {"a", "b"})
+            EXPECT_EQ(registry_.ReadValue(kUser, kKey, session + std::to_string(i)), "x") << i;
+}
+
+class ProfileTest : public SettingsTest {
+  protected:
+    std::string Read(std::string_view section, std::string_view key) {
+        return ReadProfileString(files_, section, key, "default", File());
+    }
+    int Write(std::string_view section, std::string_view key, std::string_view value) {
+        const Result<void> written = WriteProfileString(files_, section, key, value, File());
+        return written ? 0 : written.error().number;
+    }
+};
+
+TEST_F(ProfileTest, MakesTheFileAndItsFolder) {
+    EXPECT_EQ(Read("Settings", "Zoom"), "default");
+    EXPECT_EQ(Write("Settings", "Zoom", "200"), 0);
+    EXPECT_EQ(Write("Positions", "frmZoom", "1,2,3,4,True"), 0);
+    EXPECT_EQ(Write("settings", "ZOOM", "300"), 0);
+    EXPECT_EQ(Write("SETTINGS", "Language", "CHS"), 0);
+    EXPECT_EQ(ContentOf(File()),
+              "[Settings]\nZoom=300\nLanguage=CHS\n[Positions]\nfrmZoom=1,2,3,4,True\n");
+    EXPECT_EQ(StatusOf(Path("new")).st_mode & 07777U, 0700U);
+}
+
+TEST_F(ProfileTest, ReadsTheFirstMatch) {
+    MakeSettings(
+        "\xEF\xBB\xBF[First]\r\n; key=comment\r\n  Key \t=  a b  \r\nkey=second\r\nno value\r\n"
+        "dq=\" x \"\r\nsq='y'\r\nodd=\"z\r\nempty=\r\neq=a=b\r\n\r\n"
+        " [ Größe ] \r\nkey=2\r\n[first]\r\nlate=3\r\n[broken\r\nin=4");
+    const char* cases[][3] = {
+        {"first", "KEY", "a b"},  {"First", "dq", " x "},        {"First", "sq", "y"},
+        {"First", "odd", "\"z"},  {"First", "empty", ""},        {"First", "eq", "a=b"},
+        {"GRÖßE", "key", "2"},    {"First", "late", "default"},  {"First", "no value", "default"},
+        {"none", "k", "default"}, {"First", "; key", "default"}, {"", "key", "default"}};
+    for (const auto& [section, key, value] : cases)
+        EXPECT_EQ(Read(section, key), value) << section << " / " << key;
+}
+
+TEST_F(ProfileTest, KeepsEverythingElseInTheFile) {
+    const std::string start = "; mine\r\n\r\n[A]\r\n Key =";
+    const std::string middle = " 1 ; x\r\n\xB0\xA1\r\n";
+    const std::string end = "\r\n[B]\nlast=1";
+    const std::string cases[][4] = {
+        {"a", "key", "2", start + "2\r\n\xB0\xA1\r\n" + end},
+        {"A", "new", "3", start + middle + "new=3\r\n" + end},
+        {"B", "new", "4", start + middle + end + "\r\nnew=4\r\n"},
+        {"C", "k", " 5", start + middle + end + "\r\n[C]\r\nk=\" 5\"\r\n"},
+        {"A", "Key", "1 ; x", start + middle + end}};
+    for (const auto& [section, key, value, expected] : cases) {
+        MakeSettings(start + middle + end);
+        EXPECT_EQ(Write(section, key, value), 0);
+        EXPECT_EQ(ContentOf(File()), expected);
+        EXPECT_EQ(Read(section, key), value);
+    }
+    std::string most;
+    for (int i = 0; i < 2048; ++i)
+        most += "图";
+    EXPECT_EQ(Write("S", "k", most + "标"), 0);
+    EXPECT_EQ(Read("S", "k"), most);
+}
+
+TEST_F(ProfileTest, LeavesAloneWhatIsNoSettingsText) {
+    for (const std::string& text : {std::string("[S]\nk=1\n\0", 9), std::string("[S]\nk=1\n\x07"),
+                                    "[S]\nk=1\n" + std::string(1U << 20U, '\n')}) {
+        MakeSettings(text);
+        EXPECT_EQ(Read("S", "k"), "default");
+        EXPECT_NE(Write("S", "k", "2"), 0);
+        EXPECT_EQ(ContentOf(File()), text);
+    }
+    MakeSettings("");
+    EXPECT_EQ(Write("S]", "k", "v"), EINVAL);
+    EXPECT_EQ(Write("S", "k=", "v"), EINVAL);
+    EXPECT_EQ(Write("S", "k", "v\nw=x"), EINVAL);
+    EXPECT_EQ(ContentOf(File()), "");
+}
+
+}  // namespace
+}  // namespace kestrel::system
