@@ -40,7 +40,7 @@ class DocumentCommandsTest : public testing::Test {
         files_.contents["/icons/text.ico"] = {'h', 'e', 'l', 'l', 'o'};
         files_.contents["/icons/several.ico"] = SeveralIcons();
     }
-    ~DocumentCommandsTest() override { i18n::SetUiLanguage(i18n::kEnglish); }
+    void TearDown() override { i18n::SetUiLanguage(i18n::kEnglish); }
 
     void Draw() {
         editor_.PicMain_MouseDown(editing::Button::Left, 95, 95);

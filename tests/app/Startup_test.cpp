@@ -50,7 +50,7 @@ class StartupTest : public testing::Test {
         facts_.applicationFolder = "C:\\Icons";
         facts_.windowsDirectory = testing::TempDir() + "kestrel-startup-windows";
     }
-    ~StartupTest() override {
+    void TearDown() override {
         i18n::SetUiLanguage(i18n::kEnglish);
         std::filesystem::remove_all(facts_.windowsDirectory);
     }
@@ -167,12 +167,13 @@ TEST_F(StartupTest, CommandLineNamesAFileInProperCase) {
     // Both files exist: the typed one is meant.
     const std::filesystem::path folder = testing::TempDir() + "Kestrel-case";
     std::filesystem::create_directories(folder);
-    std::ofstream(folder / "bird.ico");
+    const auto make = [&](const char* name) { std::ofstream file(folder / name); };
+    make("bird.ico");
     const std::string typed = (folder / "bird.ico").string();
     EXPECT_TRUE(PathOfCommandLine("/open " + typed).ends_with("/Bird.ico"));
     const std::string missing = (folder / "none.ico").string();
     EXPECT_TRUE(PathOfCommandLine("/open " + missing).ends_with("/None.ico"));
-    std::ofstream(folder / "Bird.ico");
+    make("Bird.ico");
     EXPECT_TRUE(PathOfCommandLine("/open " + typed).ends_with("/bird.ico"));
     std::filesystem::remove_all(folder);
 }

@@ -47,9 +47,9 @@ class DragSource : public QWidget {
 }  // namespace
 
 int main(int argc, char** argv) {
-    QApplication app(argc, argv);
+    const QApplication app(argc, argv);
     QList<QUrl> urls;
-    for (const QString& file : app.arguments().mid(1)) {
+    for (const QString& file : QApplication::arguments().mid(1)) {
         urls.append(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()));
     }
     DragSource source(urls);

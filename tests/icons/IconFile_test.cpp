@@ -59,12 +59,12 @@ constexpr auto kPicture = "r g b \n k w .";
 constexpr auto kMask = "20000000 00000000";
 
 struct Depth {
-    const char* name;
-    int bits;
-    std::uint8_t colorsUsed;
-    std::size_t rowsAt;  // from the bitmap's start
-    const char* colors;  // palette or channel masks, from byte 40 on
-    const char* rows;    // from the bottom
+    const char* name = "";
+    int bits = 0;
+    std::uint8_t colorsUsed = 0;
+    std::size_t rowsAt = 0;   // from the bitmap's start
+    const char* colors = "";  // palette or channel masks, from byte 40 on
+    const char* rows = "";    // from the bottom
     const char* mask = kMask;
     const char* expected = kPicture;
 };

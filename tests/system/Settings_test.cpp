@@ -145,8 +145,9 @@ TEST_F(ProfileTest, KeepsEverythingElseInTheFile) {
         {"B", "new", "4", start + middle + end + "\r\nnew=4\r\n"},
         {"C", "k", " 5", start + middle + end + "\r\n[C]\r\nk=\" 5\"\r\n"},
         {"A", "Key", "1 ; x", start + middle + end}};
+    const std::string whole = start + middle + end;
     for (const auto& [section, key, value, expected] : cases) {
-        MakeSettings(start + middle + end);
+        MakeSettings(whole);
         EXPECT_EQ(Write(section, key, value), 0);
         EXPECT_EQ(ContentOf(File()), expected);
         EXPECT_EQ(Read(section, key), value);
