@@ -91,6 +91,8 @@ class NameCheckingDialog : public QFileDialog {
              QMessageBox::StandardButtons buttons = QMessageBox::Ok) {
         QMessageBox box(QMessageBox::Warning, windowTitle(), sentence.arg(name), buttons, this);
         box.setTextFormat(Qt::PlainText);
+        // Return alone must not replace a file.
+        if (buttons.testFlag(QMessageBox::No)) box.setDefaultButton(QMessageBox::No);
         return box.exec();
     }
 
