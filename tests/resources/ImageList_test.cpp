@@ -1,0 +1,60 @@
+#include "resources/ImageList.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <ranges>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace kestrel::resources {
+namespace {
+
+using Rows = std::vector<std::string>;
+
+Rows Picture(std::size_t number) {
+    std::istringstream text{std::string(kImageList.at(number - 1))};
+    return {std::istream_iterator<std::string>(text), {}};
+}
+
+Rows TurnedClockwise(const Rows& rows) {
+    Rows turned(16, std::string(16, '.'));
+    for (std::size_t i = 0; i < 256; ++i)
+        turned[i % 16][15 - i / 16] = rows[i / 16][i % 16];
+    return turned;
+}
+
+TEST(ImageList, PicturesAreSixteenSquareInTheInksOfTheTable) {
+    std::set<char> inks = {'.'}, used;
+    for (const gdi::ArtInk& ink : kImageListInks)
+        inks.insert(ink.letter);
+    EXPECT_EQ(kImageListInks.size(), std::min<std::size_t>(inks.size() - 1, 24)) << "none twice";
+    for (std::size_t number = 1; number <= 40; ++number) {
+        const Rows rows = Picture(number);
+        EXPECT_EQ(rows.size(), 16U) << number;
+        for (const std::string& row : rows) {
+            EXPECT_EQ(row.size(), 16U) << number << ": " << row;
+            used.insert(row.begin(), row.end());
+        }
+    }
+    EXPECT_EQ(used, inks);
+    EXPECT_EQ(std::set(kImageList.begin(), kImageList.end()).size(), kImageList.size());
+}
+
+TEST(ImageList, PairsAreExactMirrorsAndTurns) {
+    for (std::size_t y = 0; y < 16; ++y) {
+        EXPECT_TRUE(std::ranges::equal(Picture(6)[y], Picture(5)[y] | std::views::reverse)) << y;
+        EXPECT_TRUE(std::ranges::equal(Picture(16)[y], Picture(15)[y] | std::views::reverse)) << y;
+    }
+    EXPECT_EQ(Picture(18), TurnedClockwise(Picture(17)));
+    EXPECT_EQ(Picture(37), TurnedClockwise(Picture(34)));
+    EXPECT_EQ(Picture(35), TurnedClockwise(Picture(37)));
+    EXPECT_EQ(Picture(36), TurnedClockwise(Picture(35)));
+}
+
+}  // namespace
+}  // namespace kestrel::resources
