@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# Both help pages have the same anchors and looks, no dead link, and the menus' own captions.
+set -euo pipefail
+cd "$(dirname "$0")"
+export LC_ALL=C.UTF-8
+table=../src/i18n/MenuTable.cpp
+fault=0
+Fault() { echo "help/$*" >&2; fault=1; }
+
+Page() { tr '\n' ' ' <"$1/index.html"; }
+Anchors() { Page "$1" | grep -oP '<a name="\K[^"]*' || true; }
+Style() { sed -n '/<style/,/<\/style>/p' "$1/index.html" | grep -v 'font-family' || true; }
+# Pairs {"English", "Chinese"}; the first column for ENG, the second for CHS.
+Captions() {
+    tr '\n' ' ' <"$table" | grep -oP '\{"[^"]*",\s*"[^"]*"\}' |
+        awk -F'"' -v column="$([[ $1 == ENG ]] && echo 2 || echo 4)" '{print $column}' |
+        sed 's/&//; s/ *$//'
+}
+
+[[ -n $(Anchors ENG) ]] || Fault 'ENG: no anchors'
+[[ $(Anchors ENG) == "$(Anchors CHS)" ]] || Fault 'CHS: anchors differ from ENG'
+[[ $(Style ENG) == "$(Style CHS)" ]] || Fault 'CHS: style differs from ENG'
+for page in ENG CHS; do
+    anchors=$(Anchors $page) captions=$(Captions $page)
+    grep -q 'class="cmd"' $page/index.html || Fault "$page: no caption marked"
+    while IFS= read -r name; do
+        Fault "$page: anchor $name twice"
+    done < <(sort <<<"$anchors" | uniq -d)
+    while IFS= read -r link; do
+        grep -qxF -- "$link" <<<"$anchors" || Fault "$page: no anchor for #$link"
+    done < <(Page $page | grep -oP 'href="#\K[^"]*')
+    while IFS= read -r image; do
+        [[ $image =~ src=\"\.\./pictures/(0[1-9]|[123][0-9]|40)\.png\" ]] || Fault "$page: $image"
+    done < <(Page $page | grep -oP '<img[^>]*>')
+    while IFS= read -r caption; do
+        grep -qxF -- "$caption" <<<"$captions" || Fault "$page: no menu caption \"$caption\""
+    done < <(Page $page | grep -oP '<b class="cmd">\K.*?(?=</b>)' | sort -u)
+done
+exit $fault
