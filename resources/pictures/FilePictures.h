@@ -45,18 +45,18 @@ inline constexpr std::string_view kOpen = R"(
 inline constexpr std::string_view kLibrary = R"(
     .CCCCCCCCCCCCCC.
     CWWWWWWWWWWWWWcC
-    CWCCCCCCCCCCCCcC
-    CWCYYYYCCBBBBCcC
-    CWCYrrYCCBNNBCcC
-    CWCYrrYCCBNNBCcC
-    CWCYYYYCCBBBBCcC
-    CWCCCCCCCCCCCCcC
-    CWCCCCCCCCCCCCcC
-    CWCGGGGCCwwwwCcC
-    CWCGEEGCCwppwCcC
-    CWCGEEGCCwppwCcC
-    CWCGGGGCCwwwwCcC
-    CWCCCCCCCCCCCCcC
+    CWwrwrwWcwbbbwcC
+    CWrRrrrWcbBBbbcC
+    CWrrrrrWcbBbbbcC
+    CWwrrrwWcbbbbncC
+    CWwwrwwWcwbnnwcC
+    CWWWWWWWWWWWWWcC
+    CWcccccccccccccC
+    CWwwewwWcwwfwwcC
+    CWwGeewWcwfyfwcC
+    CWwGeewWcfyyffcC
+    CWGeeeeWcwfffwcC
+    CWwwCwwWcwwfwwcC
     CccccccccccccccC
     .CCCCCCCCCCCCCC.)";
 
@@ -152,21 +152,21 @@ inline constexpr std::string_view kInformation = R"(
 
 inline constexpr std::string_view kLanguage = R"(
     .NNNNNNNNNN.....
-    NBBBBBBBBBBN....
-    NBnnnwnnnnnN....
-    NBnnwnwnnnnN....
-    NBnnwnwnnnnN....
-    NBnwwwwwnnnN....
-    NBnwnnnwnnnN....
-    NnnnnFFFFFFFFFF.
-    .NNnFYYYYYYYYYYF
-    ..NnFYYYYkYYYYyF
-    ..NNFYkkkkkkkYyF
-    ..N.FYYYkYkYYYyF
-    ....FYYYYkYYYYyF
-    ....FYYYkYkYYYyF
-    ....FYkkYYYkkyyF
-    .....FFFFFFFFFF.)";
+    NbbbbwbbbbbN....
+    NbnnwnwnnnnN....
+    NbnnwnwnnnnN....
+    NbnwwwwwnnnN....
+    NbnwnnnwnnnN....
+    NnnnnnFFFFFFFFF.
+    .NNnnFYYYYYYYYYF
+    ..NnNFYYYYkYYYYF
+    ..NN.FYkkkkkkkYF
+    ..N..FYYkYYYkYYF
+    .....FYYYkYkYYYF
+    .....FYYYYkYYYYF
+    .....FYYYkYkYYYF
+    .....FYkkYYYkkYF
+    ......FFFFFFFFF.)";
 
 inline constexpr std::string_view kHome = R"(
     .......XX..XXX..
