@@ -114,6 +114,8 @@ TEST_F(ShellTest, OpensFilesAndUrls) {
     ASSERT_TRUE(shell_.Open("https://example.org/a"));
     EXPECT_EQ(Output(), "1|xdg-open|https://example.org/a|");
     EXPECT_EQ(shell_.Open(Path("none")).error().number, ENOENT);
+    MakeFile(Path("xdg-open"), "#!/bin/sh\nexit 3\n");
+    EXPECT_FALSE(shell_.Open("https://example.org/a")) << "the opener gave up";
 }
 
 }  // namespace

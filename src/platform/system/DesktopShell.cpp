@@ -8,7 +8,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <ctime>
 #include <string_view>
+#include <utility>
 
 #include "platform/system/PathText.h"
 #include "platform/system/SystemError.h"
@@ -40,8 +42,7 @@ class SpawnSettings {
     }
 
     // 0 or the errno value of the failure. Allocates nothing.
-    int Start(char* const* words) const {
-        pid_t process = 0;
+    int Start(char* const* words, pid_t& process) const {
         return posix_spawnp(&process, words[0], &actions_, &attributes_, words, environ);
     }
 
@@ -50,19 +51,53 @@ class SpawnSettings {
     posix_spawnattr_t attributes_{};
 };
 
-// Starts the program from a process in between that ends at once, so that the system takes the
-// program over. That process hands the failure on as its exit status.
-Result<void> StartDetached(char* const* words) {
+// How long a program that is started may take to fail, in steps of a fiftieth of a second.
+enum class Patience { None = 0, Opener = 35 };
+constexpr long kStep = 20'000'000;  // nanoseconds
+
+// The exit status of the process in between for a program that started and soon failed; no errno
+// value is as high.
+constexpr int kFailedSoon = 255;
+
+// Whether the program ends with a failure before patience does. Allocates nothing.
+bool FailsSoon(pid_t program, Patience patience) {
+    for (int step = 0; step < static_cast<int>(patience); ++step) {
+        int status = 0;
+        if (waitpid(program, &status, WNOHANG) == program) return status != 0;
+        const timespec pause{0, kStep};
+        nanosleep(&pause, nullptr);
+    }
+    return false;
+}
+
+// Starts the program from a process in between that ends at once, or when patience does, so that
+// the system takes the program over. That process hands the failure on as its exit status.
+Result<void> StartDetached(char* const* words, Patience patience) {
     const SpawnSettings settings;
     const pid_t between = fork();
     if (between < 0) return SystemFailure(errno);
-    if (between == 0) _exit(settings.Start(words));
+    if (between == 0) {
+        pid_t program = 0;
+        const int failure = settings.Start(words, program);
+        _exit(failure == 0 && FailsSoon(program, patience) ? kFailedSoon : failure);
+    }
     int status = 0;
     // Where ended processes are reaped unasked there is no status to learn.
     if (Retry([&] { return waitpid(between, &status, 0); }) < 0) return {};
     if (!WIFEXITED(status)) return SystemFailure(ECANCELED);
+    if (WEXITSTATUS(status) == kFailedSoon) return Fail(ECHILD, "The program gave up");
     if (WEXITSTATUS(status) != 0) return SystemFailure(WEXITSTATUS(status));
     return {};
+}
+
+Result<void> Run(std::vector<std::string> texts, Patience patience) {
+    std::vector<char*> words;
+    words.reserve(texts.size() + 1);
+    for (std::string& text : texts) {
+        words.push_back(text.data());
+    }
+    words.push_back(nullptr);
+    return StartDetached(words.data(), patience);
 }
 
 // A path that can be taken neither for an option nor for a name to be looked up on PATH.
@@ -82,21 +117,16 @@ Result<void> DesktopShell::RunProgram(const std::string& program,
     const bool isPath = program.find_first_of("\\/") != std::string::npos;
     std::vector<std::string> texts{isPath ? PlainPath(program) : program};
     texts.insert(texts.end(), arguments.begin(), arguments.end());
-    std::vector<char*> words;
-    words.reserve(texts.size() + 1);
-    for (std::string& text : texts) {
-        words.push_back(text.data());
-    }
-    words.push_back(nullptr);
-    return StartDetached(words.data());
+    return Run(std::move(texts), Patience::None);
 }
 
 Result<void> DesktopShell::Open(const std::string& target) {
     const std::string opened = IsUrl(target) ? target : PlainPath(target);
     struct stat status {};
     if (!IsUrl(target) && stat(opened.c_str(), &status) < 0) return SystemFailure(errno);
-    const Result<void> started = RunProgram("xdg-open", {opened});
-    return started ? started : RunProgram("gio", {"open", opened});
+    const Result<void> started = Run({"xdg-open", opened}, Patience::Opener);
+    if (started || started.error().number != ENOENT) return started;
+    return Run({"gio", "open", opened}, Patience::Opener);
 }
 
 }  // namespace kestrel::system

@@ -117,11 +117,15 @@ Result<void> FileRegistry::WriteValue(RegistryRoot root, std::string_view key,
     });
 }
 
-Result<void> FileRegistry::DeleteValue(RegistryRoot root, std::string_view key,
-                                       std::string_view name) {
-    return Change([path = FoldCase(FullPath(root, key)), name](RegistryKeys& keys) {
+Result<void> FileRegistry::DeleteValues(RegistryRoot root, std::string_view key,
+                                        std::span<const std::string> names) {
+    return Change([path = FoldCase(FullPath(root, key)), names](RegistryKeys& keys) {
         const auto found = keys.find(path);
-        return found != keys.end() && found->second.values.erase(FoldCase(name)) > 0;
+        if (found == keys.end()) return false;
+        std::size_t erased = 0;
+        for (const std::string& name : names)
+            erased += found->second.values.erase(FoldCase(name));
+        return erased > 0;
     });
 }
 

@@ -24,8 +24,8 @@ class FileRegistry : public Registry {
     // A value that is there already costs no write.
     Result<void> WriteValue(RegistryRoot root, std::string_view key, std::string_view name,
                             std::string_view value) override;
-    Result<void> DeleteValue(RegistryRoot root, std::string_view key,
-                             std::string_view name) override;
+    Result<void> DeleteValues(RegistryRoot root, std::string_view key,
+                              std::span<const std::string> names) override;
 
   private:
     // Changes the keys; false when there was nothing to change.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -23,9 +24,9 @@ class Registry {
     // Creates the key as needed.
     virtual Result<void> WriteValue(RegistryRoot root, std::string_view key, std::string_view name,
                                     std::string_view value) = 0;
-    // Deleting what is not there succeeds.
-    virtual Result<void> DeleteValue(RegistryRoot root, std::string_view key,
-                                     std::string_view name) = 0;
+    // In one change. Deleting what is not there succeeds.
+    virtual Result<void> DeleteValues(RegistryRoot root, std::string_view key,
+                                      std::span<const std::string> names) = 0;
 };
 
 }  // namespace kestrel::system

@@ -16,7 +16,8 @@ class Shell {
     // reason when it cannot be started.
     virtual Result<void> RunProgram(const std::string& program,
                                     const std::vector<std::string>& arguments) = 0;
-    // Opens a URL or a file with the desktop's opener.
+    // Opens a URL or a file with the desktop's opener. Waits up to 0.7 s to learn that the opener
+    // gave up, as it does where no program is there for the target.
     virtual Result<void> Open(const std::string& target) = 0;
 };
 
