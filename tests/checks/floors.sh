@@ -19,7 +19,8 @@ BEGIN {
     below["system"] = " "
     below["icons"] = " gdi system "
     below["dialogs"] = " gdi icons system "
-    below["qt"] = " gdi icons system dialogs "
+    below["controls"] = " gdi "
+    below["qt"] = " gdi icons system dialogs controls "
 }
 
 # Only these know Qt; whoever includes their headers knows it too.

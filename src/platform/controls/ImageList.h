@@ -1,0 +1,29 @@
+#pragma once
+
+#include <initializer_list>
+#include <span>
+#include <string_view>
+
+#include "platform/gdi/PixelArt.h"
+
+namespace kestrel::controls {
+
+// Small pictures of one size, written as text and counted from 1. It refers to the texts: they
+// must outlive it.
+class ImageList {
+  public:
+    ImageList(std::span<const std::string_view> pictures, std::initializer_list<gdi::ArtInk> inks)
+        : pictures_(pictures), inks_(inks) {}
+
+    int Count() const { return static_cast<int>(pictures_.size()); }
+    // The picture's colours, black where it is see-through.
+    gdi::Surface Image(int number) const;
+    // White where the picture is see-through, black elsewhere.
+    gdi::Surface Mask(int number) const;
+
+  private:
+    std::span<const std::string_view> pictures_;
+    std::initializer_list<gdi::ArtInk> inks_;
+};
+
+}  // namespace kestrel::controls
