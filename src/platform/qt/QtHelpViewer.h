@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QPointer>
+#include <QTextBrowser>
+
+#include "platform/dialogs/HelpViewer.h"
+#include "platform/system/Shell.h"
+
+namespace kestrel::qt {
+
+// Help in a window of its own; links to the web go to the shell.
+class QtHelpViewer : public dialogs::HelpViewer {
+  public:
+    // `shell` must outlive the viewer.
+    explicit QtHelpViewer(system::Shell& shell) : shell_(shell) {}
+
+    bool ShowHelp(const std::string& file, const std::string& title) override;
+    void Close() override;
+
+    // Null while no help is shown.
+    QTextBrowser* Window() const { return window_; }
+
+  private:
+    QTextBrowser* NewWindow();
+
+    system::Shell& shell_;
+    QPointer<QTextBrowser> window_;
+};
+
+}  // namespace kestrel::qt

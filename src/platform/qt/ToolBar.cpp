@@ -1,0 +1,57 @@
+#include "platform/qt/ToolBar.h"
+
+#include <QMouseEvent>
+
+#include "platform/qt/PictureIcon.h"
+#include "platform/qt/Text.h"
+
+namespace kestrel::qt {
+
+ToolBar::ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget* parent)
+    : QWidget(parent), pictures_(pictures), buttonSize_(buttonSize) {}
+
+void ToolBar::AddButton(std::string_view key, int picture) {
+    auto* button = new QToolButton(this);
+    button->setGeometry(QRect(QPoint(ButtonCount() * ButtonWidth(), 0), buttonSize_));
+    button->setIcon(PictureIcon(pictures_, picture));
+    button->setAutoRaise(true);
+    // A click leaves the keyboard where it is.
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setMouseTracking(true);
+    button->installEventFilter(this);
+    const auto place = buttons_.emplace(key, button).first;
+    connect(button, &QToolButton::clicked, this, [this, &name = place->first] {
+        if (onClick) onClick(name);
+    });
+    resize(ButtonCount() * ButtonWidth(), buttonSize_.height());
+}
+
+void ToolBar::SetToolTip(std::string_view key, std::string_view text) {
+    QToolButton* button = Button(key);
+    if (button == nullptr) return;
+    button->setToolTip(ToText(text));
+    button->setAccessibleName(ToText(text));
+}
+
+void ToolBar::SetEnabled(std::string_view key, bool enabled) {
+    if (QToolButton* button = Button(key); button != nullptr) button->setEnabled(enabled);
+}
+
+QToolButton* ToolBar::Button(std::string_view key) const {
+    const auto found = buttons_.find(key);
+    return found == buttons_.end() ? nullptr : found->second;
+}
+
+bool ToolBar::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::MouseMove && onMouseMove) {
+        const auto* button = static_cast<QToolButton*>(object);
+        onMouseMove(button->x() + static_cast<QMouseEvent*>(event)->position().toPoint().x());
+    }
+    return false;
+}
+
+void ToolBar::leaveEvent(QEvent* /*event*/) {
+    if (onLeave) onLeave();
+}
+
+}  // namespace kestrel::qt

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QToolButton>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "platform/controls/ImageList.h"
+
+namespace kestrel::qt {
+
+// A row of flat picture buttons, each known by its key, all as wide as the first.
+class ToolBar : public QWidget {
+  public:
+    // `pictures` must outlive the toolbar.
+    ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget* parent);
+
+    // Adds a button at the right end.
+    void AddButton(std::string_view key, int picture);
+    void SetToolTip(std::string_view key, std::string_view text);
+    void SetEnabled(std::string_view key, bool enabled);
+    // Null for an unknown key.
+    QToolButton* Button(std::string_view key) const;
+
+    int ButtonCount() const { return static_cast<int>(buttons_.size()); }
+    // In pixels.
+    int ButtonWidth() const { return buttonSize_.width(); }
+
+    std::function<void(std::string_view key)> onClick;
+    // The pointer moved over the toolbar, disabled buttons included, or left it.
+    std::function<void(int x)> onMouseMove;
+    std::function<void()> onLeave;
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+  private:
+    const controls::ImageList& pictures_;
+    QSize buttonSize_;
+    std::map<std::string, QToolButton*, std::less<>> buttons_;
+};
+
+}  // namespace kestrel::qt
