@@ -4,7 +4,7 @@
 #include <QtTest/QTest>
 
 #include "app/FrmIcoEd.h"
-#include "tests/support/Recorders.h"
+#include "tests/support/Services.h"
 
 namespace {
 
@@ -12,10 +12,8 @@ using namespace kestrel;
 
 // One cell of a pencil stroke in the real window: mouse event, planes, views and the repaint.
 void PencilCellWithRepaint(benchmark::State& state) {
-    test::ScriptedBoxes boxes;
-    test::ScriptedDialogs cdb;
-    test::MemoryFiles files;
-    app::FrmIcoEd window({boxes, cdb, files});
+    test::FakeServices services;
+    app::FrmIcoEd window(services.Given());
     window.Form_Load("");
     window.show();
     QApplication::processEvents();

@@ -1,19 +1,25 @@
 #include "app/CommandDispatch.h"
 
+#include <algorithm>
+
 namespace kestrel::app {
 
-CommandDispatch::CommandDispatch(DocumentCommands& commands, editing::EditorWindow& window)
-    : handlers_{
-          {"mnuNew", [&commands] { commands.mnuNew_Click(); }},
-          {"mnuOpen", [&commands] { commands.mnuOpen_Click(); }},
-          {"mnuSave", [&commands] { commands.mnuSave_Click(); }},
-          {"mnuSaveAs", [&commands] { commands.mnuSaveAs_Click(); }},
-          {"mnuExit", [&commands] { commands.mnuExit_Click(); }},
-      },
-      window_(window) {}
-
 void CommandDispatch::SmartMenuXP1_Click(std::string_view key) {
-    if (const auto handler = handlers_.find(key); handler != handlers_.end()) handler->second();
+    Run(MenuBarCommands(), key);
+}
+
+void CommandDispatch::SmartMenuXP2_Click(std::string_view key) {
+    Run(PopupCommands(), key);
+}
+
+void CommandDispatch::Toolbar1_ButtonClick(std::string_view key) {
+    Run(ToolbarCommands(), key);
+}
+
+void CommandDispatch::Run(std::span<const CommandRow> commands, std::string_view key) {
+    const auto command = std::find_if(commands.begin(), commands.end(),
+                                      [key](const CommandRow& row) { return row.key == key; });
+    if (command != commands.end() && command->run != nullptr) command->run(handlers_);
     window_.RefreshEditCommands();
 }
 

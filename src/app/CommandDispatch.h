@@ -1,24 +1,28 @@
 #pragma once
 
-#include <functional>
-#include <map>
 #include <string_view>
 
-#include "app/DocumentCommands.h"
+#include "app/CommandTables.h"
 #include "editing/EditorWindow.h"
 
 namespace kestrel::app {
 
-// Turns the key of a menu item into a call of its handler.
+// Turns the key of a menu item or toolbar button into a call of its handler.
 class CommandDispatch {
   public:
-    CommandDispatch(DocumentCommands& commands, editing::EditorWindow& window);
+    CommandDispatch(CommandHandlers& handlers, editing::EditorWindow& window)
+        : handlers_(handlers), window_(window) {}
 
-    // Runs the item's command, if it has one, and refreshes the Edit commands.
+    // Each runs the key's command, if it has one, and refreshes the Edit commands: for the menu
+    // bar, the editing pop-up and the toolbar.
     void SmartMenuXP1_Click(std::string_view key);
+    void SmartMenuXP2_Click(std::string_view key);
+    void Toolbar1_ButtonClick(std::string_view key);
 
   private:
-    std::map<std::string_view, std::function<void()>> handlers_;
+    void Run(std::span<const CommandRow> commands, std::string_view key);
+
+    CommandHandlers& handlers_;
     editing::EditorWindow& window_;
 };
 

@@ -30,11 +30,12 @@ std::string ProposedName(const document::IconDocument& document) {
 }  // namespace
 
 DocumentCommands::DocumentCommands(editing::Editor& editor, DocumentWindow& window,
-                                   dialogs::FileDialogs& cdb, dialogs::MessageBoxes& boxes,
-                                   system::FileSystem& files)
+                                   ModRecent& recent, dialogs::FileDialogs& cdb,
+                                   dialogs::MessageBoxes& boxes, system::FileSystem& files)
     : editor_(editor),
       document_(editor.Document()),
       window_(window),
+      recent_(recent),
       cdb_(cdb),
       boxes_(boxes),
       files_(files) {}
@@ -101,6 +102,7 @@ bool DocumentCommands::OpenFile(const dialogs::ChosenFile& file) {
     editor_.ShowTitle();
     editor_.ShowOpenedIcon(*icon);
     document_.MultipleIcons = document::DetectMultipleIcons(*bytes);
+    recent_.AddRecentFile(document_.FilePath);
     window_.StartTmr();
     return true;
 }
@@ -161,6 +163,7 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
     document_.FilePath = path;
     document_.Modified = false;
     document_.MultipleIcons = false;
+    recent_.AddRecentFile(path);
 }
 
 void DocumentCommands::mnuExit_Click() {

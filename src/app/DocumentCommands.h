@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/ModRecent.h"
 #include "editing/Editor.h"
 #include "platform/dialogs/FileDialogs.h"
 #include "platform/dialogs/MessageBoxes.h"
@@ -31,8 +32,9 @@ enum class SaveMode { Save, SaveAs };
 // The commands that change which icon is open or where it is kept.
 class DocumentCommands {
   public:
-    DocumentCommands(editing::Editor& editor, DocumentWindow& window, dialogs::FileDialogs& cdb,
-                     dialogs::MessageBoxes& boxes, system::FileSystem& files);
+    DocumentCommands(editing::Editor& editor, DocumentWindow& window, ModRecent& recent,
+                     dialogs::FileDialogs& cdb, dialogs::MessageBoxes& boxes,
+                     system::FileSystem& files);
 
     void mnuNew_Click();
     // Asks for the file with the open dialog.
@@ -58,6 +60,7 @@ class DocumentCommands {
     editing::Editor& editor_;
     document::IconDocument& document_;
     DocumentWindow& window_;
+    ModRecent& recent_;
     dialogs::FileDialogs& cdb_;
     dialogs::MessageBoxes& boxes_;
     system::FileSystem& files_;

@@ -7,7 +7,10 @@
 #include <QUrl>
 
 #include "app/ApplicationIcon.h"
+#include "app/frmAbout.h"
+#include "i18n/Language.h"
 #include "platform/qt/Pictures.h"
+#include "resources/ImageList.h"
 
 namespace kestrel::app {
 
@@ -54,9 +57,13 @@ QIcon ProgramIcon() {
 
 }  // namespace
 
-FrmIcoEd::FrmIcoEd(const MainWindowServices& services)
-    : editor_(*this, WindowColor(*this)),
-      commands_(editor_, *this, services.cdb, services.boxes, services.files),
+FrmIcoEd::FrmIcoEd(const MainServices& services)
+    : help_(services.help),
+      pictures_(resources::kImageList, resources::kImageListInks),
+      barView_(menus_.SmartMenuXP1, pictures_),
+      popupView_(menus_.SmartMenuXP2, pictures_),
+      editor_(*this, WindowColor(*this)),
+      commands_(editor_, *this, menus_, services),
       dispatch_(commands_, *this) {}
 
 void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
@@ -64,27 +71,34 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     setWindowIcon(ProgramIcon());
     setMouseTracking(true);
     setAcceptDrops(true);
+    // The keyboard starts at the window itself, not at the first button.
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
 
     LayOutControls();
-    ApplyMainCaptions();
-    BuildMenuBar();
-    ApplyMenuCaptions();
+    BuildToolbar();
+    i18n::ApplyMainCaptions(i18n::UiLanguage(), *this);
+    BuildMenus();
+    DisableMissingCommands();
     ConnectGrid();
     tmr_ = new QTimer(this);
     tmr_->setInterval(kGuardAfterOpen);
     tmr_->setSingleShot(true);
     connect(tmr_, &QTimer::timeout, this, [this] { EnableGrid(true); });
 
+    commands_.Recent().LoadRecentFiles();
     editor_.ResetDocument();
     PlaceOnScreen();
-    if (!pathToOpen.empty()) commands_.OpenNamed(pathToOpen);
+    if (!pathToOpen.empty()) commands_.Documents().OpenNamed(pathToOpen);
     RefreshEditCommands();
     SetStatusPanel(editing::StatusPanel::Zoom, "10:1");
 }
 
 bool FrmIcoEd::Form_Unload() {
-    if (!commands_.PromptSaveChanges()) return false;
+    if (!commands_.Documents().PromptSaveChanges()) return false;
     editor_.History().ClearUndoHistory();
+    commands_.Recent().SaveRecentFiles();
+    help_.Close();
     return true;
 }
 
@@ -130,7 +144,7 @@ void FrmIcoEd::dropEvent(QDropEvent* event) {
 }
 
 void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
-    RunCommand([&] { commands_.OpenNamed(pathToOpen); });
+    RunCommand([&] { commands_.Documents().OpenNamed(pathToOpen); });
 }
 
 void FrmIcoEd::SetTitle(const std::string& title) {
@@ -164,6 +178,16 @@ void FrmIcoEd::ProcessPendingEvents() {
 void FrmIcoEd::Unload() {
     // After the command that asked for it has returned.
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+void FrmIcoEd::ShowAbout() {
+    frmAbout(this).exec();
+}
+
+void FrmIcoEd::LanguageChanged() {
+    editor_.ShowTitle();
+    ClearStatusPanels();
+    FitMenuBar();
 }
 
 }  // namespace kestrel::app

@@ -1,36 +1,28 @@
 #pragma once
 
-#include <QAction>
 #include <QLabel>
 #include <QMenuBar>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
-#include <vector>
+#include <memory>
 
 #include "app/CommandDispatch.h"
-#include "app/DocumentCommands.h"
+#include "app/MainCommands.h"
 #include "editing/Editor.h"
-#include "platform/qt/QtFileDialogs.h"
-#include "platform/qt/QtMessageBoxes.h"
+#include "platform/controls/ImageList.h"
+#include "platform/qt/MenuView.h"
 #include "platform/qt/StatusBar.h"
 #include "platform/qt/SurfaceWidget.h"
-#include "platform/system/FileSystem.h"
+#include "platform/qt/ToolBar.h"
 
 namespace kestrel::app {
 
-// What the main window is given; all of it outlives the window.
-struct MainWindowServices {
-    dialogs::MessageBoxes& boxes;
-    dialogs::FileDialogs& cdb;
-    system::FileSystem& files;
-};
-
 // The main window: lays out, paints and forwards events. Positions are in pixels of the client
 // area, which never changes its size.
-class FrmIcoEd : public QWidget, private editing::EditorWindow, private DocumentWindow {
+class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWindow {
   public:
-    explicit FrmIcoEd(const MainWindowServices& services);
+    explicit FrmIcoEd(const MainServices& services);
 
     // Builds the window up to its idle state, not shown yet, and opens a file; an empty path opens
     // none.
@@ -39,12 +31,19 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
     editing::Editor& OpenEditor() { return editor_; }
     std::string StatusText(editing::StatusPanel panel) const;
     qt::SurfaceWidget& GridWidget() { return *picMain_; }
+    qt::ToolBar& Toolbar1() { return *toolbar1_; }
+    MainMenus& Menus() { return menus_; }
+    // The menus as they are shown: what stands for an item of the bar, and the editing pop-up.
+    QAction* BarAction(std::string_view key) const { return barView_.ActionOf(key); }
+    QMenu* EditingPopup();
 
   protected:
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -59,11 +58,14 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
     // FrmIcoEd_Layout.cpp
     void LayOutControls();
     void ShowTextControls(bool shown);
+    void FitMenuBar();
     void PlaceOnScreen();
     // FrmIcoEd_Menu.cpp
-    void BuildMenuBar();
-    void ApplyMenuCaptions();
-    void ApplyMainCaptions();
+    void BuildMenus();
+    void BuildToolbar();
+    void DisableMissingCommands();
+    void ShowEditingPopup();
+    void Toolbar1_MouseMove(int x);
     // FrmIcoEd_Grid.cpp
     void ConnectGrid();
     void ClearStatusPanels();
@@ -80,10 +82,14 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
     void ShowHourglass(bool shown) override;
     void ProcessPendingEvents() override;
     void Unload() override;
+    void SetControlCaption(std::string_view control, std::string_view text) override;
+    void SetControlToolTip(std::string_view control, std::string_view text) override;
+    void SetButtonToolTip(std::string_view key, std::string_view text) override;
+    void ShowAbout() override;
+    void LanguageChanged() override;
 
     QMenuBar* menuBar_ = nullptr;
-    // By position in the menu table; null for separators.
-    std::vector<QAction*> menuActions_;
+    qt::ToolBar* toolbar1_ = nullptr;
     qt::SurfaceWidget* picMain_ = nullptr;
     qt::SurfaceWidget* picIcon_ = nullptr;
     QLabel* label1_ = nullptr;
@@ -92,9 +98,14 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private Document
     QString pointerCell_;
     bool commandRunning_ = false;
 
+    dialogs::HelpViewer& help_;
+    controls::ImageList pictures_;
+    MainMenus menus_;
+    qt::MenuView barView_;
+    qt::MenuView popupView_;
     // After the widgets: they call back into the window from their first moment.
     editing::Editor editor_;
-    DocumentCommands commands_;
+    MainCommands commands_;
     CommandDispatch dispatch_;
 };
 

@@ -16,7 +16,9 @@ namespace {
 constexpr QSize kClientSize(565, 432);
 constexpr QSize kWindowSize(571, 457);
 
-constexpr QRect kMenuBar(0, 2, 565, 24);
+constexpr QPoint kMenuBar(0, 2);
+constexpr QPoint kToolbar(8, 31);
+constexpr QSize kToolbarButton(28, 28);
 constexpr QPoint kPicMain(12, 69);
 constexpr QPoint kPicIcon(350, 69);
 constexpr QRect kLabel1(392, 70, 62, 34);
@@ -56,7 +58,9 @@ void FrmIcoEd::LayOutControls() {
 
     menuBar_ = new QMenuBar(this);
     menuBar_->setNativeMenuBar(false);
-    menuBar_->setGeometry(kMenuBar);
+
+    toolbar1_ = new qt::ToolBar(pictures_, kToolbarButton, this);
+    toolbar1_->move(kToolbar);
 
     picMain_ = new qt::SurfaceWidget(editor_.Views().PicMain, this);
     picMain_->move(kPicMain);
@@ -64,6 +68,7 @@ void FrmIcoEd::LayOutControls() {
     picIcon_->move(kPicIcon);
 
     label1_ = new QLabel(this);
+    label1_->setObjectName("Label1");
     label1_->setGeometry(kLabel1);
     label1_->setFont(FontOf(*this, kSmallFontPixels));
     label1_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
@@ -78,6 +83,13 @@ void FrmIcoEd::ShowTextControls(bool shown) {
     for (QWidget* control : std::initializer_list<QWidget*>{menuBar_, label1_, statusBar_}) {
         control->setVisible(shown);
     }
+    if (shown) FitMenuBar();
+}
+
+// Its entries underline the bar only where they are as high as it is, which depends on the font of
+// the language.
+void FrmIcoEd::FitMenuBar() {
+    menuBar_->setGeometry(QRect(kMenuBar, QSize(width(), menuBar_->sizeHint().height())));
 }
 
 // Laying out the first text loads the fonts, a third of the whole start: the window is put on the

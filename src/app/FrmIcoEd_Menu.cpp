@@ -1,9 +1,11 @@
+#include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMenu>
-#include <map>
 
 #include "app/FrmIcoEd.h"
-#include "i18n/Captions.h"
-#include "i18n/MenuTable.h"
+#include "i18n/Language.h"
+#include "i18n/ModLanguage.h"
+#include "i18n/ToolbarTable.h"
 #include "platform/qt/Text.h"
 
 namespace kestrel::app {
@@ -12,49 +14,95 @@ namespace {
 
 using qt::ToText;
 
-// A Chinese caption such as "(F) 文件" shows its letter in front; it opens the menu like an
-// underlined one.
-QString WithMnemonic(std::string_view caption) {
-    QString text = ToText(caption);
-    if (text.size() > 2 && text.front() == QLatin1Char('(') && text[2] == QLatin1Char(')')) {
-        text.insert(1, QLatin1Char('&'));
+constexpr std::string_view kPopupRoot = "mnuEdit";
+
+void DisableMissing(std::span<const CommandRow> commands, controls::SmartMenuXP& menu) {
+    for (const CommandRow& command : commands) {
+        if (command.run == nullptr) menu.SetEnabled(command.key, false);
     }
-    return text;
 }
 
 }  // namespace
 
-void FrmIcoEd::BuildMenuBar() {
-    std::map<std::string_view, QMenu*> menus;
-    for (const i18n::MenuItem& item : i18n::MenuBar()) {
-        QAction* action = nullptr;
-        if (item.parent.empty()) {
-            menus[item.key] = menuBar_->addMenu(QString());
-            action = menus[item.key]->menuAction();
-        } else if (item.kind == i18n::ItemKind::Separator) {
-            menus[item.parent]->addSeparator();
-        } else {
-            action = menus[item.parent]->addAction(QString());
-            action->setShortcut(QKeySequence(ToText(item.shortcut)));
-            connect(action, &QAction::triggered, this, [this, key = item.key] {
-                RunCommand([this, key] { dispatch_.SmartMenuXP1_Click(key); });
-            });
-        }
-        menuActions_.push_back(action);
+void FrmIcoEd::BuildMenus() {
+    auto& [bar, popup] = menus_;
+    i18n::BuildMenuBar(bar, popup);
+    i18n::ApplyMenuCaptions(i18n::UiLanguage(), bar, popup);
+    bar.onClick = [this](std::string_view key) {
+        RunCommand([&] { dispatch_.SmartMenuXP1_Click(key); });
+    };
+    popup.onClick = [this](std::string_view key) {
+        RunCommand([&] { dispatch_.SmartMenuXP2_Click(key); });
+    };
+    barView_.FillBar(*menuBar_);
+}
+
+void FrmIcoEd::BuildToolbar() {
+    for (const i18n::ToolbarButton& button : i18n::ToolbarButtons())
+        toolbar1_->AddButton(button.key, button.picture);
+    toolbar1_->onClick = [this](std::string_view key) {
+        RunCommand([&] { dispatch_.Toolbar1_ButtonClick(key); });
+    };
+    toolbar1_->onMouseMove = [this](int x) { Toolbar1_MouseMove(x); };
+    toolbar1_->onLeave = [this] { SetStatusPanel(editing::StatusPanel::Hint, {}); };
+}
+
+void FrmIcoEd::DisableMissingCommands() {
+    DisableMissing(MenuBarCommands(), menus_.SmartMenuXP1);
+    DisableMissing(PopupCommands(), menus_.SmartMenuXP2);
+    for (const CommandRow& command : ToolbarCommands())
+        toolbar1_->SetEnabled(command.key, command.run != nullptr);
+}
+
+void FrmIcoEd::Toolbar1_MouseMove(int x) {
+    const auto buttons = i18n::ToolbarButtons();
+    const auto index = static_cast<std::size_t>(x / toolbar1_->ButtonWidth()) % buttons.size();
+    SetStatusPanel(editing::StatusPanel::Hint, buttons[index].status.Now());
+}
+
+QMenu* FrmIcoEd::EditingPopup() {
+    return popupView_.Popup(kPopupRoot);
+}
+
+void FrmIcoEd::ShowEditingPopup() {
+    const bool overGrid = picMain_->underMouse();
+    EditingPopup()->popup(overGrid ? QCursor::pos()
+                                   : picMain_->mapToGlobal(picMain_->rect().center()));
+}
+
+void FrmIcoEd::contextMenuEvent(QContextMenuEvent* event) {
+    // The right mouse button draws.
+    if (event->reason() == QContextMenuEvent::Keyboard) ShowEditingPopup();
+}
+
+void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        ShowEditingPopup();
+    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
+        menuBar_->setActiveAction(menuBar_->actions().constFirst());
+    } else if (event->key() == Qt::Key_Escape) {
+        // Back from the toolbar.
+        setFocus();
+    } else {
+        QWidget::keyPressEvent(event);
     }
 }
 
-void FrmIcoEd::ApplyMenuCaptions() {
-    for (std::size_t i = 0; i < menuActions_.size(); ++i) {
-        if (menuActions_[i] == nullptr) continue;
-        menuActions_[i]->setText(WithMnemonic(i18n::MenuBar()[i].caption.Now()));
+void FrmIcoEd::SetControlCaption(std::string_view control, std::string_view text) {
+    if (auto* label = findChild<QLabel*>(ToText(control)); label != nullptr) {
+        // The place of the icon's format is narrow: its size stands above its depth.
+        label->setText(ToText(text).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
     }
 }
 
-void FrmIcoEd::ApplyMainCaptions() {
-    // The place is narrow: the size on the first line, the depth below.
-    label1_->setText(
-        ToText(i18n::kLabel1.Now()).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
+void FrmIcoEd::SetControlToolTip(std::string_view control, std::string_view text) {
+    if (auto* widget = findChild<QWidget*>(ToText(control)); widget != nullptr) {
+        widget->setToolTip(ToText(text));
+    }
+}
+
+void FrmIcoEd::SetButtonToolTip(std::string_view key, std::string_view text) {
+    toolbar1_->SetToolTip(key, text);
 }
 
 // No Edit commands in the menu yet.

@@ -5,22 +5,40 @@
 
 namespace kestrel::app {
 
+namespace {
+
+constexpr std::string_view kLanguageSection = "Settings";
+constexpr std::string_view kLanguageKey = "Language";
+
+}  // namespace
+
 const std::string& Settings::File() {
     if (file_.empty()) {
         std::string folder = system::ApplicationFolder();
         if (!system::CanWriteIn(folder)) folder = system::ConfigFolder();
-        file_ = folder + "/" + system::ExecutableName() + ".ini";
+        if (!folder.ends_with('/')) folder += '/';
+        file_ = folder + system::ExecutableName() + ".ini";
     }
     return file_;
 }
 
 std::string Settings::ReadSetting(std::string_view section, std::string_view key,
-                                  std::string_view otherwise) {
-    return system::ReadProfileString(files_, section, key, otherwise, File());
+                                  std::string_view otherwise, const std::string& file) {
+    return system::ReadProfileString(files_, section, key, otherwise, file.empty() ? File() : file);
+}
+
+void Settings::WriteSetting(std::string_view section, std::string_view key, std::string_view value,
+                            const std::string& file) {
+    static_cast<void>(
+        system::WriteProfileString(files_, section, key, value, file.empty() ? File() : file));
 }
 
 std::string ReadSavedLanguage(Settings& settings) {
-    return settings.ReadSetting("Settings", "Language", "");
+    return settings.ReadSetting(kLanguageSection, kLanguageKey, "");
+}
+
+void SaveLanguage(Settings& settings, std::string_view code) {
+    settings.WriteSetting(kLanguageSection, kLanguageKey, code);
 }
 
 }  // namespace kestrel::app

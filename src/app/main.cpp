@@ -7,8 +7,10 @@
 #include "app/Startup.h"
 #include "i18n/DesktopTexts.h"
 #include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtHelpViewer.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/TableTranslator.h"
+#include "platform/system/DesktopShell.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
 #include "platform/system/Folders.h"
@@ -60,10 +62,21 @@ int main(int argc, char* argv[]) {
     app::Settings settings(files);
     qt::QtMessageBoxes boxes;
     const app::StartupFacts facts = FactsOf(QGuiApplication::primaryScreen(), !lock);
-    if (!app::PrepareStart(facts, {boxes, registry, files, settings})) return 0;
+    const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
+    if (!values) return 0;
 
     qt::QtFileDialogs cdb;
-    app::FrmIcoEd window({boxes, cdb, files});
+    system::DesktopShell shell;
+    qt::QtHelpViewer help(shell);
+    app::FrmIcoEd window({cdb,
+                          boxes,
+                          help,
+                          files,
+                          registry,
+                          shell,
+                          settings,
+                          {facts.applicationFolder, values->WindowsFolder},
+                          facts.systemLcid});
     boxes.SetOwner(&window);
     cdb.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv)));

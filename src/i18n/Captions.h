@@ -4,13 +4,21 @@
 
 namespace kestrel::i18n {
 
-// Controls of the main window.
-inline constexpr Text kLabel1{"32 * 32 True Color", "32 * 32 真彩色"};
-
 // Status bar: hints under the pointer, and the readout of a pixel without colour.
 inline constexpr Text kPencilHint{"Left-Click (Forecolor) Or Right-Click (Backcolor)",
                                   "点击鼠标左键 (前景色) 或 点击鼠标右键 (背景色)"};
 inline constexpr Text kActualSize{"Actual Size", "图标实际大小"};
 inline constexpr Text kTransparent{"Transparent", "透明"};
+
+// The About box.
+inline constexpr Text kAboutTitle{"About KestrelIconEditor", "关于 KestrelIconEditor"};
+inline constexpr Text kAboutVersion{"Version ", "版本 "};
+inline constexpr Text kAboutPurpose{"Draws and repairs icons of 32 x 32 pixels.",
+                                    "绘制和修复 32 x 32 像素的图标."};
+inline constexpr Text kAboutCopyright{"Copyright (c) 2026 The KestrelIconEditor developers",
+                                      "版权所有 (c) 2026 KestrelIconEditor 开发者"};
+inline constexpr Text kAboutLicence{"Free software under the MIT licence, without any warranty.",
+                                    "依据 MIT 许可证发布的自由软件, 不提供任何担保."};
+inline constexpr Text kSystemInfo{"&System Info...", "系统信息(&S)..."};
 
 }  // namespace kestrel::i18n

@@ -20,6 +20,10 @@ constexpr std::array kDesktopTexts = {
     Text{"&Save", "保存(&S)"},
     Text{"Open", "打开"},
     Text{"Save", "保存"},
+    // Texts that can be copied.
+    Text{"&Copy", "复制(&C)"},
+    Text{"Copy &Link Location", "复制链接地址(&L)"},
+    Text{"Select All", "全选"},
     // File dialogs.
     Text{"Look in:", "查找范围:"},
     Text{"File &name:", "文件名(&N):"},

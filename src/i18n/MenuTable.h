@@ -4,25 +4,28 @@
 #include <string_view>
 
 #include "i18n/Language.h"
+#include "platform/controls/SmartMenuXP.h"
 
 namespace kestrel::i18n {
 
-enum class ItemKind { Item, IconItem, Option, Separator };
+// How an item looks at start.
+enum class ItemFlag { None, Hidden, Checked };
 
-// One entry of a menu. Entries of a parent stand in the order of the table; an empty parent is the
-// menu bar itself.
-struct MenuItem {
+// One item of a menu, as the menu control takes it, with its caption in both languages. Separators
+// and the recent files have none here.
+struct MenuRow {
     std::string_view key;
     std::string_view parent;
-    ItemKind kind = ItemKind::Item;
-    // '&' stands before the letter that opens the entry by keyboard.
-    Text caption;
-    // As in "Ctrl+Shift+S"; empty for none.
-    std::string_view shortcut;
-    // Number of its picture in the image list, 0 for none.
+    controls::ItemKind kind = controls::ItemKind::Item;
+    Text caption = {};
+    std::string_view shortcut = {};
     int picture = 0;
+    ItemFlag flag = ItemFlag::None;
 };
 
-std::span<const MenuItem> MenuBar();
+// The menu bar.
+std::span<const MenuRow> MenuBarRows();
+// The editing pop-up menu over the grid; its items are below the one root "mnuEdit".
+std::span<const MenuRow> PopupMenuRows();
 
 }  // namespace kestrel::i18n

@@ -38,6 +38,15 @@ std::string CannotOpenNamed(std::string_view fileTitle);
 // A save that failed; `reason` is the system's description. Empty file title: a new icon.
 std::string CannotSave(std::string_view reason, std::string_view fileTitle);
 
+// A recent file that is gone; this one speaks English only.
+std::string CannotLocate(std::string_view path);
+
+// Programs and pages beside the editor; `reason` is the system's description.
+inline constexpr Text kHelpTitle{"KestrelIconEditor - Help", "KestrelIconEditor - 帮助"};
+std::string CannotOpenHelp(std::string_view path);
+std::string CannotOpenHomePage(std::string_view url);
+std::string CannotStart(std::string_view reason, std::string_view program);
+
 // The warning before a save replaces a file that held several icons.
 std::string SeveralIcons(std::string_view fileTitle);
 

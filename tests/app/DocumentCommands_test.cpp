@@ -5,7 +5,7 @@
 #include "document/IcoFile.h"
 #include "i18n/Language.h"
 #include "platform/icons/IconFile.h"
-#include "tests/support/Recorders.h"
+#include "tests/support/Services.h"
 
 namespace kestrel::app {
 namespace {
@@ -60,9 +60,12 @@ class DocumentCommandsTest : public testing::Test {
     test::ScriptedBoxes boxes_;
     test::ScriptedDialogs cdb_;
     test::MemoryFiles files_;
+    test::MemoryRegistry registry_;
+    controls::SmartMenuXP menu_;
+    ModRecent recent_{menu_, registry_, files_, boxes_, 1033};
     editing::Editor editor_{window_, 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
-    DocumentCommands commands_{editor_, window_, cdb_, boxes_, files_};
+    DocumentCommands commands_{editor_, window_, recent_, cdb_, boxes_, files_};
 };
 
 TEST_F(DocumentCommandsTest, OpensByDialogAndByName) {

@@ -10,7 +10,7 @@
 #include "document/IcoFile.h"
 #include "i18n/Language.h"
 #include "platform/qt/Pictures.h"
-#include "tests/support/Recorders.h"
+#include "tests/support/Services.h"
 
 namespace kestrel::app {
 namespace {
@@ -44,10 +44,11 @@ class FrmIcoEdTest : public testing::Test {
         QApplication::processEvents();
     }
 
-    test::ScriptedBoxes boxes_;
-    test::ScriptedDialogs cdb_;
-    test::MemoryFiles files_;
-    FrmIcoEd window_{{boxes_, cdb_, files_}};
+    test::FakeServices services_;
+    test::ScriptedBoxes& boxes_ = services_.boxes;
+    test::ScriptedDialogs& cdb_ = services_.cdb;
+    test::MemoryFiles& files_ = services_.files;
+    FrmIcoEd window_{services_.Given()};
 };
 
 TEST_F(FrmIcoEdTest, StandsWhereAndAsItWasDesigned) {

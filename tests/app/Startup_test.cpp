@@ -12,33 +12,12 @@
 #include "i18n/Language.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/Folders.h"
-#include "tests/support/Recorders.h"
+#include "tests/support/Services.h"
 
 namespace kestrel::app {
 namespace {
 
 using dialogs::BoxIcon;
-
-struct RecordingRegistry : system::Registry {
-    std::optional<std::string> ReadValue(system::RegistryRoot, std::string_view,
-                                         std::string_view) override {
-        return std::nullopt;
-    }
-    bool KeyExists(system::RegistryRoot, std::string_view) override { return false; }
-    Result<void> WriteValue(system::RegistryRoot root, std::string_view key, std::string_view name,
-                            std::string_view value) override {
-        EXPECT_EQ(root, system::RegistryRoot::ClassesRoot);
-        EXPECT_EQ(name, "");
-        if (key == refused) return Fail(13, "Permission denied");
-        values[std::string(key)] = value;
-        return {};
-    }
-    Result<void> DeleteValue(system::RegistryRoot, std::string_view, std::string_view) override {
-        return {};
-    }
-    std::string refused;
-    std::map<std::string, std::string> values;
-};
 
 class StartupTest : public testing::Test {
   protected:
@@ -57,7 +36,7 @@ class StartupTest : public testing::Test {
 
     StartupFacts facts_;
     test::ScriptedBoxes boxes_;
-    RecordingRegistry registry_;
+    test::MemoryRegistry registry_;
     test::MemoryFiles files_;
     Settings settings_{files_};
     StartupServices services_{boxes_, registry_, files_, settings_};
@@ -137,15 +116,15 @@ TEST_F(StartupTest, FailedChecksEndTheStartWithTheirMessage) {
 }
 
 TEST_F(StartupTest, RegistersTheAssociation) {
-    registry_.refused = "icofile";
+    registry_.refused = "HKCR\\icofile";
     RegisterIcoAssociation(registry_, "C:\\Icons");
-    EXPECT_EQ(registry_.values,
-              (std::map<std::string, std::string>{
-                  {".ico", "icofile"},
-                  {"icofile\\DefaultIcon", "%1"},
-                  {"icofile\\Shell\\Open\\Command", "C:\\Icons\\KestrelIconEditor.exe /open %1"}}));
+    using Keys = std::map<std::string, test::MemoryRegistry::Values>;
+    EXPECT_EQ(registry_.values, (Keys{{"HKCR\\.ico", {{"", "icofile"}}},
+                                      {"HKCR\\icofile\\DefaultIcon", {{"", "%1"}}},
+                                      {"HKCR\\icofile\\Shell\\Open\\Command",
+                                       {{"", "C:\\Icons\\KestrelIconEditor.exe /open %1"}}}}));
     RegisterIcoAssociation(registry_, "C:\\");
-    EXPECT_EQ(registry_.values["icofile\\Shell\\Open\\Command"],
+    EXPECT_EQ(registry_.values["HKCR\\icofile\\Shell\\Open\\Command"][""],
               "C:\\KestrelIconEditor.exe /open %1");
 }
 

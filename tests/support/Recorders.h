@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/DocumentCommands.h"
+#include "app/MainCommands.h"
 #include "editing/EditorWindow.h"
 #include "platform/dialogs/FileDialogs.h"
 #include "platform/dialogs/MessageBoxes.h"
@@ -16,7 +16,7 @@
 namespace kestrel::test {
 
 // A main window without a screen: remembers what it was told last.
-class RecordingWindow : public editing::EditorWindow, public app::DocumentWindow {
+class RecordingWindow : public editing::EditorWindow, public app::MainWindow {
   public:
     void RepaintView(document::View view, gdi::Rect area) override {
         repainted.emplace_back(view, area);
@@ -27,13 +27,22 @@ class RecordingWindow : public editing::EditorWindow, public app::DocumentWindow
     }
     void PrintPointerCell(std::string_view text) override { printedCell = text; }
     void SetGridCursor(editing::GridCursor shape) override { cursor = shape; }
-    void RefreshEditCommands() override {}
+    void RefreshEditCommands() override { ++refreshes; }
 
     void EnableGrid(bool enabled) override { gridEnabled = enabled; }
     void StartTmr() override { tmrStarted = true; }
     void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
     void ProcessPendingEvents() override {}
     void Unload() override { unloaded = true; }
+    void SetControlCaption(std::string_view control, std::string_view text) override {
+        captions[std::string(control)] = text;
+    }
+    void SetControlToolTip(std::string_view /*control*/, std::string_view /*text*/) override {}
+    void SetButtonToolTip(std::string_view key, std::string_view text) override {
+        captions[std::string(key)] = text;
+    }
+    void ShowAbout() override { aboutShown = true; }
+    void LanguageChanged() override { languageChanged = true; }
 
     std::vector<std::pair<document::View, gdi::Rect>> repainted;
     std::string title;
@@ -44,6 +53,10 @@ class RecordingWindow : public editing::EditorWindow, public app::DocumentWindow
     bool tmrStarted = false;
     std::string hourglasses;
     bool unloaded = false;
+    int refreshes = 0;
+    std::map<std::string, std::string> captions;
+    bool aboutShown = false;
+    bool languageChanged = false;
 };
 
 // Message boxes that a test answers beforehand; unexpected ones are answered Cancel.

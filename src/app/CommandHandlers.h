@@ -1,0 +1,27 @@
+#pragma once
+
+namespace kestrel::app {
+
+// Programs of the same maker that the Tools menu starts.
+enum class Sibling { ScreenCapture, IconBrowser, ClipboardViewer };
+
+// Every command that a menu, the toolbar or a key can give.
+class CommandHandlers {
+  public:
+    virtual ~CommandHandlers() = default;
+    virtual void mnuNew_Click() = 0;
+    virtual void mnuOpen_Click() = 0;
+    virtual void mnuSave_Click() = 0;
+    virtual void mnuSaveAs_Click() = 0;
+    // Opens the recent file of this slot, 1 to 4.
+    virtual void mnuRecent_Click(int slot) = 0;
+    virtual void mnuExit_Click() = 0;
+    virtual void StartSibling(Sibling program) = 0;
+    // 0 is Chinese, 1 English; others are none.
+    virtual void mnuLanguageOpts_Click(int index) = 0;
+    virtual void mnuHomePage_Click() = 0;
+    virtual void mnuHelp_Click() = 0;
+    virtual void mnuAbout_Click() = 0;
+};
+
+}  // namespace kestrel::app

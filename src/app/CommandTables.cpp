@@ -1,0 +1,153 @@
+#include "app/CommandTables.h"
+
+#include <array>
+
+namespace kestrel::app {
+
+namespace {
+
+template <auto member, auto... arguments>
+void Call(CommandHandlers& handlers) {
+    (handlers.*member)(arguments...);
+}
+
+// Rolling leaves the image as it is.
+void Nothing(CommandHandlers& /*handlers*/) {}
+
+constexpr auto kMenuBar = std::to_array<CommandRow>({
+    {"mnuNew", Call<&CommandHandlers::mnuNew_Click>},
+    {"mnuOpen", Call<&CommandHandlers::mnuOpen_Click>},
+    {"mnuExtract", nullptr},
+    {"mnuRecentFile1", Call<&CommandHandlers::mnuRecent_Click, 1>},
+    {"mnuRecentFile2", Call<&CommandHandlers::mnuRecent_Click, 2>},
+    {"mnuRecentFile3", Call<&CommandHandlers::mnuRecent_Click, 3>},
+    {"mnuRecentFile4", Call<&CommandHandlers::mnuRecent_Click, 4>},
+    {"mnuSave", Call<&CommandHandlers::mnuSave_Click>},
+    {"mnuSaveAs", Call<&CommandHandlers::mnuSaveAs_Click>},
+    {"mnuPrint", nullptr},
+    {"mnuExit", Call<&CommandHandlers::mnuExit_Click>},
+    {"mnuEditOpts0", nullptr},
+    {"mnuEditOpts1", nullptr},
+    {"mnuEditOpts3", nullptr},
+    {"mnuEditOpts4", nullptr},
+    {"mnuEditOpts5", nullptr},
+    {"mnuEditOpts6", nullptr},
+    {"mnuEditOpts7", nullptr},
+    {"mnuEditOpts9", nullptr},
+    {"mnuToolsOpts0", nullptr},
+    {"mnuToolsOpts1", nullptr},
+    {"mnuPaletteOpts0", nullptr},
+    {"mnuPaletteOpts1", nullptr},
+    {"mnuPaletteOpts3", nullptr},
+    {"mnuPaletteOpts4", nullptr},
+    {"mnuToolsOpts3", nullptr},
+    {"mnuToolsOpts4", nullptr},
+    {"mnuToolsOpts5", Call<&CommandHandlers::StartSibling, Sibling::ScreenCapture>},
+    {"mnuToolsOpts6", Call<&CommandHandlers::StartSibling, Sibling::IconBrowser>},
+    {"mnuToolsOpts7", Call<&CommandHandlers::StartSibling, Sibling::ClipboardViewer>},
+    {"mnuImageOpts0", nullptr},
+    {"mnuImageOpts1", nullptr},
+    {"mnuImageOpts2", nullptr},
+    {"mnuImageOpts3", nullptr},
+    {"mnuMirrorOpts0", nullptr},
+    {"mnuMirrorOpts1", nullptr},
+    {"mnuMirrorOpts2", nullptr},
+    {"mnuMirrorOpts3", nullptr},
+    {"mnuRotateOpts0", nullptr},
+    {"mnuRotateOpts1", nullptr},
+    {"mnuRotateOpts3", nullptr},
+    {"mnuRotateOpts4", nullptr},
+    {"mnuRollLeft", Nothing},
+    {"mnuRollRight", Nothing},
+    {"mnuRollUp", Nothing},
+    {"mnuRollDown", Nothing},
+    {"mnuBrighter", nullptr},
+    {"mnuDarker", nullptr},
+    {"mnuContrast1", nullptr},
+    {"mnuContrast2", nullptr},
+    {"mnuSaturationI", nullptr},
+    {"mnuSaturationD", nullptr},
+    {"mnuBlur", nullptr},
+    {"mnuBlurMore", nullptr},
+    {"mnuSharpen", nullptr},
+    {"mnuSharpenMore", nullptr},
+    {"mnuEdge", nullptr},
+    {"mnuDiffuse", nullptr},
+    {"mnuDiffuseMore", nullptr},
+    {"mnuPixelize", nullptr},
+    {"mnuSwapBank1", nullptr},
+    {"mnuSwapBank2", nullptr},
+    {"mnuSwapBank3", nullptr},
+    {"mnuSwapBank4", nullptr},
+    {"mnuSwapBank5", nullptr},
+    {"mnuBW1", nullptr},
+    {"mnuBW2", nullptr},
+    {"mnuBW3", nullptr},
+    {"mnuBW4", nullptr},
+    {"mnuBW5", nullptr},
+    {"mnuBW6", nullptr},
+    {"mnuEmboss", nullptr},
+    {"mnuEmbossMore", nullptr},
+    {"mnuEngrave", nullptr},
+    {"mnuEngraveMore", nullptr},
+    {"mnuRelief", nullptr},
+    {"mnuContour", nullptr},
+    {"mnuConnection", nullptr},
+    {"mnuGreyScale", nullptr},
+    {"mnuNegative", nullptr},
+    {"mnuAddNoise", nullptr},
+    {"mnuGamma", nullptr},
+    {"mnuAqua", nullptr},
+    {"mnuDilate", nullptr},
+    {"mnuErode", nullptr},
+    {"mnuStretch", nullptr},
+    {"mnuLanguageOpts0", Call<&CommandHandlers::mnuLanguageOpts_Click, 0>},
+    {"mnuLanguageOpts1", Call<&CommandHandlers::mnuLanguageOpts_Click, 1>},
+    {"mnuHomePage", Call<&CommandHandlers::mnuHomePage_Click>},
+    {"mnuHelp2", Call<&CommandHandlers::mnuHelp_Click>},
+    {"mnuAbout", Call<&CommandHandlers::mnuAbout_Click>},
+});
+
+constexpr auto kPopup = std::to_array<CommandRow>({
+    {"mnuPopup2Opts0", nullptr},
+    {"mnuPopup2Opts1", nullptr},
+    {"mnuPopup2Opts2", nullptr},
+    {"mnuPopup2Opts3", nullptr},
+    {"mnuPopup2Opts4", nullptr},
+    {"mnuRotate2Opts0", nullptr},
+    {"mnuRotate2Opts1", nullptr},
+    {"mnuFlip2Opts0", nullptr},
+    {"mnuFlip2Opts1", nullptr},
+});
+
+constexpr auto kToolbar = std::to_array<CommandRow>({
+    {"New", Call<&CommandHandlers::mnuNew_Click>},
+    {"Open", Call<&CommandHandlers::mnuOpen_Click>},
+    {"Extract", nullptr},
+    {"Save", Call<&CommandHandlers::mnuSave_Click>},
+    {"Undo", nullptr},
+    {"Redo", nullptr},
+    {"Cut", nullptr},
+    {"Copy", nullptr},
+    {"Paste", nullptr},
+    {"Delete", nullptr},
+    {"Capture", nullptr},
+    {"ScreenZoom", nullptr},
+    {"Help", Call<&CommandHandlers::mnuHelp_Click>},
+});
+
+}  // namespace
+
+std::span<const CommandRow> MenuBarCommands() {
+    return kMenuBar;
+}
+
+std::span<const CommandRow> PopupCommands() {
+    return kPopup;
+}
+
+std::span<const CommandRow> ToolbarCommands() {
+    return kToolbar;
+}
+
+}  // namespace kestrel::app

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "app/CommandHandlers.h"
+
+namespace kestrel::app {
+
+// What the item or button of a key does; null while the program lacks the command.
+struct CommandRow {
+    std::string_view key;
+    void (*run)(CommandHandlers& handlers);
+};
+
+// Every key that stands for a command: of the menu bar, the editing pop-up and the toolbar.
+std::span<const CommandRow> MenuBarCommands();
+std::span<const CommandRow> PopupCommands();
+std::span<const CommandRow> ToolbarCommands();
+
+}  // namespace kestrel::app

@@ -1,0 +1,36 @@
+#include "app/MainCommands.h"
+
+#include <array>
+#include <string>
+
+#include "i18n/Language.h"
+
+namespace kestrel::app {
+
+MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
+                           const MainServices& services)
+    : window_(window),
+      menus_(menus),
+      settings_(services.settings),
+      recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
+              services.systemLcid),
+      documents_(editor, window, recent_, services.cdb, services.boxes, services.files),
+      shell_({services.boxes, services.help, services.files, services.shell}, services.folders) {}
+
+void MainCommands::mnuRecent_Click(int slot) {
+    const std::string pathToOpen = recent_.GetRecentFile(slot);
+    if (!pathToOpen.empty()) documents_.OpenNamed(pathToOpen);
+}
+
+void MainCommands::mnuLanguageOpts_Click(int index) {
+    constexpr std::array kCodes{i18n::kChinese, i18n::kEnglish};
+    if (index < 0 || index >= static_cast<int>(kCodes.size())) return;
+    const std::string_view code = kCodes[static_cast<std::size_t>(index)];
+    i18n::ApplyMainCaptions(code, window_);
+    i18n::ApplyMenuCaptions(code, menus_.SmartMenuXP1, menus_.SmartMenuXP2);
+    i18n::SetUiLanguage(code);
+    SaveLanguage(settings_, code);
+    window_.LanguageChanged();
+}
+
+}  // namespace kestrel::app

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "app/CommandHandlers.h"
+#include "app/DocumentCommands.h"
+#include "app/ModRecent.h"
+#include "app/Settings.h"
+#include "app/ShellCommands.h"
+#include "editing/Editor.h"
+#include "i18n/ModLanguage.h"
+#include "platform/controls/SmartMenuXP.h"
+
+namespace kestrel::app {
+
+// What the commands need of the main window.
+class MainWindow : public DocumentWindow, public i18n::CaptionedWindow {
+  public:
+    virtual void ShowAbout() = 0;
+    // Whatever else the window shows as text is in another language from now on.
+    virtual void LanguageChanged() = 0;
+};
+
+// What the main window is given; all of it outlives the window.
+struct MainServices {
+    dialogs::FileDialogs& cdb;
+    dialogs::MessageBoxes& boxes;
+    dialogs::HelpViewer& help;
+    system::FileSystem& files;
+    system::Registry& registry;
+    system::Shell& shell;
+    Settings& settings;
+    ProgramFolders folders;
+    std::uint32_t systemLcid = 0;
+};
+
+// The main window's menus: the bar and the editing pop-up.
+struct MainMenus {
+    controls::SmartMenuXP SmartMenuXP1;
+    controls::SmartMenuXP SmartMenuXP2;
+};
+
+// The handlers of all commands, each handed to the object whose business it is.
+class MainCommands : public CommandHandlers {
+  public:
+    MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
+                 const MainServices& services);
+
+    DocumentCommands& Documents() { return documents_; }
+    ModRecent& Recent() { return recent_; }
+
+    void mnuNew_Click() override { documents_.mnuNew_Click(); }
+    void mnuOpen_Click() override { documents_.mnuOpen_Click(); }
+    void mnuSave_Click() override { documents_.mnuSave_Click(); }
+    void mnuSaveAs_Click() override { documents_.mnuSaveAs_Click(); }
+    void mnuRecent_Click(int slot) override;
+    void mnuExit_Click() override { documents_.mnuExit_Click(); }
+    void StartSibling(Sibling program) override { shell_.StartSibling(program); }
+    // Changes the language of everything and keeps it for the next start.
+    void mnuLanguageOpts_Click(int index) override;
+    void mnuHomePage_Click() override { shell_.mnuHomePage_Click(); }
+    void mnuHelp_Click() override { shell_.mnuHelp_Click(); }
+    void mnuAbout_Click() override { window_.ShowAbout(); }
+
+  private:
+    MainWindow& window_;
+    MainMenus& menus_;
+    Settings& settings_;
+    ModRecent recent_;
+    DocumentCommands documents_;
+    ShellCommands shell_;
+};
+
+}  // namespace kestrel::app

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/controls/SmartMenuXP.h"
+#include "platform/dialogs/MessageBoxes.h"
+#include "platform/system/FileSystem.h"
+#include "platform/system/Registry.h"
+
+namespace kestrel::app {
+
+// The icon files used last, in the File menu, the latest first. The registry keeps them between
+// runs; its failures are silent. Slots count from 1 and have no gaps; paths are compared exactly.
+class ModRecent {
+  public:
+    static constexpr int kSlots = 4;
+
+    // `systemLcid` is the locale whose code page tells how wide a caption is.
+    ModRecent(controls::SmartMenuXP& menu, system::Registry& registry, system::FileSystem& files,
+              dialogs::MessageBoxes& boxes, std::uint32_t systemLcid);
+
+    // Takes the list out of the registry.
+    void LoadRecentFiles();
+    // Puts a file that was opened or saved in slot 1; the one after slot 4 is dropped.
+    void AddRecentFile(const std::string& path);
+    // The path of a slot, empty for an empty one. A file that is gone is reported, leaves the list
+    // and gives an empty path.
+    std::string GetRecentFile(int slot);
+    // Puts the list back into the registry.
+    void SaveRecentFiles();
+
+  private:
+    void ShowInMenu();
+
+    controls::SmartMenuXP& menu_;
+    system::Registry& registry_;
+    system::FileSystem& files_;
+    dialogs::MessageBoxes& boxes_;
+    std::uint32_t systemLcid_;
+    // Slot k is entry k - 1.
+    std::vector<std::string> RecentFiles;
+};
+
+}  // namespace kestrel::app

@@ -1,0 +1,64 @@
+#include "app/ShellCommands.h"
+
+#include <utility>
+
+#include "i18n/Language.h"
+#include "i18n/Messages.h"
+
+namespace kestrel::app {
+
+namespace {
+
+constexpr std::string_view kHomePage = "https://brinmoor.example/KestrelIconEditor";
+
+std::string ProgramOf(Sibling sibling, const ProgramFolders& folders) {
+    switch (sibling) {
+        case Sibling::ScreenCapture:
+            return folders.application + "\\Quillet.exe";
+        case Sibling::IconBrowser:
+            return folders.windows + "\\Varnel.exe";
+        case Sibling::ClipboardViewer:
+            break;
+    }
+    return folders.windows + "\\Ormsby Extender.exe";
+}
+
+}  // namespace
+
+ShellCommands::ShellCommands(const ShellServices& services, ProgramFolders folders)
+    : services_(services), folders_(std::move(folders)) {}
+
+// The help lies beside the program, or where an installation puts what is not a program.
+std::string ShellCommands::HelpFile() const {
+    const std::string page = "/help/" + std::string(i18n::UiLanguage()) + "/index.html";
+    const std::string beside = folders_.application + page;
+    const std::string installed = folders_.application + "/../share/KestrelIconEditor" + page;
+    return !services_.files.FileExists(beside) && services_.files.FileExists(installed) ? installed
+                                                                                        : beside;
+}
+
+void ShellCommands::mnuHelp_Click() {
+    const std::string file = HelpFile();
+    if (!services_.help.ShowHelp(file, std::string(i18n::kHelpTitle.Now()))) {
+        ShowError(i18n::CannotOpenHelp(file));
+    }
+}
+
+void ShellCommands::mnuHomePage_Click() {
+    if (!services_.shell.Open(std::string(kHomePage))) {
+        ShowError(i18n::CannotOpenHomePage(kHomePage));
+    }
+}
+
+void ShellCommands::StartSibling(Sibling program) {
+    const std::string file = ProgramOf(program, folders_);
+    const Result<void> started = services_.shell.RunProgram(file, {});
+    if (!started) ShowError(i18n::CannotStart(started.error().description, file));
+}
+
+void ShellCommands::ShowError(const std::string& text) {
+    services_.boxes.Show(dialogs::BoxIcon::Exclamation, dialogs::BoxButtons::Ok, text,
+                         std::string(i18n::kErrorTitle.Now()));
+}
+
+}  // namespace kestrel::app

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+
+#include "app/CommandHandlers.h"
+#include "platform/dialogs/HelpViewer.h"
+#include "platform/dialogs/MessageBoxes.h"
+#include "platform/system/FileSystem.h"
+#include "platform/system/Shell.h"
+
+namespace kestrel::app {
+
+// Where the files beside the program lie.
+struct ProgramFolders {
+    std::string application;
+    std::string windows;
+};
+
+struct ShellServices {
+    dialogs::MessageBoxes& boxes;
+    dialogs::HelpViewer& help;
+    system::FileSystem& files;
+    system::Shell& shell;
+};
+
+// The commands that show or start what is not the editor itself. What cannot be shown or started
+// is said in a message.
+class ShellCommands {
+  public:
+    ShellCommands(const ShellServices& services, ProgramFolders folders);
+
+    // The help text in the language in force.
+    void mnuHelp_Click();
+    void mnuHomePage_Click();
+    void StartSibling(Sibling program);
+
+  private:
+    std::string HelpFile() const;
+    void ShowError(const std::string& text);
+
+    ShellServices services_;
+    ProgramFolders folders_;
+};
+
+}  // namespace kestrel::app

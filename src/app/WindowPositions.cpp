@@ -1,0 +1,102 @@
+#include "app/WindowPositions.h"
+
+#include <algorithm>
+#include <charconv>
+#include <vector>
+
+namespace kestrel::app {
+
+namespace {
+
+constexpr std::string_view kSection = "Positions";
+constexpr std::size_t kFields = 5;
+// Smaller stored sizes are no window's.
+constexpr int kLeastSize = 150;  // twips
+
+std::string Trimmed(std::string_view text) {
+    const std::size_t first = std::min(text.find_first_not_of(' '), text.size());
+    return std::string(text.substr(first, text.find_last_not_of(' ') + 1 - first));
+}
+
+// The fields between the commas; none for an empty text.
+std::vector<std::string> FieldsOf(std::string_view stored) {
+    std::vector<std::string> fields;
+    if (stored.empty()) return fields;
+    for (std::size_t comma = 0; comma != std::string_view::npos;) {
+        comma = stored.find(',');
+        fields.push_back(Trimmed(stored.substr(0, comma)));
+        stored.remove_prefix(comma == std::string_view::npos ? 0 : comma + 1);
+    }
+    return fields;
+}
+
+std::string Joined(const std::vector<std::string>& fields) {
+    std::string text = fields.front();
+    for (std::size_t i = 1; i < fields.size(); ++i)
+        text += "," + fields[i];
+    return text;
+}
+
+// The number a field begins with; 0 when there is none or it fits no integer.
+int NumberIn(const std::string& field) {
+    int number = 0;
+    std::from_chars(field.data(), field.data() + field.size(), number);
+    return number;
+}
+
+bool IsTrue(std::string field) {
+    std::transform(field.begin(), field.end(), field.begin(), [](char letter) {
+        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
+    });
+    return field == "true";
+}
+
+// One axis of a stored window: where it starts and how long it is, in twips.
+struct Span {
+    int start;
+    int length;
+};
+
+Span OnScreen(Span stored, Span current, int screen) {
+    Span placed = stored;
+    placed.length = stored.length >= kLeastSize ? std::min(stored.length, screen) : current.length;
+    if (stored.start < 0) placed.start = current.start;
+    if (placed.start > screen - placed.length) placed.start = screen - placed.length;
+    return placed;
+}
+
+}  // namespace
+
+void SaveWindowPosition(Settings& settings, const PositionedWindow& window,
+                        const std::string& file) {
+    const WindowState state = window.State();
+    const WindowBounds now = window.Bounds();
+    std::vector<std::string> fields{std::to_string(now.left), std::to_string(now.top),
+                                    std::to_string(now.width), std::to_string(now.height)};
+    if (state != WindowState::Normal) {
+        fields = FieldsOf(settings.ReadSetting(kSection, window.Name(), "", file));
+        if (fields.empty()) fields.assign(kFields - 1, "-1");
+    }
+    fields.resize(kFields);
+    fields.back() = state == WindowState::Maximised ? "True" : "False";
+    settings.WriteSetting(kSection, window.Name(), Joined(fields), file);
+}
+
+void RestoreWindowPosition(Settings& settings, PositionedWindow& window, const std::string& file) {
+    const WindowBounds now = window.Bounds();
+    const WindowBounds screen = window.Screen();
+    WindowBounds stored = now;
+    bool maximised = window.State() == WindowState::Maximised;
+    const auto fields = FieldsOf(settings.ReadSetting(kSection, window.Name(), "", file));
+    if (fields.size() >= kFields) {
+        stored = {NumberIn(fields[0]), NumberIn(fields[1]), NumberIn(fields[2]),
+                  NumberIn(fields[3])};
+        maximised = IsTrue(fields[4]);
+    }
+    const Span across = OnScreen({stored.left, stored.width}, {now.left, now.width}, screen.width);
+    const Span down = OnScreen({stored.top, stored.height}, {now.top, now.height}, screen.height);
+    window.Move({across.start, down.start, across.length, down.length});
+    if (maximised) window.Maximise();
+}
+
+}  // namespace kestrel::app

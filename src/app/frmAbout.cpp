@@ -1,0 +1,96 @@
+#include "app/frmAbout.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+#include "app/ApplicationIcon.h"
+#include "i18n/Captions.h"
+#include "i18n/Messages.h"
+#include "platform/qt/Pictures.h"
+#include "platform/qt/Text.h"
+
+namespace kestrel::app {
+
+namespace {
+
+using qt::ToText;
+
+constexpr int kMargin = 20;
+constexpr int kBetweenBlocks = 18;
+constexpr int kBetweenLines = 6;
+constexpr int kPictureTimes = 2;
+
+QLabel* NewLine(const QString& text) {
+    auto* line = new QLabel(text);
+    line->setTextFormat(Qt::PlainText);
+    line->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return line;
+}
+
+QLabel* NewHeading(const QString& text) {
+    QLabel* heading = NewLine(text);
+    QFont font = heading->font();
+    font.setBold(true);
+    font.setPixelSize(QFontInfo(font).pixelSize() * 3 / 2);
+    heading->setFont(font);
+    return heading;
+}
+
+QLabel* NewPicture() {
+    const document::IconDocument icon = ApplicationIcon();
+    const QImage picture = qt::ToImage(icon.PicMask, icon.PicImage);
+    auto* label = new QLabel;
+    label->setPixmap(QPixmap::fromImage(picture.scaled(picture.size() * kPictureTimes)));
+    label->setAlignment(Qt::AlignTop);
+    return label;
+}
+
+}  // namespace
+
+frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
+    setWindowTitle(ToText(i18n::kAboutTitle.Now()));
+    auto* facts = new QHBoxLayout;
+    facts->setSpacing(kBetweenBlocks);
+    facts->addWidget(NewPicture());
+    facts->addLayout(NewTexts());
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    rows->setSpacing(kBetweenBlocks);
+    rows->addLayout(facts);
+    rows->addLayout(NewButtons());
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QLayout* frmAbout::NewTexts() {
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(kBetweenLines);
+    texts->addWidget(NewHeading(ToText(i18n::kProgramName)));
+    texts->addWidget(
+        NewLine(ToText(i18n::kAboutVersion.Now()) + QApplication::applicationVersion()));
+    texts->addSpacing(kBetweenLines);
+    for (const i18n::Text& line :
+         {i18n::kAboutPurpose, i18n::kAboutCopyright, i18n::kAboutLicence}) {
+        texts->addWidget(NewLine(ToText(line.Now())));
+    }
+    return texts;
+}
+
+QLayout* frmAbout::NewButtons() {
+    auto* cmdSysInfo = new QPushButton(ToText(i18n::kSystemInfo.Now()));
+    cmdSysInfo->setObjectName("cmdSysInfo");
+    // Until the program can start a system information viewer.
+    cmdSysInfo->setEnabled(false);
+    auto* cmdOK = new QPushButton(QDialog::tr("OK"));
+    cmdOK->setObjectName("cmdOK");
+    cmdOK->setDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(cmdSysInfo);
+    buttons->addStretch();
+    buttons->addWidget(cmdOK);
+    return buttons;
+}
+
+}  // namespace kestrel::app

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDialog>
+#include <QVBoxLayout>
+
+namespace kestrel::app {
+
+// What the program is, which version, and under which licence. Modal; closes with OK or Escape.
+class frmAbout : public QDialog {
+  public:
+    explicit frmAbout(QWidget* owner);
+
+  private:
+    QLayout* NewTexts();
+    QLayout* NewButtons();
+};
+
+}  // namespace kestrel::app

@@ -1,0 +1,97 @@
+#include "i18n/ModLanguage.h"
+
+#include <array>
+#include <span>
+#include <string>
+
+#include "i18n/Language.h"
+#include "i18n/MenuTable.h"
+#include "i18n/ToolbarTable.h"
+
+namespace kestrel::i18n {
+
+namespace {
+
+enum class Property { Caption, ToolTip };
+
+struct ControlText {
+    std::string_view control;
+    Property property;
+    Text text;
+};
+
+using enum Property;
+
+constexpr auto kControlTexts = std::to_array<ControlText>({
+    {"Label1", Caption, {"32 * 32 True Color", "32 * 32 真彩色"}},
+    {"ChkPal", Caption, {"New Palette Entry", "自定义颜色"}},
+    {"PicForeColor", ToolTip, {"Foreground Color ", "设置前景色"}},
+    {"PicBackColor", ToolTip, {"Background Color ", "设置背景色"}},
+    {"ImgDefaultColor", ToolTip, {"Select Black and White colors", "默认前景色和背景色"}},
+    {"ImgInterchangeColor", ToolTip, {"Exchange colors", "切换前景和背景色"}},
+    {"ImgTransparent", ToolTip, {"Transparent", "透明"}},
+    {"PicPal", ToolTip, {"Self-Define Color", "双击调色板 自定义颜色"}},
+    {"ImgLoadPalette", ToolTip, {"Load Palette", "打开调色板"}},
+    {"ImgSavePalette", ToolTip, {"Save Palette", "保存调色板"}},
+});
+
+constexpr int kMenuFontPoints = 9;
+
+bool IsLanguage(std::string_view code) {
+    return code == kChinese || code == kEnglish;
+}
+
+void Build(controls::SmartMenuXP& menu, std::span<const MenuRow> rows) {
+    menu.SetFont("Ms Sans Serif", kMenuFontPoints);
+    for (const MenuRow& row : rows) {
+        controls::MenuItem item;
+        item.key = row.key;
+        item.parent = row.parent;
+        item.kind = row.kind;
+        item.caption = row.caption.english;
+        item.shortcut = row.shortcut;
+        item.picture = row.picture;
+        item.checked = row.flag == ItemFlag::Checked;
+        item.visible = row.flag != ItemFlag::Hidden;
+        menu.AddItem(std::move(item));
+    }
+}
+
+void ApplyCaptions(std::string_view code, controls::SmartMenuXP& menu,
+                   std::span<const MenuRow> rows) {
+    for (const MenuRow& row : rows) {
+        const std::string_view caption = row.caption.In(code);
+        if (!caption.empty()) menu.SetCaption(row.key, caption);
+    }
+}
+
+}  // namespace
+
+void ApplyMainCaptions(std::string_view code, CaptionedWindow& window) {
+    if (!IsLanguage(code)) return;
+    for (const ControlText& row : kControlTexts) {
+        if (row.property == Caption) {
+            window.SetControlCaption(row.control, row.text.In(code));
+        } else {
+            window.SetControlToolTip(row.control, row.text.In(code));
+        }
+    }
+    for (const ToolbarButton& button : ToolbarButtons())
+        window.SetButtonToolTip(button.key, button.toolTip.In(code));
+}
+
+void BuildMenuBar(controls::SmartMenuXP& bar, controls::SmartMenuXP& popup) {
+    Build(bar, MenuBarRows());
+    Build(popup, PopupMenuRows());
+}
+
+void ApplyMenuCaptions(std::string_view code, controls::SmartMenuXP& bar,
+                       controls::SmartMenuXP& popup) {
+    if (!IsLanguage(code)) return;
+    ApplyCaptions(code, bar, MenuBarRows());
+    ApplyCaptions(code, popup, PopupMenuRows());
+    bar.SetChecked("mnuLanguageOpts0", code == kChinese);
+    bar.SetChecked("mnuLanguageOpts1", code == kEnglish);
+}
+
+}  // namespace kestrel::i18n

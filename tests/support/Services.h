@@ -1,0 +1,107 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/dialogs/HelpViewer.h"
+#include "platform/system/Registry.h"
+#include "platform/system/Shell.h"
+#include "tests/support/Recorders.h"
+
+namespace kestrel::test {
+
+// A registry in memory; `refused` is a key that cannot be written. Keys begin with their root, as
+// in "HKCU\\Software".
+class MemoryRegistry : public system::Registry {
+  public:
+    std::optional<std::string> ReadValue(system::RegistryRoot root, std::string_view key,
+                                         std::string_view name) override {
+        const auto& named = values[Path(root, key)];
+        const auto value = named.find(name);
+        return value == named.end() ? std::nullopt : std::optional(value->second);
+    }
+    bool KeyExists(system::RegistryRoot root, std::string_view key) override {
+        return values.contains(Path(root, key));
+    }
+    Result<void> WriteValue(system::RegistryRoot root, std::string_view key, std::string_view name,
+                            std::string_view value) override {
+        if (Path(root, key) == refused) return Fail(13, "Permission denied");
+        values[Path(root, key)][std::string(name)] = value;
+        return {};
+    }
+    Result<void> DeleteValues(system::RegistryRoot root, std::string_view key,
+                              std::span<const std::string> names) override {
+        if (Path(root, key) == refused) return Fail(13, "Permission denied");
+        for (const std::string& name : names)
+            values[Path(root, key)].erase(name);
+        return {};
+    }
+
+    using Values = std::map<std::string, std::string, std::less<>>;
+    std::string refused;
+    std::map<std::string, Values> values;
+
+  private:
+    static std::string Path(system::RegistryRoot root, std::string_view key) {
+        constexpr const char* kRoots[] = {"HKCR\\", "HKCU\\", "HKLM\\"};
+        return kRoots[static_cast<int>(root)] + std::string(key);
+    }
+};
+
+// Notes what is started and opened; with `failure` set nothing can be.
+class RecordingShell : public system::Shell {
+  public:
+    Result<void> RunProgram(const std::string& program,
+                            const std::vector<std::string>& /*arguments*/) override {
+        started.push_back(program);
+        return Outcome();
+    }
+    Result<void> Open(const std::string& target) override {
+        opened.push_back(target);
+        return Outcome();
+    }
+
+    std::string failure;
+    std::vector<std::string> started;
+    std::vector<std::string> opened;
+
+  private:
+    Result<void> Outcome() const {
+        if (failure.empty()) return {};
+        return Fail(2, failure);
+    }
+};
+
+// Shows the help files that `known` has.
+class RecordingHelp : public dialogs::HelpViewer {
+  public:
+    bool ShowHelp(const std::string& file, const std::string& title) override {
+        shown = file;
+        shownTitle = title;
+        return known.contains(file);
+    }
+    void Close() override { shown.clear(); }
+
+    std::map<std::string, bool> known;
+    std::string shown;
+    std::string shownTitle;
+};
+
+// All that a main window is given.
+struct FakeServices {
+    app::MainServices Given() {
+        return {cdb, boxes, help, files, registry, shell, settings, {"/program", "/windows"}, 1033};
+    }
+
+    ScriptedDialogs cdb;
+    ScriptedBoxes boxes;
+    RecordingHelp help;
+    MemoryFiles files;
+    MemoryRegistry registry;
+    RecordingShell shell;
+    app::Settings settings{files};
+};
+
+}  // namespace kestrel::test
