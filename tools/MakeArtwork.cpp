@@ -1,29 +1,56 @@
-// Writes the program's icon as the files that a desktop wants: make_artwork <folder>.
+// Writes the program's artwork as the files that a desktop and the help want:
+// make_artwork <folder>, in which the folder "pictures" must exist.
 
 #include <QImage>
 #include <cstdio>
 
 #include "app/ApplicationIcon.h"
 #include "document/IcoFile.h"
+#include "platform/controls/ImageList.h"
 #include "platform/qt/Pictures.h"
 #include "platform/system/DiskFiles.h"
+#include "resources/ImageList.h"
 
-int main(int argc, char* argv[]) {
-    using namespace kestrel;
-    if (argc != 2) {
-        std::fputs("Usage: make_artwork <folder>\n", stderr);
-        return 2;
-    }
-    const std::string folder = argv[1];
+namespace {
+
+using namespace kestrel;
+
+bool Save(const QImage& picture, const std::string& file) {
+    return picture.save(QString::fromStdString(file));
+}
+
+bool WriteIcon(const std::string& folder) {
     const document::IconDocument icon = app::ApplicationIcon();
     system::DiskFiles files;
     bool written = document::WriteIcoCopy(files, icon, folder + "/kestrel.ico").has_value();
-
     const QImage picture = qt::ToImage(icon.PicMask, icon.PicImage);
     for (const int scale : {1, 2, 4, 8}) {
         const int size = document::kIconSize * scale;
         const std::string name = folder + "/kestrel-icon-editor-" + std::to_string(size) + ".png";
-        written = picture.scaled(size, size).save(QString::fromStdString(name)) && written;
+        written = Save(picture.scaled(size, size), name) && written;
     }
-    return written ? 0 : 1;
+    return written;
+}
+
+// The image list as 01.png to 40.png.
+bool WritePictures(const std::string& folder) {
+    const controls::ImageList list(resources::kImageList, resources::kImageListInks);
+    bool written = true;
+    for (int number = 1; number <= list.Count(); ++number) {
+        const std::string digits = (number < 10 ? "0" : "") + std::to_string(number);
+        const QImage picture = qt::ToImage(list.Mask(number), list.Image(number));
+        written = Save(picture, folder + "/pictures/" + digits + ".png") && written;
+    }
+    return written;
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc != 2) {
+        std::fputs("Usage: make_artwork <folder>\n", stderr);
+        return 2;
+    }
+    const bool iconWritten = WriteIcon(argv[1]);
+    return WritePictures(argv[1]) && iconWritten ? 0 : 1;
 }
