@@ -68,7 +68,7 @@ FrmIcoEd::FrmIcoEd(const MainServices& services)
 
 void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     FollowDesktopColors();
-    setWindowIcon(ProgramIcon());
+    QApplication::setWindowIcon(ProgramIcon());
     setMouseTracking(true);
     setAcceptDrops(true);
     // The keyboard starts at the window itself, not at the first button.

@@ -116,6 +116,22 @@ WaitForNoWindow() { WaitFor "$kPatience" IsNotTitled "$1" || Fail "the window \"
 Press() { xdotool key --clearmodifiers "$@"; }
 Type() { xdotool type --delay 5 -- "$1"; }
 
+# OpenMenu <letter>: opens a menu of the bar by keyboard. The menu bar comes a moment after its
+# window.
+OpenMenu() {
+    local deadline=$((SECONDS + kPatience)) _
+    while [[ $SECONDS -lt $deadline ]]; do
+        Press "alt+$1"
+        for _ in {1..10}; do
+            MenuIsOpen && return 0
+            sleep 0.05
+        done
+    done
+    Fail "Alt+$1 opens no menu"
+}
+
+MenuIsOpen() { [[ $(xdotool search --onlyvisible --class KestrelIconEditor 2>/dev/null | wc -l) -gt 1 ]]; }
+
 # Where the client area of a window begins on the screen: sets originX and originY.
 FindOrigin() {
     local info
