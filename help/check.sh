@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Both help pages have the same anchors and looks, no dead link, and the menus' own captions.
+# Both help pages have the same anchors, no dead link, and the menus' own captions.
 set -euo pipefail
 cd "$(dirname "$0")"
 export LC_ALL=C.UTF-8
@@ -9,7 +9,6 @@ Fault() { echo "help/$*" >&2; fault=1; }
 
 Page() { tr '\n' ' ' <"$1/index.html"; }
 Anchors() { Page "$1" | grep -oP '<a name="\K[^"]*' || true; }
-Style() { sed -n '/<style/,/<\/style>/p' "$1/index.html" | grep -v 'font-family' || true; }
 # Pairs {"English", "Chinese"}; the first column for ENG, the second for CHS.
 Captions() {
     tr '\n' ' ' <"$table" | grep -oP '\{"[^"]*",\s*"[^"]*"\}' |
@@ -19,7 +18,6 @@ Captions() {
 
 [[ -n $(Anchors ENG) ]] || Fault 'ENG: no anchors'
 [[ $(Anchors ENG) == "$(Anchors CHS)" ]] || Fault 'CHS: anchors differ from ENG'
-[[ $(Style ENG) == "$(Style CHS)" ]] || Fault 'CHS: style differs from ENG'
 for page in ENG CHS; do
     anchors=$(Anchors $page) captions=$(Captions $page)
     grep -q 'class="cmd"' $page/index.html || Fault "$page: no caption marked"

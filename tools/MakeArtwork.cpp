@@ -37,9 +37,9 @@ bool WritePictures(const std::string& folder) {
     const controls::ImageList list(resources::kImageList, resources::kImageListInks);
     bool written = true;
     for (int number = 1; number <= list.Count(); ++number) {
-        const std::string digits = (number < 10 ? "0" : "") + std::to_string(number);
-        const QImage picture = qt::ToImage(list.Mask(number), list.Image(number));
-        written = Save(picture, folder + "/pictures/" + digits + ".png") && written;
+        std::string file = folder + "/pictures/" + (number < 10 ? "0" : "");
+        file += std::to_string(number) + ".png";
+        written = Save(qt::ToImage(list.Mask(number), list.Image(number)), file) && written;
     }
     return written;
 }
