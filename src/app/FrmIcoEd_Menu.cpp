@@ -80,6 +80,8 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
         ShowEditingPopup();
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
         menuBar_->setActiveAction(menuBar_->actions().constFirst());
+    } else if (event->key() == Qt::Key_F1) {
+        RunCommand([this] { dispatch_.SmartMenuXP1_Click("mnuHelp2"); });
     } else if (event->key() == Qt::Key_Escape) {
         // Back from the toolbar.
         setFocus();

@@ -75,7 +75,7 @@ void ModRecent::AddRecentFile(const std::string& path) {
 std::string ModRecent::GetRecentFile(int slot) {
     if (slot < 1 || slot > static_cast<int>(RecentFiles.size())) return {};
     const auto entry = RecentFiles.begin() + (slot - 1);
-    const std::string path = *entry;
+    std::string path = *entry;
     if (files_.FileExists(path)) return path;
     boxes_.Show(dialogs::BoxIcon::Exclamation, dialogs::BoxButtons::Ok, i18n::CannotLocate(path),
                 std::string(i18n::kErrorTitle.english));

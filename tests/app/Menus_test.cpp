@@ -185,6 +185,8 @@ TEST_F(MenusTest, LettersAndF10OpenTheMenusInBothLanguages) {
         QTest::keyClick(opened, Qt::Key_Escape);
         QTest::keyClick(Bar(), Qt::Key_Escape);
     }
+    QTest::keyClick(&window_, Qt::Key_F1);
+    EXPECT_EQ(given_.help.shown, "/program/help/ENG/index.html");
     QTest::keyClick(&window_, Qt::Key_F10);
     EXPECT_TRUE(window_.BarAction("mnuFile")->menu()->isVisible());
     window_.BarAction("mnuFile")->menu()->close();
@@ -212,7 +214,7 @@ TEST_F(MenusTest, TheMenuShowsTheModelsStateAndNotTheClicks) {
 }
 
 TEST_F(MenusTest, SwitchingLanguageByMenuChangesWhatIsShown) {
-    QLabel* label = window_.findChild<QLabel*>("Label1");
+    const auto* label = window_.findChild<QLabel*>("Label1");
     const QToolButton* save = window_.Toolbar1().Button("Save");
     HoverToolbar(0);
     ClickInBar("mnuLanguageOpts0");

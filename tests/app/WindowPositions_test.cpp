@@ -42,9 +42,9 @@ class WindowPositionsTest : public testing::Test {
 
 TEST_F(WindowPositionsTest, RestoresWhatFitsTheScreen) {
     const struct {
-        const char* stored;
+        const char* stored = "";
         WindowBounds bounds;
-        bool maximised;
+        bool maximised = false;
     } cases[] = {
         {"", kDesigned, false},
         {"1,2,3,4", kDesigned, false},

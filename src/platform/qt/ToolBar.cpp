@@ -26,14 +26,14 @@ void ToolBar::AddButton(std::string_view key, int picture) {
     resize(ButtonCount() * ButtonWidth(), buttonSize_.height());
 }
 
-void ToolBar::SetToolTip(std::string_view key, std::string_view text) {
+void ToolBar::SetToolTip(std::string_view key, std::string_view text) const {
     QToolButton* button = Button(key);
     if (button == nullptr) return;
     button->setToolTip(ToText(text));
     button->setAccessibleName(ToText(text));
 }
 
-void ToolBar::SetEnabled(std::string_view key, bool enabled) {
+void ToolBar::SetEnabled(std::string_view key, bool enabled) const {
     if (QToolButton* button = Button(key); button != nullptr) button->setEnabled(enabled);
 }
 

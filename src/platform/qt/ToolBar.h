@@ -19,8 +19,8 @@ class ToolBar : public QWidget {
 
     // Adds a button at the right end.
     void AddButton(std::string_view key, int picture);
-    void SetToolTip(std::string_view key, std::string_view text);
-    void SetEnabled(std::string_view key, bool enabled);
+    void SetToolTip(std::string_view key, std::string_view text) const;
+    void SetEnabled(std::string_view key, bool enabled) const;
     // Null for an unknown key.
     QToolButton* Button(std::string_view key) const;
 

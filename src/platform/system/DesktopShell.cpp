@@ -124,7 +124,7 @@ Result<void> DesktopShell::Open(const std::string& target) {
     const std::string opened = IsUrl(target) ? target : PlainPath(target);
     struct stat status {};
     if (!IsUrl(target) && stat(opened.c_str(), &status) < 0) return SystemFailure(errno);
-    const Result<void> started = Run({"xdg-open", opened}, Patience::Opener);
+    Result<void> started = Run({"xdg-open", opened}, Patience::Opener);
     if (started || started.error().number != ENOENT) return started;
     return Run({"gio", "open", opened}, Patience::Opener);
 }
