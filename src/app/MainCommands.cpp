@@ -15,7 +15,8 @@ MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenu
       recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
               services.systemLcid),
       documents_(editor, window, recent_, services.cdb, services.boxes, services.files),
-      shell_({services.boxes, services.help, services.files, services.shell}, services.folders) {}
+      shell_(window, {services.boxes, services.help, services.files, services.shell},
+             services.folders) {}
 
 void MainCommands::mnuRecent_Click(int slot) {
     const std::string pathToOpen = recent_.GetRecentFile(slot);

@@ -12,8 +12,8 @@ namespace {
 using system::RegistryRoot;
 
 constexpr std::string_view kKey = R"(Software\Brinmoor\KestrelIconEditor\Rfl)";
-// Paths are read into a buffer of this many bytes, its terminator included; a longer value is none.
-constexpr std::size_t kPathBuffer = 260;
+// Paths are read into a buffer of this many characters, its terminator included.
+constexpr std::ptrdiff_t kPathBuffer = 260;
 
 std::string ValueName(int slot) {
     return std::to_string(slot) + ".";
@@ -21,6 +21,25 @@ std::string ValueName(int slot) {
 
 std::string MenuKey(int slot) {
     return "mnuRecentFile" + std::to_string(slot);
+}
+
+// What does not fit the buffer is no path.
+bool IsPath(const std::string& value) {
+    const auto characters = std::count_if(value.begin(), value.end(), [](char byte) {
+        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+    });
+    return characters < kPathBuffer;
+}
+
+// What the registry is to hold: a value for each path and none in the slots after them.
+std::vector<system::NamedValue> Values(const std::vector<std::string>& paths) {
+    std::vector<system::NamedValue> values;
+    for (int slot = 1; slot <= ModRecent::kSlots; ++slot) {
+        const auto entry = static_cast<std::size_t>(slot) - 1;
+        values.push_back({ValueName(slot), std::nullopt});
+        if (entry < paths.size()) values.back().text = paths[entry];
+    }
+    return values;
 }
 
 std::string Trimmed(const std::string& text) {
@@ -50,17 +69,13 @@ ModRecent::ModRecent(controls::SmartMenuXP& menu, system::Registry& registry,
 
 void ModRecent::LoadRecentFiles() {
     if (!registry_.KeyExists(RegistryRoot::CurrentUser, kKey)) return;
-    std::vector<std::string> names;
     for (int slot = 1; slot <= kSlots; ++slot) {
-        names.push_back(ValueName(slot));
-        const auto value = registry_.ReadValue(RegistryRoot::CurrentUser, kKey, names.back());
-        const bool fits = value && value->size() < kPathBuffer;
-        if (const std::string path = fits ? Trimmed(*value) : ""; !path.empty()) {
-            RecentFiles.push_back(path);
-        }
+        const auto value = registry_.ReadValue(RegistryRoot::CurrentUser, kKey, ValueName(slot));
+        const std::string path = value && IsPath(*value) ? Trimmed(*value) : "";
+        if (!path.empty()) RecentFiles.push_back(path);
     }
     // A registry that cannot be written keeps the list of an earlier run.
-    static_cast<void>(registry_.DeleteValues(RegistryRoot::CurrentUser, kKey, names));
+    static_cast<void>(registry_.ChangeValues(RegistryRoot::CurrentUser, kKey, Values({})));
     ShowInMenu();
 }
 
@@ -85,10 +100,7 @@ std::string ModRecent::GetRecentFile(int slot) {
 }
 
 void ModRecent::SaveRecentFiles() {
-    for (int slot = 1; slot <= static_cast<int>(RecentFiles.size()); ++slot) {
-        static_cast<void>(registry_.WriteValue(RegistryRoot::CurrentUser, kKey, ValueName(slot),
-                                               RecentFiles[static_cast<std::size_t>(slot) - 1]));
-    }
+    static_cast<void>(registry_.ChangeValues(RegistryRoot::CurrentUser, kKey, Values(RecentFiles)));
 }
 
 void ModRecent::ShowInMenu() {

@@ -14,19 +14,20 @@ constexpr std::string_view kHomePage = "https://brinmoor.example/KestrelIconEdit
 std::string ProgramOf(Sibling sibling, const ProgramFolders& folders) {
     switch (sibling) {
         case Sibling::ScreenCapture:
-            return folders.application + "\\Quillet.exe";
+            return folders.application + "/Quillet.exe";
         case Sibling::IconBrowser:
-            return folders.windows + "\\Varnel.exe";
+            return folders.windows + "/Varnel.exe";
         case Sibling::ClipboardViewer:
             break;
     }
-    return folders.windows + "\\Ormsby Extender.exe";
+    return folders.windows + "/Ormsby Extender.exe";
 }
 
 }  // namespace
 
-ShellCommands::ShellCommands(const ShellServices& services, ProgramFolders folders)
-    : services_(services), folders_(std::move(folders)) {}
+ShellCommands::ShellCommands(DocumentWindow& window, const ShellServices& services,
+                             ProgramFolders folders)
+    : window_(window), services_(services), folders_(std::move(folders)) {}
 
 // The help lies beside the program, or where an installation puts what is not a program.
 std::string ShellCommands::HelpFile() const {
@@ -45,9 +46,12 @@ void ShellCommands::mnuHelp_Click() {
 }
 
 void ShellCommands::mnuHomePage_Click() {
-    if (!services_.shell.Open(std::string(kHomePage))) {
-        ShowError(i18n::CannotOpenHomePage(kHomePage));
-    }
+    // The menu goes first: the opener may take a while.
+    window_.ShowHourglass(true);
+    window_.ProcessPendingEvents();
+    const bool opened = services_.shell.Open(std::string(kHomePage)).has_value();
+    window_.ShowHourglass(false);
+    if (!opened) ShowError(i18n::CannotOpenHomePage(kHomePage));
 }
 
 void ShellCommands::StartSibling(Sibling program) {

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/CommandHandlers.h"
+#include "app/DocumentCommands.h"
 #include "platform/dialogs/HelpViewer.h"
 #include "platform/dialogs/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
@@ -27,7 +28,7 @@ struct ShellServices {
 // is said in a message.
 class ShellCommands {
   public:
-    ShellCommands(const ShellServices& services, ProgramFolders folders);
+    ShellCommands(DocumentWindow& window, const ShellServices& services, ProgramFolders folders);
 
     // The help text in the language in force.
     void mnuHelp_Click();
@@ -38,6 +39,7 @@ class ShellCommands {
     std::string HelpFile() const;
     void ShowError(const std::string& text);
 
+    DocumentWindow& window_;
     ShellServices services_;
     ProgramFolders folders_;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <limits>
 #include <vector>
 
 namespace kestrel::app {
@@ -37,11 +38,13 @@ std::string Joined(const std::vector<std::string>& fields) {
     return text;
 }
 
-// The number a field begins with; 0 when there is none or it fits no integer.
+// The number a field begins with, 0 when there is none; the nearest one where it fits no integer.
 int NumberIn(const std::string& field) {
+    using Limits = std::numeric_limits<int>;
     int number = 0;
-    std::from_chars(field.data(), field.data() + field.size(), number);
-    return number;
+    const auto read = std::from_chars(field.data(), field.data() + field.size(), number);
+    if (read.ec != std::errc::result_out_of_range) return number;
+    return field.starts_with('-') ? Limits::min() : Limits::max();
 }
 
 bool IsTrue(std::string field) {

@@ -1,9 +1,11 @@
 #include "app/frmAbout.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 
 #include "app/ApplicationIcon.h"
 #include "i18n/Captions.h"
@@ -59,7 +61,10 @@ frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
     rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     rows->setSpacing(kBetweenBlocks);
     rows->addLayout(facts);
-    rows->addLayout(NewButtons());
+    rows->addWidget(NewButtons());
+    // Not every window manager has this key.
+    connect(new QShortcut(Qt::ALT | Qt::Key_F4, this), &QShortcut::activated, this,
+            &QDialog::reject);
     rows->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -77,19 +82,14 @@ QLayout* frmAbout::NewTexts() {
     return texts;
 }
 
-QLayout* frmAbout::NewButtons() {
-    auto* cmdSysInfo = new QPushButton(ToText(i18n::kSystemInfo.Now()));
+QWidget* frmAbout::NewButtons() {
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+    auto* cmdSysInfo =
+        buttons->addButton(ToText(i18n::kSystemInfo.Now()), QDialogButtonBox::ResetRole);
     cmdSysInfo->setObjectName("cmdSysInfo");
     // Until the program can start a system information viewer.
     cmdSysInfo->setEnabled(false);
-    auto* cmdOK = new QPushButton(QDialog::tr("OK"));
-    cmdOK->setObjectName("cmdOK");
-    cmdOK->setDefault(true);
-    connect(cmdOK, &QPushButton::clicked, this, &QDialog::accept);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(cmdSysInfo);
-    buttons->addStretch();
-    buttons->addWidget(cmdOK);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     return buttons;
 }
 

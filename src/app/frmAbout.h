@@ -12,7 +12,7 @@ class frmAbout : public QDialog {
 
   private:
     QLayout* NewTexts();
-    QLayout* NewButtons();
+    QWidget* NewButtons();
 };
 
 }  // namespace kestrel::app

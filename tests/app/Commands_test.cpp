@@ -171,9 +171,9 @@ TEST_F(MainCommandsTest, WhatCannotBeStartedIsSaid) {
     const struct {
         Sibling program;
         const char* file;
-    } cases[] = {{Sibling::ScreenCapture, "/program\\Quillet.exe"},
-                 {Sibling::IconBrowser, "/windows\\Varnel.exe"},
-                 {Sibling::ClipboardViewer, "/windows\\Ormsby Extender.exe"}};
+    } cases[] = {{Sibling::ScreenCapture, "/program/Quillet.exe"},
+                 {Sibling::IconBrowser, "/windows/Varnel.exe"},
+                 {Sibling::ClipboardViewer, "/windows/Ormsby Extender.exe"}};
     for (const auto& c : cases) {
         given_.shell.failure.clear();
         commands_.StartSibling(c.program);

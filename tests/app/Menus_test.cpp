@@ -208,6 +208,9 @@ TEST_F(MenusTest, TheMenuShowsTheModelsStateAndNotTheClicks) {
     EXPECT_FALSE(window_.BarAction("mnuRecentFile0")->isVisible());
     BarMenu().SetVisible("mnuRecentFile0", true);
     EXPECT_TRUE(window_.BarAction("mnuRecentFile0")->isVisible());
+    BarMenu().SetCaption("mnuRecentFile2", "/a\tb\u202Eoci.png");
+    EXPECT_EQ(window_.BarAction("mnuRecentFile2")->text(),
+              QStringLiteral("/a\u2409b\uFFFDoci.png"));
     BarMenu().SetCaption("mnuRecentFile1", "/" + std::string(250, 'w') + "/&&.ico");
     EXPECT_TRUE(window_.BarAction("mnuRecentFile1")->text().endsWith("w/&&.ico"));
     EXPECT_LT(window_.BarAction("mnuRecentFile1")->text().size(), 120);

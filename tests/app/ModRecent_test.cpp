@@ -76,17 +76,25 @@ TEST_F(ModRecentTest, MovesBetweenRegistryAndMenu) {
     EXPECT_EQ(registry_.values[kKey], (test::MemoryRegistry::Values{{"1.", "/b"}, {"2.", "/a"}}));
 
     registry_.values[kKey] = {{"1.", "  /x  "}, {"3.", "/y"}, {"4.", std::string(260, 'z')}};
+    std::string wide = "/";
+    for (int i = 0; i < 250; ++i)
+        wide += "图";
+    registry_.values[kKey]["2."] = wide;
     ModRecent second = NewList();
     second.LoadRecentFiles();
-    EXPECT_EQ(Shown(), (Paths{"/x", "/y"}));
+    EXPECT_EQ(Shown(), (Paths{"/x", wide, "/y"}));
     EXPECT_TRUE(registry_.values[kKey].empty());
 
-    registry_.values[kKey] = {{"1.", "/kept"}};
+    registry_.values[kKey] = {{"1.", "/gone"}, {"2.", "/kept"}};
     registry_.refused = kKey;
     ModRecent third = NewList();
     third.LoadRecentFiles();
+    EXPECT_EQ(Shown(), (Paths{"/gone", "/kept"}));
     third.SaveRecentFiles();
-    EXPECT_EQ(Shown(), Paths{"/kept"});
+    registry_.refused = "";
+    third.GetRecentFile(1);
+    third.SaveRecentFiles();
+    EXPECT_EQ(registry_.values[kKey], (test::MemoryRegistry::Values{{"1.", "/kept"}}));
 }
 
 TEST_F(ModRecentTest, AMissingFileIsReportedAndLeavesTheList) {

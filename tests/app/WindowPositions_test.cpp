@@ -55,7 +55,7 @@ TEST_F(WindowPositionsTest, RestoresWhatFitsTheScreen) {
         {"20000,20000,6000,4500,False", {9360, 7020, 6000, 4500}, false},
         {"-1,-1,-1,-1,True", kDesigned, true},
         {"-1,-1,15000,11000,False", {360, 520, 15000, 11000}, false},
-        {"2147483647,99999999999,x,150,yes", {10860, 0, 4500, 150}, false},
+        {"2147483647,99999999999,x,150,yes", {10860, 11370, 4500, 150}, false},
         {",,,,", {0, 0, 4500, 3000}, false},
     };
     for (const auto& c : cases) {

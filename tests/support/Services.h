@@ -31,11 +31,13 @@ class MemoryRegistry : public system::Registry {
         values[Path(root, key)][std::string(name)] = value;
         return {};
     }
-    Result<void> DeleteValues(system::RegistryRoot root, std::string_view key,
-                              std::span<const std::string> names) override {
+    Result<void> ChangeValues(system::RegistryRoot root, std::string_view key,
+                              std::span<const system::NamedValue> changes) override {
         if (Path(root, key) == refused) return Fail(13, "Permission denied");
-        for (const std::string& name : names)
-            values[Path(root, key)].erase(name);
+        for (const auto& [name, text] : changes) {
+            if (text) values[Path(root, key)][name] = *text;
+            if (!text && values.contains(Path(root, key))) values[Path(root, key)].erase(name);
+        }
         return {};
     }
 

@@ -23,6 +23,10 @@ class SettingsTest : public TemporaryFolder {
 
 class FileRegistryTest : public SettingsTest {
   protected:
+    bool Delete(RegistryRoot root, std::string_view key, const std::string& name) {
+        const NamedValue none{name, std::nullopt};
+        return registry_.ChangeValues(root, key, {&none, 1}).has_value();
+    }
     FileRegistry registry_{files_, File()};
 };
 
@@ -42,7 +46,7 @@ TEST_F(FileRegistryTest, KeepsEveryTextUnderItsName) {
 TEST_F(FileRegistryTest, FindsKeysAndNamesInAnyLetterCase) {
     EXPECT_FALSE(registry_.KeyExists(kUser, "Software"));
     EXPECT_EQ(registry_.ReadValue(kUser, kKey, "1."), std::nullopt);
-    EXPECT_TRUE(registry_.DeleteValues(kUser, "no such key", {{""}}));
+    EXPECT_TRUE(Delete(kUser, "no such key", ""));
     ASSERT_TRUE(registry_.WriteValue(kUser, kKey, "Größe", "1"));
     ASSERT_TRUE(registry_.WriteValue(kUser, "SOFTWARE\\VENDOR\\PRODUCT", "GRÖßE", "2"));
     EXPECT_EQ(registry_.ReadValue(kUser, "\\software\\vendor\\product\\", "größe"), "2");
@@ -53,7 +57,7 @@ TEST_F(FileRegistryTest, FindsKeysAndNamesInAnyLetterCase) {
     const auto written = StatusOf(File()).st_ino;
     ASSERT_TRUE(registry_.WriteValue(kUser, kKey, "größe", "2"));
     EXPECT_EQ(StatusOf(File()).st_ino, written);
-    ASSERT_TRUE(registry_.DeleteValues(kUser, kKey, {{"GRÖßE"}}));
+    ASSERT_TRUE(Delete(kUser, kKey, "GRÖßE"));
     EXPECT_EQ(registry_.ReadValue(kUser, kKey, "Größe"), std::nullopt);
 }
 
@@ -76,7 +80,7 @@ TEST_F(FileRegistryTest, LeavesAloneWhatItDoesNotUnderstand) {
         MakeSettings(text);
         EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), std::nullopt) << text.substr(0, 200);
         EXPECT_FALSE(registry_.WriteValue(kClasses, "b", "", "c"));
-        EXPECT_FALSE(registry_.DeleteValues(kClasses, ".ico", {{""}}));
+        EXPECT_FALSE(Delete(kClasses, ".ico", ""));
         EXPECT_EQ(ContentOf(File()), text);
     }
 }

@@ -14,7 +14,7 @@ using controls::ItemKind;
 using controls::MenuItem;
 
 // A longer caption, such as a deep path, is cut in its middle.
-constexpr int kLongestCaption = 64;  // characters
+constexpr int kLongestCaption = 40;  // characters, none wider than 12 pixels
 constexpr int kWidestCaption = 480;  // pixels
 
 QFont MenuFont(const controls::SmartMenuXP& menu) {
@@ -30,6 +30,23 @@ QFont MenuFont(const controls::SmartMenuXP& menu) {
 QString WithMnemonic(QString caption) {
     if (caption.size() > 2 && caption[0] == QLatin1Char('(') && caption[2] == QLatin1Char(')')) {
         caption.insert(1, QLatin1Char('&'));
+    }
+    return caption;
+}
+
+// The marks that override the direction of the text after them.
+bool TurnsReading(char16_t letter) {
+    return (letter >= u'\x202A' && letter <= u'\x202E') ||
+           (letter >= u'\x2066' && letter <= u'\x2069');
+}
+
+// File names may hold anything: controls, which would split the caption or turn its reading, are
+// shown as signs.
+QString Readable(QString caption) {
+    for (QChar& letter : caption) {
+        constexpr char16_t kControlPictures = u'\x2400';
+        if (letter < QLatin1Char(' ')) letter = QChar(kControlPictures + letter.unicode());
+        if (TurnsReading(letter.unicode())) letter = QChar::ReplacementCharacter;
     }
     return caption;
 }
@@ -113,7 +130,7 @@ void MenuView::AddChildren(QMenu& submenu, std::string_view parent) {
 void MenuView::Follow(const MenuItem& item) {
     QAction* action = ActionOf(item.key);
     if (action == nullptr) return;
-    action->setText(WithMnemonic(Fitting(ToText(item.caption), font_)));
+    action->setText(WithMnemonic(Fitting(Readable(ToText(item.caption)), font_)));
     action->setEnabled(item.enabled);
     action->setVisible(item.visible);
     action->setChecked(item.checked);

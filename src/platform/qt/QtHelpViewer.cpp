@@ -1,6 +1,7 @@
 #include "platform/qt/QtHelpViewer.h"
 
 #include <QFileInfo>
+#include <QScreen>
 #include <QShortcut>
 #include <QUrl>
 
@@ -9,6 +10,7 @@ namespace kestrel::qt {
 namespace {
 
 constexpr QSize kWindowSize(700, 560);
+constexpr QSize kFrame(16, 40);
 
 void CloseOn(QTextBrowser* window, const QKeySequence& key) {
     QObject::connect(new QShortcut(key, window), &QShortcut::activated, window, &QWidget::close);
@@ -21,8 +23,14 @@ bool QtHelpViewer::ShowHelp(const std::string& file, const std::string& title) {
     if (!page.isFile() || !page.isReadable()) return false;
     if (window_ == nullptr) window_ = NewWindow();
     window_->setWindowTitle(QString::fromStdString(title));
-    window_->setSource(QUrl::fromLocalFile(page.absoluteFilePath()));
-    window_->showNormal();
+    const QUrl url = QUrl::fromLocalFile(page.absoluteFilePath());
+    if (window_->source().adjusted(QUrl::RemoveFragment) != url) {
+        window_->setSource(url);
+        // The way back would lead into the other language.
+        window_->clearHistory();
+    }
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+    window_->show();
     window_->raise();
     window_->activateWindow();
     return true;
@@ -35,7 +43,7 @@ void QtHelpViewer::Close() {
 QTextBrowser* QtHelpViewer::NewWindow() {
     auto* window = new QTextBrowser;
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->resize(kWindowSize);
+    window->resize(kWindowSize.boundedTo(window->screen()->availableSize() - kFrame));
     // The browser follows links within the help; the web is for the desktop's own.
     window->setOpenLinks(false);
     QObject::connect(window, &QTextBrowser::anchorClicked, window,

@@ -1,19 +1,51 @@
 #include "platform/qt/ToolBar.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include "platform/qt/PictureIcon.h"
 #include "platform/qt/Text.h"
 
 namespace kestrel::qt {
 
+namespace {
+
+// Leaves room for twice the pictures on screens of one and a half device pixels.
+constexpr int kMargin = 3;
+
+// The style's own sign of the keyboard is lost on dark desktops.
+class ToolBarButton : public QToolButton {
+  public:
+    using QToolButton::QToolButton;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QToolButton::paintEvent(event);
+        if (!hasFocus()) return;
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+            animateClick();
+        } else {
+            QToolButton::keyPressEvent(event);
+        }
+    }
+};
+
+}  // namespace
+
 ToolBar::ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget* parent)
     : QWidget(parent), pictures_(pictures), buttonSize_(buttonSize) {}
 
 void ToolBar::AddButton(std::string_view key, int picture) {
-    auto* button = new QToolButton(this);
+    auto* button = new ToolBarButton(this);
     button->setGeometry(QRect(QPoint(ButtonCount() * ButtonWidth(), 0), buttonSize_));
     button->setIcon(PictureIcon(pictures_, picture));
+    button->setIconSize(buttonSize_.shrunkBy(QMargins(kMargin, kMargin, kMargin, kMargin)));
     button->setAutoRaise(true);
     // A click leaves the keyboard where it is.
     button->setFocusPolicy(Qt::TabFocus);

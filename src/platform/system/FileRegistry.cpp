@@ -1,7 +1,6 @@
 #include "platform/system/FileRegistry.h"
 
 #include <cerrno>
-#include <chrono>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -14,9 +13,6 @@
 
 namespace kestrel::system {
 namespace {
-
-// A session that was stopped in the middle of a change must not stop the others for good.
-constexpr std::chrono::milliseconds kLockPatience{2000};
 
 std::string_view RootName(RegistryRoot root) {
     switch (root) {
@@ -54,6 +50,11 @@ bool SetValue(RegistryKeys& keys, const std::string& path, std::string_view name
     return true;
 }
 
+bool EraseValue(RegistryKeys& keys, const std::string& path, std::string_view name) {
+    const auto found = keys.find(FoldCase(path));
+    return found != keys.end() && found->second.values.erase(FoldCase(name)) > 0;
+}
+
 }  // namespace
 
 FileRegistry::FileRegistry(FileSystem& files, std::string path)
@@ -81,8 +82,12 @@ Result<void> FileRegistry::Change(const Edit& edit) {
     if (!edit(*keys)) return {};
 
     MakeFolder(std::string(FolderOf(path_)));
-    const Result<FileHandle> lock = LockFile(path_ + ".lock", kLockPatience);
-    if (!lock) return tl::unexpected(lock.error());
+    const Result<FileHandle> lock = LockFile(path_ + ".lock", lockPatience_);
+    if (!lock) {
+        // A session that was stopped in the middle of a change must not stop this one for good.
+        lockPatience_ = {};
+        return tl::unexpected(lock.error());
+    }
     keys = Load();
     if (!keys) return tl::unexpected(keys.error());
     if (!edit(*keys)) return {};
@@ -117,15 +122,15 @@ Result<void> FileRegistry::WriteValue(RegistryRoot root, std::string_view key,
     });
 }
 
-Result<void> FileRegistry::DeleteValues(RegistryRoot root, std::string_view key,
-                                        std::span<const std::string> names) {
-    return Change([path = FoldCase(FullPath(root, key)), names](RegistryKeys& keys) {
-        const auto found = keys.find(path);
-        if (found == keys.end()) return false;
-        std::size_t erased = 0;
-        for (const std::string& name : names)
-            erased += found->second.values.erase(FoldCase(name));
-        return erased > 0;
+Result<void> FileRegistry::ChangeValues(RegistryRoot root, std::string_view key,
+                                        std::span<const NamedValue> values) {
+    return Change([path = FullPath(root, key), values](RegistryKeys& keys) {
+        bool changed = false;
+        for (const NamedValue& value : values) {
+            changed |= value.text ? SetValue(keys, path, value.name, *value.text)
+                                  : EraseValue(keys, path, value.name);
+        }
+        return changed;
     });
 }
 

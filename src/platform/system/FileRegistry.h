@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <string>
 
@@ -24,8 +25,8 @@ class FileRegistry : public Registry {
     // A value that is there already costs no write.
     Result<void> WriteValue(RegistryRoot root, std::string_view key, std::string_view name,
                             std::string_view value) override;
-    Result<void> DeleteValues(RegistryRoot root, std::string_view key,
-                              std::span<const std::string> names) override;
+    Result<void> ChangeValues(RegistryRoot root, std::string_view key,
+                              std::span<const NamedValue> values) override;
 
   private:
     // Changes the keys; false when there was nothing to change.
@@ -37,6 +38,8 @@ class FileRegistry : public Registry {
 
     FileSystem& files_;
     std::string path_;
+    // Spent on a lock that another session holds; after that nothing waits any more.
+    std::chrono::milliseconds lockPatience_{2000};
 };
 
 }  // namespace kestrel::system

@@ -9,6 +9,12 @@
 
 namespace kestrel::system {
 
+// A value and its text; nothing for a value that is not to be.
+struct NamedValue {
+    std::string name;
+    std::optional<std::string> text;
+};
+
 enum class RegistryRoot { ClassesRoot, CurrentUser, LocalMachine };
 
 // The registry: keys ("Software\Vendor\Product", matched without regard to letter case) that hold
@@ -24,9 +30,9 @@ class Registry {
     // Creates the key as needed.
     virtual Result<void> WriteValue(RegistryRoot root, std::string_view key, std::string_view name,
                                     std::string_view value) = 0;
-    // In one change. Deleting what is not there succeeds.
-    virtual Result<void> DeleteValues(RegistryRoot root, std::string_view key,
-                                      std::span<const std::string> names) = 0;
+    // Writes and deletes values of a key in one change.
+    virtual Result<void> ChangeValues(RegistryRoot root, std::string_view key,
+                                      std::span<const NamedValue> values) = 0;
 };
 
 }  // namespace kestrel::system
