@@ -4,7 +4,7 @@
 #include "document/IcoFile.h"
 #include "editing/Editor.h"
 #include "platform/icons/IconFile.h"
-#include "tests/support/Recorders.h"
+#include "tests/support/EditorRecorder.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ document::IconDocument ColourfulIcon() {
 
 // Grid and preview rebuilt from the planes.
 void RedrawAll(benchmark::State& state) {
-    test::RecordingWindow window;
+    test::RecordingEditorWindow window;
     document::IconDocument icon = ColourfulIcon();
     document::Canvas canvas(icon, window, kWindowColor);
     for (auto _ : state) {
@@ -37,7 +37,7 @@ BENCHMARK(RedrawAll);
 
 // One pointer event of a pencil stroke: the cell in planes and views, and the readouts.
 void PencilCell(benchmark::State& state) {
-    test::RecordingWindow window;
+    test::RecordingEditorWindow window;
     editing::Editor editor(window, kWindowColor);
     editor.PicMain_MouseDown(editing::Button::Left, 5, 5);
     int x = 0;
@@ -51,7 +51,7 @@ BENCHMARK(PencilCell);
 
 // From the button's release: the undo snapshot.
 void PencilClick(benchmark::State& state) {
-    test::RecordingWindow window;
+    test::RecordingEditorWindow window;
     editing::Editor editor(window, kWindowColor);
     for (auto _ : state) {
         window.repainted.clear();

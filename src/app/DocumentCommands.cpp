@@ -1,5 +1,6 @@
 #include "app/DocumentCommands.h"
 
+#include "app/ErrorBox.h"
 #include "document/IcoFile.h"
 #include "i18n/Messages.h"
 #include "platform/icons/IconFile.h"
@@ -77,7 +78,7 @@ void DocumentCommands::OpenChosenFile() {
     window_.ProcessPendingEvents();
     if (OpenFile(*chosen)) return;
     window_.EnableGrid(true);
-    ShowError(i18n::CannotOpenChosen(chosen->fileTitle));
+    ShowError(boxes_, i18n::CannotOpenChosen(chosen->fileTitle));
 }
 
 void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
@@ -86,7 +87,7 @@ void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
     const std::string titleToOpen(system::FileTitleOf(pathToOpen));
     if (OpenFile({pathToOpen, titleToOpen})) return;
     window_.EnableGrid(true);
-    ShowError(i18n::CannotOpenNamed(titleToOpen));
+    ShowError(boxes_, i18n::CannotOpenNamed(titleToOpen));
 }
 
 // False, with nothing changed, when the file is no icon.
@@ -157,7 +158,7 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
     if (!written) {
         const std::string_view named =
             document_.IsUntitled() ? std::string_view() : document_.FileTitle;
-        ShowError(i18n::CannotSave(written.error().description, named));
+        ShowError(boxes_, i18n::CannotSave(written.error().description, named));
         return;
     }
     document_.FilePath = path;
@@ -168,10 +169,6 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
 
 void DocumentCommands::mnuExit_Click() {
     window_.Unload();
-}
-
-void DocumentCommands::ShowError(const std::string& text) {
-    boxes_.Show(BoxIcon::Exclamation, BoxButtons::Ok, text, std::string(i18n::kErrorTitle.Now()));
 }
 
 }  // namespace kestrel::app

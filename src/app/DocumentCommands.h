@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/BusyWindow.h"
 #include "app/ModRecent.h"
 #include "editing/Editor.h"
 #include "platform/dialogs/FileDialogs.h"
@@ -11,18 +12,13 @@
 namespace kestrel::app {
 
 // What the document commands need of the main window.
-class DocumentWindow {
+class DocumentWindow : public BusyWindow {
   public:
-    virtual ~DocumentWindow() = default;
     // A disabled grid ignores the mouse.
     virtual void EnableGrid(bool enabled) = 0;
     // Enables the grid a quarter of a second from now, when the clicks that chose the file are
     // over.
     virtual void StartTmr() = 0;
-    // The hourglass pointer, and back to the one before.
-    virtual void ShowHourglass(bool shown) = 0;
-    // Lets pending paint and window events run, but no input.
-    virtual void ProcessPendingEvents() = 0;
     // Asks the window to close, which runs its unload handler.
     virtual void Unload() = 0;
 };
@@ -55,7 +51,6 @@ class DocumentCommands {
     void SaveUnderNewName();
     void SaveInPlace();
     void WriteIcoFile(const std::string& path);
-    void ShowError(const std::string& text);
 
     editing::Editor& editor_;
     document::IconDocument& document_;

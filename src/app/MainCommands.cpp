@@ -31,6 +31,7 @@ void MainCommands::mnuLanguageOpts_Click(int index) {
     i18n::ApplyMenuCaptions(code, menus_.SmartMenuXP1, menus_.SmartMenuXP2);
     i18n::SetUiLanguage(code);
     SaveLanguage(settings_, code);
+    shell_.FollowLanguage();
     window_.LanguageChanged();
 }
 

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 
-#include "i18n/Messages.h"
+#include "app/ErrorBox.h"
+#include "platform/system/Characters.h"
 #include "platform/system/CodePage.h"
 
 namespace kestrel::app {
@@ -25,9 +26,7 @@ std::string MenuKey(int slot) {
 
 // What does not fit the buffer is no path.
 bool IsPath(const std::string& value) {
-    const auto characters = std::count_if(value.begin(), value.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-    });
+    const auto characters = std::count_if(value.begin(), value.end(), system::StartsCharacter);
     return characters < kPathBuffer;
 }
 
@@ -40,12 +39,6 @@ std::vector<system::NamedValue> Values(const std::vector<std::string>& paths) {
         if (entry < paths.size()) values.back().text = paths[entry];
     }
     return values;
-}
-
-std::string Trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
 // The path followed by a blank for each of its wide characters, which keeps room for them.
@@ -71,8 +64,9 @@ void ModRecent::LoadRecentFiles() {
     if (!registry_.KeyExists(RegistryRoot::CurrentUser, kKey)) return;
     for (int slot = 1; slot <= kSlots; ++slot) {
         const auto value = registry_.ReadValue(RegistryRoot::CurrentUser, kKey, ValueName(slot));
-        const std::string path = value && IsPath(*value) ? Trimmed(*value) : "";
-        if (!path.empty()) RecentFiles.push_back(path);
+        if (!value || !IsPath(*value)) continue;
+        const std::string_view path = system::Trimmed(*value);
+        if (!path.empty()) RecentFiles.emplace_back(path);
     }
     // A registry that cannot be written keeps the list of an earlier run.
     static_cast<void>(registry_.ChangeValues(RegistryRoot::CurrentUser, kKey, Values({})));
@@ -89,12 +83,11 @@ void ModRecent::AddRecentFile(const std::string& path) {
 
 std::string ModRecent::GetRecentFile(int slot) {
     if (slot < 1 || slot > static_cast<int>(RecentFiles.size())) return {};
-    const auto entry = RecentFiles.begin() + (slot - 1);
-    std::string path = *entry;
+    std::string path = RecentFiles[static_cast<std::size_t>(slot) - 1];
     if (files_.FileExists(path)) return path;
-    boxes_.Show(dialogs::BoxIcon::Exclamation, dialogs::BoxButtons::Ok, i18n::CannotLocate(path),
-                std::string(i18n::kErrorTitle.english));
-    RecentFiles.erase(entry);
+    ShowError(boxes_, i18n::CannotLocate(path), i18n::kErrorTitle.english);
+    const auto entry = std::find(RecentFiles.begin(), RecentFiles.end(), path);
+    if (entry != RecentFiles.end()) RecentFiles.erase(entry);
     ShowInMenu();
     return {};
 }

@@ -1,6 +1,7 @@
 #include "app/ShellCommands.h"
 
 #include <utility>
+#include "app/ErrorBox.h"
 
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
@@ -25,7 +26,7 @@ std::string ProgramOf(Sibling sibling, const ProgramFolders& folders) {
 
 }  // namespace
 
-ShellCommands::ShellCommands(DocumentWindow& window, const ShellServices& services,
+ShellCommands::ShellCommands(BusyWindow& window, const ShellServices& services,
                              ProgramFolders folders)
     : window_(window), services_(services), folders_(std::move(folders)) {}
 
@@ -33,7 +34,7 @@ ShellCommands::ShellCommands(DocumentWindow& window, const ShellServices& servic
 std::string ShellCommands::HelpFile() const {
     const std::string page = "/help/" + std::string(i18n::UiLanguage()) + "/index.html";
     const std::string beside = folders_.application + page;
-    const std::string installed = folders_.application + "/../share/KestrelIconEditor" + page;
+    const std::string installed = folders_.application + "/" KESTREL_DATA_FROM_PROGRAM + page;
     return !services_.files.FileExists(beside) && services_.files.FileExists(installed) ? installed
                                                                                         : beside;
 }
@@ -41,8 +42,12 @@ std::string ShellCommands::HelpFile() const {
 void ShellCommands::mnuHelp_Click() {
     const std::string file = HelpFile();
     if (!services_.help.ShowHelp(file, std::string(i18n::kHelpTitle.Now()))) {
-        ShowError(i18n::CannotOpenHelp(file));
+        ShowError(services_.boxes, i18n::CannotOpenHelp(file));
     }
+}
+
+void ShellCommands::FollowLanguage() {
+    services_.help.ChangePage(HelpFile(), std::string(i18n::kHelpTitle.Now()));
 }
 
 void ShellCommands::mnuHomePage_Click() {
@@ -51,18 +56,13 @@ void ShellCommands::mnuHomePage_Click() {
     window_.ProcessPendingEvents();
     const bool opened = services_.shell.Open(std::string(kHomePage)).has_value();
     window_.ShowHourglass(false);
-    if (!opened) ShowError(i18n::CannotOpenHomePage(kHomePage));
+    if (!opened) ShowError(services_.boxes, i18n::CannotOpenHomePage(kHomePage));
 }
 
 void ShellCommands::StartSibling(Sibling program) {
     const std::string file = ProgramOf(program, folders_);
     const Result<void> started = services_.shell.RunProgram(file, {});
-    if (!started) ShowError(i18n::CannotStart(started.error().description, file));
-}
-
-void ShellCommands::ShowError(const std::string& text) {
-    services_.boxes.Show(dialogs::BoxIcon::Exclamation, dialogs::BoxButtons::Ok, text,
-                         std::string(i18n::kErrorTitle.Now()));
+    if (!started) ShowError(services_.boxes, i18n::CannotStart(started.error().description, file));
 }
 
 }  // namespace kestrel::app

@@ -2,8 +2,8 @@
 
 #include <string>
 
+#include "app/BusyWindow.h"
 #include "app/CommandHandlers.h"
-#include "app/DocumentCommands.h"
 #include "platform/dialogs/HelpViewer.h"
 #include "platform/dialogs/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
@@ -28,18 +28,19 @@ struct ShellServices {
 // is said in a message.
 class ShellCommands {
   public:
-    ShellCommands(DocumentWindow& window, const ShellServices& services, ProgramFolders folders);
+    ShellCommands(BusyWindow& window, const ShellServices& services, ProgramFolders folders);
 
     // The help text in the language in force.
     void mnuHelp_Click();
+    // Changes help that is being read to the language in force.
+    void FollowLanguage();
     void mnuHomePage_Click();
     void StartSibling(Sibling program);
 
   private:
     std::string HelpFile() const;
-    void ShowError(const std::string& text);
 
-    DocumentWindow& window_;
+    BusyWindow& window_;
     ShellServices services_;
     ProgramFolders folders_;
 };

@@ -5,6 +5,9 @@
 #include <limits>
 #include <vector>
 
+#include "platform/system/Characters.h"
+#include "platform/system/LetterCase.h"
+
 namespace kestrel::app {
 
 namespace {
@@ -14,18 +17,13 @@ constexpr std::size_t kFields = 5;
 // Smaller stored sizes are no window's.
 constexpr int kLeastSize = 150;  // twips
 
-std::string Trimmed(std::string_view text) {
-    const std::size_t first = std::min(text.find_first_not_of(' '), text.size());
-    return std::string(text.substr(first, text.find_last_not_of(' ') + 1 - first));
-}
-
 // The fields between the commas; none for an empty text.
 std::vector<std::string> FieldsOf(std::string_view stored) {
     std::vector<std::string> fields;
     if (stored.empty()) return fields;
     for (std::size_t comma = 0; comma != std::string_view::npos;) {
         comma = stored.find(',');
-        fields.push_back(Trimmed(stored.substr(0, comma)));
+        fields.emplace_back(system::Trimmed(stored.substr(0, comma)));
         stored.remove_prefix(comma == std::string_view::npos ? 0 : comma + 1);
     }
     return fields;
@@ -45,13 +43,6 @@ int NumberIn(const std::string& field) {
     const auto read = std::from_chars(field.data(), field.data() + field.size(), number);
     if (read.ec != std::errc::result_out_of_range) return number;
     return field.starts_with('-') ? Limits::min() : Limits::max();
-}
-
-bool IsTrue(std::string field) {
-    std::transform(field.begin(), field.end(), field.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + ('a' - 'A')) : letter;
-    });
-    return field == "true";
 }
 
 // One axis of a stored window: where it starts and how long it is, in twips.
@@ -94,7 +85,7 @@ void RestoreWindowPosition(Settings& settings, PositionedWindow& window, const s
     if (fields.size() >= kFields) {
         stored = {NumberIn(fields[0]), NumberIn(fields[1]), NumberIn(fields[2]),
                   NumberIn(fields[3])};
-        maximised = IsTrue(fields[4]);
+        maximised = system::SameName(fields[4], "true");
     }
     const Span across = OnScreen({stored.left, stored.width}, {now.left, now.width}, screen.width);
     const Span down = OnScreen({stored.top, stored.height}, {now.top, now.height}, screen.height);

@@ -5,11 +5,12 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
+#include <QVBoxLayout>
 
 #include "app/ApplicationIcon.h"
 #include "i18n/Captions.h"
 #include "i18n/Messages.h"
+#include "platform/qt/CloseKey.h"
 #include "platform/qt/Pictures.h"
 #include "platform/qt/Text.h"
 
@@ -62,9 +63,7 @@ frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
     rows->setSpacing(kBetweenBlocks);
     rows->addLayout(facts);
     rows->addWidget(NewButtons());
-    // Not every window manager has this key.
-    connect(new QShortcut(Qt::ALT | Qt::Key_F4, this), &QShortcut::activated, this,
-            &QDialog::reject);
+    qt::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);
     rows->setSizeConstraint(QLayout::SetFixedSize);
 }
 

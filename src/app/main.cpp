@@ -68,15 +68,10 @@ int main(int argc, char* argv[]) {
     qt::QtFileDialogs cdb;
     system::DesktopShell shell;
     qt::QtHelpViewer help(shell);
-    app::FrmIcoEd window({cdb,
-                          boxes,
-                          help,
-                          files,
-                          registry,
-                          shell,
-                          settings,
-                          {facts.applicationFolder, values->WindowsFolder},
-                          facts.systemLcid});
+    const app::ProgramFolders folders{.application = facts.applicationFolder,
+                                      .windows = values->WindowsFolder};
+    app::FrmIcoEd window(
+        {cdb, boxes, help, files, registry, shell, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     cdb.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv)));

@@ -159,11 +159,19 @@ TEST_F(MainCommandsTest, HelpSpeaksTheLanguageAndLiesInEitherPlace) {
     EXPECT_EQ(LastMessage(), "Unable to open the help file /program/help/ENG/index.html");
     const std::string installed = "/program/../share/KestrelIconEditor/help/CHS/index.html";
     given_.files.contents[installed] = {};
-    given_.help.known[installed] = true;
+    given_.help.known.insert(installed);
     i18n::SetUiLanguage(i18n::kChinese);
     commands_.mnuHelp_Click();
     EXPECT_EQ(given_.help.shown, installed);
     EXPECT_EQ(given_.help.shownTitle, "KestrelIconEditor - 帮助");
+    const std::string beside = "/program/help/CHS/index.html";
+    given_.files.contents[beside] = {};
+    given_.help.known.insert(beside);
+    commands_.mnuHelp_Click();
+    EXPECT_EQ(given_.help.shown, beside);
+    commands_.mnuLanguageOpts_Click(1);
+    EXPECT_EQ(given_.help.changedTo, "/program/help/ENG/index.html");
+    EXPECT_EQ(given_.help.shownTitle, "KestrelIconEditor - Help");
     EXPECT_EQ(given_.boxes.shown.size(), 1U);
 }
 
@@ -190,6 +198,7 @@ TEST_F(MainCommandsTest, WhatCannotBeStartedIsSaid) {
     commands_.mnuHomePage_Click();
     EXPECT_EQ(given_.boxes.shown.size(), 4U);
     EXPECT_EQ(given_.shell.opened.size(), 2U);
+    EXPECT_EQ(window_.hourglasses, "on off on off ");
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "i18n/Language.h"
-#include "tests/support/Recorders.h"
+#include "tests/support/EditorRecorder.h"
 
 namespace kestrel::editing {
 namespace {
@@ -31,7 +31,7 @@ class EditorTest : public testing::Test {
         return count;
     }
 
-    test::RecordingWindow window_;
+    test::RecordingEditorWindow window_;
     Editor editor_{window_, kWindowColor};
     document::IconDocument& icon_ = editor_.Document();
 };

@@ -8,27 +8,16 @@
 #include <vector>
 
 #include "app/MainCommands.h"
-#include "editing/EditorWindow.h"
 #include "platform/dialogs/FileDialogs.h"
 #include "platform/dialogs/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
+#include "tests/support/EditorRecorder.h"
 
 namespace kestrel::test {
 
 // A main window without a screen: remembers what it was told last.
-class RecordingWindow : public editing::EditorWindow, public app::MainWindow {
+class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
   public:
-    void RepaintView(document::View view, gdi::Rect area) override {
-        repainted.emplace_back(view, area);
-    }
-    void SetTitle(const std::string& text) override { title = text; }
-    void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override {
-        panels[static_cast<int>(panel)] = text;
-    }
-    void PrintPointerCell(std::string_view text) override { printedCell = text; }
-    void SetGridCursor(editing::GridCursor shape) override { cursor = shape; }
-    void RefreshEditCommands() override { ++refreshes; }
-
     void EnableGrid(bool enabled) override { gridEnabled = enabled; }
     void StartTmr() override { tmrStarted = true; }
     void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
@@ -44,16 +33,10 @@ class RecordingWindow : public editing::EditorWindow, public app::MainWindow {
     void ShowAbout() override { aboutShown = true; }
     void LanguageChanged() override { languageChanged = true; }
 
-    std::vector<std::pair<document::View, gdi::Rect>> repainted;
-    std::string title;
-    std::map<int, std::string> panels;
-    std::string printedCell;
-    editing::GridCursor cursor = editing::GridCursor::Cross;
     bool gridEnabled = true;
     bool tmrStarted = false;
     std::string hourglasses;
     bool unloaded = false;
-    int refreshes = 0;
     std::map<std::string, std::string> captions;
     bool aboutShown = false;
     bool languageChanged = false;

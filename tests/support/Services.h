@@ -2,6 +2,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,10 @@ class MemoryRegistry : public system::Registry {
   public:
     std::optional<std::string> ReadValue(system::RegistryRoot root, std::string_view key,
                                          std::string_view name) override {
-        const auto& named = values[Path(root, key)];
-        const auto value = named.find(name);
-        return value == named.end() ? std::nullopt : std::optional(value->second);
+        const auto found = values.find(Path(root, key));
+        if (found == values.end()) return std::nullopt;
+        const auto value = found->second.find(name);
+        return value == found->second.end() ? std::nullopt : std::optional(value->second);
     }
     bool KeyExists(system::RegistryRoot root, std::string_view key) override {
         return values.contains(Path(root, key));
@@ -84,10 +86,15 @@ class RecordingHelp : public dialogs::HelpViewer {
         shownTitle = title;
         return known.contains(file);
     }
+    void ChangePage(const std::string& file, const std::string& title) override {
+        changedTo = file;
+        shownTitle = title;
+    }
     void Close() override { shown.clear(); }
 
-    std::map<std::string, bool> known;
+    std::set<std::string> known;
     std::string shown;
+    std::string changedTo;
     std::string shownTitle;
 };
 

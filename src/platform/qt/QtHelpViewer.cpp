@@ -2,42 +2,53 @@
 
 #include <QFileInfo>
 #include <QScreen>
-#include <QShortcut>
 #include <QUrl>
+
+#include "platform/qt/CloseKey.h"
 
 namespace kestrel::qt {
 
 namespace {
 
 constexpr QSize kWindowSize(700, 560);
+// What a window manager puts around a window, at the most.
 constexpr QSize kFrame(16, 40);
 
-void CloseOn(QTextBrowser* window, const QKeySequence& key) {
-    QObject::connect(new QShortcut(key, window), &QShortcut::activated, window, &QWidget::close);
+bool CanRead(const std::string& file) {
+    const QFileInfo page(QString::fromStdString(file));
+    return page.isFile() && page.isReadable();
 }
 
 }  // namespace
 
 bool QtHelpViewer::ShowHelp(const std::string& file, const std::string& title) {
-    const QFileInfo page(QString::fromStdString(file));
-    if (!page.isFile() || !page.isReadable()) return false;
+    if (!CanRead(file)) return false;
+    // A window that was just closed is only about to go.
+    if (window_ != nullptr && window_->isHidden()) Close();
     if (window_ == nullptr) window_ = NewWindow();
-    window_->setWindowTitle(QString::fromStdString(title));
-    const QUrl url = QUrl::fromLocalFile(page.absoluteFilePath());
-    if (window_->source().adjusted(QUrl::RemoveFragment) != url) {
-        window_->setSource(url);
-        // The way back would lead into the other language.
-        window_->clearHistory();
-    }
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->show();
+    ChangePage(file, title);
     window_->raise();
     window_->activateWindow();
     return true;
 }
 
+void QtHelpViewer::ChangePage(const std::string& file, const std::string& title) {
+    if (window_ == nullptr || !CanRead(file)) return;
+    window_->setWindowTitle(QString::fromStdString(title));
+    const QUrl url =
+        QUrl::fromLocalFile(QFileInfo(QString::fromStdString(file)).absoluteFilePath());
+    if (window_->source().adjusted(QUrl::RemoveFragment) == url) return;
+    window_->setSource(url);
+    // The way back would lead into the other language.
+    window_->clearHistory();
+}
+
 void QtHelpViewer::Close() {
-    delete window_.data();
+    const QTextBrowser* const closing = window_;
+    window_.clear();
+    delete closing;
 }
 
 QTextBrowser* QtHelpViewer::NewWindow() {
@@ -47,17 +58,19 @@ QTextBrowser* QtHelpViewer::NewWindow() {
     // The browser follows links within the help; the web is for the desktop's own.
     window->setOpenLinks(false);
     QObject::connect(window, &QTextBrowser::anchorClicked, window,
-                     [this, window](const QUrl& link) {
-                         if (link.isLocalFile() || link.isRelative()) {
-                             window->setSource(window->source().resolved(link));
-                         } else {
-                             // A page that cannot be opened leaves the reader where he is.
-                             static_cast<void>(shell_.Open(link.toString().toStdString()));
-                         }
-                     });
-    CloseOn(window, QKeySequence(Qt::Key_Escape));
-    CloseOn(window, QKeySequence(Qt::ALT | Qt::Key_F4));
+                     [this](const QUrl& link) { Follow(link); });
+    AddCloseKey(*window, Qt::Key_Escape);
+    AddCloseKey(*window, Qt::ALT | Qt::Key_F4);
     return window;
+}
+
+void QtHelpViewer::Follow(const QUrl& link) {
+    if (link.isLocalFile() || link.isRelative()) {
+        window_->setSource(window_->source().resolved(link));
+    } else {
+        // A page that cannot be opened leaves the reader where he is.
+        static_cast<void>(shell_.Open(link.toString().toStdString()));
+    }
 }
 
 }  // namespace kestrel::qt

@@ -14,7 +14,12 @@ class QtHelpViewer : public dialogs::HelpViewer {
     // `shell` must outlive the viewer.
     explicit QtHelpViewer(system::Shell& shell) : shell_(shell) {}
 
+    QtHelpViewer(const QtHelpViewer&) = delete;
+    QtHelpViewer& operator=(const QtHelpViewer&) = delete;
+    ~QtHelpViewer() override { Close(); }
+
     bool ShowHelp(const std::string& file, const std::string& title) override;
+    void ChangePage(const std::string& file, const std::string& title) override;
     void Close() override;
 
     // Null while no help is shown.
@@ -22,6 +27,7 @@ class QtHelpViewer : public dialogs::HelpViewer {
 
   private:
     QTextBrowser* NewWindow();
+    void Follow(const QUrl& link);
 
     system::Shell& shell_;
     QPointer<QTextBrowser> window_;

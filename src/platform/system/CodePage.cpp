@@ -6,6 +6,8 @@
 #include <iterator>
 #include <string>
 
+#include "platform/system/Characters.h"
+
 namespace kestrel::system {
 namespace {
 
@@ -19,10 +21,6 @@ constexpr CodePage kDoubleByteCodePages[] = {
     {1028, "CP950"}, {1041, "CP932"}, {1042, "CP949"}, {2052, "CP936"},
     {3076, "CP950"}, {4100, "CP936"}, {5124, "CP950"},
 };
-
-bool StartsCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-}
 
 // The bytes that one character takes; 1 for what cannot be converted.
 std::size_t EncodedSize(iconv_t converter, std::string character) {

@@ -10,8 +10,8 @@ class DesktopShell : public Shell {
   public:
     Result<void> RunProgram(const std::string& program,
                             const std::vector<std::string>& arguments) override;
-    // Through xdg-open, else gio. A file that does not exist fails with ENOENT; what an opener
-    // that did start makes of its target is not known.
+    // Through xdg-open, else gio. A file that does not exist fails with ENOENT, an opener
+    // that soon gives up with ECHILD; what a slower one makes of its target is not known.
     Result<void> Open(const std::string& target) override;
 };
 

@@ -85,7 +85,7 @@ Result<void> FileRegistry::Change(const Edit& edit) {
     const Result<FileHandle> lock = LockFile(path_ + ".lock", lockPatience_);
     if (!lock) {
         // A session that was stopped in the middle of a change must not stop this one for good.
-        lockPatience_ = {};
+        if (lock.error().number == EWOULDBLOCK) lockPatience_ = {};
         return tl::unexpected(lock.error());
     }
     keys = Load();

@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/system/Characters.h"
 #include "platform/system/Folders.h"
 #include "platform/system/LetterCase.h"
 #include "platform/system/PathText.h"
@@ -21,10 +22,8 @@ constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::string_view kBlanks = " \t";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string_view Trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(kBlanks);
-    if (first == kNone) return {};
-    return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+std::string_view Bare(std::string_view text) {
+    return Trimmed(text, kBlanks);
 }
 
 bool IsQuoted(std::string_view text) {
@@ -60,21 +59,21 @@ std::vector<Line> LinesOf(std::string_view text) {
 
 // The section that a line opens.
 std::optional<std::string_view> HeadingOf(std::string_view line) {
-    line = Trimmed(line);
+    line = Bare(line);
     if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
     const std::size_t close = line.find(']');
     if (!line.starts_with('[') || close == kNone) return std::nullopt;
-    return Trimmed(line.substr(1, close - 1));
+    return Bare(line.substr(1, close - 1));
 }
 
 bool HoldsKey(std::string_view line, std::string_view key) {
     const std::size_t equals = line.find('=');
-    const bool isComment = Trimmed(line).starts_with(';');
-    return equals != kNone && !isComment && SameName(Trimmed(line.substr(0, equals)), key);
+    const bool isComment = Bare(line).starts_with(';');
+    return equals != kNone && !isComment && SameName(Bare(line.substr(0, equals)), key);
 }
 
 std::string_view ValueOf(std::string_view line) {
-    const std::string_view value = Trimmed(line.substr(line.find('=') + 1));
+    const std::string_view value = Bare(line.substr(line.find('=') + 1));
     return IsQuoted(value) ? value.substr(1, value.size() - 2) : value;
 }
 
@@ -93,7 +92,7 @@ Place Locate(const std::vector<Line>& lines, std::string_view section, std::stri
         if (heading && place.section != kNone) break;
         if (heading && SameName(*heading, section)) place.section = i;
         if (place.section == kNone) continue;
-        if (!Trimmed(text).empty()) place.insertion = i + 1;
+        if (!Bare(text).empty()) place.insertion = i + 1;
         if (!heading && HoldsKey(text, key)) place.key = i;
     }
     return place;
@@ -126,15 +125,14 @@ Result<void> StoreLines(FileSystem& files, const std::string& file,
 std::string FirstCharacters(std::string_view text, std::size_t count) {
     std::size_t end = 0;
     for (; end < text.size(); ++end) {
-        const bool startsCharacter = (static_cast<unsigned char>(text[end]) & 0xC0U) != 0x80;
-        if (startsCharacter && count-- == 0) break;
+        if (StartsCharacter(text[end]) && count-- == 0) break;
     }
     return std::string(text.substr(0, end));
 }
 
 // The value as it has to be written so that it reads back the same.
 std::string WrittenValue(std::string_view value) {
-    if (Trimmed(value) == value && !IsQuoted(value)) return std::string(value);
+    if (Bare(value) == value && !IsQuoted(value)) return std::string(value);
     return std::string("\"").append(value).append("\"");
 }
 
@@ -144,7 +142,7 @@ bool FitsOneLine(std::string_view text) {
 
 // Whether a section or key of this name would be found again after it was written.
 bool IsUsableName(std::string_view name, std::string_view reserved) {
-    return !name.empty() && FitsOneLine(name) && Trimmed(name) == name &&
+    return !name.empty() && FitsOneLine(name) && Bare(name) == name &&
            name.find_first_of(reserved) == kNone;
 }
 

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "editing/EditorWindow.h"
+
+namespace kestrel::test {
+
+// The window around an editor, without a screen: remembers what it was told last.
+class RecordingEditorWindow : public editing::EditorWindow {
+  public:
+    void RepaintView(document::View view, gdi::Rect area) override {
+        repainted.emplace_back(view, area);
+    }
+    void SetTitle(const std::string& text) override { title = text; }
+    void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override {
+        panels[static_cast<int>(panel)] = text;
+    }
+    void PrintPointerCell(std::string_view text) override { printedCell = text; }
+    void SetGridCursor(editing::GridCursor shape) override { cursor = shape; }
+    void RefreshEditCommands() override { ++refreshes; }
+
+    std::vector<std::pair<document::View, gdi::Rect>> repainted;
+    std::string title;
+    std::map<int, std::string> panels;
+    std::string printedCell;
+    editing::GridCursor cursor = editing::GridCursor::Cross;
+    int refreshes = 0;
+};
+
+}  // namespace kestrel::test
