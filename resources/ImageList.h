@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <initializer_list>
 #include <string_view>
 
 #include "platform/gdi/PixelArt.h"
@@ -15,7 +14,7 @@ namespace kestrel::resources {
 
 // The pictures of the menus and of the toolbar, 16 x 16 each, dots see-through. Every material has
 // an outline in its own darkest shade, so that the pictures stand on light and on dark windows.
-inline constexpr std::initializer_list<gdi::ArtInk> kImageListInks = {
+inline constexpr auto kImageListInks = std::to_array<gdi::ArtInk>({
     {'k', gdi::Rgb(40, 40, 52)},     // lettering
     {'d', gdi::Rgb(84, 92, 112)},    // graphite
     {'m', gdi::Rgb(140, 150, 168)},  // grey
@@ -39,7 +38,7 @@ inline constexpr std::initializer_list<gdi::ArtInk> kImageListInks = {
     {'c', gdi::Rgb(184, 120, 68)},   // wood
     {'W', gdi::Rgb(230, 180, 124)},  // pine
     {'p', gdi::Rgb(152, 104, 188)},  // violet
-};
+});
 
 // Picture number n of the image list is kImageList[n - 1].
 inline constexpr std::array<std::string_view, 40> kImageList = {

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QUrl>
 
 #include "app/ApplicationIcon.h"
@@ -66,6 +67,11 @@ FrmIcoEd::FrmIcoEd(const MainServices& services)
       commands_(editor_, *this, menus_, services),
       dispatch_(commands_, *this) {}
 
+// The controls show what the members hold: they go first.
+FrmIcoEd::~FrmIcoEd() {
+    qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
 void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     FollowDesktopColors();
     QApplication::setWindowIcon(ProgramIcon());
@@ -104,10 +110,9 @@ bool FrmIcoEd::Form_Unload() {
 
 void FrmIcoEd::RunCommand(const std::function<void()>& command) {
     if (commandRunning_) return;
-    commandRunning_ = true;
+    const QScopedValueRollback running(commandRunning_, true);
     editor_.EndGesture();
     command();
-    commandRunning_ = false;
 }
 
 void FrmIcoEd::closeEvent(QCloseEvent* event) {

@@ -5,7 +5,6 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
-#include <memory>
 
 #include "app/CommandDispatch.h"
 #include "app/MainCommands.h"
@@ -23,6 +22,9 @@ namespace kestrel::app {
 class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWindow {
   public:
     explicit FrmIcoEd(const MainServices& services);
+    FrmIcoEd(const FrmIcoEd&) = delete;
+    FrmIcoEd& operator=(const FrmIcoEd&) = delete;
+    ~FrmIcoEd() override;
 
     // Builds the window up to its idle state, not shown yet, and opens a file; an empty path opens
     // none.

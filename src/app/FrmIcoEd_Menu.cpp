@@ -80,7 +80,7 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
         ShowEditingPopup();
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
         menuBar_->setActiveAction(menuBar_->actions().constFirst());
-    } else if (event->key() == Qt::Key_F1) {
+    } else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) {
         RunCommand([this] { dispatch_.SmartMenuXP1_Click("mnuHelp2"); });
     } else if (event->key() == Qt::Key_Escape) {
         // Back from the toolbar.
@@ -91,9 +91,10 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
 }
 
 void FrmIcoEd::SetControlCaption(std::string_view control, std::string_view text) {
-    if (auto* label = findChild<QLabel*>(ToText(control)); label != nullptr) {
+    if (auto* widget = findChild<QWidget*>(ToText(control)); widget != nullptr) {
         // The place of the icon's format is narrow: its size stands above its depth.
-        label->setText(ToText(text).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
+        widget->setProperty(
+            "text", ToText(text).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
     }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <span>
 #include <string_view>
 
@@ -8,11 +7,11 @@
 
 namespace kestrel::controls {
 
-// Small pictures of one size, written as text and counted from 1. It refers to the texts: they
-// must outlive it.
+// Small pictures of one size, written as text and counted from 1 to Count(). It refers to texts
+// and inks: they must outlive it.
 class ImageList {
   public:
-    ImageList(std::span<const std::string_view> pictures, std::initializer_list<gdi::ArtInk> inks)
+    ImageList(std::span<const std::string_view> pictures, std::span<const gdi::ArtInk> inks)
         : pictures_(pictures), inks_(inks) {}
 
     int Count() const { return static_cast<int>(pictures_.size()); }
@@ -23,7 +22,7 @@ class ImageList {
 
   private:
     std::span<const std::string_view> pictures_;
-    std::initializer_list<gdi::ArtInk> inks_;
+    std::span<const gdi::ArtInk> inks_;
 };
 
 }  // namespace kestrel::controls

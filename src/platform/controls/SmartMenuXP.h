@@ -1,9 +1,10 @@
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <utility>
 
 namespace kestrel::controls {
 
@@ -39,7 +40,7 @@ class SmartMenuXP {
     void SetEnabled(std::string_view key, bool enabled);
     void SetVisible(std::string_view key, bool visible);
 
-    const std::vector<MenuItem>& Items() const { return items_; }
+    const std::deque<MenuItem>& Items() const { return items_; }
     // Null when there is none.
     const MenuItem* Find(std::string_view key) const;
     bool IsSubmenu(std::string_view key) const;
@@ -55,7 +56,8 @@ class SmartMenuXP {
     template <typename Value>
     void Set(std::string_view key, Value MenuItem::*field, const Value& value);
 
-    std::vector<MenuItem> items_;
+    // Views refer to the items.
+    std::deque<MenuItem> items_;
     std::string fontName_;
     int fontPoints_ = 0;
 };

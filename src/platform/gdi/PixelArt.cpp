@@ -20,16 +20,15 @@ std::vector<std::string> Lines(std::string_view text) {
     return lines;
 }
 
-COLORREF ColorOf(char letter, std::initializer_list<ArtInk> inks, COLORREF otherwise) {
-    const auto* const found = std::find_if(
-        inks.begin(), inks.end(), [letter](const ArtInk& ink) { return ink.letter == letter; });
+COLORREF ColorOf(char letter, std::span<const ArtInk> inks, COLORREF otherwise) {
+    const auto found = std::find_if(inks.begin(), inks.end(),
+                                    [letter](const ArtInk& ink) { return ink.letter == letter; });
     return found == inks.end() ? otherwise : found->color;
 }
 
 }  // namespace
 
-Surface ReadPixelArt(std::string_view rows, std::initializer_list<ArtInk> inks,
-                     COLORREF otherwise) {
+Surface ReadPixelArt(std::string_view rows, std::span<const ArtInk> inks, COLORREF otherwise) {
     const std::vector<std::string> lines = Lines(rows);
     std::size_t width = 0;
     for (const std::string& line : lines)

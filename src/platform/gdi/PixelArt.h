@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 #include <string_view>
 
 #include "platform/gdi/Surface.h"
@@ -16,7 +17,11 @@ struct ArtInk {
 // Reads a picture written as text: one row a line, one letter a pixel, blanks and empty lines
 // ignored. Letters that `inks` does not name take `otherwise`. The surface is as wide as the
 // longest row; short rows are filled up with `otherwise`.
-Surface ReadPixelArt(std::string_view rows, std::initializer_list<ArtInk> inks,
+Surface ReadPixelArt(std::string_view rows, std::span<const ArtInk> inks,
                      COLORREF otherwise = kWhite);
+inline Surface ReadPixelArt(std::string_view rows, std::initializer_list<ArtInk> inks,
+                            COLORREF otherwise = kWhite) {
+    return ReadPixelArt(rows, std::span(inks.begin(), inks.size()), otherwise);
+}
 
 }  // namespace kestrel::gdi

@@ -69,14 +69,14 @@ void MenuView::FillBar(QMenuBar& bar) {
     font_ = MenuFont(menu_);
     bar.setFont(font_);
     for (const MenuItem& item : menu_.Items()) {
-        if (item.parent.empty()) bar.addAction(Show(item));
+        if (item.parent.empty()) bar.addAction(NewAction(item));
     }
 }
 
 QMenu* MenuView::Popup(std::string_view root) {
     if (!submenus_.contains(root) && menu_.IsSubmenu(root)) {
         font_ = MenuFont(menu_);
-        Show(*menu_.Find(root));
+        NewAction(*menu_.Find(root));
     }
     const auto found = submenus_.find(root);
     return found == submenus_.end() ? nullptr : found->second.get();
@@ -87,7 +87,7 @@ QAction* MenuView::ActionOf(std::string_view key) const {
     return found == actions_.end() ? nullptr : found->second;
 }
 
-QAction* MenuView::Show(const MenuItem& item) {
+QAction* MenuView::NewAction(const MenuItem& item) {
     QAction* action = nullptr;
     if (menu_.IsSubmenu(item.key)) {
         action = NewSubmenu(item)->menuAction();
@@ -118,11 +118,13 @@ void MenuView::AddChildren(QMenu& submenu, std::string_view parent) {
     QActionGroup* options = nullptr;
     for (const MenuItem& item : menu_.Items()) {
         if (item.parent != parent) continue;
-        QAction* action = Show(item);
+        QAction* action = NewAction(item);
         submenu.addAction(action);
         if (item.kind != ItemKind::Option) continue;
-        if (options == nullptr) options = new QActionGroup(&submenu);
-        options->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+        if (options == nullptr) {
+            options = new QActionGroup(&submenu);
+            options->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+        }
         options->addAction(action);
     }
 }

@@ -16,6 +16,7 @@ namespace kestrel::qt {
 class MenuView : public QObject {
   public:
     MenuView(controls::SmartMenuXP& menu, const controls::ImageList& pictures);
+    ~MenuView() override { menu_.onChanged = nullptr; }
 
     // Shows the whole menu as a bar, with its shortcuts for the bar's window.
     void FillBar(QMenuBar& bar);
@@ -23,11 +24,11 @@ class MenuView : public QObject {
     // is below `root`.
     QMenu* Popup(std::string_view root);
 
-    // What shows an item; null for a separator without submenu and for unknown keys.
+    // What shows an item; null for unknown keys.
     QAction* ActionOf(std::string_view key) const;
 
   private:
-    QAction* Show(const controls::MenuItem& item);
+    QAction* NewAction(const controls::MenuItem& item);
     QMenu* NewSubmenu(const controls::MenuItem& item);
     void AddChildren(QMenu& submenu, std::string_view parent);
     void Follow(const controls::MenuItem& item);

@@ -76,8 +76,10 @@ QToolButton* ToolBar::Button(std::string_view key) const {
 
 bool ToolBar::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::MouseMove && onMouseMove) {
-        const auto* button = static_cast<QToolButton*>(object);
-        onMouseMove(button->x() + static_cast<QMouseEvent*>(event)->position().toPoint().x());
+        const QPoint inButton = static_cast<QMouseEvent*>(event)->position().toPoint();
+        const QPoint point = static_cast<QToolButton*>(object)->mapToParent(inButton);
+        // With a button held down the pointer may be anywhere.
+        if (rect().contains(point)) onMouseMove(point.x());
     }
     return false;
 }

@@ -11,7 +11,7 @@
 
 namespace kestrel::qt {
 
-// A row of flat picture buttons, each known by its key, all as wide as the first.
+// A row of flat picture buttons, each known by its key, all of one size.
 class ToolBar : public QWidget {
   public:
     // `pictures` must outlive the toolbar.
@@ -29,7 +29,7 @@ class ToolBar : public QWidget {
     int ButtonWidth() const { return buttonSize_.width(); }
 
     std::function<void(std::string_view key)> onClick;
-    // The pointer moved over the toolbar, disabled buttons included, or left it.
+    // The pointer moved to this x within the toolbar, disabled buttons included, or left it.
     std::function<void(int x)> onMouseMove;
     std::function<void()> onLeave;
 
