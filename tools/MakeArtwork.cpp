@@ -1,5 +1,5 @@
 // Writes the program's artwork as the files that a desktop and the help want:
-// make_artwork <folder>, in which the folder "pictures" must exist.
+// make_artwork <folder for icons> <folder for pictures>, both existing.
 
 #include <QImage>
 #include <cstdio>
@@ -15,14 +15,20 @@ namespace {
 
 using namespace kestrel;
 
+bool Said(bool written, const std::string& file) {
+    if (!written) std::fprintf(stderr, "Cannot write %s\n", file.c_str());
+    return written;
+}
+
 bool Save(const QImage& picture, const std::string& file) {
-    return picture.save(QString::fromStdString(file));
+    return Said(picture.save(QString::fromStdString(file)), file);
 }
 
 bool WriteIcon(const std::string& folder) {
     const document::IconDocument icon = app::ApplicationIcon();
     system::DiskFiles files;
-    bool written = document::WriteIcoCopy(files, icon, folder + "/kestrel.ico").has_value();
+    const std::string iconFile = folder + "/kestrel.ico";
+    bool written = Said(document::WriteIcoCopy(files, icon, iconFile).has_value(), iconFile);
     const QImage picture = qt::ToImage(icon.PicMask, icon.PicImage);
     for (const int scale : {1, 2, 4, 8}) {
         const int size = document::kIconSize * scale;
@@ -37,7 +43,7 @@ bool WritePictures(const std::string& folder) {
     const controls::ImageList list(resources::kImageList, resources::kImageListInks);
     bool written = true;
     for (int number = 1; number <= list.Count(); ++number) {
-        std::string file = folder + "/pictures/" + (number < 10 ? "0" : "");
+        std::string file = folder + "/" + (number < 10 ? "0" : "");
         file += std::to_string(number) + ".png";
         written = Save(qt::ToImage(list.Mask(number), list.Image(number)), file) && written;
     }
@@ -47,10 +53,10 @@ bool WritePictures(const std::string& folder) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 2) {
-        std::fputs("Usage: make_artwork <folder>\n", stderr);
+    if (argc != 3) {
+        std::fputs("Usage: make_artwork <folder for icons> <folder for pictures>\n", stderr);
         return 2;
     }
     const bool iconWritten = WriteIcon(argv[1]);
-    return WritePictures(argv[1]) && iconWritten ? 0 : 1;
+    return WritePictures(argv[2]) && iconWritten ? 0 : 1;
 }
