@@ -27,6 +27,9 @@ for page in ENG CHS; do
     while IFS= read -r link; do
         grep -qxF -- "$link" <<<"$anchors" || Fault "$page: no anchor for #$link"
     done < <(Page $page | grep -oP 'href="#\K[^"]*')
+    while IFS= read -r file; do
+        [[ -f $page/$file ]] || Fault "$page: no file $file"
+    done < <(Page $page | grep -oP 'href="\K[^"#:]+(?=")')
     while IFS= read -r image; do
         [[ $image =~ src=\"\.\./pictures/(0[1-9]|[123][0-9]|40)\.png\" ]] || Fault "$page: $image"
     done < <(Page $page | grep -oP '<img[^>]*>')

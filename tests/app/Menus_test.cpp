@@ -120,6 +120,15 @@ TEST_F(MenusTest, ExactlyTheCommandsThatExistAreEnabled) {
     EXPECT_EQ(EnabledCommands(PopupMenu()), Keys{});
 }
 
+TEST_F(MenusTest, ItemsLookAsTheyAre) {
+    for (const MenuItem& item : BarMenu().Items()) {
+        const QAction* action = window_.BarAction(item.key);
+        EXPECT_EQ(action->icon().isNull(), item.picture == 0) << item.key;
+        EXPECT_EQ(action->isSeparator(), item.kind == controls::ItemKind::Separator) << item.key;
+        EXPECT_EQ(action->isCheckable(), item.kind == controls::ItemKind::Option) << item.key;
+    }
+}
+
 TEST_F(MenusTest, EveryItemOfTheBarIsReachedByMouseUnlessDisabled) {
     NoteClicks(BarMenu());
     const Keys all = Commands(BarMenu());
@@ -192,6 +201,14 @@ TEST_F(MenusTest, LettersAndF10OpenTheMenusInBothLanguages) {
     window_.BarAction("mnuFile")->menu()->close();
     QTest::keyClick(&window_, Qt::Key_F10, Qt::ShiftModifier);
     EXPECT_TRUE(window_.EditingPopup()->isVisible());
+    window_.EditingPopup()->close();
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(&window_, &menuKey);
+    EXPECT_TRUE(window_.EditingPopup()->isVisible());
+    window_.EditingPopup()->close();
+    QContextMenuEvent rightButton(QContextMenuEvent::Mouse, QPoint(), QPoint());
+    QApplication::sendEvent(window_.findChild<QWidget*>("Label1"), &rightButton);
+    EXPECT_FALSE(window_.EditingPopup()->isVisible());
 }
 
 TEST_F(MenusTest, TheMenuShowsTheModelsStateAndNotTheClicks) {
@@ -249,6 +266,11 @@ TEST_F(MenusTest, TheToolbarRunsItsCommandsAndHintsAtThem) {
     QApplication::sendEvent(&window_.Toolbar1(), &leave);
     EXPECT_EQ(window_.StatusText(StatusPanel::Hint), "");
 
+    QTest::mouseClick(window_.Toolbar1().Button("Open"), Qt::LeftButton);
+    EXPECT_EQ(given_.cdb.opens.size(), 1U);
+    QTest::mouseClick(window_.Toolbar1().Button("Help"), Qt::LeftButton);
+    EXPECT_EQ(given_.help.shown, "/program/help/ENG/index.html");
+
     Keys pressed;
     window_.Toolbar1().onClick = [&](std::string_view key) { pressed.emplace_back(key); };
     for (const auto& button : buttons)
@@ -260,6 +282,9 @@ TEST_F(MenusTest, TheToolbarRunsItsCommandsAndHintsAtThem) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
     EXPECT_EQ(pressed.back(), "Open");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pressed.back() == "New"; }, 2000));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_EQ(QApplication::focusWidget(), &window_);
 }
@@ -281,16 +306,21 @@ TEST_F(MenusTest, RecentFilesLeadBackToTheFileAndOutliveTheWindow) {
 }
 
 TEST_F(MenusTest, AboutIsModalAndClosesByKeyboard) {
-    bool seen = false;
-    QTimer::singleShot(0, [&] {
-        auto* about = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(about, nullptr);
-        seen = about->windowTitle() == QStringLiteral("About KestrelIconEditor");
-        QTest::keyClick(about, Qt::Key_Return);
-    });
-    ClickInBar("mnuAbout");
-    EXPECT_TRUE(seen);
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    const QKeyCombination keys[] = {Qt::Key_Return, Qt::Key_Escape, Qt::ALT | Qt::Key_F4};
+    int seen = 0;
+    for (const QKeyCombination key : keys) {
+        QTimer::singleShot(0, [&] {
+            auto* about = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(about, nullptr);
+            if (about->windowTitle() == QStringLiteral("About KestrelIconEditor")) ++seen;
+            EXPECT_FALSE(about->findChild<QWidget*>("cmdSysInfo")->isEnabled());
+            QApplication::setActiveWindow(about);
+            QTest::keyClick(about, key.key(), key.keyboardModifiers());
+        });
+        ClickInBar("mnuAbout");
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
+    EXPECT_EQ(seen, 3);
 }
 
 }  // namespace

@@ -35,6 +35,7 @@ Put tools/Capture.h '<QImage>' '"tools/frmZoom.h"'
 Put app/Commands.cpp '"editing/Editor.h"' '<qglobal.h>' '"platform/qt/Desktop.h"'
 Put platform/gdi/Blit.cpp '"platform/gdi/Blit.h"' '"platform/icons/IconFile.h"'
 Put platform/system/Shell.cpp '"i18n/Texts.h"'
+Put platform/controls/Menu.h '"platform/gdi/Surface.h"' '"platform/system/Shell.h"'
 Expect document/Planes.h:2 editing/Tool.h:2 editing/Tool.h:3 imaging/Filters.h:2 \
     tools/Capture.h:1 tools/Capture.h:2 app/Commands.cpp:2 app/Commands.cpp:3 \
-    platform/gdi/Blit.cpp:2 platform/system/Shell.cpp:1
+    platform/controls/Menu.h:2 platform/gdi/Blit.cpp:2 platform/system/Shell.cpp:1

@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
-for script in run test .ci/run $(find tools tests bench -name '*.sh'); do
+for script in run test .ci/run $(find tools tests bench help -name '*.sh'); do
     bash -n "$script"
 done
 

@@ -5,13 +5,15 @@
 source "$(dirname "$0")/desktop.sh"
 StartDesktop
 
+asNobody=()
 registry=$XDG_CONFIG_HOME/KestrelIconEditor/registry.txt
 settings=$scratch/bin/KestrelIconEditor.ini
 convert -size 32x32 xc:'#c00000' "$files/Red.ico"
 mkdir -p "${registry%/*}"
 
-Noise() { head -c 3000 /dev/urandom >"$1"; }
-NoiseOf100MB() { head -c 104857600 /dev/urandom >"$1"; }
+# Bytes that are no text, the same in each run.
+Noise() { gzip -nc "$KESTREL_EDITOR" | head -c 3000 >"$1" || true; }
+NoiseOf100MB() { yes "$(printf '\x01\xff')" | head -c 104857600 >"$1" || true; }
 Folder() { mkdir "$1"; }
 Dangling() { ln -s "$scratch/nowhere/at/all" "$1"; }
 
@@ -35,11 +37,30 @@ for damage in Noise NoiseOf100MB Folder Dangling; do
     echo "$damage: started, worked, left as it was"
 done
 
-# Files that may only be read are read, and no trace of an attempt stays beside them.
+# Files that may only be read are read; what cannot be kept leaves no trace beside them. For root
+# there is no such file, so the program runs as nobody then.
 rm -rf "$registry" "$settings"
-printf '[Settings]\nLanguage=CHS\n' >"$settings"
-chmod 444 "$settings"
-StartEditor
-WaitForWindow 'KestrelIconEditor - 未命名'
+StartEditor /open "$files/Red.ico"
+WaitForWindow 'KestrelIconEditor - Red.ico'
+OpenMenu v
+Press Right Return
+WaitFor "$kPatience" grep -q 'Language=CHS' "$settings" || Fail 'the language was not kept'
 Quit
-[[ $(ls "$scratch/bin") == $'KestrelIconEditor\nKestrelIconEditor.ini' ]] || Fail "left: $(ls "$scratch/bin")"
+cp "$files/Red.ico" "$files/Second.ico"
+chmod 444 "$registry" "$settings"
+Contents() { cat "$registry" "$settings"; ls -A "$scratch/bin" "${registry%/*}"; }
+before=$(Contents)
+if [[ $(id -u) -eq 0 ]]; then
+    chmod -R a+rwX "$scratch"
+    chmod 444 "$registry" "$settings"
+    asNobody=(setpriv --reuid=65534 --regid=65534 --clear-groups)
+fi
+Start "${asNobody[@]}" "$scratch/bin/KestrelIconEditor" /open "$files/Second.ico"
+editor=$lastStarted
+WaitForWindow 'KestrelIconEditor - Second.ico'
+OpenMenu v
+Press Right Down Return
+Press ctrl+n
+WaitForWindow 'KestrelIconEditor - Untitled'
+Quit
+[[ $(Contents) == "$before" ]] || Fail "read-only files were changed: $(diff <(echo "$before") <(Contents))"

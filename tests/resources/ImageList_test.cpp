@@ -34,9 +34,9 @@ TEST(ImageList, PicturesAreSixteenSquareInTheInksOfTheTable) {
     EXPECT_EQ(kImageListInks.size(), std::min<std::size_t>(inks.size() - 1, 24)) << "none twice";
     for (std::size_t number = 1; number <= 40; ++number) {
         const Rows rows = Picture(number);
-        EXPECT_EQ(rows.size(), 16U) << number;
+        ASSERT_EQ(rows.size(), 16U) << number;
         for (const std::string& row : rows) {
-            EXPECT_EQ(row.size(), 16U) << number << ": " << row;
+            ASSERT_EQ(row.size(), 16U) << number << ": " << row;
             used.insert(row.begin(), row.end());
         }
     }
