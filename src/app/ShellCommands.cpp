@@ -61,8 +61,9 @@ void ShellCommands::mnuHomePage_Click() {
 
 void ShellCommands::StartSibling(Sibling program) {
     const std::string file = ProgramOf(program, folders_);
-    const Result<void> started = services_.shell.RunProgram(file, {});
-    if (!started) ShowError(services_.boxes, i18n::CannotStart(started.error().description, file));
+    if (!services_.shell.RunProgram(file, {})) {
+        ShowError(services_.boxes, i18n::CannotStart(file));
+    }
 }
 
 }  // namespace kestrel::app

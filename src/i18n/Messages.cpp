@@ -17,10 +17,6 @@ std::string Fill(std::string_view pattern, std::string_view name) {
     return text;
 }
 
-std::string AfterReason(std::string_view reason, const std::string& sentence) {
-    return std::string(reason) + ".\r\n\r\n" + sentence;
-}
-
 constexpr Text kUntitledWindow{"KestrelIconEditor - Untitled", "KestrelIconEditor - 未命名"};
 constexpr Text kCannotOpenChosen{"Unable to open the file %1", "不能打开 %1文件"};
 constexpr Text kCannotOpenNamed{"Unable to open the file %1", "不能打开%1文件"};
@@ -29,7 +25,9 @@ constexpr Text kCannotSave{"Unable to save %1", "不能保存 %1 文件."};
 constexpr Text kCannotOpenHelp{"Unable to open the help file %1", "不能打开帮助文件 %1"};
 constexpr Text kCannotOpenHomePage{"No web browser could be started.\r\n\r\nUnable to open %1",
                                    "无法启动网页浏览器.\r\n\r\n不能打开 %1"};
-constexpr Text kCannotStart{"Unable to start %1", "不能运行 %1"};
+constexpr Text kCannotStart{
+    "The program is not installed or cannot be run.\r\n\r\nUnable to start %1",
+    "该程序尚未安装, 或无法运行.\r\n\r\n不能运行 %1"};
 constexpr Text kSeveralIcons{
     "The file \"%1\" contains multiple icons.\r\n"
     "This \"Save\" will overwrite the other icons in the file.\r\n\r\n"
@@ -57,7 +55,7 @@ std::string CannotOpenNamed(std::string_view fileTitle) {
 
 std::string CannotSave(std::string_view reason, std::string_view fileTitle) {
     const Text& sentence = fileTitle.empty() ? kCannotSaveUntitled : kCannotSave;
-    return AfterReason(reason, Fill(sentence.Now(), fileTitle));
+    return std::string(reason) + ".\r\n\r\n" + Fill(sentence.Now(), fileTitle);
 }
 
 std::string CannotLocate(std::string_view path) {
@@ -72,8 +70,8 @@ std::string CannotOpenHomePage(std::string_view url) {
     return Fill(kCannotOpenHomePage.Now(), url);
 }
 
-std::string CannotStart(std::string_view reason, std::string_view program) {
-    return AfterReason(reason, Fill(kCannotStart.Now(), program));
+std::string CannotStart(std::string_view program) {
+    return Fill(kCannotStart.Now(), program);
 }
 
 std::string SeveralIcons(std::string_view fileTitle) {

@@ -41,11 +41,11 @@ std::string CannotSave(std::string_view reason, std::string_view fileTitle);
 // A recent file that is gone; this one speaks English only.
 std::string CannotLocate(std::string_view path);
 
-// Programs and pages beside the editor; `reason` is the system's description.
+// Programs and pages beside the editor.
 inline constexpr Text kHelpTitle{"KestrelIconEditor - Help", "KestrelIconEditor - 帮助"};
 std::string CannotOpenHelp(std::string_view path);
 std::string CannotOpenHomePage(std::string_view url);
-std::string CannotStart(std::string_view reason, std::string_view program);
+std::string CannotStart(std::string_view program);
 
 // The warning before a save replaces a file that held several icons.
 std::string SeveralIcons(std::string_view fileTitle);

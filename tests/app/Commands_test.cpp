@@ -189,7 +189,9 @@ TEST_F(MainCommandsTest, WhatCannotBeStartedIsSaid) {
         given_.shell.failure = "No such file or directory";
         commands_.StartSibling(c.program);
         EXPECT_EQ(LastMessage(),
-                  std::string("No such file or directory.\r\n\r\nUnable to start ") + c.file);
+                  std::string("The program is not installed or cannot be run.\r\n\r\n"
+                              "Unable to start ") +
+                      c.file);
     }
     EXPECT_EQ(given_.boxes.shown.size(), 3U);
     commands_.mnuHomePage_Click();

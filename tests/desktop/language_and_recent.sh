@@ -55,7 +55,7 @@ StartEditor
 WaitForWindow 'KestrelIconEditor - Untitled'
 OpenMenu t
 Press Up Return
-ExpectBox 'KestrelIconEditor - Error' 'No such file or directory.*Unable to start *Ormsby Extender.exe'
+ExpectBox 'KestrelIconEditor - Error' 'The program is not installed*Unable to start *Ormsby Extender.exe'
 Press Return
 WaitForWindow 'KestrelIconEditor - Untitled'
 Quit
