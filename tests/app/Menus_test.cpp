@@ -225,9 +225,9 @@ TEST_F(MenusTest, TheMenuShowsTheModelsStateAndNotTheClicks) {
     EXPECT_FALSE(window_.BarAction("mnuRecentFile0")->isVisible());
     BarMenu().SetVisible("mnuRecentFile0", true);
     EXPECT_TRUE(window_.BarAction("mnuRecentFile0")->isVisible());
-    BarMenu().SetCaption("mnuRecentFile2", "/a\tb\u202Eoci.png");
+    BarMenu().SetCaption("mnuRecentFile2", "/a\tb\u202Eoci.png\u202C");
     EXPECT_EQ(window_.BarAction("mnuRecentFile2")->text(),
-              QStringLiteral("/a\u2409b\uFFFDoci.png"));
+              QStringLiteral("/a\u2409b\uFFFDoci.png\uFFFD"));
     BarMenu().SetCaption("mnuRecentFile1", "/" + std::string(250, 'w') + "/&&.ico");
     EXPECT_TRUE(window_.BarAction("mnuRecentFile1")->text().endsWith("w/&&.ico"));
     EXPECT_LT(window_.BarAction("mnuRecentFile1")->text().size(), 120);

@@ -9,7 +9,7 @@
 namespace kestrel::qt {
 
 // Help in a window of its own; links to the web go to the shell.
-class QtHelpViewer : public dialogs::HelpViewer {
+class QtHelpViewer final : public dialogs::HelpViewer {
   public:
     // `shell` must outlive the viewer.
     explicit QtHelpViewer(system::Shell& shell) : shell_(shell) {}
