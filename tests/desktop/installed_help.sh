@@ -24,6 +24,13 @@ WaitForWindow 'KestrelIconEditor - Untitled'
 OpenMenu h
 Press h
 WaitForWindow 'KestrelIconEditor - Help'
+# The editor is closed while its help stays open. A window that has just come up may still take the
+# keyboard once more, so it is asked for until it stays.
 main=$(xdotool search --name 'KestrelIconEditor - Untitled')
-xdotool windowactivate --sync "$main"
+TakesKeyboard() {
+    xdotool windowactivate --sync "$main"
+    sleep 0.2
+    [[ $(xdotool getwindowfocus) == "$main" ]]
+}
+WaitFor "$kPatience" TakesKeyboard || Fail 'the editor does not get the keyboard'
 Quit
