@@ -83,12 +83,12 @@ void ModRecent::AddRecentFile(const std::string& path) {
 
 std::string ModRecent::GetRecentFile(int slot) {
     if (slot < 1 || slot > static_cast<int>(RecentFiles.size())) return {};
-    std::string path = RecentFiles[static_cast<std::size_t>(slot) - 1];
+    const auto entry = RecentFiles.begin() + slot - 1;
+    std::string path = *entry;
     if (files_.FileExists(path)) return path;
-    ShowError(boxes_, i18n::CannotLocate(path), i18n::kErrorTitle.english);
-    const auto entry = std::find(RecentFiles.begin(), RecentFiles.end(), path);
-    if (entry != RecentFiles.end()) RecentFiles.erase(entry);
+    RecentFiles.erase(entry);
     ShowInMenu();
+    ShowError(boxes_, i18n::CannotLocate(path), i18n::kErrorTitle.english);
     return {};
 }
 

@@ -1,8 +1,8 @@
 #include "app/ShellCommands.h"
 
 #include <utility>
-#include "app/ErrorBox.h"
 
+#include "app/ErrorBox.h"
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
 

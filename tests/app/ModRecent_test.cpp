@@ -117,6 +117,12 @@ TEST_F(ModRecentTest, AMissingFileIsReportedAndLeavesTheList) {
     EXPECT_EQ(list.GetRecentFile(1), "");
     EXPECT_EQ(Shown(), Paths{});
     EXPECT_EQ(boxes_.shown.size(), 3U);
+
+    registry_.values[kKey] = {{"1.", "/b"}, {"2.", "/c"}, {"3.", "/b"}};
+    ModRecent twice = NewList();
+    twice.LoadRecentFiles();
+    EXPECT_EQ(twice.GetRecentFile(3), "");
+    EXPECT_EQ(Shown(), (Paths{"/b", "/c"})) << "the slot that was chosen goes";
 }
 
 TEST_F(ModRecentTest, CaptionsArePaddedForWideCharacters) {

@@ -73,20 +73,23 @@ TEST_F(WindowPositionsTest, RestoresWhatFitsTheScreen) {
 }
 
 TEST_F(WindowPositionsTest, SavesBoundsOrKeepsThoseOfBefore) {
+    const struct {
+        WindowState state;
+        WindowBounds bounds;
+        const char* stored;
+    } steps[] = {
+        {WindowState::Maximised, {1, 2, 3, 4}, "-1,-1,-1,-1,True"},
+        {WindowState::Normal, {3000, 2000, 4500, 3000}, "3000,2000,4500,3000,False"},
+        {WindowState::Maximised, {1, 2, 3, 4}, "3000,2000,4500,3000,True"},
+        {WindowState::Minimised, {1, 2, 3, 4}, "3000,2000,4500,3000,False"},
+    };
     FakeWindow window;
-    window.state = WindowState::Maximised;
-    SaveWindowPosition(settings_, window, kFile);
-    EXPECT_EQ(Stored(), "-1,-1,-1,-1,True");
-    window.state = WindowState::Normal;
-    SaveWindowPosition(settings_, window, kFile);
-    EXPECT_EQ(Stored(), "3000,2000,4500,3000,False");
-    window.bounds = {1, 2, 3, 4};
-    window.state = WindowState::Maximised;
-    SaveWindowPosition(settings_, window, kFile);
-    EXPECT_EQ(Stored(), "3000,2000,4500,3000,True");
-    window.state = WindowState::Minimised;
-    SaveWindowPosition(settings_, window, kFile);
-    EXPECT_EQ(Stored(), "3000,2000,4500,3000,False");
+    for (const auto& step : steps) {
+        window.state = step.state;
+        window.bounds = step.bounds;
+        SaveWindowPosition(settings_, window, kFile);
+        EXPECT_EQ(Stored(), step.stored);
+    }
     EXPECT_EQ(files_.contents.size(), 1U) << "only the file that was named";
 }
 

@@ -5,6 +5,16 @@
 
 namespace kestrel::controls {
 
+namespace {
+
+template <typename Items>
+auto ItemOf(Items& items, std::string_view key) {
+    return std::find_if(items.begin(), items.end(),
+                        [key](const MenuItem& item) { return item.key == key; });
+}
+
+}  // namespace
+
 void SmartMenuXP::SetFont(std::string name, int points) {
     fontName_ = std::move(name);
     fontPoints_ = points;
@@ -12,8 +22,7 @@ void SmartMenuXP::SetFont(std::string name, int points) {
 
 template <typename Value>
 void SmartMenuXP::Set(std::string_view key, Value MenuItem::*field, const Value& value) {
-    const auto item =
-        std::find_if(items_.begin(), items_.end(), [&](const MenuItem& i) { return i.key == key; });
+    const auto item = ItemOf(items_, key);
     if (item == items_.end() || (*item).*field == value) return;
     (*item).*field = value;
     if (onChanged) onChanged(*item);
@@ -36,8 +45,7 @@ void SmartMenuXP::SetVisible(std::string_view key, bool visible) {
 }
 
 const MenuItem* SmartMenuXP::Find(std::string_view key) const {
-    const auto item =
-        std::find_if(items_.begin(), items_.end(), [&](const MenuItem& i) { return i.key == key; });
+    const auto item = ItemOf(items_, key);
     return item == items_.end() ? nullptr : &*item;
 }
 
