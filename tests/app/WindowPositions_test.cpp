@@ -74,9 +74,9 @@ TEST_F(WindowPositionsTest, RestoresWhatFitsTheScreen) {
 
 TEST_F(WindowPositionsTest, SavesBoundsOrKeepsThoseOfBefore) {
     const struct {
-        WindowState state;
+        WindowState state{};
         WindowBounds bounds;
-        const char* stored;
+        const char* stored{};
     } steps[] = {
         {WindowState::Maximised, {1, 2, 3, 4}, "-1,-1,-1,-1,True"},
         {WindowState::Normal, {3000, 2000, 4500, 3000}, "3000,2000,4500,3000,False"},
