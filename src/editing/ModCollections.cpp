@@ -1,19 +1,14 @@
 #include "editing/ModCollections.h"
 
+#include <utility>
+
 namespace kestrel::editing {
 
 void ModCollections::PushUndoSnapshot() {
-    Snapshot& snapshot = undoList_.emplace_back();
-    const auto masks = document_.PicMask.Pixels();
-    const auto colors = document_.PicImage.Pixels();
-    for (std::size_t i = 0; i < kPixels; ++i) {
-        if (masks[i] == gdi::kWhite) {
-            snapshot.mask[i / 8] = static_cast<std::uint8_t>(snapshot.mask[i / 8] | 1U << i % 8);
-        }
-        snapshot.image[3 * i] = gdi::Red(colors[i]);
-        snapshot.image[3 * i + 1] = gdi::Green(colors[i]);
-        snapshot.image[3 * i + 2] = gdi::Blue(colors[i]);
-    }
+    const PackedPicture now = Pack(document_);
+    if (last_) undoList_.emplace_back(*last_, now);
+    last_ = now;
+    ClearRedoList();
 }
 
 void ModCollections::ClearRedoList() {
@@ -21,8 +16,36 @@ void ModCollections::ClearRedoList() {
 }
 
 void ModCollections::ClearUndoHistory() {
+    last_.reset();
     undoList_.clear();
     redoList_.clear();
+}
+
+bool ModCollections::CanUndo() {
+    RecordUnrecorded();
+    return !undoList_.empty();
+}
+
+bool ModCollections::PopUndoSnapshot() {
+    RecordUnrecorded();
+    return Step(undoList_, redoList_);
+}
+
+bool ModCollections::PopRedoSnapshot() {
+    return Step(redoList_, undoList_);
+}
+
+void ModCollections::RecordUnrecorded() {
+    if (last_ && Pack(document_) != *last_) PushUndoSnapshot();
+}
+
+bool ModCollections::Step(Steps& from, Steps& to) {
+    if (from.empty() || !last_) return false;
+    to.push_back(std::move(from.back()));
+    from.pop_back();
+    to.back().ApplyTo(*last_);
+    Unpack(*last_, document_);
+    return true;
 }
 
 }  // namespace kestrel::editing

@@ -1,39 +1,50 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
-#include <vector>
+#include <deque>
+#include <optional>
 
 #include "document/IconDocument.h"
+#include "editing/PackedPicture.h"
 
 namespace kestrel::editing {
 
-// The undo and redo lists of one document: whole pictures of both planes, oldest first. The last
-// undo entry is the picture as it was recorded last.
+// The undo and redo history of one document, without a limit. Its entries are pictures of both
+// planes, oldest first; the last undo entry is the picture as it was recorded last. Only that one
+// is kept whole; of the others, what differs from the entry beside them.
 class ModCollections {
   public:
     explicit ModCollections(document::IconDocument& document) : document_(document) {}
 
-    // Records the planes as they are now.
+    // Records the planes as they are now. A redo list that was not emptied before leads on from
+    // another picture and goes.
     void PushUndoSnapshot();
     void ClearRedoList();
     void ClearUndoHistory();
 
-    std::size_t UndoCount() const { return undoList_.size(); }
+    // Planes that were changed without being recorded count as one more entry, which CanUndo and
+    // PopUndoSnapshot record first: nothing that the user saw is out of reach.
+    bool CanUndo();
+    bool CanRedo() const { return !redoList_.empty(); }
+
+    // One step back or forward, into the planes; the views are the caller's. False when there is
+    // none: then nothing happens.
+    [[nodiscard]] bool PopUndoSnapshot();
+    [[nodiscard]] bool PopRedoSnapshot();
+
+    std::size_t UndoCount() const { return undoList_.size() + (last_ ? 1 : 0); }
     std::size_t RedoCount() const { return redoList_.size(); }
 
   private:
-    static constexpr std::size_t kPixels = std::size_t{document::kIconSize} * document::kIconSize;
+    using Steps = std::deque<PictureDifference>;
 
-    // The mask as one bit a pixel (set: white), the colours as three bytes a pixel.
-    struct Snapshot {
-        std::array<std::uint8_t, kPixels / 8> mask{};
-        std::array<std::uint8_t, kPixels * 3> image{};
-    };
+    void RecordUnrecorded();
+    bool Step(Steps& from, Steps& to);
 
     document::IconDocument& document_;
-    std::vector<Snapshot> undoList_;
-    std::vector<Snapshot> redoList_;
+    // The entry recorded last, and the steps that lead away from it, the nearest at the end.
+    std::optional<PackedPicture> last_;
+    Steps undoList_;
+    Steps redoList_;
 };
 
 }  // namespace kestrel::editing

@@ -1,0 +1,114 @@
+#include "editing/PackedPicture.h"
+
+namespace kestrel::editing {
+
+namespace {
+
+constexpr std::uint32_t kMaskBit = 1U << 24;
+constexpr int kRowBytes = 1;
+constexpr int kBitsBytes = 4;
+constexpr int kColorBytes = 3;
+constexpr std::uint32_t kRows = document::kIconSize;
+static_assert(kRows == 32, "four bytes hold one bit for each pixel of a row");
+constexpr std::size_t kMostBytes =
+    std::size_t{kRows} * (kRowBytes + 2 * kBitsBytes + kRows * kColorBytes);
+
+constexpr std::uint32_t Bit(std::uint32_t position) {
+    return 1U << position;
+}
+
+class Writer {
+  public:
+    void Put(std::uint32_t value, int count) {
+        for (int i = 0; i < count; ++i)
+            bytes_[size_++] = static_cast<std::uint8_t>(value >> 8 * i);
+    }
+    std::span<const std::uint8_t> Written() const { return std::span(bytes_).first(size_); }
+
+  private:
+    std::array<std::uint8_t, kMostBytes> bytes_;
+    std::size_t size_ = 0;
+};
+
+class Reader {
+  public:
+    explicit Reader(std::span<const std::uint8_t> bytes) : rest_(bytes) {}
+
+    bool AtEnd() const { return rest_.empty(); }
+    std::uint32_t Take(int count) {
+        std::uint32_t value = 0;
+        for (int i = 0; i < count; ++i)
+            value |= std::uint32_t{rest_[static_cast<std::size_t>(i)]} << 8 * i;
+        rest_ = rest_.subspan(static_cast<std::size_t>(count));
+        return value;
+    }
+
+  private:
+    std::span<const std::uint8_t> rest_;
+};
+
+using Row = std::span<const std::uint32_t, kRows>;
+
+void PutRow(Writer& writer, std::uint32_t y, Row one, Row other) {
+    std::uint32_t columns = 0;
+    std::uint32_t masks = 0;
+    for (std::uint32_t x = 0; x < kRows; ++x) {
+        const std::uint32_t difference = one[x] ^ other[x];
+        if (difference != 0) columns |= Bit(x);
+        if ((difference & kMaskBit) != 0) masks |= Bit(x);
+    }
+    if (columns == 0) return;
+    writer.Put(y, kRowBytes);
+    writer.Put(columns, kBitsBytes);
+    writer.Put(masks, kBitsBytes);
+    for (std::uint32_t x = 0; x < kRows; ++x) {
+        if ((columns & Bit(x)) != 0) writer.Put(one[x] ^ other[x], kColorBytes);
+    }
+}
+
+}  // namespace
+
+PackedPicture Pack(const document::IconDocument& document) {
+    PackedPicture picture;
+    const auto masks = document.PicMask.Pixels();
+    const auto colors = document.PicImage.Pixels();
+    for (std::size_t i = 0; i < picture.size(); ++i)
+        picture[i] = colors[i] | (masks[i] == gdi::kWhite ? kMaskBit : 0);
+    return picture;
+}
+
+void Unpack(const PackedPicture& picture, document::IconDocument& document) {
+    for (int y = 0; y < document::kIconSize; ++y) {
+        const auto masks = document.PicMask.Row(y);
+        const auto colors = document.PicImage.Row(y);
+        for (std::size_t x = 0; x < kRows; ++x) {
+            const std::uint32_t pixel = picture[static_cast<std::size_t>(y) * kRows + x];
+            masks[x] = (pixel & kMaskBit) != 0 ? gdi::kWhite : gdi::kBlack;
+            colors[x] = pixel & gdi::kWhite;
+        }
+    }
+}
+
+PictureDifference::PictureDifference(const PackedPicture& one, const PackedPicture& other) {
+    Writer writer;
+    for (std::uint32_t y = 0; y < kRows; ++y)
+        PutRow(writer, y, Row(one.data() + std::size_t{y} * kRows, kRows),
+               Row(other.data() + std::size_t{y} * kRows, kRows));
+    const auto written = writer.Written();
+    bytes_.assign(written.begin(), written.end());
+}
+
+void PictureDifference::ApplyTo(PackedPicture& picture) const {
+    for (Reader reader(bytes_); !reader.AtEnd();) {
+        const std::size_t row = std::size_t{reader.Take(kRowBytes)} * kRows;
+        const std::uint32_t columns = reader.Take(kBitsBytes);
+        const std::uint32_t masks = reader.Take(kBitsBytes);
+        for (std::uint32_t x = 0; x < kRows; ++x) {
+            if ((columns & Bit(x)) == 0) continue;
+            const std::uint32_t mask = (masks & Bit(x)) != 0 ? kMaskBit : 0;
+            picture[row + x] ^= mask | reader.Take(kColorBytes);
+        }
+    }
+}
+
+}  // namespace kestrel::editing
