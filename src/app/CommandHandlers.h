@@ -16,6 +16,8 @@ class CommandHandlers {
     // Opens the recent file of this slot, 1 to 4.
     virtual void mnuRecent_Click(int slot) = 0;
     virtual void mnuExit_Click() = 0;
+    // The index is that of the Edit menu's item.
+    virtual void mnuEditOpts_Click(int index) = 0;
     virtual void StartSibling(Sibling program) = 0;
     // 0 is Chinese, 1 English; others are none.
     virtual void mnuLanguageOpts_Click(int index) = 0;

@@ -12,6 +12,7 @@
 #include "i18n/Language.h"
 #include "platform/qt/Pictures.h"
 #include "resources/ImageList.h"
+#include "resources/WellPictures.h"
 
 namespace kestrel::app {
 
@@ -61,9 +62,11 @@ QIcon ProgramIcon() {
 FrmIcoEd::FrmIcoEd(const MainServices& services)
     : help_(services.help),
       pictures_(resources::kImageList, resources::kImageListInks),
+      wellPictures_(resources::kWellPictures, resources::kImageListInks),
       barView_(menus_.SmartMenuXP1, pictures_),
       popupView_(menus_.SmartMenuXP2, pictures_),
       editor_(*this, WindowColor(*this)),
+      wellCommands_(editor_.Wells(), *this, services.colors),
       commands_(editor_, *this, menus_, services),
       dispatch_(commands_, *this) {}
 
@@ -82,11 +85,13 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     setFocus();
 
     LayOutControls();
+    LayOutTools();
     BuildToolbar();
     i18n::ApplyMainCaptions(i18n::UiLanguage(), *this);
     BuildMenus();
     DisableMissingCommands();
     ConnectGrid();
+    ConnectTools();
     tmr_ = new QTimer(this);
     tmr_->setInterval(kGuardAfterOpen);
     tmr_->setSingleShot(true);
@@ -133,7 +138,7 @@ void FrmIcoEd::FollowDesktopColors() {
         colors.setColor(QPalette::Window, qt::ToColor(color));
         setPalette(colors);
     }
-    editor_.Views().SetWindowColor(color);
+    editor_.SetWindowColor(color);
 }
 
 void FrmIcoEd::dragEnterEvent(QDragEnterEvent* event) {
@@ -150,6 +155,7 @@ void FrmIcoEd::dropEvent(QDropEvent* event) {
 
 void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
     RunCommand([&] { commands_.Documents().OpenNamed(pathToOpen); });
+    RefreshEditCommands();
 }
 
 void FrmIcoEd::SetTitle(const std::string& title) {

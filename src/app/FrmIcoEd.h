@@ -5,10 +5,12 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <map>
 
 #include "app/CommandDispatch.h"
 #include "app/MainCommands.h"
 #include "editing/Editor.h"
+#include "editing/WellCommands.h"
 #include "platform/controls/ImageList.h"
 #include "platform/qt/MenuView.h"
 #include "platform/qt/StatusBar.h"
@@ -33,6 +35,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     editing::Editor& OpenEditor() { return editor_; }
     std::string StatusText(editing::StatusPanel panel) const;
     qt::SurfaceWidget& GridWidget() { return *picMain_; }
+    qt::SurfaceWidget& PicTools() { return *picTools_; }
     qt::ToolBar& Toolbar1() { return *toolbar1_; }
     MainMenus& Menus() { return menus_; }
     // The menus as they are shown: what stands for an item of the bar, and the editing pop-up.
@@ -62,6 +65,11 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void ShowTextControls(bool shown);
     void FitMenuBar();
     void PlaceOnScreen();
+    void PaintReadouts(QPainter& painter);
+    // FrmIcoEd_Tools.cpp
+    void LayOutTools();
+    void ConnectTools();
+    void PaintIndicators(QPainter& painter);
     // FrmIcoEd_Menu.cpp
     void BuildMenus();
     void BuildToolbar();
@@ -75,8 +83,12 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void RepaintView(document::View view, gdi::Rect area) override;
     void SetTitle(const std::string& title) override;
     void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override;
-    void PrintPointerCell(std::string_view text) override;
+    void PrintReadout(editing::StatusPanel panel, std::string_view text) override;
     void SetGridCursor(editing::GridCursor cursor) override;
+    void RepaintTools() override;
+    void SetToolTipOfTools(std::string_view text) override;
+    void RepaintWells() override;
+    void Beep() override;
     void RefreshEditCommands() override;
 
     void EnableGrid(bool enabled) override;
@@ -86,6 +98,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void Unload() override;
     void SetControlCaption(std::string_view control, std::string_view text) override;
     void SetControlToolTip(std::string_view control, std::string_view text) override;
+    void EnableButton(std::string_view key, bool enabled) override;
     void SetButtonToolTip(std::string_view key, std::string_view text) override;
     void ShowAbout() override;
     void LanguageChanged() override;
@@ -94,19 +107,22 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     qt::ToolBar* toolbar1_ = nullptr;
     qt::SurfaceWidget* picMain_ = nullptr;
     qt::SurfaceWidget* picIcon_ = nullptr;
+    qt::SurfaceWidget* picTools_ = nullptr;
     QLabel* label1_ = nullptr;
     qt::StatusBar* statusBar_ = nullptr;
     QTimer* tmr_ = nullptr;
-    QString pointerCell_;
+    std::map<editing::StatusPanel, QString> readouts_;
     bool commandRunning_ = false;
 
     dialogs::HelpViewer& help_;
     controls::ImageList pictures_;
+    controls::ImageList wellPictures_;
     MainMenus menus_;
     qt::MenuView barView_;
     qt::MenuView popupView_;
     // After the widgets: they call back into the window from their first moment.
     editing::Editor editor_;
+    editing::WellCommands wellCommands_;
     MainCommands commands_;
     CommandDispatch dispatch_;
 };

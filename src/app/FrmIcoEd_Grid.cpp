@@ -2,6 +2,7 @@
 #include <QPixmap>
 
 #include "app/FrmIcoEd.h"
+#include "app/FrmMouseButtons.h"
 #include "i18n/Captions.h"
 #include "platform/gdi/PixelArt.h"
 #include "platform/qt/Pictures.h"
@@ -11,25 +12,31 @@ namespace kestrel::app {
 
 namespace {
 
-using editing::Button;
+using editing::GridCursor;
 using editing::StatusPanel;
 
-Button ToButton(Qt::MouseButton button) {
-    if (button == Qt::LeftButton) return Button::Left;
-    return button == Qt::RightButton ? Button::Right : Button::None;
+QCursor ReadCursor(std::string_view art, int hotX, int hotY) {
+    const gdi::Surface mask = gdi::ReadPixelArt(art, {{'.', gdi::kWhite}}, gdi::kBlack);
+    const gdi::Surface color =
+        gdi::ReadPixelArt(art, {{'k', gdi::kBlack}, {'w', gdi::kWhite}}, gdi::kBlack);
+    return QCursor(QPixmap::fromImage(qt::ToImage(mask, color)), hotX, hotY);
 }
 
-editing::HeldButtons ToHeldButtons(Qt::MouseButtons held) {
-    return {held.testFlag(Qt::LeftButton), held.testFlag(Qt::RightButton)};
-}
-
-QCursor PencilCursor() {
-    const gdi::Surface mask =
-        gdi::ReadPixelArt(resources::kPencilCursor, {{'.', gdi::kWhite}}, gdi::kBlack);
-    const gdi::Surface color = gdi::ReadPixelArt(
-        resources::kPencilCursor, {{'k', gdi::kBlack}, {'w', gdi::kWhite}}, gdi::kBlack);
-    return QCursor(QPixmap::fromImage(qt::ToImage(mask, color)), resources::kPencilHotX,
-                   resources::kPencilHotY);
+QCursor ToCursor(GridCursor cursor) {
+    using namespace resources;
+    switch (cursor) {
+        case GridCursor::Cross:
+            return Qt::CrossCursor;
+        case GridCursor::Pencil:
+            return ReadCursor(kPencilCursor, kPencilHotX, kPencilHotY);
+        case GridCursor::Eraser:
+            return ReadCursor(kEraserCursor, kEraserHotX, kEraserHotY);
+        case GridCursor::Picker:
+            return ReadCursor(kPickerCursor, kPickerHotX, kPickerHotY);
+        case GridCursor::FloodFill:
+            return ReadCursor(kFloodFillCursor, kFloodFillHotX, kFloodFillHotY);
+    }
+    return Qt::CrossCursor;
 }
 
 }  // namespace
@@ -55,9 +62,8 @@ void FrmIcoEd::RepaintView(document::View view, gdi::Rect area) {
     if (widget != nullptr) widget->Repaint(area);
 }
 
-void FrmIcoEd::SetGridCursor(editing::GridCursor cursor) {
-    static const QCursor pencil = PencilCursor();
-    picMain_->setCursor(cursor == editing::GridCursor::Pencil ? pencil : Qt::CrossCursor);
+void FrmIcoEd::SetGridCursor(GridCursor cursor) {
+    picMain_->setCursor(ToCursor(cursor));
 }
 
 void FrmIcoEd::SetStatusPanel(StatusPanel panel, std::string_view text) {

@@ -6,7 +6,9 @@
 #include <array>
 
 #include "app/FrmIcoEd.h"
+#include "platform/qt/PictureIcon.h"
 #include "platform/qt/Text.h"
+#include "resources/WellPictures.h"
 
 namespace kestrel::app {
 
@@ -23,11 +25,22 @@ constexpr QPoint kPicMain(12, 69);
 constexpr QPoint kPicIcon(350, 69);
 constexpr QRect kLabel1(392, 70, 62, 34);
 constexpr QRect kStatusBar(2, 408, 561, 22);
-constexpr QRect kPicTools(458, 69, 92, 66);
 constexpr QRect kColorWells(344, 156, 208, 20);
 constexpr QRect kPicPal(344, 184, 208, 208);
-// Where the text of the cell under the pointer is printed, beside the preview.
-constexpr QRect kPointerCell(371, 111, 60, 16);
+
+// Where a readout is printed beside the preview, and the pictogram before it.
+struct Readout {
+    editing::StatusPanel panel;
+    QRect pictogram;
+    int picture;
+    QRect text;
+};
+constexpr std::array kReadouts{
+    Readout{editing::StatusPanel::Cell, QRect(354, 113, 11, 11), resources::kPointerPicture,
+            QRect(371, 111, 60, 16)},
+    Readout{editing::StatusPanel::DragSize, QRect(354, 135, 11, 11), resources::kDragSizePicture,
+            QRect(371, 133, 60, 16)},
+};
 
 // Hint, pixel, cell, drag size, magnification.
 constexpr std::array kPanelWidths{0, 84, 56, 56, 44};
@@ -110,19 +123,29 @@ void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
     qDrawShadePanel(&painter, QRect(0, 0, width() + 1, 2), palette(), true, 1);
     DrawEdgeAround(painter, picMain_->geometry(), palette());
     DrawEdgeAround(painter, picIcon_->geometry(), palette());
-    DrawEdgeAround(painter, kPicTools, palette());
+    DrawEdgeAround(painter, picTools_->geometry(), palette());
     for (const QRect& place : {kColorWells, kPicPal}) {
         qDrawShadePanel(&painter, place, palette(), true, 1);
     }
-    painter.setFont(FontOf(*this, kSmallFontPixels));
-    painter.drawText(kPointerCell, Qt::AlignLeft | Qt::AlignVCenter, pointerCell_);
+    PaintIndicators(painter);
+    PaintReadouts(painter);
 }
 
-void FrmIcoEd::PrintPointerCell(std::string_view text) {
-    const QString printed = qt::ToText(text);
-    if (printed == pointerCell_) return;
-    pointerCell_ = printed;
-    update(kPointerCell);
+void FrmIcoEd::PaintReadouts(QPainter& painter) {
+    painter.setFont(FontOf(*this, kSmallFontPixels));
+    for (const Readout& readout : kReadouts) {
+        qt::PictureIcon(wellPictures_, readout.picture).paint(&painter, readout.pictogram);
+        painter.drawText(readout.text, Qt::AlignLeft | Qt::AlignVCenter, readouts_[readout.panel]);
+    }
+}
+
+void FrmIcoEd::PrintReadout(editing::StatusPanel panel, std::string_view text) {
+    QString& printed = readouts_[panel];
+    if (printed == qt::ToText(text)) return;
+    printed = qt::ToText(text);
+    for (const Readout& readout : kReadouts) {
+        if (readout.panel == panel) update(readout.text);
+    }
 }
 
 }  // namespace kestrel::app

@@ -108,7 +108,12 @@ void FrmIcoEd::SetButtonToolTip(std::string_view key, std::string_view text) {
     toolbar1_->SetToolTip(key, text);
 }
 
-// No Edit commands in the menu yet.
-void FrmIcoEd::RefreshEditCommands() {}
+void FrmIcoEd::EnableButton(std::string_view key, bool enabled) {
+    toolbar1_->SetEnabled(key, enabled);
+}
+
+void FrmIcoEd::RefreshEditCommands() {
+    commands_.mnuEdit_Click();
+}
 
 }  // namespace kestrel::app

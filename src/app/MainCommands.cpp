@@ -9,7 +9,8 @@ namespace kestrel::app {
 
 MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
                            const MainServices& services)
-    : window_(window),
+    : editor_(editor),
+      window_(window),
       menus_(menus),
       settings_(services.settings),
       recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
@@ -21,6 +22,24 @@ MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenu
 void MainCommands::mnuRecent_Click(int slot) {
     const std::string pathToOpen = recent_.GetRecentFile(slot);
     if (!pathToOpen.empty()) documents_.OpenNamed(pathToOpen);
+}
+
+void MainCommands::mnuEdit_Click() {
+    const struct {
+        std::string_view item;
+        std::string_view button;
+        bool enabled;
+    } commands[] = {{"mnuEditOpts0", "Undo", editor_.History().CanUndo()},
+                    {"mnuEditOpts1", "Redo", editor_.History().CanRedo()}};
+    for (const auto& command : commands) {
+        menus_.SmartMenuXP1.SetEnabled(command.item, command.enabled);
+        window_.EnableButton(command.button, command.enabled);
+    }
+}
+
+void MainCommands::mnuEditOpts_Click(int index) {
+    if (index == 0) editor_.PopUndoSnapshot();
+    if (index == 1) editor_.PopRedoSnapshot();
 }
 
 void MainCommands::mnuLanguageOpts_Click(int index) {

@@ -11,12 +11,15 @@
 #include "editing/Editor.h"
 #include "i18n/ModLanguage.h"
 #include "platform/controls/SmartMenuXP.h"
+#include "platform/dialogs/ColorDialog.h"
 
 namespace kestrel::app {
 
 // What the commands need of the main window.
 class MainWindow : public DocumentWindow, public i18n::CaptionedWindow {
   public:
+    // A button of the toolbar, by its key.
+    virtual void EnableButton(std::string_view key, bool enabled) = 0;
     virtual void ShowAbout() = 0;
     // Whatever else the window shows as text is in another language from now on.
     virtual void LanguageChanged() = 0;
@@ -25,6 +28,7 @@ class MainWindow : public DocumentWindow, public i18n::CaptionedWindow {
 // What the main window is given; all of it outlives the window.
 struct MainServices {
     dialogs::FileDialogs& cdb;
+    dialogs::ColorDialog& colors;
     dialogs::MessageBoxes& boxes;
     dialogs::HelpViewer& help;
     system::FileSystem& files;
@@ -49,6 +53,8 @@ class MainCommands : public CommandHandlers {
 
     DocumentCommands& Documents() { return documents_; }
     ModRecent& Recent() { return recent_; }
+    // Enables the Edit commands that can do something now.
+    void mnuEdit_Click();
 
     void mnuNew_Click() override { documents_.mnuNew_Click(); }
     void mnuOpen_Click() override { documents_.mnuOpen_Click(); }
@@ -56,6 +62,7 @@ class MainCommands : public CommandHandlers {
     void mnuSaveAs_Click() override { documents_.mnuSaveAs_Click(); }
     void mnuRecent_Click(int slot) override;
     void mnuExit_Click() override { documents_.mnuExit_Click(); }
+    void mnuEditOpts_Click(int index) override;
     void StartSibling(Sibling program) override { shell_.StartSibling(program); }
     // Changes the language of everything and keeps it for the next start.
     void mnuLanguageOpts_Click(int index) override;
@@ -64,6 +71,7 @@ class MainCommands : public CommandHandlers {
     void mnuAbout_Click() override { window_.ShowAbout(); }
 
   private:
+    editing::Editor& editor_;
     MainWindow& window_;
     MainMenus& menus_;
     Settings& settings_;

@@ -6,6 +6,7 @@
 #include "app/Settings.h"
 #include "app/Startup.h"
 #include "i18n/DesktopTexts.h"
+#include "platform/qt/QtColorDialog.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtHelpViewer.h"
 #include "platform/qt/QtMessageBoxes.h"
@@ -66,14 +67,16 @@ int main(int argc, char* argv[]) {
     if (!values) return 0;
 
     qt::QtFileDialogs cdb;
+    qt::QtColorDialog colors;
     system::DesktopShell shell;
     qt::QtHelpViewer help(shell);
     const app::ProgramFolders folders{.application = facts.applicationFolder,
                                       .windows = values->WindowsFolder};
     app::FrmIcoEd window(
-        {cdb, boxes, help, files, registry, shell, settings, folders, facts.systemLcid});
+        {cdb, colors, boxes, help, files, registry, shell, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     cdb.SetOwner(&window);
+    colors.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv)));
     window.show();
     return QApplication::exec();

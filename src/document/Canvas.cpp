@@ -90,9 +90,13 @@ void Canvas::EraseAndRedraw(gdi::Rect cells) {
 
 void Canvas::PreviewIcon() {
     PicIcon.Clear();
-    gdi::BitBlt(PicIcon, 0, 0, kIconSize, kIconSize, document_.PicMask, 0, 0, RasterOp::And);
-    gdi::BitBlt(PicIcon, 0, 0, kIconSize, kIconSize, document_.PicImage, 0, 0, RasterOp::Xor);
+    DrawIconOver(PicIcon);
     window_.RepaintView(View::Preview, PicIcon.Bounds());
+}
+
+void Canvas::DrawIconOver(gdi::Surface& ground) const {
+    gdi::BitBlt(ground, 0, 0, kIconSize, kIconSize, document_.PicMask, 0, 0, RasterOp::And);
+    gdi::BitBlt(ground, 0, 0, kIconSize, kIconSize, document_.PicImage, 0, 0, RasterOp::Xor);
 }
 
 void Canvas::ShowEmptyIcon() {

@@ -43,6 +43,8 @@ class Canvas {
     void EraseAndRedraw(gdi::Rect cells);
     // Recomposes the preview from the planes.
     void PreviewIcon();
+    // Composes the icon over a ground of 32 x 32 pixels.
+    void DrawIconOver(gdi::Surface& ground) const;
     // Empties the preview and the grid; the planes are the caller's.
     void ShowEmptyIcon();
     // Rebuilds the grid and its backing copy from the planes; the document's flags stay.

@@ -12,6 +12,11 @@ constexpr int CellOf(int v) {
     return v / kCellSize;
 }
 
+// Whether the grid point lies over an icon pixel, and not on the last line.
+constexpr bool IsInIcon(int x, int y) {
+    return x >= 0 && y >= 0 && x < kGridSize && y < kGridSize;
+}
+
 // To the left and top line of the cell.
 void SnapToCell(int& x, int& y);
 // To the line that is nearest; the middle of a cell goes up.

@@ -1,23 +1,45 @@
 #include "editing/ColorWells.h"
 
+#include <utility>
+
 namespace kestrel::editing {
 
 void ColorWells::SetPenColor(Button button, gdi::COLORREF color) {
-    penColors_[IndexOf(button)] = color;
-    transparent_[IndexOf(button)] = false;
+    wells_[IndexOf(button)] = {color, false};
+    window_.RepaintWells();
 }
 
 void ColorWells::SetTransparent(Button button) {
-    penColors_[IndexOf(button)] = gdi::kWhite;
-    transparent_[IndexOf(button)] = true;
+    wells_[IndexOf(button)] = {gdi::kWhite, true};
+    window_.RepaintWells();
+}
+
+void ColorWells::SetOpaque(Button button) {
+    wells_[IndexOf(button)].transparent = false;
+    window_.RepaintWells();
 }
 
 void ColorWells::ResetDefaultColors() {
-    penColors_ = {transparent_[0] ? gdi::kWhite : gdi::kBlack, gdi::kWhite};
+    wells_[0].color = wells_[0].transparent ? gdi::kWhite : gdi::kBlack;
+    wells_[1].color = gdi::kWhite;
+    window_.RepaintWells();
 }
 
 void ColorWells::ClearTransparent() {
-    transparent_ = {};
+    SetOpaque(Button::Left);
+    SetOpaque(Button::Right);
+}
+
+void ColorWells::Interchange() {
+    std::swap(wells_[0], wells_[1]);
+    window_.RepaintWells();
+}
+
+void ColorWells::InterchangeTransparent() {
+    if (wells_[0].transparent == wells_[1].transparent) return;
+    for (Well& well : wells_)
+        well = {gdi::kWhite, !well.transparent};
+    window_.RepaintWells();
 }
 
 }  // namespace kestrel::editing

@@ -2,12 +2,17 @@
 
 #include <array>
 
+#include "editing/EditorWindow.h"
 #include "platform/gdi/Color.h"
 
 namespace kestrel::editing {
 
 // The mouse buttons that draw; others do nothing on the grid.
 enum class Button { None = 0, Left = 1, Right = 2 };
+
+constexpr Button Other(Button button) {
+    return button == Button::Right ? Button::Left : Button::Right;
+}
 
 // The drawing buttons held during a pointer move.
 struct HeldButtons {
@@ -18,26 +23,40 @@ struct HeldButtons {
     bool IsOnly(Button button) const { return Has(button) && left != right; }
 };
 
-// What each mouse button draws with: a colour, or transparency.
+// What each mouse button draws with: a colour, or transparency. The window is told of changes.
 class ColorWells {
   public:
+    explicit ColorWells(EditorWindow& window) : window_(window) {}
+
     // The colour of a button's well; white while the well is transparent.
-    gdi::COLORREF PenColor(Button button) const { return penColors_[IndexOf(button)]; }
-    bool IsTransparent(Button button) const { return transparent_[IndexOf(button)]; }
+    gdi::COLORREF PenColor(Button button) const { return wells_[IndexOf(button)].color; }
+    bool IsTransparent(Button button) const { return wells_[IndexOf(button)].transparent; }
 
     void SetPenColor(Button button, gdi::COLORREF color);
     void SetTransparent(Button button);
+    // The well is not transparent any more; its colour stays.
+    void SetOpaque(Button button);
 
     // Black for the left button, white for the right; whether a well is transparent stays.
     void ResetDefaultColors();
     // Neither well is transparent any more; the colours stay.
     void ClearTransparent();
 
+    // The wells change places; two transparent ones do not.
+    void Interchange();
+    // Transparency goes over to the other well, which loses its colour.
+    void InterchangeTransparent();
+
   private:
+    struct Well {
+        gdi::COLORREF color = gdi::kBlack;
+        bool transparent = false;
+    };
+
     static std::size_t IndexOf(Button button) { return button == Button::Right ? 1 : 0; }
 
-    std::array<gdi::COLORREF, 2> penColors_{gdi::kBlack, gdi::kWhite};
-    std::array<bool, 2> transparent_{};
+    EditorWindow& window_;
+    std::array<Well, 2> wells_{{{gdi::kBlack, false}, {gdi::kWhite, false}}};
 };
 
 }  // namespace kestrel::editing

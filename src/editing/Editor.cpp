@@ -7,15 +7,19 @@ namespace kestrel::editing {
 Editor::Editor(EditorWindow& window, gdi::COLORREF windowColor)
     : window_(window),
       canvas_(document_, window, windowColor),
-      tools_(window),
+      wells_(window),
+      tools_(window, windowColor),
       history_(document_),
-      readout_(document_, window),
-      pencil_(canvas_, wells_, history_) {
+      readout_(document_, window) {
+    const ToolParts parts{document_, canvas_, wells_, history_, window};
+    for (const ToolRow& row : ToolTable()) {
+        if (row.make != nullptr) gridTools_[row.id] = row.make(parts);
+    }
     history_.PushUndoSnapshot();
 }
 
 void Editor::ResetDocument() {
-    gestureTool_ = nullptr;
+    gestureButton_ = Button::None;
     document_.Reset();
     ShowTitle();
     tools_.SelectTool(ToolId::Pencil);
@@ -32,59 +36,75 @@ void Editor::ShowOpenedIcon(const icons::IconImage& icon) {
     history_.PushUndoSnapshot();
 }
 
-GridTool* Editor::CurrentGridTool() {
-    return tools_.CurrentTool() == ToolId::Pencil ? &pencil_ : nullptr;
-}
-
 void Editor::PicMain_MouseDown(Button button, int x, int y) {
     if (button == Button::None) return;
-    if (gestureTool_ != nullptr) {
+    if (gestureButton_ != Button::None) {
         if (button != gestureButton_) return;
         EndGesture();
     }
-    readout_.Show(tools_.CurrentTool(), x, y);
-    pointerX_ = x;
-    pointerY_ = y;
-    gestureTool_ = CurrentGridTool();
-    if (gestureTool_ == nullptr) return;
     gestureButton_ = button;
+    press_ = {x, y};
+    const auto tool = gridTools_.find(tools_.CurrentTool());
+    gestureTool_ = tool == gridTools_.end() ? nullptr : tool->second.get();
+    ShowReadout(x, y);
     canvas_.SetPenColor(wells_.PenColor(button));
-    gestureTool_->Press(button, x, y);
+    if (gestureTool_ != nullptr) gestureTool_->Press(button, x, y);
 }
 
 void Editor::PicMain_MouseMove(HeldButtons held, int x, int y) {
-    // The button came up where nobody saw it.
-    if (gestureTool_ != nullptr && !held.Has(gestureButton_)) EndGesture();
-    readout_.Show(tools_.CurrentTool(), x, y);
-    pointerX_ = x;
-    pointerY_ = y;
-    if (gestureTool_ != nullptr && held.IsOnly(gestureButton_)) {
-        gestureTool_->Move(gestureButton_, x, y);
-    }
+    // Where the button came up nobody saw.
+    if (gestureButton_ != Button::None && !held.Has(gestureButton_)) EndGesture();
+    ShowReadout(x, y);
+    if (gestureButton_ == Button::None || !held.IsOnly(gestureButton_)) return;
+    if (gestureTool_ != nullptr) gestureTool_->Move(gestureButton_, x, y);
 }
 
 void Editor::PicMain_MouseUp(Button button, int x, int y) {
-    if (gestureTool_ == nullptr || button != gestureButton_) return;
-    gestureTool_->Release(button, x, y);
-    RecordGesture();
+    if (button == Button::None || button != gestureButton_) return;
+    // Where a button comes up the pointer has been before.
+    if (x != pointer_.x || y != pointer_.y) {
+        PicMain_MouseMove({button == Button::Left, button == Button::Right}, x, y);
+    }
+    gestureButton_ = Button::None;
+    if (gestureTool_ == nullptr) return;
+    const Outcome outcome = gestureTool_->Release(button, x, y);
+    if (outcome == Outcome::Changed) RecordChange();
+    if (outcome == Outcome::HandBack) tools_.RestoreLastDrawingTool();
 }
 
 void Editor::EndGesture() {
-    PicMain_MouseUp(gestureButton_, pointerX_, pointerY_);
+    PicMain_MouseUp(gestureButton_, pointer_.x, pointer_.y);
+}
+
+void Editor::PopUndoSnapshot() {
+    if (history_.PopUndoSnapshot()) canvas_.RedrawAll();
+}
+
+void Editor::PopRedoSnapshot() {
+    if (history_.PopRedoSnapshot()) canvas_.RedrawAll();
+}
+
+void Editor::SetWindowColor(gdi::COLORREF color) {
+    canvas_.SetWindowColor(color);
+    tools_.SetWindowColor(color);
 }
 
 void Editor::ShowTitle() {
     window_.SetTitle(i18n::WindowTitle(document_.FileTitle));
 }
 
-void Editor::RecordGesture() {
-    gestureTool_ = nullptr;
-    gestureButton_ = Button::None;
+void Editor::ShowReadout(int x, int y) {
+    pointer_ = {x, y};
+    const bool dragging = gestureButton_ != Button::None;
+    readout_.Show(tools_.CurrentTool(), pointer_, dragging ? std::optional(press_) : std::nullopt);
+}
+
+void Editor::RecordChange() {
     history_.PushUndoSnapshot();
     document_.Modified = true;
     window_.RefreshEditCommands();
     // What lies under the pointer has changed.
-    readout_.Show(tools_.CurrentTool(), pointerX_, pointerY_);
+    ShowReadout(pointer_.x, pointer_.y);
 }
 
 }  // namespace kestrel::editing

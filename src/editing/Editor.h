@@ -1,11 +1,14 @@
 #pragma once
 
+#include <map>
+#include <memory>
+
 #include "document/Canvas.h"
 #include "document/IconDocument.h"
 #include "editing/ColorWells.h"
 #include "editing/EditorWindow.h"
+#include "editing/GridTool.h"
 #include "editing/ModCollections.h"
-#include "editing/Pencil.h"
 #include "editing/PointerReadout.h"
 #include "editing/ToolPalette.h"
 
@@ -38,12 +41,19 @@ class Editor {
     // away in its midst, such as a command by keyboard.
     void EndGesture();
 
+    // One step of the history back or forward; nothing where there is none.
+    void PopUndoSnapshot();
+    void PopRedoSnapshot();
+
+    // The desktop's window colour has changed.
+    void SetWindowColor(gdi::COLORREF color);
+
     // Shows the document's file title in the title of the window.
     void ShowTitle();
 
   private:
-    GridTool* CurrentGridTool();
-    void RecordGesture();
+    void ShowReadout(int x, int y);
+    void RecordChange();
 
     EditorWindow& window_;
     document::IconDocument document_;
@@ -52,13 +62,15 @@ class Editor {
     ToolPalette tools_;
     ModCollections history_;
     PointerReadout readout_;
-    Pencil pencil_;
+    std::map<ToolId, std::unique_ptr<GridTool>> gridTools_;
 
-    GridTool* gestureTool_ = nullptr;
+    // The gesture under way: its button (None: there is none), where it began, and its tool, which
+    // may be missing.
     Button gestureButton_ = Button::None;
+    GridPoint press_;
+    GridTool* gestureTool_ = nullptr;
     // The grid point of the last pointer event.
-    int pointerX_ = 0;
-    int pointerY_ = 0;
+    GridPoint pointer_;
 };
 
 }  // namespace kestrel::editing

@@ -8,7 +8,7 @@
 namespace kestrel::editing {
 
 // Pointer shapes over the editing grid.
-enum class GridCursor { Cross, Pencil };
+enum class GridCursor { Cross, Pencil, Eraser, Picker, FloodFill };
 
 // The panels of the status bar, from the left.
 enum class StatusPanel { Hint = 1, Pixel = 2, Cell = 3, DragSize = 4, Zoom = 5 };
@@ -18,9 +18,15 @@ class EditorWindow : public document::CanvasWindow {
   public:
     virtual void SetTitle(const std::string& title) = 0;
     virtual void SetStatusPanel(StatusPanel panel, std::string_view text) = 0;
-    // The cell under the pointer, printed on the window beside the preview.
-    virtual void PrintPointerCell(std::string_view text) = 0;
+    // Prints the text of the Cell or DragSize panel on the window too, beside the preview.
+    virtual void PrintReadout(StatusPanel panel, std::string_view text) = 0;
     virtual void SetGridCursor(GridCursor cursor) = 0;
+    // The tool palette has new pixels.
+    virtual void RepaintTools() = 0;
+    virtual void SetToolTipOfTools(std::string_view text) = 0;
+    // A colour well has changed.
+    virtual void RepaintWells() = 0;
+    virtual void Beep() = 0;
     // The enabled state of the Edit commands may have changed.
     virtual void RefreshEditCommands() = 0;
 };

@@ -1,18 +1,35 @@
 #pragma once
 
+#include "document/Canvas.h"
+#include "document/IconDocument.h"
 #include "editing/ColorWells.h"
+#include "editing/EditorWindow.h"
+#include "editing/ModCollections.h"
 
 namespace kestrel::editing {
 
+// What a tool may need; each keeps what it does need.
+struct ToolParts {
+    document::IconDocument& document;
+    document::Canvas& canvas;
+    ColorWells& wells;
+    ModCollections& history;
+    EditorWindow& window;
+};
+
+// What a gesture came to. A changed image is recorded, also where it looks as before; after
+// HandBack the drawing tool that was used before is current again.
+enum class Outcome { Nothing, Changed, HandBack };
+
 // A tool of the editing grid. Points are in grid units and may lie outside the grid while the mouse
-// is captured. The editor calls Press once, then Move for each pointer event, then Release; it has
-// set the pen colour before Press and records the new image after Release.
+// is captured. The editor calls Press once, then Move for each pointer event, then Release where
+// the last of them was; it has set the pen colour before Press.
 class GridTool {
   public:
     virtual ~GridTool() = default;
     virtual void Press(Button button, int x, int y) = 0;
     virtual void Move(Button button, int x, int y) = 0;
-    virtual void Release(Button /*button*/, int /*x*/, int /*y*/) {}
+    virtual Outcome Release(Button button, int x, int y) = 0;
 };
 
 }  // namespace kestrel::editing

@@ -1,25 +1,19 @@
 #pragma once
 
-#include "document/Canvas.h"
-#include "editing/ColorWells.h"
-#include "editing/GridTool.h"
-#include "editing/ModCollections.h"
+#include "editing/FreehandTool.h"
 
 namespace kestrel::editing {
 
-// Paints the cell under each pointer event in the button's colour; nothing in between.
-class Pencil : public GridTool {
+// Paints in the button's colour, or clears while its well is transparent.
+class Pencil : public FreehandTool {
   public:
-    Pencil(document::Canvas& canvas, const ColorWells& wells, ModCollections& history)
-        : canvas_(canvas), wells_(wells), history_(history) {}
+    explicit Pencil(const ToolParts& parts) : FreehandTool(parts), wells_(parts.wells) {}
 
-    void Press(Button button, int x, int y) override;
-    void Move(Button button, int x, int y) override;
+  protected:
+    void Paint(Button button, int cx, int cy) override;
 
   private:
-    document::Canvas& canvas_;
     const ColorWells& wells_;
-    ModCollections& history_;
 };
 
 }  // namespace kestrel::editing

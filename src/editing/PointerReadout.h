@@ -1,10 +1,18 @@
 #pragma once
 
+#include <optional>
+
 #include "document/IconDocument.h"
 #include "editing/EditorWindow.h"
-#include "editing/ToolPalette.h"
+#include "editing/ToolTable.h"
 
 namespace kestrel::editing {
+
+// A point of the grid in grid units; outside it while the mouse is captured.
+struct GridPoint {
+    int x = 0;
+    int y = 0;
+};
 
 // Tells on the status bar and beside the preview what lies under the pointer.
 class PointerReadout {
@@ -12,12 +20,16 @@ class PointerReadout {
     PointerReadout(const document::IconDocument& document, EditorWindow& window)
         : document_(document), window_(window) {}
 
-    // Hint for the tool, pixel and cell under the grid point.
-    void Show(ToolId tool, int x, int y);
+    // Hint of the tool, pixel and cell under the point and, while a button is held that was pressed
+    // at `press`, the size of the drag.
+    void Show(ToolId tool, GridPoint at, std::optional<GridPoint> press);
 
   private:
     void ShowPixel(int cx, int cy);
     void ShowPointerReadout(int cx, int cy);
+    void ShowDragSize(DragSize kind, int cx, int cy, std::optional<GridPoint> press);
+    // On the status bar and on the window.
+    void Print(StatusPanel panel, std::string_view text);
 
     const document::IconDocument& document_;
     EditorWindow& window_;

@@ -1,10 +1,118 @@
 #include "editing/ToolPalette.h"
 
+#include "editing/ToolStrip.h"
+#include "editing/ToolTable.h"
+#include "platform/gdi/Blit.h"
+#include "platform/gdi/Draw.h"
+
 namespace kestrel::editing {
 
+namespace {
+
+constexpr int kColumns = 4;
+constexpr int kRows = 3;
+constexpr int kCellWidth = 23;
+constexpr int kCellHeight = 22;
+// Where a glyph stands in its cell.
+constexpr int kGlyphX = 4;
+constexpr int kGlyphY = 3;
+
+constexpr int SlotOf(ToolId tool) {
+    return static_cast<int>(tool) - 1;
+}
+constexpr int LeftOf(ToolId tool) {
+    return SlotOf(tool) % kColumns * kCellWidth;
+}
+constexpr int TopOf(ToolId tool) {
+    return SlotOf(tool) / kColumns * kCellHeight;
+}
+
+}  // namespace
+
+ToolPalette::ToolPalette(EditorWindow& window, gdi::COLORREF windowColor)
+    : window_(window),
+      strip_(ToolStrip()),
+      picTools_(kColumns * kCellWidth, kRows * kCellHeight, windowColor) {
+    Paint();
+}
+
+std::optional<ToolId> ToolPalette::ToolAt(int x, int y) {
+    if (x < 0 || y < 0 || x >= kColumns * kCellWidth || y >= kRows * kCellHeight) return {};
+    return static_cast<ToolId>(x / kCellWidth + 1 + kColumns * (y / kCellHeight));
+}
+
 void ToolPalette::SelectTool(ToolId tool) {
+    if (tool != ToolId::Selection && tool != ToolId::ColorPicker) lastDrawingTool_ = tool;
     currentTool_ = tool;
-    window_.SetGridCursor(tool == ToolId::Pencil ? GridCursor::Pencil : GridCursor::Cross);
+    Paint();
+    window_.SetGridCursor(RowOf(tool).cursor);
+}
+
+void ToolPalette::PicTools_MouseDown(Button button, int x, int y) {
+    if (button == Button::None || paletteHitTool_) return;
+    const auto tool = ToolAt(x, y);
+    if (!tool || tool == currentTool_) return;
+    paletteHitTool_ = tool;
+    pressedBy_ = button;
+    ShowPressed(true);
+}
+
+void ToolPalette::PicTools_MouseMove(HeldButtons held, int x, int y) {
+    const auto tool = ToolAt(x, y);
+    if (!held.left && !held.right) {
+        // Where the button came up nobody saw.
+        paletteHitTool_.reset();
+        ShowPressed(false);
+        if (tool) ShowHints(*tool);
+    } else if (held.left && paletteHitTool_) {
+        ShowPressed(tool == paletteHitTool_);
+    }
+}
+
+void ToolPalette::PicTools_MouseUp(Button button, int x, int y) {
+    if (!paletteHitTool_ || button != pressedBy_) return;
+    const ToolId pressed = *paletteHitTool_;
+    paletteHitTool_.reset();
+    ShowPressed(false);
+    if (ToolAt(x, y) == pressed) SelectTool(pressed);
+}
+
+void ToolPalette::SetWindowColor(gdi::COLORREF color) {
+    picTools_.SetBackColor(color);
+    Paint();
+}
+
+void ToolPalette::ShowHints(ToolId tool) {
+    window_.SetToolTipOfTools(RowOf(tool).toolTip.Now());
+    window_.SetStatusPanel(StatusPanel::Hint, RowOf(tool).status.Now());
+}
+
+void ToolPalette::ShowPressed(bool shown) {
+    if (pressedShown_ == shown) return;
+    pressedShown_ = shown;
+    Paint();
+}
+
+void ToolPalette::Paint() {
+    picTools_.Clear();
+    for (const ToolRow& row : ToolTable()) {
+        // Two of the glyphs stand one pixel further left.
+        const bool further = row.id == ToolId::ColorPicker || row.id == ToolId::FloodFill;
+        const int x = LeftOf(row.id) + kGlyphX - (further ? 1 : 0);
+        const int y = TopOf(row.id) + kGlyphY;
+        const int slot = SlotOf(row.id) * kGlyphSize;
+        gdi::BitBlt(picTools_, x, y, kGlyphSize, kGlyphSize, strip_, slot, 0, gdi::RasterOp::And);
+        gdi::BitBlt(picTools_, x, y, kGlyphSize, kGlyphSize, strip_, slot, kGlyphSize,
+                    gdi::RasterOp::Xor);
+    }
+    DrawEdge(currentTool_);
+    if (paletteHitTool_ && pressedShown_) DrawEdge(*paletteHitTool_);
+    window_.RepaintTools();
+}
+
+void ToolPalette::DrawEdge(ToolId tool) {
+    gdi::DrawSunkenEdge(picTools_, LeftOf(tool), TopOf(tool), LeftOf(tool) + kCellWidth,
+                        TopOf(tool) + kCellHeight);
 }
 
 }  // namespace kestrel::editing

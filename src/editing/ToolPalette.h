@@ -1,37 +1,58 @@
 #pragma once
 
+#include <optional>
+
+#include "editing/ColorWells.h"
 #include "editing/EditorWindow.h"
+#include "editing/ToolId.h"
+#include "platform/gdi/Surface.h"
 
 namespace kestrel::editing {
 
-// The tools in the order of the palette's cells, row by row.
-enum class ToolId {
-    Selection = 1,
-    Pencil,
-    ColorEraser,
-    ColorPicker,
-    FloodFill,
-    Line,
-    Rectangle,
-    SolidRectangle,
-    FilledRectangle,
-    Ellipse,
-    SolidEllipse,
-    FilledEllipse,
-};
-
-// Which tool the editing grid obeys.
+// The palette of tools: 4 columns and 3 rows of glyphs, the current tool and one that is being
+// pressed with a sunken edge. Points are in pixels of the palette.
 class ToolPalette {
   public:
-    explicit ToolPalette(EditorWindow& window) : window_(window) {}
+    ToolPalette(EditorWindow& window, gdi::COLORREF windowColor);
+
+    // What the palette looks like.
+    const gdi::Surface& PicTools() const { return picTools_; }
 
     ToolId CurrentTool() const { return currentTool_; }
-    // Makes a tool current and gives the grid its pointer shape.
+    // The last tool other than Selection and Color picker.
+    ToolId LastDrawingTool() const { return lastDrawingTool_; }
+
+    // Makes a tool current, shows it so and gives the grid its pointer shape.
     void SelectTool(ToolId tool);
+    void RestoreLastDrawingTool() { SelectTool(lastDrawingTool_); }
+
+    // A press belongs to the button that began it; it selects a tool when it ends where it began.
+    void PicTools_MouseDown(Button button, int x, int y);
+    void PicTools_MouseMove(HeldButtons held, int x, int y);
+    void PicTools_MouseUp(Button button, int x, int y);
+
+    // The ground of the palette.
+    void SetWindowColor(gdi::COLORREF color);
 
   private:
+    // The tool under a point; none outside the palette.
+    static std::optional<ToolId> ToolAt(int x, int y);
+
+    void Paint();
+    void DrawEdge(ToolId tool);
+    void ShowHints(ToolId tool);
+    void ShowPressed(bool shown);
+
     EditorWindow& window_;
+    gdi::Surface strip_;
+    gdi::Surface picTools_;
     ToolId currentTool_ = ToolId::Pencil;
+    ToolId lastDrawingTool_ = ToolId::Pencil;
+    // The tool pressed and not released yet; never the current one.
+    std::optional<ToolId> paletteHitTool_;
+    Button pressedBy_ = Button::None;
+    // Whether the pointer is on the tool that it pressed.
+    bool pressedShown_ = false;
 };
 
 }  // namespace kestrel::editing

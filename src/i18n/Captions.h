@@ -5,8 +5,10 @@
 namespace kestrel::i18n {
 
 // Status bar: hints under the pointer, and the readout of a pixel without colour.
-inline constexpr Text kPencilHint{"Left-Click (Forecolor) Or Right-Click (Backcolor)",
-                                  "点击鼠标左键 (前景色) 或 点击鼠标右键 (背景色)"};
+inline constexpr Text kForegroundColor{"Foreground Color", "设置前景色"};
+inline constexpr Text kBackgroundColor{"Background Color", "设置背景色"};
+inline constexpr Text kExchangeColors{"Exchange colors", "切换前景和背景色"};
+inline constexpr Text kDefaultColors{"Select Black and White colors", "默认前景色和背景色"};
 inline constexpr Text kActualSize{"Actual Size", "图标实际大小"};
 inline constexpr Text kTransparent{"Transparent", "透明"};
 

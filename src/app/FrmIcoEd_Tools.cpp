@@ -1,0 +1,136 @@
+#include <qdrawutil.h>
+
+#include <QApplication>
+#include <QPainter>
+#include <QToolTip>
+#include <array>
+
+#include "app/FrmIcoEd.h"
+#include "app/FrmMouseButtons.h"
+#include "i18n/Captions.h"
+#include "platform/qt/PictureBox.h"
+#include "platform/qt/PictureIcon.h"
+#include "platform/qt/Pictures.h"
+#include "platform/qt/Text.h"
+#include "resources/WellPictures.h"
+
+namespace kestrel::app {
+
+namespace {
+
+using editing::Button;
+using editing::WellCommands;
+using qt::PictureBox;
+
+constexpr QPoint kPicTools(458, 69);
+constexpr QRect kPicForeColor(383, 158, 22, 16);
+constexpr QRect kPicBackColor(408, 158, 22, 16);
+// Boxes of the pen colours, both corners included.
+constexpr QRect kForeIndicator(347, 160, 11, 11);
+constexpr QRect kBackIndicator(365, 160, 11, 11);
+
+// A control beside the colour wells, or one of them.
+struct WellControl {
+    const char* name;
+    QRect place;
+    PictureBox::Edge edge;
+    // In the image list; 0 for none.
+    int picture;
+    i18n::Text hint;
+    void (WellCommands::*mouseUp)(Button button);
+};
+
+constexpr std::array kWellControls{
+    WellControl{"PicForeColor", kPicForeColor, PictureBox::Edge::Sunken, 0, i18n::kForegroundColor,
+                &WellCommands::PicForeColor_MouseUp},
+    WellControl{"PicBackColor", kPicBackColor, PictureBox::Edge::Sunken, 0, i18n::kBackgroundColor,
+                &WellCommands::PicBackColor_MouseUp},
+    WellControl{"ImgInterchangeColor", QRect(436, 157, 18, 18), PictureBox::Edge::Button,
+                resources::kInterchangeColorsPicture, i18n::kExchangeColors,
+                &WellCommands::ImgInterchangeColor_MouseUp},
+    WellControl{"ImgDefaultColor", QRect(456, 157, 18, 18), PictureBox::Edge::Button,
+                resources::kDefaultColorsPicture, i18n::kDefaultColors,
+                &WellCommands::ImgDefaultColor_MouseUp},
+    WellControl{"ImgTransparent", QRect(476, 157, 18, 18), PictureBox::Edge::Button,
+                resources::kTransparentMarkerPicture, i18n::kTransparent,
+                &WellCommands::ImgTransparent_MouseUp},
+};
+
+}  // namespace
+
+void FrmIcoEd::LayOutTools() {
+    picTools_ = new qt::SurfaceWidget(editor_.Tools().PicTools(), this);
+    picTools_->move(kPicTools);
+    for (const WellControl& control : kWellControls) {
+        auto* box = new PictureBox(control.edge, this);
+        box->setObjectName(control.name);
+        box->setGeometry(control.place);
+        box->Show({}, qt::PictureIcon(wellPictures_, control.picture));
+    }
+}
+
+void FrmIcoEd::ConnectTools() {
+    picTools_->onMouseDown = [this](Qt::MouseButton button, QPoint at) {
+        editor_.Tools().PicTools_MouseDown(ToButton(button), at.x(), at.y());
+    };
+    picTools_->onMouseMove = [this](Qt::MouseButtons held, QPoint at) {
+        editor_.Tools().PicTools_MouseMove(ToHeldButtons(held), at.x(), at.y());
+    };
+    picTools_->onMouseUp = [this](Qt::MouseButton button, QPoint at) {
+        editor_.Tools().PicTools_MouseUp(ToButton(button), at.x(), at.y());
+    };
+    for (const WellControl& control : kWellControls) {
+        auto* box = findChild<PictureBox*>(control.name);
+        box->onMouseUp = [this, &control](Qt::MouseButton button) {
+            RunCommand([&] { (wellCommands_.*control.mouseUp)(ToButton(button)); });
+        };
+        box->onMouseMove = [this, &control] {
+            SetStatusPanel(editing::StatusPanel::Hint, control.hint.Now());
+        };
+    }
+}
+
+void FrmIcoEd::RepaintTools() {
+    // While the editor is being built there is no widget yet.
+    if (picTools_ != nullptr) picTools_->update();
+}
+
+void FrmIcoEd::SetToolTipOfTools(std::string_view text) {
+    const QString toolTip = qt::ToText(text);
+    if (toolTip == picTools_->toolTip()) return;
+    picTools_->setToolTip(toolTip);
+    // What is shown belongs to another tool.
+    QToolTip::hideText();
+}
+
+void FrmIcoEd::RepaintWells() {
+    const auto show = [this](const char* name, Button button) {
+        auto* box = findChild<PictureBox*>(name);
+        if (box == nullptr) return;
+        if (editor_.Wells().IsTransparent(button)) {
+            box->Show({}, qt::PictureIcon(wellPictures_, resources::kTransparentMarkerPicture));
+        } else {
+            box->Show(qt::ToColor(editor_.Wells().PenColor(button)), {});
+        }
+    };
+    show("PicForeColor", Button::Left);
+    show("PicBackColor", Button::Right);
+    update(kForeIndicator);
+    update(kBackIndicator);
+}
+
+void FrmIcoEd::PaintIndicators(QPainter& painter) {
+    const auto paint = [&](const QRect& place, Button button) {
+        painter.fillRect(place, qt::ToColor(editor_.Wells().PenColor(button)));
+        // Around it, so that a box in the window's colour is seen too.
+        qDrawShadePanel(&painter, place.adjusted(-1, -1, 1, 1), palette(), true, 1);
+    };
+    paint(kForeIndicator, Button::Left);
+    paint(kBackIndicator, Button::Right);
+}
+
+void FrmIcoEd::Beep() {
+    QApplication::beep();
+}
+
+}  // namespace kestrel::app

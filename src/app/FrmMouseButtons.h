@@ -1,0 +1,18 @@
+#pragma once
+
+#include <Qt>
+
+#include "editing/ColorWells.h"
+
+namespace kestrel::app {
+
+inline editing::Button ToButton(Qt::MouseButton button) {
+    if (button == Qt::LeftButton) return editing::Button::Left;
+    return button == Qt::RightButton ? editing::Button::Right : editing::Button::None;
+}
+
+inline editing::HeldButtons ToHeldButtons(Qt::MouseButtons held) {
+    return {held.testFlag(Qt::LeftButton), held.testFlag(Qt::RightButton)};
+}
+
+}  // namespace kestrel::app

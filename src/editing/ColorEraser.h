@@ -1,0 +1,16 @@
+#pragma once
+
+#include "editing/FreehandTool.h"
+
+namespace kestrel::editing {
+
+// Clears, with either button and whatever the colours.
+class ColorEraser : public FreehandTool {
+  public:
+    using FreehandTool::FreehandTool;
+
+  protected:
+    void Paint(Button /*button*/, int cx, int cy) override { canvas_.PaintCellTransparent(cx, cy); }
+};
+
+}  // namespace kestrel::editing

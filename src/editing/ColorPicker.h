@@ -1,0 +1,21 @@
+#pragma once
+
+#include "editing/ClickTool.h"
+
+namespace kestrel::editing {
+
+// Gives the button's well the colour, or the transparency, of the pixel under the pointer.
+class ColorPicker : public ClickTool {
+  public:
+    explicit ColorPicker(const ToolParts& parts)
+        : document_(parts.document), wells_(parts.wells), window_(parts.window) {}
+
+    Outcome Release(Button button, int x, int y) override;
+
+  private:
+    const document::IconDocument& document_;
+    ColorWells& wells_;
+    EditorWindow& window_;
+};
+
+}  // namespace kestrel::editing

@@ -1,0 +1,24 @@
+#include "editing/ToolStrip.h"
+
+#include "platform/controls/ImageList.h"
+#include "platform/gdi/Blit.h"
+#include "resources/ToolStrip.h"
+
+namespace kestrel::editing {
+
+gdi::Surface ToolStrip() {
+    constexpr int kSlots = 14;
+    const controls::ImageList glyphs(resources::kToolStrip, resources::kToolStripInks);
+    gdi::Surface strip(kSlots * kGlyphSize, 2 * kGlyphSize, gdi::kWhite);
+    gdi::PatBlt(strip, {0, kGlyphSize, strip.Width(), kGlyphSize}, gdi::kBlack);
+    for (int slot = 0; slot < glyphs.Count(); ++slot) {
+        const int x = slot * kGlyphSize;
+        gdi::BitBlt(strip, x, 0, kGlyphSize, kGlyphSize, glyphs.Mask(slot + 1), 0, 0,
+                    gdi::RasterOp::Copy);
+        gdi::BitBlt(strip, x, kGlyphSize, kGlyphSize, kGlyphSize, glyphs.Image(slot + 1), 0, 0,
+                    gdi::RasterOp::Copy);
+    }
+    return strip;
+}
+
+}  // namespace kestrel::editing

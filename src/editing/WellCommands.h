@@ -1,0 +1,34 @@
+#pragma once
+
+#include "editing/ColorWells.h"
+#include "platform/dialogs/ColorDialog.h"
+
+namespace kestrel::editing {
+
+// What the mouse buttons do on the colour wells and the buttons beside them, when they come up.
+// Button::None stands for every button that does not draw.
+class WellCommands {
+  public:
+    WellCommands(ColorWells& wells, EditorWindow& window, dialogs::ColorDialog& cdb)
+        : wells_(wells), window_(window), cdb_(cdb) {}
+
+    // Left: black and white, neither transparent.
+    void ImgDefaultColor_MouseUp(Button button);
+    // Left exchanges the wells, any other button only which one is transparent.
+    void ImgInterchangeColor_MouseUp(Button button);
+    // Makes the well of the button transparent.
+    void ImgTransparent_MouseUp(Button button);
+    // Left: the user chooses the well's colour. Also when that is cancelled, the well is not
+    // transparent any more.
+    void PicForeColor_MouseUp(Button button);
+    void PicBackColor_MouseUp(Button button);
+
+  private:
+    void ChooseColor(Button well);
+
+    ColorWells& wells_;
+    EditorWindow& window_;
+    dialogs::ColorDialog& cdb_;
+};
+
+}  // namespace kestrel::editing

@@ -1,0 +1,60 @@
+#include "platform/qt/PictureBox.h"
+
+#include <qdrawutil.h>
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace kestrel::qt {
+
+PictureBox::PictureBox(Edge edge, QWidget* parent) : QWidget(parent), edge_(edge) {
+    setMouseTracking(true);
+    setAttribute(Qt::WA_Hover);
+}
+
+void PictureBox::Show(const QColor& color, const QIcon& picture) {
+    color_ = color;
+    picture_ = picture;
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    if (color_.isValid()) {
+        painter.fillRect(rect(), color_);
+    } else if (edge_ == Edge::Sunken) {
+        painter.fillRect(rect(), palette().color(QPalette::Button));
+    }
+    picture_.paint(&painter, rect());
+    if (edge_ == Edge::Sunken || pressed_ || underMouse()) {
+        qDrawShadePanel(&painter, rect(), palette(), edge_ == Edge::Sunken || pressed_, 1);
+    }
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* /*event*/) {
+    SetPressed(true);
+}
+
+// The second press of a quick pair is a press like any other.
+void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* event) {
+    const bool inside = rect().contains(event->pos());
+    if (event->buttons() != Qt::NoButton) SetPressed(inside);
+    if (inside && onMouseMove) onMouseMove();
+}
+
+void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
+    SetPressed(false);
+    if (rect().contains(event->pos()) && onMouseUp) onMouseUp(event->button());
+}
+
+void PictureBox::SetPressed(bool pressed) {
+    if (pressed_ == pressed) return;
+    pressed_ = pressed;
+    update();
+}
+
+}  // namespace kestrel::qt
