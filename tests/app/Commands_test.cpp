@@ -22,6 +22,7 @@ struct RecordingHandlers : CommandHandlers {
     void mnuSaveAs_Click() override { calls += "SaveAs;"; }
     void mnuRecent_Click(int slot) override { calls += "Recent " + std::to_string(slot) + ";"; }
     void mnuExit_Click() override { calls += "Exit;"; }
+    void mnuEditOpts_Click(int index) override { calls += "Edit " + std::to_string(index) + ";"; }
     void StartSibling(Sibling program) override {
         calls += "Sibling " + std::to_string(static_cast<int>(program)) + ";";
     }
@@ -68,6 +69,8 @@ TEST_F(DispatchTest, EveryKeyCallsItsHandlerAlone) {
                      {"mnuSave", "Save;"},
                      {"mnuSaveAs", "SaveAs;"},
                      {"mnuExit", "Exit;"},
+                     {"mnuEditOpts0", "Edit 0;"},
+                     {"mnuEditOpts1", "Edit 1;"},
                      {"mnuToolsOpts5", "Sibling 0;"},
                      {"mnuToolsOpts6", "Sibling 1;"},
                      {"mnuToolsOpts7", "Sibling 2;"},
@@ -78,7 +81,12 @@ TEST_F(DispatchTest, EveryKeyCallsItsHandlerAlone) {
                      {"mnuAbout", "About;"}}));
     EXPECT_EQ(CallsOf(i18n::PopupMenuRows(), &CommandDispatch::SmartMenuXP2_Click), Calls{});
     EXPECT_EQ(CallsOf(i18n::ToolbarButtons(), &CommandDispatch::Toolbar1_ButtonClick),
-              (Calls{{"New", "New;"}, {"Open", "Open;"}, {"Save", "Save;"}, {"Help", "Help;"}}));
+              (Calls{{"New", "New;"},
+                     {"Open", "Open;"},
+                     {"Save", "Save;"},
+                     {"Undo", "Edit 0;"},
+                     {"Redo", "Edit 1;"},
+                     {"Help", "Help;"}}));
 }
 
 // A new item without a row would look usable and do nothing.

@@ -3,38 +3,13 @@
 #include <gtest/gtest.h>
 
 #include "i18n/Language.h"
-#include "tests/support/EditorRecorder.h"
+#include "tests/support/EditorTest.h"
 
 namespace kestrel::editing {
 namespace {
 
-constexpr gdi::COLORREF kWindowColor = 0xC8D0D4;
-
-class EditorTest : public testing::Test {
-  protected:
-    static HeldButtons Held(Button button) {
-        return {button == Button::Left, button == Button::Right};
-    }
-    void Stroke(Button button, std::initializer_list<std::pair<int, int>> points) {
-        const auto [x, y] = *points.begin();
-        editor_.PicMain_MouseMove({}, x, y);
-        editor_.PicMain_MouseDown(button, x, y);
-        for (const auto& [px, py] : points)
-            editor_.PicMain_MouseMove(Held(button), px, py);
-        const auto [lastX, lastY] = *(points.end() - 1);
-        editor_.PicMain_MouseUp(button, lastX, lastY);
-    }
-    int OpaquePixels() {
-        int count = 0;
-        for (int i = 0; i < 1024; ++i)
-            count += icon_.IsTransparent(i % 32, i / 32) ? 0 : 1;
-        return count;
-    }
-
-    test::RecordingEditorWindow window_;
-    Editor editor_{window_, kWindowColor};
-    document::IconDocument& icon_ = editor_.Document();
-};
+using test::EditorTest;
+using test::Held;
 
 TEST_F(EditorTest, AClickPaintsOneCellAndRecordsOneEntry) {
     Stroke(Button::Left, {{45, 59}});
@@ -131,7 +106,7 @@ TEST_F(EditorTest, ReadoutsTellPixelAndCell) {
         editor_.PicMain_MouseMove({}, c.x, c.y);
         EXPECT_EQ(window_.panels[2], c.pixel) << c.x << "," << c.y;
         EXPECT_EQ(window_.panels[3], c.cell) << c.x << "," << c.y;
-        EXPECT_EQ(window_.printedCell, c.cell);
+        EXPECT_EQ(window_.printed[3], c.cell);
     }
     EXPECT_EQ(window_.panels[1], "Left-Click (Forecolor) Or Right-Click (Backcolor)");
     i18n::SetUiLanguage(i18n::kChinese);

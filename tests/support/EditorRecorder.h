@@ -19,15 +19,25 @@ class RecordingEditorWindow : public editing::EditorWindow {
     void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override {
         panels[static_cast<int>(panel)] = text;
     }
-    void PrintPointerCell(std::string_view text) override { printedCell = text; }
+    void PrintReadout(editing::StatusPanel panel, std::string_view text) override {
+        printed[static_cast<int>(panel)] = text;
+    }
     void SetGridCursor(editing::GridCursor shape) override { cursor = shape; }
+    void RepaintTools() override { ++toolRepaints; }
+    void SetToolTipOfTools(std::string_view text) override { toolTip = text; }
+    void RepaintWells() override { ++wellRepaints; }
+    void Beep() override { ++beeps; }
     void RefreshEditCommands() override { ++refreshes; }
 
     std::vector<std::pair<document::View, gdi::Rect>> repainted;
     std::string title;
     std::map<int, std::string> panels;
-    std::string printedCell;
+    std::map<int, std::string> printed;
+    std::string toolTip;
     editing::GridCursor cursor = editing::GridCursor::Cross;
+    int toolRepaints = 0;
+    int wellRepaints = 0;
+    int beeps = 0;
     int refreshes = 0;
 };
 

@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,9 @@ class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
     void SetButtonToolTip(std::string_view key, std::string_view text) override {
         captions[std::string(key)] = text;
     }
+    void EnableButton(std::string_view key, bool enabled) override {
+        buttons[std::string(key)] = enabled;
+    }
     void ShowAbout() override { aboutShown = true; }
     void LanguageChanged() override { languageChanged = true; }
 
@@ -38,6 +42,7 @@ class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
     std::string hourglasses;
     bool unloaded = false;
     std::map<std::string, std::string> captions;
+    std::map<std::string, bool> buttons;
     bool aboutShown = false;
     bool languageChanged = false;
 };
@@ -89,6 +94,20 @@ class ScriptedDialogs : public dialogs::FileDialogs {
         if (choice.empty()) return Fail(kDialogCancelled, "Cancel was selected");
         return dialogs::ChosenFile{choice, choice.substr(choice.find_last_of('/') + 1)};
     }
+};
+
+// A colour dialog in which the user chooses `choice`; none cancels.
+class ScriptedColors : public dialogs::ColorDialog {
+  public:
+    Result<gdi::COLORREF> ShowColor(gdi::COLORREF current) override {
+        asked.push_back(current);
+        if (!choice) return Fail(kDialogCancelled, "Cancel was selected");
+        return *choice;
+    }
+
+    std::optional<gdi::COLORREF> choice;
+    // What was selected when the dialog opened.
+    std::vector<gdi::COLORREF> asked;
 };
 
 // A disk in memory; with `writeError` set every write fails with it.

@@ -101,10 +101,13 @@ class RecordingHelp : public dialogs::HelpViewer {
 // All that a main window is given.
 struct FakeServices {
     app::MainServices Given() {
-        return {cdb, boxes, help, files, registry, shell, settings, {"/program", "/windows"}, 1033};
+        return {
+            cdb, colors, boxes, help, files, registry, shell, settings, {"/program", "/windows"},
+            1033};
     }
 
     ScriptedDialogs cdb;
+    ScriptedColors colors;
     ScriptedBoxes boxes;
     RecordingHelp help;
     MemoryFiles files;

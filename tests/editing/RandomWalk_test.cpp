@@ -1,0 +1,121 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "editing/WellCommands.h"
+#include "tests/support/EditorTest.h"
+#include "tests/support/Recorders.h"
+
+namespace kestrel::editing {
+namespace {
+
+// Uses the editor as a user without a plan does.
+class RandomWalkTest : public test::EditorTest {
+  protected:
+    int Below(int count) { return static_cast<int>(random_() % static_cast<unsigned>(count)); }
+    Button AnyButton() { return Below(2) == 0 ? Button::Left : Button::Right; }
+    // Mostly on the grid, sometimes beside it, seldom far away.
+    test::At AnyPoint() {
+        const int reach = Below(20) == 0 ? 32000 : 40;
+        return {Below(320 + 2 * reach) - reach, Below(320 + 2 * reach) - reach};
+    }
+
+    void Gesture() {
+        const Button button = AnyButton();
+        test::At at = AnyPoint();
+        editor_.PicMain_MouseDown(button, at.x, at.y);
+        for (int moves = Below(5); moves > 0; --moves) {
+            at = AnyPoint();
+            const bool second = Below(8) == 0;
+            if (second) editor_.PicMain_MouseDown(Other(button), at.x, at.y);
+            editor_.PicMain_MouseMove(second ? HeldButtons{true, true} : test::Held(button), at.x,
+                                      at.y);
+            if (second) editor_.PicMain_MouseUp(Other(button), at.x, at.y);
+        }
+        // A command may take the mouse away.
+        if (Below(10) == 0) editor_.EndGesture();
+        editor_.PicMain_MouseUp(button, at.x, at.y);
+    }
+
+    void Step() {
+        const auto id = static_cast<ToolId>(1 + Below(12));
+        cdb_.choice = random_() & gdi::kWhite;
+        switch (Below(16)) {
+            case 0:
+                return commands_.ImgTransparent_MouseUp(AnyButton());
+            case 1:
+                return commands_.ImgInterchangeColor_MouseUp(AnyButton());
+            case 2:
+                return commands_.PicForeColor_MouseUp(Button::Left);
+            case 3:
+                return commands_.ImgDefaultColor_MouseUp(AnyButton());
+            case 4:
+                return editor_.PopRedoSnapshot();
+            case 5:
+            case 6:
+                return editor_.PopUndoSnapshot();
+            case 7:
+            case 8:
+                return editor_.Tools().SelectTool(id);
+            default:
+                return Gesture();
+        }
+    }
+
+    // Pixels that invert the screen were there from the beginning.
+    void ExpectSoundPlanes(const document::IconDocument& first) {
+        for (int y = 0; y < 32; ++y) {
+            for (int x = 0; x < 32; ++x) {
+                const gdi::COLORREF mask = icon_.PicMask.GetPixel(x, y);
+                const gdi::COLORREF color = icon_.PicImage.GetPixel(x, y);
+                ASSERT_TRUE(mask == gdi::kBlack || mask == gdi::kWhite);
+                if (mask == gdi::kWhite && color != gdi::kBlack) {
+                    ASSERT_EQ(color, first.PicImage.GetPixel(x, y));
+                    ASSERT_TRUE(first.IsTransparent(x, y));
+                }
+            }
+        }
+    }
+    void ExpectSame(const document::IconDocument& expected) {
+        EXPECT_TRUE(icon_.PicMask.SamePixels(expected.PicMask));
+        EXPECT_TRUE(icon_.PicImage.SamePixels(expected.PicImage));
+        EXPECT_TRUE(test::ViewsAreFresh(editor_));
+    }
+
+    std::mt19937 random_{4711};
+    test::ScriptedColors cdb_;
+    WellCommands commands_{editor_.Wells(), window_, cdb_};
+};
+
+TEST_F(RandomWalkTest, LeavesNothingBehind) {
+    icons::IconImage opened{{32, 32, 24, false}, icon_.PicMask, icon_.PicImage};
+    for (int i = 0; i < 200; ++i) {
+        opened.color.SetPixel(i % 32, 3 * (i / 32), random_() & gdi::kWhite);
+        if (i % 2 == 0) opened.mask.SetPixel(i % 32, 3 * (i / 32), gdi::kBlack);
+    }
+    for (const bool fromFile : {false, true}) {
+        editor_.ResetDocument();
+        if (fromFile) editor_.ShowOpenedIcon(opened);
+        const document::IconDocument first = icon_;
+        for (int i = 0; i < 2000 && !HasFailure(); ++i) {
+            Step();
+            ExpectSoundPlanes(first);
+            EXPECT_TRUE(test::ViewsAreFresh(editor_)) << "step " << i;
+            EXPECT_EQ(editor_.Views().PicMain.state.drawMode, gdi::DrawMode::CopyPen);
+            window_.repainted.clear();
+        }
+        while (editor_.History().CanRedo())
+            editor_.PopRedoSnapshot();
+        const document::IconDocument last = icon_;
+        EXPECT_GT(editor_.History().UndoCount(), 100U);
+        while (editor_.History().CanUndo())
+            editor_.PopUndoSnapshot();
+        ExpectSame(first);
+        while (editor_.History().CanRedo())
+            editor_.PopRedoSnapshot();
+        ExpectSame(last);
+    }
+}
+
+}  // namespace
+}  // namespace kestrel::editing

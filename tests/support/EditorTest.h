@@ -1,0 +1,74 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+
+#include "editing/Editor.h"
+#include "tests/support/EditorRecorder.h"
+#include "tests/support/PictureText.h"
+
+namespace kestrel::test {
+
+// A point of the grid, or a cell of the icon.
+struct At {
+    int x = 0;
+    int y = 0;
+};
+
+inline editing::HeldButtons Held(editing::Button button) {
+    return {button == editing::Button::Left, button == editing::Button::Right};
+}
+
+// One gesture on the grid, as the mouse makes it.
+inline void Stroke(editing::Editor& editor, editing::Button button,
+                   std::initializer_list<At> points) {
+    editor.PicMain_MouseMove({}, points.begin()->x, points.begin()->y);
+    editor.PicMain_MouseDown(button, points.begin()->x, points.begin()->y);
+    for (const At& point : points)
+        editor.PicMain_MouseMove(Held(button), point.x, point.y);
+    const At last = *(points.end() - 1);
+    editor.PicMain_MouseUp(button, last.x, last.y);
+}
+
+// Whether the views show what a complete redraw of the planes would.
+inline testing::AssertionResult ViewsAreFresh(editing::Editor& editor) {
+    const document::Canvas& shown = editor.Views();
+    static RecordingEditorWindow window;
+    static document::IconDocument icon;
+    static document::Canvas fresh(icon, window, shown.PicIcon.BackColor());
+    icon = editor.Document();
+    fresh.SetWindowColor(shown.PicIcon.BackColor());
+    fresh.RedrawAll();
+    window.repainted.clear();
+    if (auto same = ComparePicture(shown.PicMain, fresh.PicMain); !same) return same << " (grid)";
+    if (auto same = ComparePicture(shown.PicMainCopy, fresh.PicMainCopy); !same) return same;
+    return ComparePicture(shown.PicIcon, fresh.PicIcon);
+}
+
+// An editor without a window, showing the empty icon.
+class EditorTest : public testing::Test {
+  protected:
+    static constexpr gdi::COLORREF kWindowColor = 0xC8D0D4;
+
+    void Stroke(editing::Button button, std::initializer_list<At> points) {
+        test::Stroke(editor_, button, points);
+    }
+    // From the middle of one cell to that of another.
+    void Drag(editing::Button button, At from, At to) {
+        Stroke(button, {{from.x * 10 + 5, from.y * 10 + 5}, {to.x * 10 + 5, to.y * 10 + 5}});
+    }
+    void Paint(At cell, gdi::COLORREF color) { editor_.Views().PaintCell(cell.x, cell.y, color); }
+    int OpaquePixels() {
+        int count = 0;
+        for (int i = 0; i < 1024; ++i)
+            count += icon_.IsTransparent(i % 32, i / 32) ? 0 : 1;
+        return count;
+    }
+
+    RecordingEditorWindow window_;
+    editing::Editor editor_{window_, kWindowColor};
+    document::IconDocument& icon_ = editor_.Document();
+};
+
+}  // namespace kestrel::test
