@@ -1,0 +1,79 @@
+#include <benchmark/benchmark.h>
+#include <malloc.h>
+
+#include "editing/Editor.h"
+#include "tests/support/EditorRecorder.h"
+
+namespace {
+
+using namespace kestrel;
+using editing::Button;
+
+// An editor with a tool in hand, on the empty icon.
+struct Bench {
+    explicit Bench(editing::ToolId tool) { editor.Tools().SelectTool(tool); }
+    void Drag(int from, int to) {
+        window.repainted.clear();
+        editor.PicMain_MouseDown(Button::Left, from, from);
+        editor.PicMain_MouseMove({true, false}, to, to);
+        editor.PicMain_MouseUp(Button::Left, to, to);
+    }
+
+    test::RecordingEditorWindow window;
+    editing::Editor editor{window, 0xF0F0F0};
+};
+
+// From press to release: the whole icon filled, views and history.
+void FloodFill(benchmark::State& state) {
+    Bench bench(editing::ToolId::FloodFill);
+    gdi::COLORREF color = 0;
+    for (auto _ : state) {
+        bench.editor.Wells().SetPenColor(Button::Left, ++color & 0xFF);
+        bench.Drag(155, 155);
+    }
+}
+BENCHMARK(FloodFill)->Iterations(5000);
+
+// From press to release, with one step of the rubber band.
+void FilledEllipse(benchmark::State& state) {
+    Bench bench(editing::ToolId::FilledEllipse);
+    for (auto _ : state)
+        bench.Drag(5, 315);
+}
+BENCHMARK(FilledEllipse)->Iterations(5000);
+
+// A snapshot after one pixel has changed, with a million behind it at the end.
+void PushUndoSnapshot(benchmark::State& state) {
+    document::IconDocument icon;
+    editing::ModCollections history(icon);
+    history.PushUndoSnapshot();
+    const std::size_t before = mallinfo2().uordblks;
+    int pixel = 0;
+    for (auto _ : state) {
+        pixel = (pixel + 7) % 1024;
+        icon.PicImage.SetPixel(pixel % 32, pixel / 32,
+                               static_cast<gdi::COLORREF>(history.UndoCount()));
+        history.PushUndoSnapshot();
+    }
+    state.counters["bytes_each"] = static_cast<double>(mallinfo2().uordblks - before) /
+                                   static_cast<double>(state.iterations());
+}
+BENCHMARK(PushUndoSnapshot)->Iterations(1000000);
+
+// One step back and one forward, `range` snapshots deep.
+void UndoAndRedo(benchmark::State& state) {
+    Bench bench(editing::ToolId::Pencil);
+    document::IconDocument& icon = bench.editor.Document();
+    for (int i = 0; i < state.range(0); ++i) {
+        icon.PicMask.SetPixel(i % 32, i / 32 % 32, i / 1024 % 2 == 0 ? gdi::kBlack : gdi::kWhite);
+        bench.editor.History().PushUndoSnapshot();
+    }
+    for (auto _ : state) {
+        bench.window.repainted.clear();
+        bench.editor.PopUndoSnapshot();
+        bench.editor.PopRedoSnapshot();
+    }
+}
+BENCHMARK(UndoAndRedo)->Arg(10)->Arg(1000000);
+
+}  // namespace
