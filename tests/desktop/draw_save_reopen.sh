@@ -13,6 +13,20 @@ PaintCell 3 4 1 000000
 PaintCell 30 31 3 ffffff
 DragCells 1 000000 10 10 11 10 12 11 12 12
 DragCells 3 ffffff 20 5 20 6 20 7
+# Everything filled, and taken back.
+Click 469 102
+PaintCell 0 31 1 000000
+Press ctrl+z
+ExpectCell 0 31 204060
+# A filled rectangle: the outline in the button's colour, the inside in the other one.
+Click 469 124
+CellPoint 28 25
+ToScreen "$cellX" "$cellY"
+xdotool mousemove "$pointX" "$pointY" mousedown 3
+CellPoint 22 20
+ToScreen "$cellX" "$cellY"
+xdotool mousemove "$pointX" "$pointY" mouseup 3
+ExpectCell 28 25 ffffff
 Press ctrl+s
 Quit
 
@@ -24,7 +38,8 @@ listing=$(icotool -l "$files/Drawn.ico")
 # The same picture drawn by another program.
 convert -size 32x32 xc:'#204060' \
     -fill black -draw 'point 3,4 point 10,10 point 11,10 point 12,11 point 12,12' \
-    -fill white -draw 'point 30,31 point 20,5 point 20,6 point 20,7' "$scratch/expected.png"
+    -fill white -draw 'point 30,31 point 20,5 point 20,6 point 20,7' \
+    -draw 'rectangle 22,20 28,25' -fill black -draw 'rectangle 23,21 27,24' "$scratch/expected.png"
 convert "$files/Drawn.ico" "$scratch/saved.png"
 differing=$(compare -metric AE "$scratch/saved.png" "$scratch/expected.png" null: 2>&1) ||
     Fail "the saved picture differs in $differing pixels"
