@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Both help pages have the same anchors, no dead link, and the menus' own captions.
+# Both help pages have the same anchors, no dead link, and the program's own captions.
 set -euo pipefail
 cd "$(dirname "$0")"
 export LC_ALL=C.UTF-8
-table=../src/i18n/MenuTable.cpp
+tables=(../src/i18n/{MenuTable.cpp,Captions.h} ../src/editing/ToolTable.cpp)
+pictures='(0[1-9]|[123][0-9]|40|tool-(0[1-9]|1[0-2])|well-0[1-5])'
 fault=0
 Fault() { echo "help/$*" >&2; fault=1; }
 
@@ -11,7 +12,7 @@ Page() { tr '\n' ' ' <"$1/index.html"; }
 Anchors() { Page "$1" | grep -oP '<a name="\K[^"]*' || true; }
 # Pairs {"English", "Chinese"}; the first column for ENG, the second for CHS.
 Captions() {
-    tr '\n' ' ' <"$table" | grep -oP '\{"[^"]*",\s*"[^"]*"\}' |
+    cat "${tables[@]}" | tr '\n' ' ' | grep -oP '\{"[^"]*",\s*"[^"]*"\}' |
         awk -F'"' -v column="$([[ $1 == ENG ]] && echo 2 || echo 4)" '{print $column}' |
         sed 's/&//; s/ *$//'
 }
@@ -31,10 +32,10 @@ for page in ENG CHS; do
         [[ -f $page/$file ]] || Fault "$page: no file $file"
     done < <(Page $page | grep -oP 'href="\K[^"#:]+(?=")')
     while IFS= read -r image; do
-        [[ $image =~ src=\"\.\./pictures/(0[1-9]|[123][0-9]|40)\.png\" ]] || Fault "$page: $image"
+        [[ $image =~ src=\"\.\./pictures/$pictures\.png\" ]] || Fault "$page: $image"
     done < <(Page $page | grep -oP '<img[^>]*>')
     while IFS= read -r caption; do
-        grep -qxF -- "$caption" <<<"$captions" || Fault "$page: no menu caption \"$caption\""
+        grep -qxF -- "$caption" <<<"$captions" || Fault "$page: no caption \"$caption\""
     done < <(Page $page | grep -oP '<b class="cmd">\K.*?(?=</b>)' | sort -u)
 done
 exit $fault

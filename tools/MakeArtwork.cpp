@@ -10,6 +10,8 @@
 #include "platform/qt/Pictures.h"
 #include "platform/system/DiskFiles.h"
 #include "resources/ImageList.h"
+#include "resources/ToolStrip.h"
+#include "resources/WellPictures.h"
 
 namespace {
 
@@ -38,16 +40,22 @@ bool WriteIcon(const std::string& folder) {
     return written;
 }
 
-// The image list as 01.png to 40.png.
-bool WritePictures(const std::string& folder) {
-    const controls::ImageList list(resources::kImageList, resources::kImageListInks);
+// A list's pictures as <prefix>01.png and on.
+bool WritePictures(const std::string& folder, const char* prefix, const controls::ImageList& list) {
     bool written = true;
     for (int number = 1; number <= list.Count(); ++number) {
-        std::string file = folder + "/" + (number < 10 ? "0" : "");
+        std::string file = folder + "/" + prefix + (number < 10 ? "0" : "");
         file += std::to_string(number) + ".png";
         written = Save(qt::ToImage(list.Mask(number), list.Image(number)), file) && written;
     }
     return written;
+}
+
+bool WriteHelpPictures(const std::string& folder) {
+    using namespace resources;
+    bool written = WritePictures(folder, "", {kImageList, kImageListInks});
+    written = WritePictures(folder, "tool-", {kToolStrip, kToolStripInks}) && written;
+    return WritePictures(folder, "well-", {kWellPictures, kImageListInks}) && written;
 }
 
 }  // namespace
@@ -58,5 +66,5 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     const bool iconWritten = WriteIcon(argv[1]);
-    return WritePictures(argv[2]) && iconWritten ? 0 : 1;
+    return WriteHelpPictures(argv[2]) && iconWritten ? 0 : 1;
 }
