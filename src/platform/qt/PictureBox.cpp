@@ -42,7 +42,8 @@ void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
     const bool inside = rect().contains(event->pos());
-    if (event->buttons() != Qt::NoButton) SetPressed(inside);
+    // A button may come up where nobody sees it.
+    SetPressed(inside && event->buttons() != Qt::NoButton);
     if (inside && onMouseMove) onMouseMove();
 }
 
