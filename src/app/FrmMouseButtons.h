@@ -2,7 +2,7 @@
 
 #include <Qt>
 
-#include "editing/ColorWells.h"
+#include "editing/Mouse.h"
 
 namespace kestrel::app {
 

@@ -3,25 +3,10 @@
 #include <array>
 
 #include "editing/EditorWindow.h"
+#include "editing/Mouse.h"
 #include "platform/gdi/Color.h"
 
 namespace kestrel::editing {
-
-// The mouse buttons that draw; others do nothing on the grid.
-enum class Button { None = 0, Left = 1, Right = 2 };
-
-constexpr Button Other(Button button) {
-    return button == Button::Right ? Button::Left : Button::Right;
-}
-
-// The drawing buttons held during a pointer move.
-struct HeldButtons {
-    bool left = false;
-    bool right = false;
-
-    bool Has(Button button) const { return button == Button::Left ? left : right; }
-    bool IsOnly(Button button) const { return Has(button) && left != right; }
-};
 
 // What each mouse button draws with: a colour, or transparency. The window is told of changes.
 class ColorWells {

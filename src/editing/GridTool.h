@@ -5,6 +5,7 @@
 #include "editing/ColorWells.h"
 #include "editing/EditorWindow.h"
 #include "editing/ModCollections.h"
+#include "editing/Mouse.h"
 
 namespace kestrel::editing {
 

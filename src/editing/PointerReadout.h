@@ -4,15 +4,10 @@
 
 #include "document/IconDocument.h"
 #include "editing/EditorWindow.h"
+#include "editing/Mouse.h"
 #include "editing/ToolTable.h"
 
 namespace kestrel::editing {
-
-// A point of the grid in grid units; outside it while the mouse is captured.
-struct GridPoint {
-    int x = 0;
-    int y = 0;
-};
 
 // Tells on the status bar and beside the preview what lies under the pointer.
 class PointerReadout {

@@ -49,7 +49,8 @@ void ToolPalette::SelectTool(ToolId tool) {
 }
 
 void ToolPalette::PicTools_MouseDown(Button button, int x, int y) {
-    if (button == Button::None || paletteHitTool_) return;
+    if (button == Button::None || (paletteHitTool_ && button != pressedBy_)) return;
+    EndPress();
     const auto tool = ToolAt(x, y);
     if (!tool || tool == currentTool_) return;
     paletteHitTool_ = tool;
@@ -61,8 +62,7 @@ void ToolPalette::PicTools_MouseMove(HeldButtons held, int x, int y) {
     const auto tool = ToolAt(x, y);
     if (!held.left && !held.right) {
         // Where the button came up nobody saw.
-        paletteHitTool_.reset();
-        ShowPressed(false);
+        EndPress();
         if (tool) ShowHints(*tool);
     } else if (held.left && paletteHitTool_) {
         ShowPressed(tool == paletteHitTool_);
@@ -72,8 +72,7 @@ void ToolPalette::PicTools_MouseMove(HeldButtons held, int x, int y) {
 void ToolPalette::PicTools_MouseUp(Button button, int x, int y) {
     if (!paletteHitTool_ || button != pressedBy_) return;
     const ToolId pressed = *paletteHitTool_;
-    paletteHitTool_.reset();
-    ShowPressed(false);
+    EndPress();
     if (ToolAt(x, y) == pressed) SelectTool(pressed);
 }
 
@@ -85,6 +84,11 @@ void ToolPalette::SetWindowColor(gdi::COLORREF color) {
 void ToolPalette::ShowHints(ToolId tool) {
     window_.SetToolTipOfTools(RowOf(tool).toolTip.Now());
     window_.SetStatusPanel(StatusPanel::Hint, RowOf(tool).status.Now());
+}
+
+void ToolPalette::EndPress() {
+    paletteHitTool_.reset();
+    ShowPressed(false);
 }
 
 void ToolPalette::ShowPressed(bool shown) {

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "editing/ColorWells.h"
 #include "editing/EditorWindow.h"
+#include "editing/Mouse.h"
 #include "editing/ToolId.h"
 #include "platform/gdi/Surface.h"
 
@@ -42,6 +42,7 @@ class ToolPalette {
     void DrawEdge(ToolId tool);
     void ShowHints(ToolId tool);
     void ShowPressed(bool shown);
+    void EndPress();
 
     EditorWindow& window_;
     gdi::Surface strip_;
