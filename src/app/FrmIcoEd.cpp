@@ -22,8 +22,8 @@ namespace {
 constexpr gdi::COLORREF kGreyForWhite = 0xF0F0F0;
 constexpr int kGuardAfterOpen = 250;  // milliseconds
 
-gdi::COLORREF WindowColor(const QWidget& window) {
-    const gdi::COLORREF color = qt::ToColorRef(window.palette().color(QPalette::Window));
+gdi::COLORREF WindowColor() {
+    const gdi::COLORREF color = qt::ToColorRef(QApplication::palette().color(QPalette::Window));
     return color == gdi::kWhite ? kGreyForWhite : color;
 }
 
@@ -65,7 +65,7 @@ FrmIcoEd::FrmIcoEd(const MainServices& services)
       wellPictures_(resources::kWellPictures, resources::kImageListInks),
       barView_(menus_.SmartMenuXP1, pictures_),
       popupView_(menus_.SmartMenuXP2, pictures_),
-      editor_(*this, WindowColor(*this)),
+      editor_(*this, WindowColor()),
       wellCommands_(editor_.Wells(), *this, services.colors),
       commands_(editor_, *this, menus_, services),
       dispatch_(commands_, *this) {}
@@ -118,6 +118,7 @@ void FrmIcoEd::RunCommand(const std::function<void()>& command) {
     const QScopedValueRollback running(commandRunning_, true);
     editor_.EndGesture();
     command();
+    if (picMain_->underMouse()) editor_.RefreshReadout();
 }
 
 void FrmIcoEd::closeEvent(QCloseEvent* event) {
@@ -125,18 +126,20 @@ void FrmIcoEd::closeEvent(QCloseEvent* event) {
     RunCommand([&] { event->setAccepted(Form_Unload()); });
 }
 
-void FrmIcoEd::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::PaletteChange) FollowDesktopColors();
-    QWidget::changeEvent(event);
+bool FrmIcoEd::event(QEvent* event) {
+    // Also where the window's own colour hides that the desktop's has changed.
+    if (event->type() == QEvent::ApplicationPaletteChange) FollowDesktopColors();
+    return QWidget::event(event);
 }
 
 // The window and the preview's ground share one colour.
 void FrmIcoEd::FollowDesktopColors() {
-    const gdi::COLORREF color = WindowColor(*this);
+    const gdi::COLORREF color = WindowColor();
     if (palette().color(QPalette::Window) != qt::ToColor(color)) {
-        QPalette colors = palette();
-        colors.setColor(QPalette::Window, qt::ToColor(color));
-        setPalette(colors);
+        // Only this role: the others go on following the desktop.
+        QPalette own;
+        own.setColor(QPalette::Window, qt::ToColor(color));
+        setPalette(own);
     }
     editor_.SetWindowColor(color);
 }

@@ -30,9 +30,9 @@ constexpr QRect kPicPal(344, 184, 208, 208);
 
 // Where a readout is printed beside the preview, and the pictogram before it.
 struct Readout {
-    editing::StatusPanel panel;
+    editing::StatusPanel panel{};
     QRect pictogram;
-    int picture;
+    int picture = 0;
     QRect text;
 };
 constexpr std::array kReadouts{

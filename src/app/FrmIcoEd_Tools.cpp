@@ -31,13 +31,13 @@ constexpr QRect kBackIndicator(365, 160, 11, 11);
 
 // A control beside the colour wells, or one of them.
 struct WellControl {
-    const char* name;
+    const char* name{};
     QRect place;
-    PictureBox::Edge edge;
+    PictureBox::Edge edge{};
     // In the image list; 0 for none.
-    int picture;
+    int picture = 0;
     i18n::Text hint;
-    void (WellCommands::*mouseUp)(Button button);
+    void (WellCommands::*mouseUp)(Button button){};
 };
 
 constexpr std::array kWellControls{

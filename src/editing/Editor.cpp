@@ -77,10 +77,12 @@ void Editor::EndGesture() {
 }
 
 void Editor::PopUndoSnapshot() {
+    EndGesture();
     if (history_.PopUndoSnapshot()) canvas_.RedrawAll();
 }
 
 void Editor::PopRedoSnapshot() {
+    EndGesture();
     if (history_.PopRedoSnapshot()) canvas_.RedrawAll();
 }
 
@@ -91,6 +93,10 @@ void Editor::SetWindowColor(gdi::COLORREF color) {
 
 void Editor::ShowTitle() {
     window_.SetTitle(i18n::WindowTitle(document_.FileTitle));
+}
+
+void Editor::RefreshReadout() {
+    ShowReadout(pointer_.x, pointer_.y);
 }
 
 void Editor::ShowReadout(int x, int y) {
@@ -104,7 +110,7 @@ void Editor::RecordChange() {
     document_.Modified = true;
     window_.RefreshEditCommands();
     // What lies under the pointer has changed.
-    ShowReadout(pointer_.x, pointer_.y);
+    RefreshReadout();
 }
 
 }  // namespace kestrel::editing

@@ -26,7 +26,7 @@ class Writer {
     std::span<const std::uint8_t> Written() const { return std::span(bytes_).first(size_); }
 
   private:
-    std::array<std::uint8_t, kMostBytes> bytes_;
+    std::array<std::uint8_t, kMostBytes> bytes_{};
     std::size_t size_ = 0;
 };
 

@@ -28,7 +28,8 @@ Outcome ShapeTool::Release(Button button, int x, int y) {
     using document::CellOf;
     const Corners cells{CellOf(band_.x1), CellOf(band_.y1), CellOf(band_.x2), CellOf(band_.y2)};
     Draw(document_.PicMask, cells, {gdi::kBlack, gdi::kBlack});
-    Draw(document_.PicImage, cells, {wells_.PenColor(button), wells_.PenColor(Other(button))});
+    Draw(document_.PicImage, cells,
+         {document_.PicImage.state.foreColor, wells_.PenColor(Other(button))});
     canvas_.PreviewIcon();
     canvas_.RebuildGrid();
     return Outcome::Changed;

@@ -16,15 +16,15 @@ enum class DragSize { None, Steps, Cells };
 
 // All that the program knows of one tool.
 struct ToolRow {
-    ToolId id;
+    ToolId id{};
     i18n::Text toolTip;
     // The hints on the status bar, over the palette and over the grid.
     i18n::Text status;
     i18n::Text gridHint;
-    GridCursor cursor;
-    DragSize dragSize;
+    GridCursor cursor{};
+    DragSize dragSize{};
     // Null for a tool that does nothing on the grid.
-    std::unique_ptr<GridTool> (*make)(const ToolParts& parts);
+    std::unique_ptr<GridTool> (*make)(const ToolParts& parts){};
 };
 
 // All tools in the order of ToolId.
