@@ -9,6 +9,7 @@
 #include "i18n/Language.h"
 #include "platform/qt/Pictures.h"
 #include "tests/support/EditorTest.h"
+#include "tests/support/ListedTexts.h"
 #include "tests/support/Services.h"
 
 namespace kestrel::app {
@@ -152,6 +153,57 @@ TEST_F(DrawingTest, ARubberBandFollowsThePointer) {
     EXPECT_FALSE(Icon().IsTransparent(9, 6));
 }
 
+// Notes which parts of a widget are painted.
+class PaintWatch : public QObject {
+  public:
+    explicit PaintWatch(QWidget* widget) : widget_(widget) { widget->installEventFilter(this); }
+    QRegion Painted(const std::function<void()>& action) {
+        QApplication::processEvents();
+        painted_ = {};
+        action();
+        QApplication::processEvents();
+        return painted_;
+    }
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (object == widget_ && event->type() == QEvent::Paint)
+            painted_ += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+
+  private:
+    QWidget* widget_;
+    QRegion painted_;
+};
+
+TEST_F(DrawingTest, WhatChangesIsPaintedAgain) {
+    const auto click = [this](const char* name) {
+        return [this, name] { QTest::mouseClick(Control(name), Qt::LeftButton); };
+    };
+    const auto tool = [this] { ClickTool(ToolId::Line); };
+    PaintWatch window(&window_);
+    PaintWatch tools(&window_.PicTools());
+    PaintWatch well(Control("PicBackColor"));
+    EXPECT_EQ(tools.Painted(tool).boundingRect(), QRect(0, 0, 92, 66));
+    const QRegion indicators = window.Painted(click("ImgInterchangeColor"));
+    EXPECT_TRUE(indicators.contains(QRect(347, 160, 11, 11)));
+    EXPECT_TRUE(indicators.contains(QRect(365, 160, 11, 11)));
+    EXPECT_FALSE(well.Painted(click("ImgInterchangeColor")).isEmpty());
+
+    // The size of a drag is printed below the cell, and like a cell.
+    const auto printed = [this](int y) { return window_.grab(QRect(371, y, 60, 16)).toImage(); };
+    Move({45, 55});
+    const QImage cell = printed(111);
+    Press(Qt::LeftButton, {25, 25});
+    const QRegion readouts = window.Painted([this] { Move({55, 65}); });
+    Release(Qt::LeftButton, {55, 65});
+    EXPECT_EQ(window_.StatusText(StatusPanel::DragSize), "4 , 5");
+    EXPECT_EQ(printed(133), cell);
+    EXPECT_TRUE(readouts.contains(QRect(371, 111, 60, 16)));
+    EXPECT_TRUE(readouts.contains(QRect(371, 133, 60, 16)));
+}
+
 TEST_F(DrawingTest, UndoAndRedoAreEnabledWhenTheyCanDoSomething) {
     const auto enabled = [this] {
         std::string state;
@@ -182,11 +234,18 @@ TEST_F(DrawingTest, UndoAndRedoAreEnabledWhenTheyCanDoSomething) {
 }
 
 TEST_F(DrawingTest, ToolsAndWellsAreUsedByMouse) {
-    for (const auto& [tool, shape] : {std::pair{ToolId::Line, Qt::CrossCursor},
-                                      std::pair{ToolId::ColorEraser, Qt::BitmapCursor}}) {
-        ClickTool(tool, Qt::RightButton);
+    ClickTool(ToolId::Line, Qt::RightButton);
+    EXPECT_EQ(window_.GridWidget().cursor().shape(), Qt::CrossCursor);
+    std::vector<QImage> pointers;
+    for (const ToolId tool :
+         {ToolId::Pencil, ToolId::ColorEraser, ToolId::ColorPicker, ToolId::FloodFill}) {
+        ClickTool(tool);
         EXPECT_EQ(Editor().Tools().CurrentTool(), tool);
-        EXPECT_EQ(window_.GridWidget().cursor().shape(), shape);
+        const QCursor cursor = window_.GridWidget().cursor();
+        const QImage picture = cursor.pixmap().toImage();
+        EXPECT_EQ(picture.pixelColor(cursor.hotSpot()), QColor(Qt::black)) << "the tip draws";
+        EXPECT_EQ(std::count(pointers.begin(), pointers.end(), picture), 0);
+        pointers.push_back(picture);
     }
     QTest::mouseMove(&window_.PicTools(), QPoint(30, 30));
     EXPECT_EQ(window_.PicTools().toolTip(), "Line");
@@ -218,17 +277,16 @@ TEST_F(DrawingTest, ToolsAndWellsAreUsedByMouse) {
     QTest::mouseClick(Control("ImgDefaultColor"), Qt::LeftButton);
     EXPECT_EQ(shown(347, 160), gdi::kBlack);
 
-    const std::pair<const char*, const char*> hints[] = {
-        {"PicForeColor", "Foreground Color"},
-        {"PicBackColor", "Background Color"},
-        {"ImgInterchangeColor", "Exchange colors"},
-        {"ImgDefaultColor", "Select Black and White colors"},
-        {"ImgTransparent", "Transparent"},
-    };
-    for (const auto& [control, hint] : hints) {
-        QTest::mouseMove(Control(control), QPoint(3, 3));
-        EXPECT_EQ(window_.StatusText(StatusPanel::Hint), hint);
-        EXPECT_EQ(Control(control)->toolTip().trimmed(), hint);
+    for (const test::Row& row : test::ListedTexts("well")) {
+        for (const auto& [code, column] :
+             {std::pair{i18n::kChinese, test::Chinese}, {i18n::kEnglish, test::English}}) {
+            i18n::SetUiLanguage(code);
+            const bool isPreview = row[test::Key] == "PicIcon";
+            QWidget* control =
+                isPreview ? window_.childAt(355, 75) : Control(row[test::Key].c_str());
+            QTest::mouseMove(control, QPoint(4, code == i18n::kChinese ? 4 : 5));
+            EXPECT_EQ(window_.StatusText(StatusPanel::Hint), row[column]);
+        }
     }
 }
 

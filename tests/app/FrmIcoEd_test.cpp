@@ -149,6 +149,11 @@ TEST_F(FrmIcoEdTest, ThePreviewFollowsTheDesktopsColours) {
     QApplication::processEvents();
     EXPECT_EQ(window_.OpenEditor().Views().PicIcon.GetPixel(0, 0), 0xF0F0F0U);
     EXPECT_EQ(window_.palette().color(QPalette::Window), QColor(0xF0, 0xF0, 0xF0));
+    dark.setColor(QPalette::Window, QColor(0x30, 0x20, 0x10));
+    QApplication::setPalette(dark);
+    QApplication::processEvents();
+    EXPECT_EQ(window_.palette().color(QPalette::Window), QColor(0x30, 0x20, 0x10));
+    EXPECT_EQ(window_.OpenEditor().Tools().PicTools().GetPixel(91, 65), 0x102030U);
     QApplication::setPalette(QPalette());
 }
 
@@ -162,6 +167,10 @@ TEST_F(FrmIcoEdTest, ADropOpensTheFirstFileAndGuardsTheGridForAMoment) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return Grid()->isEnabled(); }, 2000));
     QTest::mouseClick(Grid(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_TRUE(Icon().Modified);
+    EXPECT_TRUE(window_.BarAction("mnuEditOpts0")->isEnabled());
+    boxes_.answers = {Answer::No};
+    Drop({QUrl::fromLocalFile(QStringLiteral("/icons/a.ico"))});
+    EXPECT_FALSE(window_.BarAction("mnuEditOpts0")->isEnabled()) << "nothing to undo in a new file";
 }
 
 }  // namespace

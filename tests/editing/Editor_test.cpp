@@ -38,15 +38,6 @@ TEST_F(EditorTest, TheOuterLinesOnTheLeftAndTopPaintNothing) {
     EXPECT_FALSE(icon_.IsTransparent(0, 0));
 }
 
-TEST_F(EditorTest, ATransparentWellClears) {
-    Stroke(Button::Left, {{5, 5}, {15, 5}});
-    editor_.Wells().SetTransparent(Button::Left);
-    Stroke(Button::Left, {{5, 5}});
-    EXPECT_TRUE(icon_.IsTransparent(0, 0));
-    EXPECT_EQ(icon_.PicImage.GetPixel(0, 0), gdi::kBlack);
-    EXPECT_FALSE(icon_.IsTransparent(1, 0));
-}
-
 TEST_F(EditorTest, AGestureBelongsToTheButtonThatBeganIt) {
     editor_.PicMain_MouseDown(Button::Left, 5, 5);
     editor_.PicMain_MouseDown(Button::Right, 5, 5);
@@ -70,6 +61,8 @@ TEST_F(EditorTest, AGestureBelongsToTheButtonThatBeganIt) {
 
 TEST_F(EditorTest, ResetEndsAStrokeAndEmptiesEverything) {
     icon_.FilePath = "/icons/a.ico";
+    editor_.Wells().SetTransparent(Button::Right);
+    editor_.Tools().SelectTool(ToolId::ColorEraser);
     editor_.PicMain_MouseDown(Button::Left, 5, 5);
     editor_.ResetDocument();
     editor_.PicMain_MouseMove(Held(Button::Left), 15, 5);
@@ -79,6 +72,21 @@ TEST_F(EditorTest, ResetEndsAStrokeAndEmptiesEverything) {
     EXPECT_TRUE(icon_.IsUntitled());
     EXPECT_EQ(editor_.History().UndoCount(), 1U);
     EXPECT_EQ(window_.title, "KestrelIconEditor - Untitled");
+    EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::Pencil);
+    EXPECT_FALSE(editor_.Wells().IsTransparent(Button::Right));
+}
+
+TEST_F(EditorTest, TheButtonComesUpWhereThePointerHasBeen) {
+    editor_.PicMain_MouseDown(Button::Left, 5, 5);
+    editor_.PicMain_MouseUp(Button::Left, 95, 5);
+    EXPECT_FALSE(icon_.IsTransparent(9, 0));
+    // Undo ends the stroke under way and takes it back.
+    icon_.Modified = false;
+    editor_.PicMain_MouseDown(Button::Left, 155, 5);
+    editor_.PopUndoSnapshot();
+    EXPECT_TRUE(icon_.IsTransparent(15, 0));
+    EXPECT_EQ(OpaquePixels(), 2);
+    EXPECT_TRUE(icon_.Modified);
 }
 
 TEST_F(EditorTest, APressShowsTheReadoutsWithoutAMoveBefore) {

@@ -19,7 +19,7 @@ class HistoryTest : public testing::Test {
             icon_.PicImage.SetPixel(x, y, random_() & gdi::kWhite);
         }
     }
-    void ExpectPlanes(const document::IconDocument& expected) {
+    void ExpectPlanes(const document::IconDocument& expected) const {
         ASSERT_TRUE(icon_.PicMask.SamePixels(expected.PicMask));
         ASSERT_TRUE(icon_.PicImage.SamePixels(expected.PicImage));
     }

@@ -3,6 +3,7 @@
 #include <random>
 
 #include "editing/WellCommands.h"
+#include "platform/gdi/Blit.h"
 #include "tests/support/EditorTest.h"
 #include "tests/support/Recorders.h"
 
@@ -23,6 +24,7 @@ class RandomWalkTest : public test::EditorTest {
     void Gesture() {
         const Button button = AnyButton();
         test::At at = AnyPoint();
+        const gdi::Surface before = editor_.Views().PicMain;
         editor_.PicMain_MouseDown(button, at.x, at.y);
         for (int moves = Below(5); moves > 0; --moves) {
             at = AnyPoint();
@@ -32,6 +34,7 @@ class RandomWalkTest : public test::EditorTest {
                                       at.y);
             if (second) editor_.PicMain_MouseUp(Other(button), at.x, at.y);
         }
+        ExpectRepainted(before);
         // A command may take the mouse away.
         if (Below(10) == 0) editor_.EndGesture();
         editor_.PicMain_MouseUp(button, at.x, at.y);
@@ -76,6 +79,19 @@ class RandomWalkTest : public test::EditorTest {
             }
         }
     }
+    // Whoever watches the grid has been told of every pixel that changed.
+    void ExpectRepainted(const gdi::Surface& before) {
+        const gdi::Surface& now = editor_.Views().PicMain;
+        gdi::Surface told(now.Width(), now.Height(), gdi::kBlack);
+        for (const auto& [view, area] : window_.repainted)
+            if (view == document::View::Grid) gdi::PatBlt(told, area, gdi::kWhite);
+        for (int y = 0; y < now.Height() && !now.SamePixels(before); ++y) {
+            for (int x = 0; x < now.Width(); ++x) {
+                if (now.GetPixel(x, y) == before.GetPixel(x, y)) continue;
+                ASSERT_EQ(told.GetPixel(x, y), gdi::kWhite) << x << "," << y;
+            }
+        }
+    }
     void ExpectSame(const document::IconDocument& expected) {
         EXPECT_TRUE(icon_.PicMask.SamePixels(expected.PicMask));
         EXPECT_TRUE(icon_.PicImage.SamePixels(expected.PicImage));
@@ -98,11 +114,13 @@ TEST_F(RandomWalkTest, LeavesNothingBehind) {
         if (fromFile) editor_.ShowOpenedIcon(opened);
         const document::IconDocument first = icon_;
         for (int i = 0; i < 2000 && !HasFailure(); ++i) {
+            const gdi::Surface before = editor_.Views().PicMain;
             Step();
+            ExpectRepainted(before);
+            window_.repainted.clear();
             ExpectSoundPlanes(first);
             EXPECT_TRUE(test::ViewsAreFresh(editor_)) << "step " << i;
             EXPECT_EQ(editor_.Views().PicMain.state.drawMode, gdi::DrawMode::CopyPen);
-            window_.repainted.clear();
         }
         while (editor_.History().CanRedo())
             editor_.PopRedoSnapshot();

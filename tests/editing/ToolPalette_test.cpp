@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include "editing/ToolTable.h"
 #include "editing/WellCommands.h"
 #include "i18n/Language.h"
 #include "tests/support/EditorTest.h"
+#include "tests/support/ListedTexts.h"
 #include "tests/support/Recorders.h"
 
 namespace kestrel::editing {
@@ -76,7 +76,15 @@ TEST_F(PaletteTest, APressCountsWhereItBegan) {
     EXPECT_EQ(Highlighted(), (std::vector{2, 5})) << "back on the cell";
     palette_.PicTools_MouseUp(Button::Left, 10, 40);
     EXPECT_EQ(Current(), 5);
-    EXPECT_EQ(window_.cursor, GridCursor::FloodFill);
+
+    // Only the left button shows where it is.
+    palette_.PicTools_MouseDown(Button::Right, 5, 5);
+    palette_.PicTools_MouseMove({false, true}, 60, 60);
+    EXPECT_EQ(Highlighted(), (std::vector{1, 5}));
+    // A press whose end nobody saw ends with the next one.
+    palette_.PicTools_MouseDown(Button::Right, 30, 30);
+    palette_.PicTools_MouseUp(Button::Right, 30, 30);
+    EXPECT_EQ(Highlighted(), std::vector{6});
 }
 
 TEST_F(PaletteTest, GlyphsStandOnTheWindowsColour) {
@@ -95,14 +103,45 @@ TEST_F(PaletteTest, GlyphsStandOnTheWindowsColour) {
     EXPECT_GT(changed, 92 * 66 / 2);
 }
 
-TEST_F(PaletteTest, HintsSpeakTheLanguageInForce) {
-    for (const ToolRow& row : ToolTable()) {
-        const int slot = static_cast<int>(row.id) - 1;
-        for (const auto code : {i18n::kChinese, i18n::kEnglish}) {
+TEST_F(PaletteTest, EveryGlyphStandsInItsCell) {
+    // The first pixel of each glyph's first row, read from its picture, with the glyph at (4, 3).
+    const struct {
+        int tool, x, y;
+        gdi::COLORREF color;
+    } cases[] = {
+        {1, 5, 4, 0x000000},   {2, 15, 4, 0x000080}, {3, 13, 4, 0x800000},   {4, 14, 4, 0x000080},
+        {5, 8, 4, 0x808080},   {6, 17, 4, 0x808000}, {7, 5, 6, 0x808000},    {8, 11, 11, 0x808000},
+        {9, 11, 11, 0x00FFFF}, {10, 9, 6, 0x808000}, {11, 11, 11, 0x808000}, {12, 11, 11, 0x00FFFF},
+    };
+    for (const auto& c : cases) {
+        const int left = (c.tool - 1) % 4 * 23;
+        const int top = (c.tool - 1) / 4 * 22;
+        EXPECT_EQ(palette_.PicTools().GetPixel(left + c.x, top + c.y), c.color) << c.tool;
+        EXPECT_EQ(palette_.PicTools().GetPixel(left + 3, top + 11), kGround) << c.tool;
+    }
+    EXPECT_EQ(palette_.PicTools().GetPixel(11, 52), 0x00FFFFU);
+}
+
+TEST_F(PaletteTest, ToolsSpeakTheLanguageInForce) {
+    constexpr std::array kCursors{GridCursor::Cross, GridCursor::Pencil, GridCursor::Eraser,
+                                  GridCursor::Picker, GridCursor::FloodFill};
+    Editor editor(window_, kGround);
+    for (const test::Row& row : test::ListedTexts("tool")) {
+        const std::size_t slot = std::stoul(row[test::Key]) - 1;
+        const auto x = static_cast<int>(slot % 4 * 23 + 10);
+        const auto y = static_cast<int>(slot / 4 * 22 + 10);
+        editor.Tools().SelectTool(static_cast<ToolId>(slot + 1));
+        EXPECT_EQ(window_.cursor, slot < 5 ? kCursors[slot] : GridCursor::Cross);
+        for (const auto& [code, column] :
+             {std::pair{i18n::kChinese, test::Chinese}, {i18n::kEnglish, test::English}}) {
             i18n::SetUiLanguage(code);
-            palette_.PicTools_MouseMove({}, slot % 4 * 23 + 10, slot / 4 * 22 + 10);
-            EXPECT_EQ(window_.toolTip, row.toolTip.In(code));
-            EXPECT_EQ(window_.panels[1], row.status.In(code));
+            if (row[test::Kind] == "grid") {
+                editor.PicMain_MouseMove({}, 5, 5);
+            } else {
+                palette_.PicTools_MouseMove({}, x, y);
+            }
+            const bool isTip = row[test::Kind] == "tooltip";
+            EXPECT_EQ(isTip ? window_.toolTip : window_.panels[1], row[column]);
         }
     }
     palette_.PicTools_MouseMove({}, 5, 66);
@@ -170,8 +209,10 @@ TEST_F(WellsTest, ButtonsDoWhatTheySay) {
     // A cancelled dialog leaves the colour, but no transparency.
     cdb_.choice.reset();
     commands_.ImgTransparent_MouseUp(Button::Left);
+    window_.wellRepaints = 0;
     commands_.PicForeColor_MouseUp(Button::Left);
     EXPECT_EQ(Wells(), "FFFFFF FFFFFF");
+    EXPECT_GT(window_.wellRepaints, 0);
     wells_.SetTransparent(Button::Left);
     wells_.ResetDefaultColors();
     EXPECT_EQ(Wells(), "FFFFFFT FFFFFF");

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <fstream>
 #include <map>
 #include <string>
 #include <vector>
@@ -11,6 +9,7 @@
 #include "i18n/ClassicMenu.h"
 #include "i18n/Language.h"
 #include "i18n/ToolbarTable.h"
+#include "tests/support/ListedTexts.h"
 
 namespace kestrel::i18n {
 namespace {
@@ -18,28 +17,7 @@ namespace {
 using controls::MenuItem;
 using controls::SmartMenuXP;
 
-enum Column { What, Key, Parent, Kind, English, Chinese, Shortcut, Picture, Flag, kColumns };
-using Row = std::array<std::string, kColumns>;
-
-// The product's own list of every text, one a line, columns parted by tabs.
-std::vector<Row> ListedTexts(const std::string& what) {
-    std::ifstream file(TEST_DATA "/../i18n/captions.tsv");
-    std::vector<Row> rows;
-    for (std::string line; std::getline(file, line);) {
-        Row row;
-        for (std::string& column : row) {
-            column = line.substr(0, line.find('\t'));
-            line.erase(0, std::min(line.size(), column.size() + 1));
-        }
-        if (const auto tab = row[English].find("\\t"); tab != std::string::npos) {
-            row[English].replace(tab, 2, "\t");
-            row[Chinese].replace(row[Chinese].find("\\t"), 2, "\t");
-        }
-        if (row[What] == what) rows.push_back(row);
-    }
-    EXPECT_FALSE(rows.empty()) << what;
-    return rows;
-}
+using namespace test;
 
 struct Menus {
     Menus() { BuildMenuBar(bar, popup); }
