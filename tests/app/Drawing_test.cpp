@@ -193,7 +193,9 @@ TEST_F(DrawingTest, WhatChangesIsPaintedAgain) {
 
     // The size of a drag is printed below the cell, and like a cell.
     const auto printed = [this](int y) { return window_.grab(QRect(371, y, 60, 16)).toImage(); };
-    Move({45, 55});
+    const QRegion hovered = window.Painted([this] { Move({45, 55}); });
+    EXPECT_TRUE(hovered.contains(QRect(371, 111, 60, 16)));
+    EXPECT_FALSE(hovered.intersects(QRect(371, 133, 60, 16)));
     const QImage cell = printed(111);
     Press(Qt::LeftButton, {25, 25});
     const QRegion readouts = window.Painted([this] { Move({55, 65}); });

@@ -81,11 +81,13 @@ TEST_F(EditorTest, TheButtonComesUpWhereThePointerHasBeen) {
     editor_.PicMain_MouseUp(Button::Left, 95, 5);
     EXPECT_FALSE(icon_.IsTransparent(9, 0));
     // Undo ends the stroke under way and takes it back.
-    icon_.Modified = false;
     editor_.PicMain_MouseDown(Button::Left, 155, 5);
     editor_.PopUndoSnapshot();
     EXPECT_TRUE(icon_.IsTransparent(15, 0));
     EXPECT_EQ(OpaquePixels(), 2);
+    icon_.Modified = false;
+    editor_.PopUndoSnapshot();
+    EXPECT_EQ(OpaquePixels(), 0);
     EXPECT_TRUE(icon_.Modified);
 }
 
