@@ -98,8 +98,8 @@ WaitForWindow() {
 
 HasKeyboard() {
     local title
-    window=$(xdotool getactivewindow 2>/dev/null) || return 1
-    title=$(xdotool getwindowname "$window" 2>/dev/null) || return 1
+    window=$(xdotool getactivewindow 2>/dev/null) &&
+        title=$(xdotool getwindowname "$window" 2>/dev/null) || return 1
     # shellcheck disable=SC2053  # the right side is a pattern on purpose
     [[ ${title,,} == ${1,,} ]]
 }
@@ -132,19 +132,12 @@ OpenMenu() {
 
 MenuIsOpen() { [[ $(xdotool search --onlyvisible --class KestrelIconEditor 2>/dev/null | wc -l) -gt 1 ]]; }
 
-# Where the client area of a window begins on the screen: sets originX and originY.
-FindOrigin() {
-    local info
-    info=$(xwininfo -id "$1")
-    originX=$(awk '/Absolute upper-left X/ {print $NF}' <<<"$info")
-    originY=$(awk '/Absolute upper-left Y/ {print $NF}' <<<"$info")
-}
-
 # Sets pointX and pointY to the screen point of a client point of the current window.
 ToScreen() {
-    FindOrigin "$window"
-    pointX=$((originX + $1))
-    pointY=$((originY + $2))
+    local left top
+    read -r left top < <(xwininfo -id "$window" | awk '/Absolute/ {printf "%s ", $NF}') || true
+    pointX=$((left + $1))
+    pointY=$((top + $2))
 }
 
 # Click <x> <y> [button]
@@ -175,17 +168,11 @@ ExpectCell() {
 
 # PaintCell <column> <row> <button> <RRGGBB>: clicks until the cell shows the colour, since the grid
 # ignores the mouse for a quarter of a second after Open.
-PaintCell() {
-    local deadline=$((SECONDS + kPatience)) _
-    while [[ $SECONDS -lt $deadline ]]; do
-        CellPoint "$1" "$2"
-        Click "$cellX" "$cellY" "$3"
-        for _ in {1..5}; do
-            CellHas "$1" "$2" "$4" && return 0
-            sleep 0.05
-        done
-    done
-    Fail "cell ($1, $2) cannot be painted $4"
+PaintCell() { WaitFor "$kPatience" CellTakes "$@" || Fail "cell ($1, $2) cannot be painted $4"; }
+CellTakes() {
+    CellPoint "$1" "$2"
+    Click "$cellX" "$cellY" "$3"
+    WaitFor 2 CellHas "$1" "$2" "$4"
 }
 
 # DragCells <button> <RRGGBB> <column> <row>...: one stroke through these cells, each of which shows
@@ -209,11 +196,11 @@ DragCells() {
 # The text of the message box in front, read by marking it with the mouse as a user would.
 BoxText() {
     local width height text
-    FindOrigin "$window"
     read -r width height < <(xwininfo -id "$window" | awk '/Width:|Height:/ {printf "%s ", $NF}')
-    xdotool mousemove $((originX + 63)) $((originY + 14)) mousedown 1 \
-        mousemove $((originX + width / 2)) $((originY + height / 2)) \
-        mousemove $((originX + width - 5)) $((originY + height - 5)) mouseup 1
+    ToScreen 0 0
+    xdotool mousemove $((pointX + 63)) $((pointY + 14)) mousedown 1 \
+        mousemove $((pointX + width / 2)) $((pointY + height / 2)) \
+        mousemove $((pointX + width - 5)) $((pointY + height - 5)) mouseup 1
     text=$(timeout 5 xclip -o -selection primary 2>/dev/null) || return 1
     printf '%s' "$text"
 }
@@ -221,14 +208,10 @@ BoxText() {
 # ExpectBox <title> <text pattern>: a message box with this title and text is in front.
 ExpectBox() {
     WaitFor "$kPatience" HasBox "$1" || Fail "no box \"$1\" came to the front"
-    boxPattern=$2
-    WaitFor "$kPatience" BoxSays || Fail "the box \"$1\" says \"$(BoxText)\", not \"$2\""
+    WaitFor "$kPatience" BoxSays "$2" || Fail "the box \"$1\" says \"$(BoxText)\", not \"$2\""
 }
-
-BoxSays() {
-    # shellcheck disable=SC2053  # the right side is a pattern on purpose
-    [[ $(BoxText) == $boxPattern ]]
-}
+# shellcheck disable=SC2053  # the right side is a pattern on purpose
+BoxSays() { [[ $(BoxText) == $1 ]]; }
 
 # AnswerDialog <title> <path>: types the path into the file dialog in front and accepts it.
 AnswerDialog() {
@@ -243,4 +226,19 @@ AnswerDialog() {
 Quit() {
     Press alt+F4
     WaitForEnd
+}
+
+# QuitUnsaved: the same with changes, which are given up.
+QuitUnsaved() {
+    Press alt+F4
+    ExpectBox 'KestrelIconEditor' 'Save changes to current icon?'
+    Press alt+n
+    WaitForEnd
+}
+
+# ExpectError <text pattern> <window>: an error says so, and that window goes on.
+ExpectError() {
+    ExpectBox 'KestrelIconEditor - Error' "$1"
+    Press Return
+    WaitForWindow "KestrelIconEditor - $2"
 }

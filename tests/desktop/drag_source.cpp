@@ -1,10 +1,9 @@
-// A window that drags files out: drag_source <file>... Press in it and move to start the drag.
-// Prints "accepted" when a window under the pointer takes the files, and ends when they are handed
-// over.
+// A window that drags files out: drag_source <absolute path>... Press in it and move to start the
+// drag. Prints "accepted" when a window under the pointer takes the files, and ends when they are
+// handed over.
 
 #include <QApplication>
 #include <QDrag>
-#include <QFileInfo>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QUrl>
@@ -24,15 +23,13 @@ class DragSource : public QWidget {
 
   protected:
     void mouseMoveEvent(QMouseEvent* event) override {
-        if ((event->buttons() & Qt::LeftButton) == 0) {
-            return;
-        }
+        if ((event->buttons() & Qt::LeftButton) == 0) return;
         auto* files = new QMimeData;
         files->setUrls(urls_);
         auto* drag = new QDrag(this);
         drag->setMimeData(files);
         connect(drag, &QDrag::actionChanged, this, [](Qt::DropAction action) {
-            std::puts(action == Qt::IgnoreAction ? "refused" : "accepted");
+            if (action != Qt::IgnoreAction) std::puts("accepted");
             std::fflush(stdout);
         });
         // Until the target has fetched the files the drag lives on, beyond the button's release.
@@ -49,9 +46,8 @@ class DragSource : public QWidget {
 int main(int argc, char** argv) {
     const QApplication app(argc, argv);
     QList<QUrl> urls;
-    for (const QString& file : QApplication::arguments().mid(1)) {
-        urls.append(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()));
-    }
+    for (const QString& file : QApplication::arguments().mid(1))
+        urls.append(QUrl::fromLocalFile(file));
     DragSource source(urls);
     source.show();
     return QApplication::exec();

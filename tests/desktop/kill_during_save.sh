@@ -12,7 +12,6 @@ convert -size 32x32 xc:'#204060' "$original"
 # One xdotool command line that draws a cell and saves, many times over.
 FillStorm() {
     local column
-    storm=()
     for column in {4..31} {4..31}; do
         CellPoint "$column" 8
         ToScreen "$cellX" "$cellY"
@@ -21,11 +20,11 @@ FillStorm() {
 }
 
 ExpectWholeIcon() {
+    local colors
     cmp -s "$victim" "$original" && return 0
     saved=$((saved + 1))
     [[ $(stat -c %s "$victim") -eq 3262 ]] || Fail "the file has $(stat -c %s "$victim") bytes"
     icotool -x -o "$scratch/victim.png" "$victim" || Fail "the file is no icon"
-    local colors
     colors=$(convert "$scratch/victim.png" -unique-colors -depth 8 rgb:- | od -An -v -w3 -tx1 | tr -d ' ')
     [[ $(sort <<<"$colors" | tr '\n' ' ') == '000000 204060 ' ]] || Fail "strange colours: $colors"
 }
@@ -47,11 +46,7 @@ for ((round = 1; round <= times; ++round)); do
     [[ ${#storm[@]} -gt 0 ]] || FillStorm
     PaintCell 3 4 1 000000
     Start xdotool "${storm[@]}"
-    if ((round % 2)); then
-        sleep "0.$(printf '%03d' $((RANDOM % 500)))"
-    else
-        CatchSave
-    fi
+    if ((round % 2)); then sleep "0.$(printf '%03d' $((RANDOM % 500)))"; else CatchSave; fi
     kill -KILL "$editor" "$lastStarted" 2>/dev/null || true
     wait "$editor" "$lastStarted" 2>/dev/null || true
     WaitForNoWindow 'KestrelIconEditor*'

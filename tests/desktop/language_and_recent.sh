@@ -42,20 +42,14 @@ StartEditor
 WaitForWindow 'KestrelIconEditor - Untitled'
 OpenMenu f
 Press f Down Down Return
-ExpectBox 'KestrelIconEditor - Error' 'Unable to locate *D.ico'
-Press Return
+ExpectError 'Unable to locate *D.ico' Untitled
 OpenMenu f
 Press f Down Down Return
 WaitForWindow 'KestrelIconEditor - C.ico'
-Quit
-[[ $(RecentNames) == 'C.ico B.ico E.ico ' ]] || Fail "the list is $(RecentNames)"
 
 # A companion program that is not installed is missed in an orderly way.
-StartEditor
-WaitForWindow 'KestrelIconEditor - Untitled'
 OpenMenu t
 Press Up Return
-ExpectBox 'KestrelIconEditor - Error' 'The program is not installed*Unable to start *Ormsby Extender.exe'
-Press Return
-WaitForWindow 'KestrelIconEditor - Untitled'
+ExpectError 'The program is not installed*Unable to start *Ormsby Extender.exe' C.ico
 Quit
+[[ $(RecentNames) == 'C.ico B.ico E.ico ' ]] || Fail "the list is $(RecentNames)"

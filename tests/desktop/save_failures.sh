@@ -17,38 +17,34 @@ OpenAndDraw() {
     PaintCell 3 4 1 000000
 }
 
-# ExpectRefusal <opened file> <name that was tried> <reason pattern>
+# ExpectRefusal <opened file> <reason pattern>
 ExpectRefusal() {
-    ExpectBox 'KestrelIconEditor - Error' "$3*Unable to save $2"
-    Press Return
-    ExpectUnsaved "$1" "$2"
+    ExpectError "$2*Unable to save ${1##*/}" "${1##*/}"
+    ExpectUnsaved "$1"
 }
 
-# ExpectUnsaved <opened file> <name in the title>
+# ExpectUnsaved <opened file>
 ExpectUnsaved() {
-    WaitForWindow "KestrelIconEditor - $2"
+    WaitForWindow "KestrelIconEditor - ${1##*/}"
     cmp "$1" "$picture" || Fail "a failed save changed the file"
     local left
     left=$(find "$(dirname "$1")" -type f ! -name '*.ico')
     [[ -z $left ]] || Fail "a failed save left $left"
-    Press alt+F4
-    ExpectBox 'KestrelIconEditor' 'Save changes to current icon?'
-    Press alt+n
-    WaitForEnd
+    QuitUnsaved
 }
 
 # A file without write permission.
 OpenAndDraw "$files/Readonly.ico"
 chmod 444 "$files/Readonly.ico"
 Press ctrl+s
-ExpectRefusal "$files/Readonly.ico" Readonly.ico 'Permission denied'
+ExpectRefusal "$files/Readonly.ico" 'Permission denied'
 
 # A folder that went away.
 mkdir "$files/folder"
 OpenAndDraw "$files/folder/Lost.ico"
 mv "$files/folder" "$files/elsewhere"
 Press ctrl+s
-ExpectRefusal "$files/elsewhere/Lost.ico" Lost.ico 'No such file or directory'
+ExpectRefusal "$files/elsewhere/Lost.ico" 'No such file or directory'
 
 # The dialog takes no folder that is missing.
 OpenAndDraw "$files/Old.ico"
@@ -61,7 +57,7 @@ ExpectBox 'KestrelIconEditor - Save As' '*Directory not found*'
 Press Return
 WaitFor "$kPatience" HasDialog 'KestrelIconEditor - Save As' || Fail "the dialog did not come back"
 Press Escape
-ExpectUnsaved "$files/Old.ico" Old.ico
+ExpectUnsaved "$files/Old.ico"
 
 # A full disk, where one may be mounted.
 mkdir "$files/disk"
@@ -70,7 +66,7 @@ if mount -t tmpfs -o size=8k,mode=755 tmpfs "$files/disk" 2>/dev/null; then
     OpenAndDraw "$files/disk/Full.ico"
     head -c 8192 /dev/zero >"$files/disk/Ballast.ico" 2>/dev/null || true
     Press ctrl+s
-    ExpectRefusal "$files/disk/Full.ico" Full.ico 'No space left on device'
+    ExpectRefusal "$files/disk/Full.ico" 'No space left on device'
     umount "$files/disk"
     trap EndDesktop EXIT
 else
@@ -82,4 +78,4 @@ fi
 OpenAndDraw "$files/Limited.ico"
 prlimit --fsize=0 --pid "$editor"
 Press ctrl+s
-ExpectRefusal "$files/Limited.ico" Limited.ico 'File too large'
+ExpectRefusal "$files/Limited.ico" 'File too large'
