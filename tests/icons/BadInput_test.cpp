@@ -11,19 +11,15 @@ namespace {
 using namespace test;
 
 // What every decoded image promises: planes of one size, a mask of black and white, 24-bit colours.
-bool IsSound(const IconImage& icon) {
-    const auto mask = icon.mask.Pixels();
-    const auto color = icon.color.Pixels();
-    return gdi::Rect{0, 0, icon.info.width, icon.info.height} == icon.mask.Bounds() &&
-           icon.mask.Bounds() == icon.color.Bounds() &&
-           std::ranges::count(mask, gdi::kBlack) + std::ranges::count(mask, gdi::kWhite) ==
-               std::ssize(mask) &&
-           std::ranges::all_of(color, [](auto pixel) { return pixel <= gdi::kWhite; });
-}
-
 bool RefusedOrSound(const ByteList& file) {
     const auto icon = ReadBestImage(file);
-    return icon ? IsSound(*icon) : icon.error().number == kInvalidPicture;
+    if (!icon) return icon.error().number == kInvalidPicture;
+    const auto mask = icon->mask.Pixels();
+    return gdi::Rect{0, 0, icon->info.width, icon->info.height} == icon->mask.Bounds() &&
+           icon->mask.Bounds() == icon->color.Bounds() &&
+           std::ranges::count(mask, gdi::kBlack) + std::ranges::count(mask, gdi::kWhite) ==
+               std::ssize(mask) &&
+           std::ranges::max(icon->color.Pixels()) <= gdi::kWhite;
 }
 
 TEST(BadInput, IsRefused) {
@@ -33,9 +29,7 @@ TEST(BadInput, IsRefused) {
           std::string(9999, '0'), std::string(9999, 'F'), png, png + "FFFFFFFF FFFFFFFF 0806000000",
           png + "00000001 00000000 0806000000", png + "00000001 00000001 0306000000",
           png + "00000001 00000001 0809000000"}) {
-        SCOPED_TRACE(input.substr(0, 80));
-        EXPECT_FALSE(ListImages(Hex(input)));
-        EXPECT_FALSE(ReadBestImage(Hex(input)));
+        EXPECT_FALSE(ReadBestImage(Hex(input))) << input.substr(0, 80);
     }
 }
 
@@ -46,16 +40,16 @@ TEST(BadInput, TruncationsAndChangedBytesAreRefusedOrRead) {
     int files = 0;
     for (const auto& entry : std::filesystem::directory_iterator(TEST_DATA)) {
         if (entry.path().extension() != ".ico" && entry.path().extension() != ".cur") continue;
-        SCOPED_TRACE(entry.path());
         ++files;
         ByteList file = ReadFile(entry.path());
         for (std::size_t i = 0; i < file.size(); i += i < kHeaders ? 1 : kSample) {
-            ASSERT_TRUE(RefusedOrSound({file.begin(), file.begin() + static_cast<long>(i)})) << i;
+            ASSERT_TRUE(RefusedOrSound({file.begin(), file.begin() + static_cast<long>(i)}))
+                << entry.path() << i;
             const std::uint8_t old = file[i];
             for (const int changed : {0x00, 0xFF, old ^ 0x80}) {
                 if (changed == old) continue;
                 file[i] = static_cast<std::uint8_t>(changed);
-                ASSERT_TRUE(RefusedOrSound(file)) << i << " = " << changed;
+                ASSERT_TRUE(RefusedOrSound(file)) << entry.path() << i << " = " << changed;
             }
             file[i] = old;
         }

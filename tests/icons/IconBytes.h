@@ -20,13 +20,17 @@ inline ByteList Hex(std::string text) {
     return bytes;
 }
 
-inline void Append(ByteList& bytes, std::uint64_t value, int count) {
-    for (int i = 0; i < count; ++i)
-        bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
+inline ByteList operator+(ByteList bytes, const ByteList& more) {
+    bytes.insert(bytes.end(), more.begin(), more.end());
+    return bytes;
 }
 
-inline void Append(ByteList& bytes, const ByteList& more) {
-    bytes.insert(bytes.end(), more.begin(), more.end());
+// Little-endian, four bytes.
+inline ByteList Number(std::size_t value) {
+    ByteList bytes;
+    for (int shift = 0; shift < 32; shift += 8)
+        bytes.push_back(static_cast<std::uint8_t>(value >> shift));
+    return bytes;
 }
 
 inline ByteList ReadFile(const std::filesystem::path& path) {

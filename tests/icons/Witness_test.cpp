@@ -15,8 +15,7 @@ using namespace test;
 // the middle of a larger image. Colours count only where a pixel is opaque.
 void ExpectSamePixels(const IconImage& icon, const ByteList& pam) {
     const std::string text(pam.begin(), pam.end());
-    int width = 0;
-    int height = 0;
+    int width = 0, height = 0;
     ASSERT_EQ(std::sscanf(text.c_str(), "P7 WIDTH %d HEIGHT %d", &width, &height), 2);
     const std::size_t start = text.find("ENDHDR\n") + 7;
     ASSERT_EQ(pam.size() - start, static_cast<std::size_t>(4 * width * height));
@@ -33,18 +32,14 @@ void ExpectSamePixels(const IconImage& icon, const ByteList& pam) {
 
 // Sizes and depths as icotool lists them.
 TEST(Witness, AgreesOnEveryImage) {
+    // clang-format off
     const std::pair<std::string, std::vector<ImageInfo>> files[] = {
-        {"bits1.ico", {{32, 32, 1}}},
-        {"bits4.ico", {{16, 16, 4}}},
-        {"bits8.ico", {{48, 48, 8}}},
-        {"bits24.ico", {{32, 32, 24}}},
-        {"bits32.ico", {{24, 24, 32}}},
-        {"wide.ico", {{127, 64, 4}}},
-        {"pointer.cur", {{24, 24, 24}}},
+        {"bits1.ico", {{32, 32, 1}}}, {"bits4.ico", {{16, 16, 4}}}, {"bits8.ico", {{48, 48, 8}}},
+        {"bits24.ico", {{32, 32, 24}}}, {"bits32.ico", {{24, 24, 32}}},
+        {"wide.ico", {{127, 64, 4}}}, {"pointer.cur", {{24, 24, 24}}},
         {"png-named.ico", {{16, 16, 4}}},
         {"several.ico", {{16, 16, 4}, {48, 48, 8}, {32, 32, 32}, {256, 256, 8}}},
         {"magick.ico", {{16, 16, 32}, {48, 48, 32}, {256, 256, 32}}},
-        // clang-format off
         {"png-kinds.ico", {{16, 16, 1}, {48, 48, 8}, {32, 32, 24}, {16, 16, 4}, {24, 24, 64},
                            {24, 24, 16}, {24, 24, 32}, {16, 16, 24}}}};
     // clang-format on
@@ -52,18 +47,16 @@ TEST(Witness, AgreesOnEveryImage) {
     for (const auto& [name, images] : files) {
         const ByteList bytes = ReadFile(folder + name);
         const auto entries = ListImages(bytes);
-        ASSERT_TRUE(entries) << name;
-        ASSERT_EQ(entries->size(), images.size()) << name;
-        for (std::size_t i = 0; i < entries->size(); ++i) {
-            const std::string witness =
-                name.substr(0, name.find('.')) + '-' + std::to_string(i) + ".pam";
-            SCOPED_TRACE(witness);
-            ImageInfo info = entries->at(i).info;
-            info.png = false;
-            EXPECT_EQ(info, images[i]);
+        ASSERT_TRUE(entries && entries->size() == images.size()) << name;
+        for (std::size_t i = 0; i < images.size(); ++i) {
             const auto icon = DecodeImage(bytes, entries->at(i));
-            ASSERT_TRUE(icon);
-            ExpectSamePixels(*icon, ReadFile(folder + witness));
+            ASSERT_TRUE(icon) << name << i;
+            ImageInfo info = icon->info;
+            info.png = false;
+            EXPECT_EQ(info, images[i]) << name << i;
+            const std::string witness = name.substr(0, name.find('.')) + '-' + std::to_string(i);
+            SCOPED_TRACE(witness);
+            ExpectSamePixels(*icon, ReadFile(folder + witness + ".pam"));
         }
     }
 }
