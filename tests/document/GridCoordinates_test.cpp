@@ -2,20 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace kestrel::document {
 namespace {
 
-using Helper = void (*)(int&, int&);
-
-struct Case {
-    const char* name;
-    Helper helper;
-    int x, y;
-    int wantX, wantY;
-};
-
 TEST(GridCoordinates, HelpersMovePoints) {
-    const Case cases[] = {
+    struct {
+        const char* name;
+        void (*helper)(int&, int&);
+        int x, y, wantX, wantY;
+    } const cases[] = {
         {"cell, first and second", SnapToCell, 9, 10, 0, 10},
         {"cell, truncating toward zero", SnapToCell, -9, -11, 0, -10},
         {"nearest line, below and at the middle", SnapToNearestLine, 14, 15, 10, 20},
@@ -26,12 +23,9 @@ TEST(GridCoordinates, HelpersMovePoints) {
         {"clamp", ClampToGrid, -1, 32767, 0, 320},
         {"swap", SwapInt, 1, 2, 2, 1},
     };
-    for (const Case& c : cases) {
-        int x = c.x;
-        int y = c.y;
-        c.helper(x, y);
-        EXPECT_EQ(x, c.wantX) << c.name;
-        EXPECT_EQ(y, c.wantY) << c.name;
+    for (auto c : cases) {
+        c.helper(c.x, c.y);
+        EXPECT_EQ(std::pair(c.x, c.y), std::pair(c.wantX, c.wantY)) << c.name;
     }
 }
 
