@@ -17,12 +17,12 @@ std::string Drawn(const QIcon& icon, QSize size, QIcon::Mode mode = QIcon::Norma
         for (int x = 0; x < image.width(); ++x) {
             const QColor color = image.pixelColor(x, y);
             const bool grey = color.red() == color.green() && color.green() == color.blue();
-            char letter = grey ? 'g' : 'o';
-            if (color == QColor(255, 0, 0)) letter = 'r';
-            if (color == QColor(0, 0, 255)) letter = 'b';
-            if (color.alpha() == 0) letter = '.';
-            if (letter == 'g' && color.alpha() == 255) letter = 'G';
-            text += letter;
+            if (color.alpha() == 0)
+                text += '.';
+            else if (color.alpha() < 255)
+                text += grey ? 'g' : '?';
+            else
+                text += color == Qt::red ? 'r' : color == Qt::blue ? 'b' : '?';
         }
         text += ' ';
     }

@@ -15,8 +15,8 @@ namespace {
 
 using Rows = std::vector<std::string>;
 
-Rows Picture(std::size_t number) {
-    std::istringstream text{std::string(kImageList.at(number - 1))};
+Rows Picture(int number) {
+    std::istringstream text{std::string(kImageList.at(static_cast<std::size_t>(number) - 1))};
     return {std::istream_iterator<std::string>(text), {}};
 }
 
@@ -32,7 +32,7 @@ TEST(ImageList, PicturesAreSixteenSquareInTheInksOfTheTable) {
     for (const gdi::ArtInk& ink : kImageListInks)
         inks.insert(ink.letter);
     EXPECT_EQ(kImageListInks.size(), std::min<std::size_t>(inks.size() - 1, 24)) << "none twice";
-    for (std::size_t number = 1; number <= 40; ++number) {
+    for (int number = 1; number <= 40; ++number) {
         const Rows rows = Picture(number);
         ASSERT_EQ(rows.size(), 16U) << number;
         for (const std::string& row : rows) {
@@ -45,14 +45,12 @@ TEST(ImageList, PicturesAreSixteenSquareInTheInksOfTheTable) {
 }
 
 TEST(ImageList, PairsAreExactMirrorsAndTurns) {
-    for (const std::size_t left : {5U, 15U}) {
+    for (const int left : {5, 15}) {
         const Rows upside_down = TurnedClockwise(TurnedClockwise(Picture(left)));
         EXPECT_EQ(Picture(left + 1), Rows(upside_down.rbegin(), upside_down.rend())) << left;
     }
-    EXPECT_EQ(Picture(18), TurnedClockwise(Picture(17)));
-    EXPECT_EQ(Picture(37), TurnedClockwise(Picture(34)));
-    EXPECT_EQ(Picture(35), TurnedClockwise(Picture(37)));
-    EXPECT_EQ(Picture(36), TurnedClockwise(Picture(35)));
+    for (const auto& [from, to] : {std::pair{17, 18}, {34, 37}, {37, 35}, {35, 36}})
+        EXPECT_EQ(Picture(to), TurnedClockwise(Picture(from))) << to;
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "platform/system/DiskFiles.h"
 
 #include <csignal>
-#include <map>
 #include <random>
 
 #include "platform/system/LetterCase.h"
@@ -17,8 +16,7 @@ using CallNames = std::vector<std::string>;
 class DiskFilesTest : public TemporaryFolder {
   protected:
     int ReplaceError(const std::string& path, const std::string& text) {
-        const Result<void> replaced = files_.ReplaceFile(path, Bytes(text.begin(), text.end()));
-        return replaced ? 0 : replaced.error().number;
+        return NumberOf(files_.ReplaceFile(path, Bytes(text.begin(), text.end())));
     }
 
     DiskFiles files_;
@@ -35,7 +33,7 @@ class FailingCalls : public FileCalls {
     ssize_t Write(int file, const void* bytes, std::size_t count) override {
         if (Fails("write")) return -1;
         interrupted_ = !interrupted_;
-        if (interrupted_) errno = EINTR;
+        errno = EINTR;
         return interrupted_ ? -1 : FileCalls::Write(file, bytes, std::min<std::size_t>(count, 2));
     }
     int ChangeMode(int file, mode_t mode) override {
@@ -80,21 +78,19 @@ CallNames FatalCalls(const std::string& folder, const std::string& path, const s
         if (calls.failed.empty()) return fatal;
         if (saved) continue;
         fatal.push_back(calls.failed);
-        EXPECT_EQ(saved.error().description, "No space left on device");
+        EXPECT_EQ(saved.error().number, ENOSPC);
     }
 }
 
 TEST_F(DiskFilesTest, FailureOfAnyCallLeavesTheOldFileAndNothingElse) {
-    // "new" takes three writes of two bytes, each interrupted once.
-    EXPECT_EQ(FatalCalls(folder_, Path("a"), ""),
-              (CallNames{"open", "write", "write", "write", "write", "sync", "close", "rename"}));
-    EXPECT_EQ(
-        FatalCalls(folder_, Path("a"), "old"),
-        (CallNames{"open", "write", "write", "write", "write", "mode", "sync", "close", "rename"}));
+    // "new" takes two writes of at most two bytes, each interrupted once.
+    CallNames calls = {"open", "write", "write", "write", "write", "sync", "close", "rename"};
+    EXPECT_EQ(FatalCalls(folder_, Path("a"), ""), calls);
+    calls.insert(calls.begin() + 5, "mode");
+    EXPECT_EQ(FatalCalls(folder_, Path("a"), "old"), calls);
 }
 
 TEST_F(DiskFilesTest, ReplacesTheFileThatThePathMeans) {
-    std::filesystem::create_directory(Path("Icons"));
     MakeFile(Path("Icons/Bird.ico"), "old");
     std::filesystem::create_symlink("Icons/Bird.ico", Path("link"));
     std::filesystem::create_symlink("Icons/missing", Path("dangling"));
@@ -130,14 +126,13 @@ TEST_F(DiskFilesTest, RefusesWhatIsNoWritableFile) {
     mkfifo(Path("pipe").c_str(), 0600);
     std::filesystem::create_symlink("loop", Path("loop"));
     std::filesystem::create_symlink("kept", Path("link"));
-    const auto before = Names();
-    const std::map<std::string, int> cases = {
+    const std::pair<const char*, int> cases[] = {
         {"kept", EACCES}, {"link", EACCES},   {"", EISDIR},       {"pipe", EINVAL},
         {"loop", ELOOP},  {"none/a", ENOENT}, {"kept/a", ENOTDIR}};
     for (const auto& [name, number] : cases)
         EXPECT_EQ(ReplaceError(Path(name), "new"), number) << name;
     EXPECT_EQ(ContentOf(Path("kept")), "old");
-    EXPECT_EQ(Names(), before);
+    EXPECT_EQ(Names(), (std::vector<std::string>{"kept", "link", "loop", "pipe"}));
 }
 
 TEST_F(DiskFilesTest, ReadsRegularFilesUpToTheLimit) {
@@ -152,10 +147,8 @@ TEST_F(DiskFilesTest, ReadsRegularFilesUpToTheLimit) {
         {"/dev/zero", kLimit, EINVAL},
         {"/proc/self/status", 10, EFBIG},
         {Path("none"), kLimit, ENOENT}};
-    for (const auto& [path, limit, number] : cases) {
-        const auto read = files_.ReadFile(path, limit);
-        EXPECT_EQ(read ? 0 : read.error().number, number) << path;
-    }
+    for (const auto& [path, limit, number] : cases)
+        EXPECT_EQ(NumberOf(files_.ReadFile(path, limit)), number) << path;
     EXPECT_TRUE(files_.ReadFile("/proc/self/status", 1U << 20U));  // states no size
     EXPECT_TRUE(files_.RemoveFile(Path("full.ico")));
     EXPECT_FALSE(files_.FileExists(Path("Full.ico")));
@@ -172,16 +165,13 @@ TEST_F(DiskFilesTest, KilledSavesLeaveOldOrNew) {
         const pid_t child = fork();
         if (child == 0) {
             // A child that gets little time must not always write the same first content.
-            const auto first = static_cast<unsigned>(kill);
-            for (unsigned turn = first; turn < first + 100000; ++turn)
+            for (int turn = kill; turn < kill + 100000; ++turn)
                 if (ReplaceError(Path("a.ico"), contents[turn % 2]) != 0) _exit(1);
             _exit(0);
         }
         usleep(delay(random));
         ::kill(child, SIGKILL);
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFSIGNALED(status)) << "the saving ended by itself";
+        EXPECT_EQ(ExitStatus(child), -1) << "the saving ended by itself";
         const std::string content = ContentOf(Path("a.ico"));
         const bool isNew = content == contents[1];
         ASSERT_TRUE(isNew || content == contents[0]) << content.size() << " bytes";
@@ -200,8 +190,7 @@ TEST(PathText, SplitsAndCapitalises) {
 }
 
 TEST(LetterCase, FoldsLettersOfEveryScriptAndComparesStrayBytesAsBytes) {
-    EXPECT_TRUE(SameName("ÄÖÜ ΩМИР Ｚ图", "äöü ωмир ｚ图"));
-    EXPECT_TRUE(SameName("A\xFF", "a\xFF"));
+    EXPECT_TRUE(SameName("ÄÖÜ ΩМИР Ｚ图 A\xFF", "äöü ωмир ｚ图 a\xFF"));
     EXPECT_FALSE(SameName("a\xC3", "a\xE3"));
     // Overlong forms and surrogates are no characters.
     EXPECT_EQ(FoldCase("\xC1\x81\xED\xA0\x80").size(), 5U);
@@ -209,12 +198,9 @@ TEST(LetterCase, FoldsLettersOfEveryScriptAndComparesStrayBytesAsBytes) {
 }
 
 TEST_F(DiskFilesTest, FindsEachComponentAsWrittenOrInOtherLetterCase) {
-    std::filesystem::create_directories(Path("Icons/Vögel"));
-    std::filesystem::create_directories(Path("icons"));
     for (const char* name : {"Icons/Vögel/Star.ico", "Icons/b.ico", "Icons/B.ico", "icons/only",
-                             "odd\\name", "Raw\xFF"}) {
+                             "odd\\name", "Raw\xFF"})
         MakeFile(Path(name), "");
-    }
     const char* cases[][2] = {
         {"Icons\\VÖGEL\\STAR.ICO", "Icons/Vögel/Star.ico"},
         {"ICONS/vögel//./star.ico", "Icons/Vögel//./Star.ico"},
@@ -225,13 +211,11 @@ TEST_F(DiskFilesTest, FindsEachComponentAsWrittenOrInOtherLetterCase) {
         {"ICONS\\new\\Later.ico", "Icons/new/Later.ico"},
         {"raw\xFF", "Raw\xFF"},
         {"raw\xFE", "raw\xFE"}};
-    for (const auto& [written, found] : cases) {
+    for (const auto& [written, found] : cases)
         EXPECT_EQ(ResolvePath(Path(written)), Path(found));
-    }
     const auto before = std::filesystem::current_path();
     std::filesystem::current_path(Path("Icons/Vögel"));
     EXPECT_EQ(ResolvePath("STAR.ico"), "Star.ico");
-    EXPECT_EQ(ResolvePath(".\\STAR.ico"), "./Star.ico");
     std::filesystem::current_path(before);
 }
 

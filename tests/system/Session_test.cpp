@@ -1,6 +1,5 @@
 #include <cerrno>
 #include <cstdlib>
-#include <map>
 #include <utility>
 
 #include "platform/system/DesktopShell.h"
@@ -12,13 +11,13 @@
 namespace kestrel::system {
 namespace {
 
-// Without a text the variable is removed. Every test sets all that it depends on.
-void SetVariable(const char* name, const char* text) {
-    text == nullptr ? unsetenv(name) : setenv(name, text, 1);
+// Every test sets all that it depends on.
+void SetVariable(const char* name, const std::string& text) {
+    setenv(name, text.c_str(), 1);
 }
 
 TEST(Session, LocaleNamesGiveTheirIdentifiers) {
-    const std::map<const char*, std::uint32_t> names = {
+    const std::pair<const char*, std::uint32_t> names[] = {
         {"zh_CN.UTF-8", 2052}, {"ZH", 2052}, {"zh_TW.Big5", 1028}, {"zh_HK", 3076},
         {"de_DE@euro", 1031},  {"C", 1033},  {"xx_YY", 1033},      {"", 1033}};
     for (const auto& [name, lcid] : names)
@@ -43,13 +42,13 @@ TEST(Session, FoldersFollowTheEnvironment) {
 class SessionTest : public TemporaryFolder {};
 
 TEST_F(SessionTest, RuntimeFolderIsTheUsersAlone) {
-    SetVariable("XDG_RUNTIME_DIR", (folder_ + "/").c_str());
+    SetVariable("XDG_RUNTIME_DIR", folder_ + "/");
     EXPECT_EQ(RuntimeFolder(), folder_);
     // Writable for others, or (where this test may bring it about) owned by another.
     if (chown(folder_.c_str(), 1234, getegid()) != 0) chmod(folder_.c_str(), 0777);
     std::filesystem::create_symlink("/", Path("link"));
     for (const std::string& unfit : {folder_, Path("link"), Path("none")}) {
-        SetVariable("XDG_RUNTIME_DIR", unfit.c_str());
+        SetVariable("XDG_RUNTIME_DIR", unfit);
         EXPECT_EQ(RuntimeFolder(), "/tmp/KestrelIconEditor-" + std::to_string(geteuid()));
     }
     EXPECT_EQ(StatusOf(RuntimeFolder()).st_mode & 07777U, 0700U);
@@ -59,9 +58,7 @@ TEST_F(SessionTest, OneProcessHoldsTheLockUntilItEnds) {
     const auto isFree = [&](const char* display) {
         const pid_t child = fork();
         if (child == 0) _exit(InstanceLock::Take(folder_, "Kestrel", display) ? 1 : 0);
-        int status = 0;
-        waitpid(child, &status, 0);
-        return WEXITSTATUS(status) == 1;
+        return ExitStatus(child) == 1;
     };
     EXPECT_TRUE(isFree(":1"));
     auto lock = InstanceLock::Take(folder_, "Kestrel", ":1");
@@ -75,7 +72,7 @@ TEST_F(SessionTest, OneProcessHoldsTheLockUntilItEnds) {
 
 class ShellTest : public TemporaryFolder {
   protected:
-    ShellTest() { SetVariable("PATH", (folder_ + ":/usr/bin:/bin").c_str()); }
+    ShellTest() { SetVariable("PATH", folder_ + ":/usr/bin:/bin"); }
 
     // A script that leaves its name and arguments in the file "out", after a 1 when it leads a
     // session of its own.

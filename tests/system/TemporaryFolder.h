@@ -13,6 +13,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/Result.h"
+
 namespace kestrel::system {
 
 inline std::string ContentOf(const std::string& path) {
@@ -20,8 +22,23 @@ inline std::string ContentOf(const std::string& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-inline void MakeFile(const std::string& path, const std::string& content) {
+// Its folder is made as needed.
+inline void MakeFile(const std::filesystem::path& path, const std::string& content) {
+    std::filesystem::create_directories(path.parent_path());
     std::ofstream(path, std::ios::binary) << content;
+}
+
+// 0 for a success.
+template <typename Value>
+int NumberOf(const Result<Value>& result) {
+    return result ? 0 : result.error().number;
+}
+
+// Of a child that ends, or -1 when a signal ended it.
+inline int ExitStatus(pid_t child) {
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 inline struct stat StatusOf(const std::string& path) {
@@ -43,9 +60,8 @@ class TemporaryFolder : public testing::Test {
 
     std::vector<std::string> Names() const {
         std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder_))
             names.push_back(entry.path().filename().string());
-        }
         std::sort(names.begin(), names.end());
         return names;
     }
