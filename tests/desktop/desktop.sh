@@ -96,9 +96,11 @@ WaitForWindow() {
     WaitFor "$kPatience" HasKeyboard "$1" || Fail "no window \"$1\" came to the front"
 }
 
+# A window manager calls a window active a moment before keys go to it.
 HasKeyboard() {
     local title
     window=$(xdotool getactivewindow 2>/dev/null) &&
+        [[ $(xdotool getwindowfocus 2>/dev/null) == "$window" ]] &&
         title=$(xdotool getwindowname "$window" 2>/dev/null) || return 1
     # shellcheck disable=SC2053  # the right side is a pattern on purpose
     [[ ${title,,} == ${1,,} ]]
