@@ -137,14 +137,15 @@ TEST_F(ProfileTest, KeepsEverythingElseInTheFile) {
     const std::string start = "; mine\r\n\r\n[A]\r\n Key =";
     const std::string middle = " 1 ; x\r\n\xB0\xA1\r\n";
     const std::string end = "\r\n[B]\nlast=1";
+    const std::string before = start + middle + end;
     const std::string cases[][4] = {
         {"a", "key", "2", start + "2\r\n\xB0\xA1\r\n" + end},
         {"A", "new", "3", start + middle + "new=3\r\n" + end},
         {"B", "new", "4", start + middle + end + "\r\nnew=4\r\n"},
         {"C", "k", " 5", start + middle + end + "\r\n[C]\r\nk=\" 5\"\r\n"},
-        {"A", "Key", "1 ; x", start + middle + end}};
+        {"A", "Key", "1 ; x", before}};
     for (const auto& [section, key, value, expected] : cases) {
-        MakeFile(File(), start + middle + end);
+        MakeFile(File(), before);
         EXPECT_EQ(Write(section, key, value), 0);
         EXPECT_EQ(ContentOf(File()), expected);
         EXPECT_EQ(Read(section, key), value);
