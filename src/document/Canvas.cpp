@@ -72,8 +72,14 @@ void Canvas::RebuildBackingCopy() {
 
 void Canvas::RebuildGrid() {
     RebuildBackingCopy();
+    ShowGrid();
+}
+
+void Canvas::ShowGrid() {
     gdi::BitBlt(PicMain, 0, 0, kGridSize, kGridSize, PicMainCopy, 0, 0, RasterOp::Copy);
+    if (overlay_ != nullptr) overlay_->DrawUnderLines(PicMain);
     OverlayGrid();
+    if (overlay_ != nullptr) overlay_->DrawOverLines(PicMain);
 }
 
 void Canvas::RedrawAll() {
@@ -91,6 +97,7 @@ void Canvas::EraseAndRedraw(gdi::Rect cells) {
 void Canvas::PreviewIcon() {
     PicIcon.Clear();
     DrawIconOver(PicIcon);
+    if (overlay_ != nullptr) overlay_->DrawOnPreview(PicIcon);
     window_.RepaintView(View::Preview, PicIcon.Bounds());
 }
 

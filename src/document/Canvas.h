@@ -17,6 +17,17 @@ class CanvasWindow {
     virtual void RepaintView(View view, gdi::Rect area) = 0;
 };
 
+// What lies over the icon in the views without being part of it.
+class CanvasOverlay {
+  public:
+    virtual ~CanvasOverlay() = default;
+    // On the grid over the magnified pixels, and after that over the grid lines.
+    virtual void DrawUnderLines(gdi::Surface& grid) const = 0;
+    virtual void DrawOverLines(gdi::Surface& grid) const = 0;
+    // On the preview, which has an icon pixel to a pixel.
+    virtual void DrawOnPreview(gdi::Surface& preview) const = 0;
+};
+
 // The magnified editing grid, the preview and the images they are composed from. Composition is
 // always (ground AND mask) XOR colour; the grid's ground is the hatch of transparent cells, the
 // preview's the window colour.
@@ -41,7 +52,7 @@ class Canvas {
     // Makes these icon pixels transparent (an empty rectangle: none), then rebuilds every view and
     // marks the document modified.
     void EraseAndRedraw(gdi::Rect cells);
-    // Recomposes the preview from the planes.
+    // Recomposes the preview from the planes and what lies over them.
     void PreviewIcon();
     // Composes the icon over a ground of 32 x 32 pixels.
     void DrawIconOver(gdi::Surface& ground) const;
@@ -49,6 +60,10 @@ class Canvas {
     void ShowEmptyIcon();
     // Rebuilds the grid and its backing copy from the planes; the document's flags stay.
     void RebuildGrid();
+    // Redraws the grid from its backing copy and what lies over it.
+    void ShowGrid();
+    // What every redraw draws over the icon from now on; it outlives the canvas's use.
+    void SetOverlay(const CanvasOverlay& overlay) { overlay_ = &overlay; }
 
     // Makes `icon` the content of the planes and views, fitted to 32 x 32. Both planes are empty
     // before. Modified stays as it is.
@@ -75,6 +90,7 @@ class Canvas {
     CanvasWindow& window_;
     gdi::Surface gridLinesImage_;
     gdi::Surface transparentGridImage_;
+    const CanvasOverlay* overlay_ = nullptr;
 };
 
 }  // namespace kestrel::document
