@@ -4,7 +4,7 @@
 
 # To build and run the program, with or without a display.
 kRunPackages=(
-  g++ cmake ninja-build qt6-base-dev libpng-dev libexpected-dev
+  g++ cmake ninja-build qt6-base-dev libpng-dev libexpected-dev libxcb1-dev
   xvfb openbox x11-utils xdotool imagemagick fonts-dejavu-core fonts-noto-cjk
 )
 
@@ -12,7 +12,7 @@ kRunPackages=(
 # shellcheck disable=SC2034  # used by the scripts that source this
 kTestPackages=(
   "${kRunPackages[@]}"
-  clang clang-format clang-tidy libclang-rt-14-dev libgtest-dev libbenchmark-dev libxcb1-dev
+  clang clang-format clang-tidy libclang-rt-14-dev libgtest-dev libbenchmark-dev
   xclip icoutils x11-apps desktop-file-utils shared-mime-info
 )
 

@@ -4,8 +4,13 @@ namespace kestrel::qt {
 
 namespace {
 
+// Between 0xAABBGGRR and 0xAARRGGBB.
+constexpr std::uint32_t SwapRedAndBlue(std::uint32_t pixel) {
+    return (pixel & 0xFF00FF00) | (pixel & 0xFF) << 16 | (pixel >> 16 & 0xFF);
+}
+
 QRgb ToRgb(gdi::COLORREF color) {
-    return qRgb(gdi::Red(color), gdi::Green(color), gdi::Blue(color));
+    return SwapRedAndBlue(color) | 0xFF000000;
 }
 
 }  // namespace
@@ -29,6 +34,26 @@ QImage ToImage(const gdi::Surface& mask, const gdi::Surface& color) {
         }
     }
     return image;
+}
+
+QImage ToImage(const gdi::Surface& pixels) {
+    QImage image(pixels.Width(), pixels.Height(), QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        auto* target = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (const gdi::COLORREF pixel : pixels.Row(y))
+            *target++ = SwapRedAndBlue(pixel);
+    }
+    return image;
+}
+
+gdi::Surface ToSurface(const QImage& image) {
+    gdi::Surface pixels(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* source = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (gdi::COLORREF& pixel : pixels.Row(y))
+            pixel = SwapRedAndBlue(*source++);
+    }
+    return pixels;
 }
 
 QColor ToColor(gdi::COLORREF color) {

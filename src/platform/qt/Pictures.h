@@ -15,6 +15,11 @@ QImage ToImage(const gdi::Surface& surface, gdi::Rect area);
 // An icon's two planes as one picture: transparent where the mask is white.
 QImage ToImage(const gdi::Surface& mask, const gdi::Surface& color);
 
+// Pixels of 0xAABBGGRR, as pictures with half-transparent pixels have them, and back. The picture
+// of the desktop is in the format ARGB32.
+QImage ToImage(const gdi::Surface& pixels);
+gdi::Surface ToSurface(const QImage& image);
+
 QColor ToColor(gdi::COLORREF color);
 gdi::COLORREF ToColorRef(const QColor& color);
 

@@ -1,0 +1,132 @@
+#include "platform/qt/XSelection.h"
+
+#include <poll.h>
+
+#include <cstdlib>
+#include <cstring>
+
+namespace kestrel::qt {
+
+namespace {
+
+struct Free {
+    void operator()(void* reply) const { std::free(reply); }
+};
+template <typename Reply>
+using Owned = std::unique_ptr<Reply, Free>;
+
+constexpr std::uint8_t kSentByClient = 0x80;
+constexpr std::size_t kMostTargets = 1000;
+
+}  // namespace
+
+XSelection::XSelection(Clock::time_point deadline)
+    : deadline_(deadline), connection_(xcb_connect(nullptr, nullptr)) {
+    const xcb_setup_t* setup = xcb_get_setup(connection_.get());
+    if (setup == nullptr || xcb_connection_has_error(connection_.get()) != 0) return;
+    const xcb_screen_t* screen = xcb_setup_roots_iterator(setup).data;
+    const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    window_ = xcb_generate_id(connection_.get());
+    xcb_create_window(connection_.get(), XCB_COPY_FROM_PARENT, window_, screen->root, 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
+                      &events);
+    clipboard_ = Atom("CLIPBOARD");
+    property_ = Atom("KESTREL_CLIPBOARD");
+}
+
+std::vector<std::string> XSelection::Targets() {
+    std::vector<std::string> names;
+    const auto targets = Convert(Atom("TARGETS"), kMostTargets * sizeof(xcb_atom_t));
+    if (!targets) return names;
+    for (std::size_t at = 0; at + sizeof(xcb_atom_t) <= targets->bytes.size();
+         at += sizeof(xcb_atom_t)) {
+        xcb_atom_t target = XCB_ATOM_NONE;
+        std::memcpy(&target, targets->bytes.data() + at, sizeof(target));
+        names.push_back(NameOf(target));
+    }
+    return names;
+}
+
+std::optional<std::vector<std::uint8_t>> XSelection::Read(const std::string& target,
+                                                          std::size_t limit) {
+    auto content = Convert(Atom(target), limit);
+    if (!content) return std::nullopt;
+    if (content->type == Atom("INCR")) return ReadParts(limit);
+    return std::move(content->bytes);
+}
+
+std::optional<XSelection::Property> XSelection::Convert(xcb_atom_t target, std::size_t limit) {
+    if (window_ == XCB_NONE || target == XCB_ATOM_NONE) return std::nullopt;
+    xcb_convert_selection(connection_.get(), window_, clipboard_, target, property_,
+                          XCB_CURRENT_TIME);
+    const auto event = WaitFor(XCB_SELECTION_NOTIFY);
+    if (!event) return std::nullopt;
+    const auto* answer = reinterpret_cast<const xcb_selection_notify_event_t*>(event.get());
+    if (answer->property == XCB_ATOM_NONE) return std::nullopt;
+    return TakeProperty(limit);
+}
+
+// The owner puts the next part into the property whenever the last one was taken out of it; an
+// empty one is the end.
+std::optional<std::vector<std::uint8_t>> XSelection::ReadParts(std::size_t limit) {
+    std::vector<std::uint8_t> whole;
+    while (const auto event = WaitFor(XCB_PROPERTY_NOTIFY)) {
+        const auto* change = reinterpret_cast<const xcb_property_notify_event_t*>(event.get());
+        if (change->atom != property_ || change->state != XCB_PROPERTY_NEW_VALUE) continue;
+        const auto part = TakeProperty(limit - whole.size());
+        if (!part) return std::nullopt;
+        if (part->type == XCB_ATOM_NONE) continue;
+        if (part->bytes.empty()) return whole;
+        whole.insert(whole.end(), part->bytes.begin(), part->bytes.end());
+    }
+    return std::nullopt;
+}
+
+std::optional<XSelection::Property> XSelection::TakeProperty(std::size_t limit) {
+    constexpr std::size_t kUnit = 4;  // bytes
+    const auto units = static_cast<std::uint32_t>(limit / kUnit + 1);
+    const auto cookie = xcb_get_property(connection_.get(), 1, window_, property_,
+                                         XCB_GET_PROPERTY_TYPE_ANY, 0, units);
+    const Owned<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(connection_.get(), cookie, nullptr));
+    if (!reply) return std::nullopt;
+    const auto* bytes = static_cast<const std::uint8_t*>(xcb_get_property_value(reply.get()));
+    const auto size = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
+    if (reply->bytes_after > 0 || size > limit) return std::nullopt;
+    return Property{reply->type, {bytes, bytes + size}};
+}
+
+std::shared_ptr<xcb_generic_event_t> XSelection::WaitFor(std::uint8_t kind) {
+    using std::chrono::milliseconds;
+    xcb_flush(connection_.get());
+    while (xcb_connection_has_error(connection_.get()) == 0) {
+        while (xcb_generic_event_t* event = xcb_poll_for_event(connection_.get())) {
+            const std::shared_ptr<xcb_generic_event_t> owned(event, Free());
+            if ((event->response_type & ~kSentByClient) == kind) return owned;
+        }
+        const auto left = std::chrono::duration_cast<milliseconds>(deadline_ - Clock::now());
+        if (left <= milliseconds(0)) return nullptr;
+        pollfd descriptor{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
+        poll(&descriptor, 1, static_cast<int>(left.count()));
+    }
+    return nullptr;
+}
+
+xcb_atom_t XSelection::Atom(std::string_view name) {
+    const auto cookie =
+        xcb_intern_atom(connection_.get(), 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const Owned<xcb_intern_atom_reply_t> reply(
+        xcb_intern_atom_reply(connection_.get(), cookie, nullptr));
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+}
+
+std::string XSelection::NameOf(xcb_atom_t atom) {
+    const auto cookie = xcb_get_atom_name(connection_.get(), atom);
+    const Owned<xcb_get_atom_name_reply_t> reply(
+        xcb_get_atom_name_reply(connection_.get(), cookie, nullptr));
+    if (!reply) return {};
+    return {xcb_get_atom_name_name(reply.get()),
+            static_cast<std::size_t>(xcb_get_atom_name_name_length(reply.get()))};
+}
+
+}  // namespace kestrel::qt

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kestrel::qt {
+
+// Reads the clipboard of an X display on a connection of its own. The desktop library would wait
+// for its owner as long as that likes and take as much as it sends; here both have a limit. Not for
+// a clipboard that the caller's own thread would have to answer for.
+// Protocol: Inter-Client Communication Conventions Manual 2.0, section 2 (selections, INCR).
+class XSelection {
+  public:
+    using Clock = std::chrono::steady_clock;
+
+    // What follows is over when `deadline` has come.
+    explicit XSelection(Clock::time_point deadline);
+
+    // The formats that the owner offers, by name; none when nobody owns the clipboard.
+    std::vector<std::string> Targets();
+    // The clipboard in one of these formats; nothing when the owner fails, is late or sends more
+    // than `limit` bytes.
+    std::optional<std::vector<std::uint8_t>> Read(const std::string& target, std::size_t limit);
+
+  private:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+    };
+    struct Property {
+        xcb_atom_t type = XCB_ATOM_NONE;
+        std::vector<std::uint8_t> bytes;
+    };
+
+    xcb_atom_t Atom(std::string_view name);
+    std::string NameOf(xcb_atom_t atom);
+    std::optional<Property> Convert(xcb_atom_t target, std::size_t limit);
+    std::optional<std::vector<std::uint8_t>> ReadParts(std::size_t limit);
+    std::optional<Property> TakeProperty(std::size_t limit);
+    // The next event of this kind; null when it does not come in time.
+    std::shared_ptr<xcb_generic_event_t> WaitFor(std::uint8_t kind);
+
+    Clock::time_point deadline_;
+    std::unique_ptr<xcb_connection_t, Disconnect> connection_;
+    xcb_window_t window_ = XCB_NONE;
+    xcb_atom_t clipboard_ = XCB_ATOM_NONE;
+    xcb_atom_t property_ = XCB_ATOM_NONE;
+};
+
+}  // namespace kestrel::qt
