@@ -149,6 +149,8 @@ void DocumentCommands::SaveInPlace() {
 }
 
 void DocumentCommands::WriteIcoFile(const std::string& path) {
+    // What floats over the icon is part of what the user sees.
+    if (editor_.Selected().SelectionFloating()) editor_.Selected().DropSelection();
     window_.ShowHourglass(true);
     document_.FileTitle = system::FileTitleOf(path);
     editor_.ShowTitle();

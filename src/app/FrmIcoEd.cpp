@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include "app/ApplicationIcon.h"
+#include "app/FrmClipData.h"
 #include "app/frmAbout.h"
 #include "i18n/Language.h"
 #include "platform/qt/Pictures.h"
@@ -61,6 +62,7 @@ QIcon ProgramIcon() {
 
 FrmIcoEd::FrmIcoEd(const MainServices& services)
     : help_(services.help),
+      clipboard_(services.clipboard),
       pictures_(resources::kImageList, resources::kImageListInks),
       wellPictures_(resources::kWellPictures, resources::kImageListInks),
       barView_(menus_.SmartMenuXP1, pictures_),
@@ -72,6 +74,7 @@ FrmIcoEd::FrmIcoEd(const MainServices& services)
 
 // The controls show what the members hold: they go first.
 FrmIcoEd::~FrmIcoEd() {
+    clipboard_.onChanged = nullptr;
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }
 
@@ -97,6 +100,7 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     tmr_->setSingleShot(true);
     connect(tmr_, &QTimer::timeout, this, [this] { EnableGrid(true); });
 
+    clipboard_.onChanged = [this] { RefreshEditCommands(); };
     commands_.Recent().LoadRecentFiles();
     editor_.ResetDocument();
     PlaceOnScreen();
@@ -192,6 +196,10 @@ void FrmIcoEd::ProcessPendingEvents() {
 void FrmIcoEd::Unload() {
     // After the command that asked for it has returned.
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+std::optional<editing::PasteFit> FrmIcoEd::AskFit(editing::PictureSize picture) {
+    return FrmClipData(this, picture).Ask();
 }
 
 void FrmIcoEd::ShowAbout() {

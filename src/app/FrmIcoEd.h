@@ -48,6 +48,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -74,7 +75,8 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void BuildMenus();
     void BuildToolbar();
     void DisableMissingCommands();
-    void ShowEditingPopup();
+    void ShowEditingPopupByKey();
+    bool MoveSelection(const QKeyEvent& event);
     void Toolbar1_MouseMove(int x);
     // FrmIcoEd_Grid.cpp
     void ConnectGrid();
@@ -88,6 +90,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void RepaintTools() override;
     void SetToolTipOfTools(std::string_view text) override;
     void RepaintWells() override;
+    void ShowEditingPopup() override;
     void Beep() override;
     void RefreshEditCommands() override;
 
@@ -100,6 +103,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void SetControlToolTip(std::string_view control, std::string_view text) override;
     void EnableButton(std::string_view key, bool enabled) override;
     void SetButtonToolTip(std::string_view key, std::string_view text) override;
+    std::optional<editing::PasteFit> AskFit(editing::PictureSize picture) override;
     void ShowAbout() override;
     void LanguageChanged() override;
 
@@ -113,8 +117,10 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     QTimer* tmr_ = nullptr;
     std::map<editing::StatusPanel, QString> readouts_;
     bool commandRunning_ = false;
+    std::optional<editing::GridCursor> gridCursor_;
 
     dialogs::HelpViewer& help_;
+    desktop::Clipboard& clipboard_;
     controls::ImageList pictures_;
     controls::ImageList wellPictures_;
     MainMenus menus_;

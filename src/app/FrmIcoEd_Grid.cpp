@@ -1,5 +1,6 @@
 #include <QCursor>
 #include <QPixmap>
+#include <utility>
 
 #include "app/FrmIcoEd.h"
 #include "app/FrmMouseButtons.h"
@@ -27,6 +28,8 @@ QCursor ToCursor(GridCursor cursor) {
     switch (cursor) {
         case GridCursor::Cross:
             return Qt::CrossCursor;
+        case GridCursor::Move:
+            return Qt::SizeAllCursor;
         case GridCursor::Pencil:
             return ReadCursor(kPencilCursor, kPencilHotX, kPencilHotY);
         case GridCursor::Eraser:
@@ -63,7 +66,8 @@ void FrmIcoEd::RepaintView(document::View view, gdi::Rect area) {
 }
 
 void FrmIcoEd::SetGridCursor(GridCursor cursor) {
-    picMain_->setCursor(ToCursor(cursor));
+    // The selection asks for it at every move of the pointer.
+    if (std::exchange(gridCursor_, cursor) != cursor) picMain_->setCursor(ToCursor(cursor));
 }
 
 void FrmIcoEd::SetStatusPanel(StatusPanel panel, std::string_view text) {
@@ -83,6 +87,12 @@ void FrmIcoEd::ClearStatusPanels() {
 
 void FrmIcoEd::mouseMoveEvent(QMouseEvent* /*event*/) {
     ClearStatusPanels();
+}
+
+// On the window's own background it puts the selection down. Controls hand on what they do not use.
+void FrmIcoEd::mouseReleaseEvent(QMouseEvent* event) {
+    if (!rect().contains(event->pos()) || childAt(event->pos()) != nullptr) return;
+    RunCommand([this] { editor_.Selected().DropSelection(); });
 }
 
 }  // namespace kestrel::app

@@ -1,6 +1,7 @@
 #include <QContextMenuEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <algorithm>
 
 #include "app/FrmIcoEd.h"
 #include "i18n/Language.h"
@@ -65,6 +66,10 @@ QMenu* FrmIcoEd::EditingPopup() {
 }
 
 void FrmIcoEd::ShowEditingPopup() {
+    EditingPopup()->popup(QCursor::pos());
+}
+
+void FrmIcoEd::ShowEditingPopupByKey() {
     const bool overGrid = picMain_->underMouse();
     EditingPopup()->popup(overGrid ? QCursor::pos()
                                    : picMain_->mapToGlobal(picMain_->rect().center()));
@@ -72,22 +77,40 @@ void FrmIcoEd::ShowEditingPopup() {
 
 void FrmIcoEd::contextMenuEvent(QContextMenuEvent* event) {
     // The right mouse button draws.
-    if (event->reason() == QContextMenuEvent::Keyboard) ShowEditingPopup();
+    if (event->reason() == QContextMenuEvent::Keyboard) ShowEditingPopupByKey();
 }
 
 void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
-        ShowEditingPopup();
+        ShowEditingPopupByKey();
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
         menuBar_->setActiveAction(menuBar_->actions().constFirst());
     } else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) {
         RunCommand([this] { dispatch_.SmartMenuXP1_Click("mnuHelp2"); });
     } else if (event->key() == Qt::Key_Escape) {
-        // Back from the toolbar.
+        // From the toolbar back to the window, from there out of the selection.
+        if (hasFocus()) RunCommand([this] { editor_.Selected().DropSelection(); });
         setFocus();
-    } else {
+    } else if (!MoveSelection(*event)) {
         QWidget::keyPressEvent(event);
     }
+}
+
+// The arrow keys; false for any other key.
+bool FrmIcoEd::MoveSelection(const QKeyEvent& event) {
+    constexpr struct {
+        Qt::Key key;
+        int columns;
+        int rows;
+    } kArrows[] = {
+        {Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}};
+    const auto* const arrow = std::find_if(std::begin(kArrows), std::end(kArrows),
+                                           [&](const auto& a) { return a.key == event.key(); });
+    const bool modified = (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
+    if (arrow == std::end(kArrows) || modified) return false;
+    RunCommand([&] { editor_.Selected().MoveBy(arrow->columns, arrow->rows); });
+    RefreshEditCommands();
+    return true;
 }
 
 void FrmIcoEd::SetControlCaption(std::string_view control, std::string_view text) {

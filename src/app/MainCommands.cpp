@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "app/ErrorBox.h"
 #include "i18n/Language.h"
 
 namespace kestrel::app {
@@ -13,6 +14,8 @@ MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenu
       window_(window),
       menus_(menus),
       settings_(services.settings),
+      boxes_(services.boxes),
+      clipboard_(editor, services.clipboard, window),
       recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
               services.systemLcid),
       documents_(editor, window, recent_, services.cdb, services.boxes, services.files),
@@ -25,21 +28,56 @@ void MainCommands::mnuRecent_Click(int slot) {
 }
 
 void MainCommands::mnuEdit_Click() {
+    const bool canPaste = clipboard_.CanPaste();
+    const bool isSelected = editor_.Selected().Exists();
+    // Keys of the menu bar, the pop-up and the toolbar.
     const struct {
         std::string_view item;
+        std::string_view popupItem;
         std::string_view button;
         bool enabled;
-    } commands[] = {{"mnuEditOpts0", "Undo", editor_.History().CanUndo()},
-                    {"mnuEditOpts1", "Redo", editor_.History().CanRedo()}};
+    } commands[] = {{"mnuEditOpts0", {}, "Undo", editor_.CanUndo()},
+                    {"mnuEditOpts1", {}, "Redo", editor_.CanRedo()},
+                    {"mnuEditOpts3", "mnuPopup2Opts0", "Cut", isSelected},
+                    {"mnuEditOpts4", "mnuPopup2Opts1", "Copy", isSelected},
+                    {"mnuEditOpts5", "mnuPopup2Opts2", "Paste", canPaste},
+                    {"mnuEditOpts6", {}, {}, canPaste},
+                    {"mnuEditOpts7", "mnuPopup2Opts3", "Delete", isSelected}};
     for (const auto& command : commands) {
         menus_.SmartMenuXP1.SetEnabled(command.item, command.enabled);
+        menus_.SmartMenuXP2.SetEnabled(command.popupItem, command.enabled);
         window_.EnableButton(command.button, command.enabled);
     }
 }
 
 void MainCommands::mnuEditOpts_Click(int index) {
-    if (index == 0) editor_.PopUndoSnapshot();
-    if (index == 1) editor_.PopRedoSnapshot();
+    switch (index) {
+        case 0:
+            return editor_.PopUndoSnapshot();
+        case 1:
+            return editor_.PopRedoSnapshot();
+        case 3:
+            return clipboard_.Cut();
+        case 4:
+            return clipboard_.Copy();
+        case 5:
+            return Paste(editing::PasteMode::Transparent);
+        case 6:
+            return Paste(editing::PasteMode::Opaque);
+        case 7:
+            return editor_.Selected().Delete();
+        case 9:
+            return editor_.SelectAll();
+        default:
+            return;
+    }
+}
+
+void MainCommands::Paste(editing::PasteMode mode) {
+    const Result<void> pasted = clipboard_.Paste(mode);
+    if (!pasted && pasted.error().number != kDialogCancelled) {
+        ShowError(boxes_, std::string(i18n::kCannotPaste.Now()));
+    }
 }
 
 void MainCommands::mnuLanguageOpts_Click(int index) {

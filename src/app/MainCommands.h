@@ -8,6 +8,7 @@
 #include "app/ModRecent.h"
 #include "app/Settings.h"
 #include "app/ShellCommands.h"
+#include "editing/ClipboardCommands.h"
 #include "editing/Editor.h"
 #include "i18n/ModLanguage.h"
 #include "platform/controls/SmartMenuXP.h"
@@ -16,7 +17,9 @@
 namespace kestrel::app {
 
 // What the commands need of the main window.
-class MainWindow : public DocumentWindow, public i18n::CaptionedWindow {
+class MainWindow : public DocumentWindow,
+                   public i18n::CaptionedWindow,
+                   public editing::PasteDialog {
   public:
     // A button of the toolbar, by its key.
     virtual void EnableButton(std::string_view key, bool enabled) = 0;
@@ -29,6 +32,7 @@ class MainWindow : public DocumentWindow, public i18n::CaptionedWindow {
 struct MainServices {
     dialogs::FileDialogs& cdb;
     dialogs::ColorDialog& colors;
+    desktop::Clipboard& clipboard;
     dialogs::MessageBoxes& boxes;
     dialogs::HelpViewer& help;
     system::FileSystem& files;
@@ -71,10 +75,14 @@ class MainCommands : public CommandHandlers {
     void mnuAbout_Click() override { window_.ShowAbout(); }
 
   private:
+    void Paste(editing::PasteMode mode);
+
     editing::Editor& editor_;
     MainWindow& window_;
     MainMenus& menus_;
     Settings& settings_;
+    dialogs::MessageBoxes& boxes_;
+    editing::ClipboardCommands clipboard_;
     ModRecent recent_;
     DocumentCommands documents_;
     ShellCommands shell_;

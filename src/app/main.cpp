@@ -6,6 +6,7 @@
 #include "app/Settings.h"
 #include "app/Startup.h"
 #include "i18n/DesktopTexts.h"
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtColorDialog.h"
 #include "platform/qt/QtFileDialogs.h"
 #include "platform/qt/QtHelpViewer.h"
@@ -68,12 +69,13 @@ int main(int argc, char* argv[]) {
 
     qt::QtFileDialogs cdb;
     qt::QtColorDialog colors;
+    qt::QtClipboard clipboard;
     system::DesktopShell shell;
     qt::QtHelpViewer help(shell);
     const app::ProgramFolders folders{.application = facts.applicationFolder,
                                       .windows = values->WindowsFolder};
-    app::FrmIcoEd window(
-        {cdb, colors, boxes, help, files, registry, shell, settings, folders, facts.systemLcid});
+    app::FrmIcoEd window({cdb, colors, clipboard, boxes, help, files, registry, shell, settings,
+                          folders, facts.systemLcid});
     boxes.SetOwner(&window);
     cdb.SetOwner(&window);
     colors.SetOwner(&window);

@@ -1,5 +1,8 @@
 #include "editing/Editor.h"
 
+#include <utility>
+
+#include "document/GridCoordinates.h"
 #include "i18n/Messages.h"
 
 namespace kestrel::editing {
@@ -8,18 +11,19 @@ Editor::Editor(EditorWindow& window, gdi::COLORREF windowColor)
     : window_(window),
       canvas_(document_, window, windowColor),
       wells_(window),
-      tools_(window, windowColor),
       history_(document_),
+      selection_(document_, canvas_, history_, window),
+      tools_(window, selection_, windowColor),
       readout_(document_, window) {
-    const ToolParts parts{document_, canvas_, wells_, history_, window};
-    for (const ToolRow& row : ToolTable()) {
-        if (row.make != nullptr) gridTools_[row.id] = row.make(parts);
-    }
+    const ToolParts parts{document_, canvas_, wells_, history_, selection_, window};
+    for (const ToolRow& row : ToolTable())
+        gridTools_[row.id] = row.make(parts);
     history_.PushUndoSnapshot();
 }
 
 void Editor::ResetDocument() {
     gestureButton_ = Button::None;
+    selection_.Forget();
     document_.Reset();
     ShowTitle();
     tools_.SelectTool(ToolId::Pencil);
@@ -44,11 +48,14 @@ void Editor::PicMain_MouseDown(Button button, int x, int y) {
     }
     gestureButton_ = button;
     press_ = {x, y};
-    const auto tool = gridTools_.find(tools_.CurrentTool());
-    gestureTool_ = tool == gridTools_.end() ? nullptr : tool->second.get();
+    // A marquee begins at a grid line.
+    if (tools_.CurrentTool() == ToolId::Selection && button == Button::Left) {
+        document::SnapToNearestLine(press_.x, press_.y);
+    }
+    gestureTool_ = gridTools_.at(tools_.CurrentTool()).get();
     ShowReadout(x, y);
     canvas_.SetPenColor(wells_.PenColor(button));
-    if (gestureTool_ != nullptr) gestureTool_->Press(button, x, y);
+    gestureTool_->Press(button, x, y);
 }
 
 void Editor::PicMain_MouseMove(HeldButtons held, int x, int y) {
@@ -56,7 +63,7 @@ void Editor::PicMain_MouseMove(HeldButtons held, int x, int y) {
     if (gestureButton_ != Button::None && !held.Has(gestureButton_)) EndGesture();
     ShowReadout(x, y);
     if (gestureButton_ == Button::None || !held.IsOnly(gestureButton_)) return;
-    if (gestureTool_ != nullptr) gestureTool_->Move(gestureButton_, x, y);
+    gestureTool_->Move(gestureButton_, x, y);
 }
 
 void Editor::PicMain_MouseUp(Button button, int x, int y) {
@@ -65,25 +72,50 @@ void Editor::PicMain_MouseUp(Button button, int x, int y) {
     if (x != pointer_.x || y != pointer_.y) {
         PicMain_MouseMove({button == Button::Left, button == Button::Right}, x, y);
     }
-    gestureButton_ = Button::None;
-    if (gestureTool_ == nullptr) return;
-    const Outcome outcome = gestureTool_->Release(button, x, y);
-    if (outcome == Outcome::Changed) RecordChange();
-    if (outcome == Outcome::HandBack) tools_.RestoreLastDrawingTool();
+    if (ReleaseTool(button, x, y) == Outcome::OpenPopup) window_.ShowEditingPopup();
 }
 
 void Editor::EndGesture() {
-    PicMain_MouseUp(gestureButton_, pointer_.x, pointer_.y);
+    // The button is still held: a pop-up would come unasked.
+    if (gestureButton_ != Button::None) ReleaseTool(gestureButton_, pointer_.x, pointer_.y);
+}
+
+Outcome Editor::ReleaseTool(Button button, int x, int y) {
+    gestureButton_ = Button::None;
+    const Outcome outcome = gestureTool_->Release(button, x, y);
+    if (outcome == Outcome::Changed) RecordChange();
+    if (outcome == Outcome::HandBack) tools_.RestoreLastDrawingTool();
+    // What lies under the pointer may have changed.
+    RefreshReadout();
+    return outcome;
 }
 
 void Editor::PopUndoSnapshot() {
     EndGesture();
+    selection_.DropSelection();
     if (history_.PopUndoSnapshot()) canvas_.RedrawAll();
 }
 
 void Editor::PopRedoSnapshot() {
     EndGesture();
+    selection_.DropSelection();
     if (history_.PopRedoSnapshot()) canvas_.RedrawAll();
+}
+
+bool Editor::CanUndo() {
+    if (selection_.SelectionFloating()) return true;
+    // What a gesture has changed so far is no entry of its own.
+    return gestureButton_ == Button::None ? history_.CanUndo() : history_.UndoCount() > 1;
+}
+
+void Editor::SelectAll() {
+    tools_.SelectTool(ToolId::Selection);
+    selection_.MarkAll();
+}
+
+void Editor::FloatSelection(gdi::Surface mask, gdi::Surface image) {
+    tools_.SelectTool(ToolId::Selection);
+    selection_.Float(std::move(mask), std::move(image));
 }
 
 void Editor::SetWindowColor(gdi::COLORREF color) {
@@ -101,16 +133,22 @@ void Editor::RefreshReadout() {
 
 void Editor::ShowReadout(int x, int y) {
     pointer_ = {x, y};
-    const bool dragging = gestureButton_ != Button::None;
-    readout_.Show(tools_.CurrentTool(), pointer_, dragging ? std::optional(press_) : std::nullopt);
+    if (tools_.CurrentTool() == ToolId::Selection) selection_.UpdateMoveCursor(x, y);
+    readout_.Show(tools_.CurrentTool(), pointer_,
+                  IsSizing() ? std::optional(press_) : std::nullopt);
+}
+
+// What is moved keeps its size.
+bool Editor::IsSizing() const {
+    const bool moving = tools_.CurrentTool() == ToolId::Selection &&
+                        gestureButton_ == Button::Left && selection_.HasMoveCursor();
+    return gestureButton_ != Button::None && !moving;
 }
 
 void Editor::RecordChange() {
     history_.PushUndoSnapshot();
     document_.Modified = true;
     window_.RefreshEditCommands();
-    // What lies under the pointer has changed.
-    RefreshReadout();
 }
 
 }  // namespace kestrel::editing

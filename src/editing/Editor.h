@@ -10,6 +10,7 @@
 #include "editing/GridTool.h"
 #include "editing/ModCollections.h"
 #include "editing/PointerReadout.h"
+#include "editing/Selection.h"
 #include "editing/ToolPalette.h"
 
 namespace kestrel::editing {
@@ -26,6 +27,7 @@ class Editor {
     ColorWells& Wells() { return wells_; }
     ToolPalette& Tools() { return tools_; }
     ModCollections& History() { return history_; }
+    Selection& Selected() { return selection_; }
 
     // A new, empty icon, with tools, colours and history as at start-up.
     void ResetDocument();
@@ -43,9 +45,18 @@ class Editor {
     // away in its midst, such as a command by keyboard.
     void EndGesture();
 
-    // One step of the history back or forward; nothing where there is none.
+    // One step of the history back or forward, after the selection is dropped; nothing where there
+    // is none.
     void PopUndoSnapshot();
     void PopRedoSnapshot();
+    // Whether they can do something. To drop a floating selection makes the entry to go back from.
+    bool CanUndo();
+    bool CanRedo() const { return history_.CanRedo(); }
+
+    // Selects the whole icon, with the Selection tool.
+    void SelectAll();
+    // Selects these planes, floating at the top left corner, with the Selection tool.
+    void FloatSelection(gdi::Surface mask, gdi::Surface image);
 
     // The desktop's window colour has changed.
     void SetWindowColor(gdi::COLORREF color);
@@ -54,20 +65,22 @@ class Editor {
     void ShowTitle();
 
   private:
+    Outcome ReleaseTool(Button button, int x, int y);
     void ShowReadout(int x, int y);
+    bool IsSizing() const;
     void RecordChange();
 
     EditorWindow& window_;
     document::IconDocument document_;
     document::Canvas canvas_;
     ColorWells wells_;
-    ToolPalette tools_;
     ModCollections history_;
+    Selection selection_;
+    ToolPalette tools_;
     PointerReadout readout_;
     std::map<ToolId, std::unique_ptr<GridTool>> gridTools_;
 
-    // The gesture under way: its button (None: there is none), where it began, and its tool, which
-    // may be missing.
+    // The gesture under way: its button (None: there is none), where it began, and its tool.
     Button gestureButton_ = Button::None;
     GridPoint press_;
     GridTool* gestureTool_ = nullptr;

@@ -8,7 +8,7 @@
 namespace kestrel::editing {
 
 // Pointer shapes over the editing grid.
-enum class GridCursor { Cross, Pencil, Eraser, Picker, FloodFill };
+enum class GridCursor { Cross, Move, Pencil, Eraser, Picker, FloodFill };
 
 // The panels of the status bar, from the left.
 enum class StatusPanel { Hint = 1, Pixel = 2, Cell = 3, DragSize = 4, Zoom = 5 };
@@ -26,6 +26,8 @@ class EditorWindow : public document::CanvasWindow {
     virtual void SetToolTipOfTools(std::string_view text) = 0;
     // A colour well has changed.
     virtual void RepaintWells() = 0;
+    // Opens the editing pop-up at the pointer.
+    virtual void ShowEditingPopup() = 0;
     virtual void Beep() = 0;
     // The enabled state of the Edit commands may have changed.
     virtual void RefreshEditCommands() = 0;

@@ -6,6 +6,7 @@
 #include "editing/EditorWindow.h"
 #include "editing/ModCollections.h"
 #include "editing/Mouse.h"
+#include "editing/Selection.h"
 
 namespace kestrel::editing {
 
@@ -15,12 +16,14 @@ struct ToolParts {
     document::Canvas& canvas;
     ColorWells& wells;
     ModCollections& history;
+    Selection& selection;
     EditorWindow& window;
 };
 
 // What a gesture came to. A changed image is recorded, also where it looks as before; after
-// HandBack the drawing tool that was used before is current again.
-enum class Outcome { Nothing, Changed, HandBack };
+// HandBack the drawing tool that was used before is current again; OpenPopup asks for the editing
+// pop-up at the pointer.
+enum class Outcome { Nothing, Changed, HandBack, OpenPopup };
 
 // A tool of the editing grid. Points are in grid units and may lie outside the grid while the mouse
 // is captured. The editor calls Press once, then Move for each pointer event, then Release where

@@ -1,16 +1,9 @@
 #pragma once
 
+#include "editing/Corners.h"
 #include "editing/GridTool.h"
 
 namespace kestrel::editing {
-
-// Two corners of a figure, in either order: grid units or icon coordinates.
-struct Corners {
-    int x1 = 0;
-    int y1 = 0;
-    int x2 = 0;
-    int y2 = 0;
-};
 
 // Which pixels of a closed figure are drawn: the outline alone, the inside in the same colour, or
 // the inside in the other button's colour.

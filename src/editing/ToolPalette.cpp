@@ -29,8 +29,9 @@ constexpr int TopOf(ToolId tool) {
 
 }  // namespace
 
-ToolPalette::ToolPalette(EditorWindow& window, gdi::COLORREF windowColor)
+ToolPalette::ToolPalette(EditorWindow& window, Selection& selection, gdi::COLORREF windowColor)
     : window_(window),
+      selection_(selection),
       strip_(ToolStrip()),
       picTools_(kColumns * kCellWidth, kRows * kCellHeight, windowColor) {
     Paint();
@@ -42,6 +43,7 @@ std::optional<ToolId> ToolPalette::ToolAt(int x, int y) {
 }
 
 void ToolPalette::SelectTool(ToolId tool) {
+    selection_.DropSelection();
     if (tool != ToolId::Selection && tool != ToolId::ColorPicker) lastDrawingTool_ = tool;
     currentTool_ = tool;
     Paint();

@@ -4,6 +4,7 @@
 
 #include "editing/EditorWindow.h"
 #include "editing/Mouse.h"
+#include "editing/Selection.h"
 #include "editing/ToolId.h"
 #include "platform/gdi/Surface.h"
 
@@ -13,7 +14,7 @@ namespace kestrel::editing {
 // pressed with a sunken edge. Points are in pixels of the palette.
 class ToolPalette {
   public:
-    ToolPalette(EditorWindow& window, gdi::COLORREF windowColor);
+    ToolPalette(EditorWindow& window, Selection& selection, gdi::COLORREF windowColor);
 
     // What the palette looks like.
     const gdi::Surface& PicTools() const { return picTools_; }
@@ -22,7 +23,7 @@ class ToolPalette {
     // The last tool other than Selection and Color picker.
     ToolId LastDrawingTool() const { return lastDrawingTool_; }
 
-    // Makes a tool current, shows it so and gives the grid its pointer shape.
+    // Makes a tool current, shows it so and gives the grid its pointer shape. Drops the selection.
     void SelectTool(ToolId tool);
     void RestoreLastDrawingTool() { SelectTool(lastDrawingTool_); }
 
@@ -45,6 +46,7 @@ class ToolPalette {
     void EndPress();
 
     EditorWindow& window_;
+    Selection& selection_;
     gdi::Surface strip_;
     gdi::Surface picTools_;
     ToolId currentTool_ = ToolId::Pencil;

@@ -9,6 +9,7 @@
 #include "editing/LineTool.h"
 #include "editing/Pencil.h"
 #include "editing/RectangleTool.h"
+#include "editing/SelectionTool.h"
 
 namespace kestrel::editing {
 
@@ -26,7 +27,7 @@ constexpr auto kTools = std::to_array<ToolRow>({
     {ToolId::Selection, {"Selection", "矩形选框工具"},
      {"Selects a rectangular area editing ", "选择矩形区域进行编辑"},
      {"Right-Click Popup Menu", "点击鼠标右键 弹出菜单"},
-     GridCursor::Cross, DragSize::Steps, nullptr},
+     GridCursor::Cross, DragSize::Steps, Make<SelectionTool>},
     {ToolId::Pencil, {"Pencil", "画笔工具"},
      {"Draws a free-form line,one pixel width", "画自由线条，一个像素宽"},
      {"Left-Click (Forecolor) Or Right-Click (Backcolor)", "点击鼠标左键 (前景色) 或 点击鼠标右键 (背景色)"},

@@ -23,7 +23,6 @@ struct ToolRow {
     i18n::Text gridHint;
     GridCursor cursor{};
     DragSize dragSize{};
-    // Null for a tool that does nothing on the grid.
     std::unique_ptr<GridTool> (*make)(const ToolParts& parts){};
 };
 

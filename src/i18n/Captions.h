@@ -12,6 +12,16 @@ inline constexpr Text kDefaultColors{"Select Black and White colors", "默认前
 inline constexpr Text kActualSize{"Actual Size", "图标实际大小"};
 inline constexpr Text kTransparent{"Transparent", "透明"};
 
+// The paste-fitting dialog.
+inline constexpr Text kPasteTitle{"KestrelIconEditor - Paste", "KestrelIconEditor - 粘贴"};
+inline constexpr Text kPasteTooLarge{"The image on the clipboard is too large.",
+                                     "对于剪切板来说该尺寸太大。"};
+inline constexpr Text kPasteChoice{"What would you like to do?", "选择方式"};
+inline constexpr Text kShrinkToFit{"Shrink to fit.", "收缩尺寸"};
+inline constexpr Text kShrinkKeepingAspect{"Shrink to fit keeping aspect.", "保持原比例"};
+inline constexpr Text kOk{"OK", "确定"};
+inline constexpr Text kCancel{"Cancel", "取消"};
+
 // The About box.
 inline constexpr Text kAboutTitle{"About KestrelIconEditor", "关于 KestrelIconEditor"};
 inline constexpr Text kAboutVersion{"Version ", "版本 "};

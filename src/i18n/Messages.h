@@ -47,6 +47,11 @@ std::string CannotOpenHelp(std::string_view path);
 std::string CannotOpenHomePage(std::string_view url);
 std::string CannotStart(std::string_view program);
 
+// Clipboard.
+inline constexpr Text kCannotPaste{
+    "The image on the clipboard is gone, damaged or too large.\r\n\r\nUnable to paste.",
+    "剪切板中的图像已不存在, 已损坏或过大.\r\n\r\n不能粘贴."};
+
 // The warning before a save replaces a file that held several icons.
 std::string SeveralIcons(std::string_view fileTitle);
 

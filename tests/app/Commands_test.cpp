@@ -71,6 +71,12 @@ TEST_F(DispatchTest, EveryKeyCallsItsHandlerAlone) {
                      {"mnuExit", "Exit;"},
                      {"mnuEditOpts0", "Edit 0;"},
                      {"mnuEditOpts1", "Edit 1;"},
+                     {"mnuEditOpts3", "Edit 3;"},
+                     {"mnuEditOpts4", "Edit 4;"},
+                     {"mnuEditOpts5", "Edit 5;"},
+                     {"mnuEditOpts6", "Edit 6;"},
+                     {"mnuEditOpts7", "Edit 7;"},
+                     {"mnuEditOpts9", "Edit 9;"},
                      {"mnuToolsOpts5", "Sibling 0;"},
                      {"mnuToolsOpts6", "Sibling 1;"},
                      {"mnuToolsOpts7", "Sibling 2;"},
@@ -79,13 +85,22 @@ TEST_F(DispatchTest, EveryKeyCallsItsHandlerAlone) {
                      {"mnuHomePage", "HomePage;"},
                      {"mnuHelp2", "Help;"},
                      {"mnuAbout", "About;"}}));
-    EXPECT_EQ(CallsOf(i18n::PopupMenuRows(), &CommandDispatch::SmartMenuXP2_Click), Calls{});
+    EXPECT_EQ(CallsOf(i18n::PopupMenuRows(), &CommandDispatch::SmartMenuXP2_Click),
+              (Calls{{"mnuPopup2Opts0", "Edit 3;"},
+                     {"mnuPopup2Opts1", "Edit 4;"},
+                     {"mnuPopup2Opts2", "Edit 5;"},
+                     {"mnuPopup2Opts3", "Edit 7;"},
+                     {"mnuPopup2Opts4", "Edit 9;"}}));
     EXPECT_EQ(CallsOf(i18n::ToolbarButtons(), &CommandDispatch::Toolbar1_ButtonClick),
               (Calls{{"New", "New;"},
                      {"Open", "Open;"},
                      {"Save", "Save;"},
                      {"Undo", "Edit 0;"},
                      {"Redo", "Edit 1;"},
+                     {"Cut", "Edit 3;"},
+                     {"Copy", "Edit 4;"},
+                     {"Paste", "Edit 5;"},
+                     {"Delete", "Edit 7;"},
                      {"Help", "Help;"}}));
 }
 

@@ -29,7 +29,8 @@ class PaletteTest : public testing::Test {
 
     static constexpr gdi::COLORREF kGround = 0xC8D0D4;
     test::RecordingEditorWindow window_;
-    ToolPalette palette_{window_, kGround};
+    Editor editor_{window_, kGround};
+    ToolPalette& palette_ = editor_.Tools();
 };
 
 TEST_F(PaletteTest, EveryCellSelectsItsTool) {

@@ -218,8 +218,8 @@ TEST_F(ToolsTest, TheSizeOfADragIsShownWhereItIsPrinted) {
         {ToolId::Ellipse, {95, 95}, {25, 85}, "8 , 2"},
         {ToolId::Rectangle, {25, 35}, {-400, 900}, "3 , 29"},
         {ToolId::Pencil, {25, 35}, {95, 35}, ""},
-        {ToolId::Selection, {25, 35}, {95, 35}, "7 , 0"},
-        {ToolId::Selection, {25, 35}, {-1, 320}, "2 , 29"},
+        {ToolId::Selection, {25, 35}, {95, 35}, "6 , 1"},
+        {ToolId::Selection, {25, 35}, {-1, 320}, "3 , 28"},
         {ToolId::FloodFill, {25, 35}, {95, 35}, ""},
     };
     for (const auto& c : cases) {

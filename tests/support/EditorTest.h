@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "editing/Editor.h"
+#include "platform/gdi/Draw.h"
 #include "tests/support/EditorRecorder.h"
 #include "tests/support/PictureText.h"
 
@@ -31,7 +32,15 @@ inline void Stroke(editing::Editor& editor, editing::Button button,
     editor.PicMain_MouseUp(button, last.x, last.y);
 }
 
-// Whether the views show what a complete redraw of the planes would.
+// What a dotted marquee does to a grid, or takes away again.
+inline void InvertMarquee(gdi::Surface& grid, const editing::Corners& marquee) {
+    grid.state.drawMode = gdi::DrawMode::Invert;
+    grid.state.lineStyle = gdi::LineStyle::Dot;
+    gdi::DrawBox(grid, marquee.x1, marquee.y1, marquee.x2, marquee.y2, gdi::kBlack);
+    grid.state = {};
+}
+
+// Whether the views show what a complete redraw of the planes and the selection would.
 inline testing::AssertionResult ViewsAreFresh(editing::Editor& editor) {
     const document::Canvas& shown = editor.Views();
     static RecordingEditorWindow window;
@@ -40,9 +49,13 @@ inline testing::AssertionResult ViewsAreFresh(editing::Editor& editor) {
     icon = editor.Document();
     fresh.SetWindowColor(shown.PicIcon.BackColor());
     fresh.RedrawAll();
-    window.repainted.clear();
-    if (auto same = ComparePicture(shown.PicMain, fresh.PicMain); !same) return same << " (grid)";
     if (auto same = ComparePicture(shown.PicMainCopy, fresh.PicMainCopy); !same) return same;
+    const editing::Selection& selection = editor.Selected();
+    if (selection.SelectionFloating()) selection.CompositeOver(icon);
+    fresh.RedrawAll();
+    window.repainted.clear();
+    if (selection.Exists()) InvertMarquee(fresh.PicMain, selection.Marquee());
+    if (auto same = ComparePicture(shown.PicMain, fresh.PicMain); !same) return same << " (grid)";
     return ComparePicture(shown.PicIcon, fresh.PicIcon);
 }
 

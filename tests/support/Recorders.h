@@ -34,6 +34,10 @@ class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
     void EnableButton(std::string_view key, bool enabled) override {
         buttons[std::string(key)] = enabled;
     }
+    std::optional<editing::PasteFit> AskFit(editing::PictureSize picture) override {
+        asked.push_back(picture);
+        return fit;
+    }
     void ShowAbout() override { aboutShown = true; }
     void LanguageChanged() override { languageChanged = true; }
 
@@ -43,6 +47,9 @@ class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
     bool unloaded = false;
     std::map<std::string, std::string> captions;
     std::map<std::string, bool> buttons;
+    // How a large picture is pasted; none cancels.
+    std::optional<editing::PasteFit> fit;
+    std::vector<editing::PictureSize> asked;
     bool aboutShown = false;
     bool languageChanged = false;
 };
@@ -108,6 +115,24 @@ class ScriptedColors : public dialogs::ColorDialog {
     std::optional<gdi::COLORREF> choice;
     // What was selected when the dialog opened.
     std::vector<gdi::COLORREF> asked;
+};
+
+// A clipboard of this program alone; holding nothing it fails.
+class MemoryClipboard : public desktop::Clipboard {
+  public:
+    bool HasImage() const override { return image.has_value(); }
+    Result<gdi::Surface> GetImage() override {
+        if (!image) return Fail(kInvalidPicture, "Invalid picture");
+        return *image;
+    }
+    void SetImage(const gdi::Surface& pixels) override { Offer(pixels); }
+    // As another program does.
+    void Offer(std::optional<gdi::Surface> pixels) {
+        image = std::move(pixels);
+        if (onChanged) onChanged();
+    }
+
+    std::optional<gdi::Surface> image;
 };
 
 // A disk in memory; with `writeError` set every write fails with it.

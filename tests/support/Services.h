@@ -101,13 +101,14 @@ class RecordingHelp : public dialogs::HelpViewer {
 // All that a main window is given.
 struct FakeServices {
     app::MainServices Given() {
-        return {
-            cdb, colors, boxes, help, files, registry, shell, settings, {"/program", "/windows"},
-            1033};
+        return {cdb,   colors,   clipboard, boxes,    help,
+                files, registry, shell,     settings, {"/program", "/windows"},
+                1033};
     }
 
     ScriptedDialogs cdb;
     ScriptedColors colors;
+    MemoryClipboard clipboard;
     ScriptedBoxes boxes;
     RecordingHelp help;
     MemoryFiles files;

@@ -1,0 +1,93 @@
+#include "app/FrmClipData.h"
+
+#include <QGroupBox>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include "i18n/Captions.h"
+#include "platform/qt/CloseKey.h"
+#include "platform/qt/Text.h"
+
+namespace kestrel::app {
+
+namespace {
+
+using qt::ToText;
+
+constexpr QSize kClientSize(268, 168);
+// Where the two lines of text have their top left corners.
+constexpr QPoint kMessage(8, 8);
+constexpr QPoint kSize(8, 21);
+constexpr QRect kFrame1(8, 42, 252, 84);
+constexpr QRect kCmdOk(92, 134, 80, 26);
+constexpr QRect kCmdCancel(180, 134, 80, 26);
+constexpr int kFontPixels = 12;
+constexpr int kMessageFontPixels = 11;
+
+QFont FontOf(const QWidget& widget, int pixels) {
+    QFont font = widget.font();
+    font.setPixelSize(pixels);
+    return font;
+}
+
+}  // namespace
+
+FrmClipData::FrmClipData(QWidget* owner, editing::PictureSize picture) : QDialog(owner) {
+    setWindowTitle(ToText(i18n::kPasteTitle.Now()));
+    sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
+    setFont(FontOf(*this, kFontPixels));
+    setFixedSize(kClientSize);
+    LayOutControls();
+    qt::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);
+    PlaceOnScreen();
+}
+
+void FrmClipData::LayOutControls() {
+    auto* frame1 = new QGroupBox(ToText(i18n::kPasteChoice.Now()), this);
+    frame1->setObjectName("Frame1");
+    frame1->setGeometry(kFrame1);
+    auto* choices = new QVBoxLayout(frame1);
+    for (std::size_t i = 0; i < opt_.size(); ++i) {
+        const i18n::Text& caption = i == 0 ? i18n::kShrinkToFit : i18n::kShrinkKeepingAspect;
+        opt_[i] = new QRadioButton(ToText(caption.Now()));
+        opt_[i]->setObjectName(QStringLiteral("Opt%1").arg(i));
+        choices->addWidget(opt_[i]);
+    }
+    opt_[0]->setChecked(true);
+
+    auto* cmdOk = new QPushButton(ToText(i18n::kOk.Now()), this);
+    cmdOk->setObjectName("cmdOK");
+    cmdOk->setGeometry(kCmdOk);
+    cmdOk->setDefault(true);
+    connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+    auto* cmdCancel = new QPushButton(ToText(i18n::kCancel.Now()), this);
+    cmdCancel->setObjectName("cmdCancel");
+    cmdCancel->setGeometry(kCmdCancel);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+// Centred, and one third down.
+void FrmClipData::PlaceOnScreen() {
+    const QRect area = screen()->geometry();
+    move(area.x() + (area.width() - width()) / 2, area.y() + (area.height() - height()) / 3);
+}
+
+std::optional<editing::PasteFit> FrmClipData::Ask() {
+    if (exec() != QDialog::Accepted) return std::nullopt;
+    return opt_[0]->isChecked() ? editing::PasteFit::Shrink : editing::PasteFit::KeepAspect;
+}
+
+void FrmClipData::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.setFont(FontOf(*this, kMessageFontPixels));
+    const auto print = [&](QPoint at, const QString& text) {
+        painter.drawText(at + QPoint(0, painter.fontMetrics().ascent()), text);
+    };
+    print(kMessage, ToText(i18n::kPasteTooLarge.Now()));
+    print(kSize, sizeText_);
+}
+
+}  // namespace kestrel::app

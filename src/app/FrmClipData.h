@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QDialog>
+#include <array>
+#include <optional>
+
+#include "editing/PasteFit.h"
+
+class QRadioButton;
+
+namespace kestrel::app {
+
+// Asks how a picture from the clipboard that is larger than the icon shall be shrunk. Modal.
+class FrmClipData : public QDialog {
+  public:
+    FrmClipData(QWidget* owner, editing::PictureSize picture);
+
+    // Shows the dialog; none when it is closed without OK.
+    std::optional<editing::PasteFit> Ask();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    void LayOutControls();
+    void PlaceOnScreen();
+
+    QString sizeText_;
+    // In the order of PasteFit.
+    std::array<QRadioButton*, 2> opt_{};
+};
+
+}  // namespace kestrel::app

@@ -1,0 +1,49 @@
+#include "editing/ClipboardCommands.h"
+
+#include <utility>
+
+namespace kestrel::editing {
+
+namespace {
+
+constexpr gdi::COLORREF kOpaque = 0xFF000000;
+
+// The selection over white, with alpha where it covers the white.
+gdi::Surface PictureOf(const Selection& selection) {
+    const gdi::Surface& mask = selection.PicSelMask;
+    const gdi::Surface& image = selection.PicSelImage;
+    gdi::Surface picture(mask.Width(), mask.Height(), gdi::kWhite);
+    for (int y = 0; y < picture.Height(); ++y) {
+        for (int x = 0; x < picture.Width(); ++x) {
+            const gdi::COLORREF ground = gdi::kWhite & mask.GetPixel(x, y);
+            const gdi::COLORREF alpha = ground == gdi::kWhite ? 0 : kOpaque;
+            picture.Row(y)[static_cast<std::size_t>(x)] = (ground ^ image.GetPixel(x, y)) | alpha;
+        }
+    }
+    return picture;
+}
+
+}  // namespace
+
+void ClipboardCommands::Copy() {
+    if (CanCopy()) clipboard_.SetImage(PictureOf(editor_.Selected()));
+}
+
+void ClipboardCommands::Cut() {
+    Copy();
+    editor_.Selected().Delete();
+}
+
+Result<void> ClipboardCommands::Paste(PasteMode mode) {
+    const Result<gdi::Surface> picture = clipboard_.GetImage();
+    if (!picture) return tl::unexpected(picture.error());
+    const PictureSize size{picture->Width(), picture->Height()};
+    auto fit = std::optional(PasteFit::Shrink);
+    if (!FitsIcon(size)) fit = dialog_.AskFit(size);
+    if (!fit) return Fail(kDialogCancelled, "Cancel was selected");
+    PastedPlanes planes = PlanesOf(*picture, FittedSize(size, *fit), mode);
+    editor_.FloatSelection(std::move(planes.mask), std::move(planes.image));
+    return {};
+}
+
+}  // namespace kestrel::editing

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <optional>
+
+#include "editing/Editor.h"
+#include "editing/PasteFit.h"
+#include "platform/desktop/Clipboard.h"
+
+namespace kestrel::editing {
+
+// Asks how a picture on the clipboard is made to fit the icon; none: not at all.
+class PasteDialog {
+  public:
+    virtual ~PasteDialog() = default;
+    virtual std::optional<PasteFit> AskFit(PictureSize picture) = 0;
+};
+
+// The selection to the clipboard and back. Transparent pixels travel as white ones without alpha.
+class ClipboardCommands {
+  public:
+    ClipboardCommands(Editor& editor, desktop::Clipboard& clipboard, PasteDialog& dialog)
+        : editor_(editor), clipboard_(clipboard), dialog_(dialog) {}
+
+    bool CanCopy() const { return editor_.Selected().Exists(); }
+    bool CanPaste() const { return clipboard_.HasImage(); }
+
+    // Without a selection nothing happens.
+    void Copy();
+    void Cut();
+    // The picture becomes a floating selection. Fails with nothing changed when the clipboard has
+    // none that can be read, and with kDialogCancelled when the user does not want it.
+    Result<void> Paste(PasteMode mode);
+
+  private:
+    Editor& editor_;
+    desktop::Clipboard& clipboard_;
+    PasteDialog& dialog_;
+};
+
+}  // namespace kestrel::editing

@@ -1,0 +1,82 @@
+#include "editing/PasteFit.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "document/IconDocument.h"
+#include "platform/gdi/Blit.h"
+
+namespace kestrel::editing {
+
+namespace {
+
+using document::kIconSize;
+using gdi::COLORREF;
+
+constexpr unsigned kOpaqueFrom = 128;
+
+unsigned AlphaOf(COLORREF pixel) {
+    return pixel >> 24;
+}
+
+std::uint8_t OverWhite(std::uint8_t channel, unsigned alpha) {
+    constexpr unsigned kFull = 255;
+    return static_cast<std::uint8_t>((channel * alpha + kFull * (kFull - alpha) + kFull / 2) /
+                                     kFull);
+}
+
+COLORREF OverWhite(COLORREF pixel) {
+    const unsigned alpha = AlphaOf(pixel);
+    return gdi::Rgb(OverWhite(gdi::Red(pixel), alpha), OverWhite(gdi::Green(pixel), alpha),
+                    OverWhite(gdi::Blue(pixel), alpha));
+}
+
+// Both sides lose a ten-thousandth of what they were at first until the longer one fits. Every step
+// is rounded to float.
+PictureSize KeepAspect(PictureSize picture) {
+    constexpr float kSteps = 10000;
+    auto width = static_cast<float>(picture.width);
+    auto height = static_cast<float>(picture.height);
+    const float widthStep = width / kSteps;
+    const float heightStep = height / kSteps;
+    const float& longer = width < height ? height : width;
+    while (longer > kIconSize) {
+        width -= widthStep;
+        height -= heightStep;
+    }
+    // Halves go to the even neighbour.
+    const auto side = [](float v) { return static_cast<int>(std::lrint(std::max(v, 1.0F))); };
+    return {side(width), side(height)};
+}
+
+}  // namespace
+
+bool FitsIcon(PictureSize picture) {
+    return picture.width <= kIconSize && picture.height <= kIconSize;
+}
+
+PictureSize FittedSize(PictureSize picture, PasteFit fit) {
+    if (FitsIcon(picture)) return picture;
+    return fit == PasteFit::Shrink ? PictureSize{kIconSize, kIconSize} : KeepAspect(picture);
+}
+
+PastedPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode) {
+    PastedPlanes planes{gdi::Surface(size.width, size.height, gdi::kWhite),
+                        gdi::Surface(size.width, size.height, gdi::kBlack)};
+    gdi::Surface scaled = planes.image;
+    gdi::StretchBlt(scaled, scaled.Bounds(), picture, picture.Bounds(), gdi::RasterOp::Copy);
+    for (int y = 0; y < size.height; ++y) {
+        for (int x = 0; x < size.width; ++x) {
+            const COLORREF pixel = scaled.GetPixel(x, y);
+            const COLORREF color =
+                mode == PasteMode::Opaque ? OverWhite(pixel) : pixel & gdi::kWhite;
+            const bool seeThrough = AlphaOf(pixel) < kOpaqueFrom || color == gdi::kWhite;
+            if (mode == PasteMode::Transparent && seeThrough) continue;
+            planes.mask.SetPixel(x, y, gdi::kBlack);
+            planes.image.SetPixel(x, y, color);
+        }
+    }
+    return planes;
+}
+
+}  // namespace kestrel::editing

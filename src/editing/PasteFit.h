@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/gdi/Surface.h"
+
+namespace kestrel::editing {
+
+// How a picture larger than the icon is shrunk: to the icon's size, or in proportion.
+enum class PasteFit { Shrink, KeepAspect };
+
+// What is transparent in a pasted picture: white and whatever lets more than half of the ground
+// through, or nothing, the picture being laid over white.
+enum class PasteMode { Transparent, Opaque };
+
+// In pixels.
+struct PictureSize {
+    int width = 0;
+    int height = 0;
+    bool operator==(const PictureSize&) const = default;
+};
+
+bool FitsIcon(PictureSize picture);
+
+// The size to which a picture of at least 1 x 1 pixels is shrunk.
+PictureSize FittedSize(PictureSize picture, PasteFit fit);
+
+struct PastedPlanes {
+    gdi::Surface mask;
+    gdi::Surface image;
+};
+
+// A picture of 0xAABBGGRR pixels as planes of another size, by repeating or dropping pixels.
+PastedPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode);
+
+}  // namespace kestrel::editing

@@ -1,0 +1,108 @@
+#pragma once
+
+#include "document/Canvas.h"
+#include "document/IconDocument.h"
+#include "editing/Corners.h"
+#include "editing/EditorWindow.h"
+#include "editing/ModCollections.h"
+#include "editing/Mouse.h"
+
+namespace kestrel::editing {
+
+// The selected rectangle of whole cells: none, marked (the icon still holds the pixels) or floating
+// (only the selection holds them; they are drawn over the icon, which is transparent where they
+// were). Once set it is shown through every redraw of the canvas. Points are in grid units; those
+// of the marquee are multiples of 10 and, for a floating selection, may lie outside the grid.
+class Selection : private document::CanvasOverlay {
+  public:
+    Selection(document::IconDocument& document, document::Canvas& canvas, ModCollections& history,
+              EditorWindow& window);
+    Selection(const Selection&) = delete;
+    Selection& operator=(const Selection&) = delete;
+    ~Selection() override = default;
+
+    // What is selected, as large as the selection and under the rules of the icon's planes. Whoever
+    // changes them calls ShowFloatingSelection or StampSelection.
+    gdi::Surface PicSelImage{0, 0, gdi::kBlack};
+    gdi::Surface PicSelMask{0, 0, gdi::kWhite};
+
+    bool SelectionMarked() const { return state_ == State::Marked; }
+    bool SelectionFloating() const { return state_ == State::Floating; }
+    bool Exists() const { return state_ != State::None; }
+    // The top left and the bottom right corner.
+    const Corners& Marquee() const { return marquee_; }
+
+    // A new marquee from the grid line nearest to the point, after the old selection is dropped. It
+    // follows the pointer until it is marked; an empty one vanishes.
+    void BeginMarquee(int x, int y);
+    void StretchMarquee(int x, int y);
+    void EndMarquee();
+    // Marks the whole icon; there is no selection before.
+    void MarkAll();
+
+    // Takes hold of the selection at this point, lets it follow the pointer in whole cells, and
+    // puts it down where it is, still floating.
+    void BeginMove(int x, int y);
+    void MoveTo(int x, int y);
+    void EndMove();
+    bool MovingSelection() const { return moving_; }
+    // Moves it by whole cells at once.
+    void MoveBy(int columns, int rows);
+
+    // Lifts the marked pixels out of the icon.
+    void LiftSelection();
+    // Lets these planes float at the top left corner; there is no selection before.
+    void Float(gdi::Surface mask, gdi::Surface image);
+    // Puts a floating selection into the icon and records that; a marked one leaves no trace.
+    void DropSelection();
+    // Discards the selected pixels and records that; without a selection nothing happens. The
+    // selection planes keep them.
+    void Delete();
+    // Ends it without touching pixels or views.
+    void Forget();
+
+    // Shows planes that have changed, floating over the icon or written into it where they were
+    // marked.
+    void ShowFloatingSelection();
+    void StampSelection();
+    // The planes that the icon would have if the selection were dropped now.
+    void CompositeOver(document::IconDocument& planes) const;
+
+    // Gives the grid the pointer for moving where the point lies in the selection.
+    void UpdateMoveCursor(int x, int y);
+    bool HasMoveCursor() const { return moveCursor_; }
+
+  private:
+    enum class State { None, Marked, Floating };
+
+    void DrawUnderLines(gdi::Surface& grid) const override;
+    void DrawOverLines(gdi::Surface& grid) const override;
+    void DrawOnPreview(gdi::Surface& preview) const override;
+
+    gdi::Rect Cells() const;
+    void DrawMarquee(gdi::Surface& grid) const;
+    void ShowMarquee(bool shown);
+    void EraseMarquee();
+    void Mark();
+    void CopyAreaToSelection();
+    void CompositeSelection();
+    // False where it cannot go.
+    bool PlaceAt(int x1, int y1);
+
+    document::IconDocument& document_;
+    document::Canvas& canvas_;
+    ModCollections& history_;
+    EditorWindow& window_;
+
+    State state_ = State::None;
+    Corners marquee_;
+    // Whether the marquee is drawn on the grid: also while a new one is being drawn, and not while
+    // the selection is being moved.
+    bool marqueeShown_ = false;
+    bool moving_ = false;
+    // From the marquee's top left corner to where it is held.
+    GridPoint grip_;
+    bool moveCursor_ = false;
+};
+
+}  // namespace kestrel::editing
