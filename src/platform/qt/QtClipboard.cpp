@@ -6,6 +6,7 @@
 #include <QImageReader>
 #include <QMimeData>
 #include <QTimer>
+#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <future>
@@ -59,6 +60,23 @@ Result<gdi::Surface> Fetch(const std::string& format, Clock::time_point deadline
     if (!bytes) return Unreadable();
     return ReadPicture(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes->data()),
                                                static_cast<qsizetype>(bytes->size())));
+}
+
+// Whether pixels of a bitmap file are missing: the desktop library would leave their rows as the
+// memory was before. Compressed bitmaps count as cut. Fields of BITMAPFILEHEADER and
+// BITMAPINFOHEADER.
+bool IsCutBitmap(const QByteArray& file, QSize size) {
+    constexpr qsizetype kHeaders = 54;
+    if (!file.startsWith("BM")) return false;
+    if (file.size() < kHeaders) return true;
+    const auto dwordAt = [&](qsizetype at) { return qFromLittleEndian<quint32>(file.data() + at); };
+    const qint64 firstPixel = dwordAt(10);
+    const qint64 bits = dwordAt(28) & 0xFFFF;
+    const quint32 compression = dwordAt(30);
+    constexpr quint32 kBitFields = 3;
+    if (compression != 0 && compression != kBitFields) return true;
+    const qint64 stride = (size.width() * bits + 31) / 32 * 4;
+    return firstPixel + stride * size.height() > file.size();
 }
 
 QByteArray ToFile(const QImage& image, const char* format) {
@@ -130,6 +148,7 @@ Result<gdi::Surface> ReadPicture(const QByteArray& file) {
     // Asked before anything is allocated for it.
     const QSize size = reader.size();
     if (size.isEmpty() || qint64{size.width()} * size.height() > kMostPixels) return Unreadable();
+    if (IsCutBitmap(file, size)) return Unreadable();
     const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
     if (image.isNull()) return Unreadable();
     return ToSurface(image);
