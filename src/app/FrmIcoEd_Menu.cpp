@@ -107,7 +107,8 @@ bool FrmIcoEd::MoveSelection(const QKeyEvent& event) {
     const auto* const arrow = std::find_if(std::begin(kArrows), std::end(kArrows),
                                            [&](const auto& a) { return a.key == event.key(); });
     const bool modified = (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
-    if (arrow == std::end(kArrows) || modified) return false;
+    // On the toolbar they go from button to button.
+    if (arrow == std::end(kArrows) || modified || !hasFocus()) return false;
     RunCommand([&] { editor_.Selected().MoveBy(arrow->columns, arrow->rows); });
     RefreshEditCommands();
     return true;

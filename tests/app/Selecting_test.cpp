@@ -125,9 +125,9 @@ TEST_F(SelectingTest, ArrowKeysMoveItAndEscapeDropsIt) {
 
 TEST_F(SelectingTest, TheWindowsBackgroundDropsIt) {
     const struct {
-        const char* what;
+        const char* what{};
         QPoint at;
-        bool drops;
+        bool drops = false;
     } cases[] = {{"left of the grid", {3, 200}, true},
                  {"the place of the palette", {450, 300}, true},
                  {"a label", {400, 75}, false},

@@ -2,18 +2,11 @@
 
 #include <poll.h>
 
-#include <cstdlib>
 #include <cstring>
 
 namespace kestrel::qt {
 
 namespace {
-
-struct Free {
-    void operator()(void* reply) const { std::free(reply); }
-};
-template <typename Reply>
-using Owned = std::unique_ptr<Reply, Free>;
 
 constexpr std::uint8_t kSentByClient = 0x80;
 constexpr std::size_t kMostTargets = 1000;
@@ -96,13 +89,12 @@ std::optional<XSelection::Property> XSelection::TakeProperty(std::size_t limit) 
     return Property{reply->type, {bytes, bytes + size}};
 }
 
-std::shared_ptr<xcb_generic_event_t> XSelection::WaitFor(std::uint8_t kind) {
+XSelection::Owned<xcb_generic_event_t> XSelection::WaitFor(std::uint8_t kind) {
     using std::chrono::milliseconds;
     xcb_flush(connection_.get());
     while (xcb_connection_has_error(connection_.get()) == 0) {
-        while (xcb_generic_event_t* event = xcb_poll_for_event(connection_.get())) {
-            const std::shared_ptr<xcb_generic_event_t> owned(event, Free());
-            if ((event->response_type & ~kSentByClient) == kind) return owned;
+        while (auto event = Owned<xcb_generic_event_t>(xcb_poll_for_event(connection_.get()))) {
+            if ((event->response_type & ~kSentByClient) == kind) return event;
         }
         const auto left = std::chrono::duration_cast<milliseconds>(deadline_ - Clock::now());
         if (left <= milliseconds(0)) return nullptr;

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,6 +31,11 @@ class XSelection {
     std::optional<std::vector<std::uint8_t>> Read(const std::string& target, std::size_t limit);
 
   private:
+    struct Free {
+        void operator()(void* reply) const { std::free(reply); }
+    };
+    template <typename Reply>
+    using Owned = std::unique_ptr<Reply, Free>;
     struct Disconnect {
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };
@@ -44,7 +50,7 @@ class XSelection {
     std::optional<std::vector<std::uint8_t>> ReadParts(std::size_t limit);
     std::optional<Property> TakeProperty(std::size_t limit);
     // The next event of this kind; null when it does not come in time.
-    std::shared_ptr<xcb_generic_event_t> WaitFor(std::uint8_t kind);
+    Owned<xcb_generic_event_t> WaitFor(std::uint8_t kind);
 
     Clock::time_point deadline_;
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
