@@ -42,6 +42,20 @@ void FilledEllipse(benchmark::State& state) {
 }
 BENCHMARK(FilledEllipse)->Iterations(5000);
 
+// One step of a drag that moves the whole icon.
+void MoveSelection(benchmark::State& state) {
+    Bench bench(editing::ToolId::Selection);
+    bench.editor.SelectAll();
+    bench.editor.PicMain_MouseDown(Button::Left, 155, 155);
+    int x = 155;
+    for (auto _ : state) {
+        bench.window.repainted.clear();
+        x = x == 155 ? 165 : 155;
+        bench.editor.PicMain_MouseMove({true, false}, x, 155);
+    }
+}
+BENCHMARK(MoveSelection)->Iterations(5000);
+
 // A snapshot after one pixel has changed, with a million behind it at the end.
 void PushUndoSnapshot(benchmark::State& state) {
     document::IconDocument icon;

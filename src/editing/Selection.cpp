@@ -18,7 +18,7 @@ using document::kGridSize;
 using gdi::RasterOp;
 
 // Grid coordinates are 16-bit values.
-bool IsGridCoordinate(std::int64_t v) {
+bool IsGridCoordinate(int v) {
     using Limits = std::numeric_limits<std::int16_t>;
     return v >= Limits::min() && v <= Limits::max();
 }
