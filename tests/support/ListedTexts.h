@@ -22,10 +22,9 @@ inline std::vector<Row> ListedTexts(const std::string& what) {
             column = line.substr(0, line.find('\t'));
             line.erase(0, std::min(line.size(), column.size() + 1));
         }
-        if (const auto tab = row[English].find("\\t"); tab != std::string::npos) {
-            row[English].replace(tab, 2, "\t");
-            row[Chinese].replace(row[Chinese].find("\\t"), 2, "\t");
-        }
+        for (std::string* text : {&row[English], &row[Chinese]})
+            if (const auto tab = text->find("\\t"); tab != std::string::npos)
+                text->replace(tab, 2, "\t");
         if (row[What] == what) rows.push_back(row);
     }
     EXPECT_FALSE(rows.empty()) << what;

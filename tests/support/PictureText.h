@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <string>
 #include <string_view>
 
 #include "platform/gdi/PixelArt.h"
@@ -14,15 +13,10 @@ using Inks = std::initializer_list<gdi::ArtInk>;
 
 inline constexpr Inks kBlackOnWhite = {{'#', gdi::kBlack}, {'.', gdi::kWhite}};
 
-// One line a row, letters with a blank between; colours without an ink come out as '?'.
-std::string PictureText(const gdi::Surface& picture, Inks inks);
-
-// Fails with the first differing pixel (x, y, expected, actual), how many differ, and the pictures
-// if they are small. A letter of `rows` that has no ink is a failure too.
+// Fails with the first pixel that differs. A letter of `rows` that has no ink is a failure too.
 testing::AssertionResult ComparePicture(const gdi::Surface& actual, Inks inks,
                                         std::string_view rows);
-testing::AssertionResult ComparePicture(const gdi::Surface& actual, const gdi::Surface& expected,
-                                        Inks inks = kBlackOnWhite);
+testing::AssertionResult ComparePicture(const gdi::Surface& actual, const gdi::Surface& expected);
 
 }  // namespace kestrel::test
 
