@@ -2,16 +2,12 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <set>
 #include <string>
-#include <vector>
 
 #include "platform/Result.h"
 
@@ -34,17 +30,8 @@ int NumberOf(const Result<Value>& result) {
     return result ? 0 : result.error().number;
 }
 
-// Of a child that ends, or -1 when a signal ended it.
-inline int ExitStatus(pid_t child) {
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-inline struct stat StatusOf(const std::string& path) {
-    struct stat status {};
-    EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
-    return status;
+inline unsigned ModeOf(const std::string& path) {
+    return static_cast<unsigned>(std::filesystem::status(path).permissions());
 }
 
 // Each test has a folder of its own, gone afterwards.
@@ -58,11 +45,10 @@ class TemporaryFolder : public testing::Test {
 
     std::string Path(const std::string& name) const { return folder_ + "/" + name; }
 
-    std::vector<std::string> Names() const {
-        std::vector<std::string> names;
+    std::set<std::string> Names() const {
+        std::set<std::string> names;
         for (const auto& entry : std::filesystem::directory_iterator(folder_))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
+            names.insert(entry.path().filename());
         return names;
     }
 
