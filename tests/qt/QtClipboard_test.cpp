@@ -8,6 +8,8 @@
 #include <QImage>
 #include <QMimeData>
 
+#include "platform/qt/PictureFile.h"
+
 namespace kestrel::qt {
 namespace {
 
