@@ -149,12 +149,10 @@ void DocumentCommands::SaveInPlace() {
 }
 
 void DocumentCommands::WriteIcoFile(const std::string& path) {
-    // What floats over the icon is part of what the user sees.
-    if (editor_.Selected().SelectionFloating()) editor_.Selected().DropSelection();
     window_.ShowHourglass(true);
     document_.FileTitle = system::FileTitleOf(path);
     editor_.ShowTitle();
-    const Result<void> written = document::WriteIcoCopy(files_, document_, path);
+    const Result<void> written = document::WriteIcoCopy(files_, editor_.Composited(), path);
     window_.ShowHourglass(false);
     document_.SaveSucceeded = written.has_value();
     if (!written) {
@@ -163,6 +161,7 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
         ShowError(boxes_, i18n::CannotSave(written.error().description, named));
         return;
     }
+    if (editor_.Selected().SelectionFloating()) editor_.Selected().DropSelection();
     document_.FilePath = path;
     document_.Modified = false;
     document_.MultipleIcons = false;

@@ -4,12 +4,12 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "i18n/Captions.h"
 #include "platform/qt/CloseKey.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/WindowDesign.h"
 
 namespace kestrel::app {
 
@@ -27,22 +27,16 @@ constexpr QRect kCmdCancel(180, 134, 80, 26);
 constexpr int kFontPixels = 12;
 constexpr int kMessageFontPixels = 11;
 
-QFont FontOf(const QWidget& widget, int pixels) {
-    QFont font = widget.font();
-    font.setPixelSize(pixels);
-    return font;
-}
-
 }  // namespace
 
 FrmClipData::FrmClipData(QWidget* owner, editing::PictureSize picture) : QDialog(owner) {
     setWindowTitle(ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
-    setFont(FontOf(*this, kFontPixels));
+    setFont(qt::FontOf(*this, kFontPixels));
     setFixedSize(kClientSize);
     LayOutControls();
     qt::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);
-    PlaceOnScreen();
+    qt::PlaceOnScreen(*this, kClientSize);
 }
 
 void FrmClipData::LayOutControls() {
@@ -69,12 +63,6 @@ void FrmClipData::LayOutControls() {
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-// Centred, and one third down.
-void FrmClipData::PlaceOnScreen() {
-    const QRect area = screen()->geometry();
-    move(area.x() + (area.width() - width()) / 2, area.y() + (area.height() - height()) / 3);
-}
-
 std::optional<editing::PasteFit> FrmClipData::Ask() {
     if (exec() != QDialog::Accepted) return std::nullopt;
     return opt_[0]->isChecked() ? editing::PasteFit::Shrink : editing::PasteFit::KeepAspect;
@@ -82,7 +70,7 @@ std::optional<editing::PasteFit> FrmClipData::Ask() {
 
 void FrmClipData::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setFont(FontOf(*this, kMessageFontPixels));
+    painter.setFont(qt::FontOf(*this, kMessageFontPixels));
     const auto print = [&](QPoint at, const QString& text) {
         painter.drawText(at + QPoint(0, painter.fontMetrics().ascent()), text);
     };

@@ -23,7 +23,6 @@ class FrmClipData : public QDialog {
 
   private:
     void LayOutControls();
-    void PlaceOnScreen();
 
     QString sizeText_;
     // In the order of PasteFit.

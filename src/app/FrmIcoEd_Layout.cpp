@@ -2,12 +2,12 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <QScreen>
 #include <array>
 
 #include "app/FrmIcoEd.h"
 #include "platform/qt/PictureIcon.h"
 #include "platform/qt/Text.h"
+#include "platform/qt/WindowDesign.h"
 #include "resources/WellPictures.h"
 
 namespace kestrel::app {
@@ -48,12 +48,6 @@ constexpr std::array kPanelWidths{0, 84, 56, 56, 44};
 constexpr int kFontPixels = 12;
 constexpr int kSmallFontPixels = 11;
 
-QFont FontOf(const QWidget& widget, int pixels) {
-    QFont font = widget.font();
-    font.setPixelSize(pixels);
-    return font;
-}
-
 // A sunken edge four pixels outside the control on every side.
 void DrawEdgeAround(QPainter& painter, const QRect& control, const QPalette& colors) {
     constexpr int kDistance = 4;
@@ -67,7 +61,7 @@ void FrmIcoEd::LayOutControls() {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setFixedSize(kClientSize);
-    setFont(FontOf(*this, kFontPixels));
+    setFont(qt::FontOf(*this, kFontPixels));
 
     menuBar_ = new QMenuBar(this);
     menuBar_->setNativeMenuBar(false);
@@ -83,11 +77,11 @@ void FrmIcoEd::LayOutControls() {
     label1_ = new QLabel(this);
     label1_->setObjectName("Label1");
     label1_->setGeometry(kLabel1);
-    label1_->setFont(FontOf(*this, kSmallFontPixels));
+    label1_->setFont(qt::FontOf(*this, kSmallFontPixels));
     label1_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
 
     statusBar_ = new qt::StatusBar(kPanelWidths, this);
-    statusBar_->setFont(FontOf(*this, kSmallFontPixels));
+    statusBar_->setFont(qt::FontOf(*this, kSmallFontPixels));
     statusBar_->setGeometry(kStatusBar);
     ShowTextControls(false);
 }
@@ -111,11 +105,8 @@ void FrmIcoEd::showEvent(QShowEvent* /*event*/) {
     QTimer::singleShot(0, this, [this] { ShowTextControls(true); });
 }
 
-// Centred, and one third down.
 void FrmIcoEd::PlaceOnScreen() {
-    const QRect area = screen()->geometry();
-    move(area.x() + (area.width() - kWindowSize.width()) / 2,
-         area.y() + (area.height() - kWindowSize.height()) / 3);
+    qt::PlaceOnScreen(*this, kWindowSize);
 }
 
 void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
@@ -132,7 +123,7 @@ void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void FrmIcoEd::PaintReadouts(QPainter& painter) {
-    painter.setFont(FontOf(*this, kSmallFontPixels));
+    painter.setFont(qt::FontOf(*this, kSmallFontPixels));
     for (const Readout& readout : kReadouts) {
         qt::PictureIcon(wellPictures_, readout.picture).paint(&painter, readout.pictogram);
         painter.drawText(readout.text, Qt::AlignLeft | Qt::AlignVCenter, readouts_[readout.panel]);

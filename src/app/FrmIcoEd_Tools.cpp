@@ -71,6 +71,7 @@ void FrmIcoEd::LayOutTools() {
 
 void FrmIcoEd::ConnectTools() {
     picTools_->onMouseDown = [this](Qt::MouseButton button, QPoint at) {
+        editor_.EndGesture();
         editor_.Tools().PicTools_MouseDown(ToButton(button), at.x(), at.y());
     };
     picTools_->onMouseMove = [this](Qt::MouseButtons held, QPoint at) {

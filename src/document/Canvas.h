@@ -62,7 +62,7 @@ class Canvas {
     void RebuildGrid();
     // Redraws the grid from its backing copy and what lies over it.
     void ShowGrid();
-    // What every redraw draws over the icon from now on; it outlives the canvas's use.
+    // What every redraw draws over the icon from now on.
     void SetOverlay(const CanvasOverlay& overlay) { overlay_ = &overlay; }
 
     // Makes `icon` the content of the planes and views, fitted to 32 x 32. Both planes are empty

@@ -37,11 +37,13 @@ void ClipboardCommands::Cut() {
 Result<void> ClipboardCommands::Paste(PasteMode mode) {
     const Result<gdi::Surface> picture = clipboard_.GetImage();
     if (!picture) return tl::unexpected(picture.error());
-    const PictureSize size{picture->Width(), picture->Height()};
-    auto fit = std::optional(PasteFit::Shrink);
-    if (!FitsIcon(size)) fit = dialog_.AskFit(size);
-    if (!fit) return Fail(kDialogCancelled, "Cancel was selected");
-    PastedPlanes planes = PlanesOf(*picture, FittedSize(size, *fit), mode);
+    PictureSize size{picture->Width(), picture->Height()};
+    if (!FitsIcon(size)) {
+        const auto fit = dialog_.AskFit(size);
+        if (!fit) return Fail(kDialogCancelled, "Cancel was selected");
+        size = FittedSize(size, *fit);
+    }
+    PastedPlanes planes = PlanesOf(*picture, size, mode);
     editor_.FloatSelection(std::move(planes.mask), std::move(planes.image));
     return {};
 }

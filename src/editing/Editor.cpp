@@ -108,12 +108,20 @@ bool Editor::CanUndo() {
     return gestureButton_ == Button::None ? history_.CanUndo() : history_.UndoCount() > 1;
 }
 
+document::IconDocument Editor::Composited() const {
+    document::IconDocument icon = document_;
+    if (selection_.SelectionFloating()) selection_.CompositeOver(icon);
+    return icon;
+}
+
 void Editor::SelectAll() {
+    EndGesture();
     tools_.SelectTool(ToolId::Selection);
     selection_.MarkAll();
 }
 
 void Editor::FloatSelection(gdi::Surface mask, gdi::Surface image) {
+    EndGesture();
     tools_.SelectTool(ToolId::Selection);
     selection_.Float(std::move(mask), std::move(image));
 }

@@ -45,14 +45,15 @@ class Editor {
     // away in its midst, such as a command by keyboard.
     void EndGesture();
 
-    // One step of the history back or forward, after the selection is dropped; nothing where there
-    // is none.
+    // Drops the selection, then goes one step of the history back or forward if there is one.
     void PopUndoSnapshot();
     void PopRedoSnapshot();
     // Whether they can do something. To drop a floating selection makes the entry to go back from.
     bool CanUndo();
     bool CanRedo() const { return history_.CanRedo(); }
 
+    // The icon as it is seen: with what floats over it.
+    document::IconDocument Composited() const;
     // Selects the whole icon, with the Selection tool.
     void SelectAll();
     // Selects these planes, floating at the top left corner, with the Selection tool.

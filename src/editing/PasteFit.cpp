@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "document/IconDocument.h"
 #include "platform/gdi/Blit.h"
@@ -56,7 +57,6 @@ bool FitsIcon(PictureSize picture) {
 }
 
 PictureSize FittedSize(PictureSize picture, PasteFit fit) {
-    if (FitsIcon(picture)) return picture;
     return fit == PasteFit::Shrink ? PictureSize{kIconSize, kIconSize} : KeepAspect(picture);
 }
 

@@ -20,7 +20,7 @@ struct PictureSize {
 
 bool FitsIcon(PictureSize picture);
 
-// The size to which a picture of at least 1 x 1 pixels is shrunk.
+// The size to which a picture is shrunk that does not fit; it has at least one pixel.
 PictureSize FittedSize(PictureSize picture, PasteFit fit);
 
 struct PastedPlanes {

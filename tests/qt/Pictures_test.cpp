@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <array>
 
+#include "platform/qt/PictureFile.h"
 #include "platform/qt/PictureIcon.h"
 #include "platform/qt/QtClipboard.h"
 

@@ -3,14 +3,14 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QImageReader>
 #include <QMimeData>
 #include <QTimer>
-#include <QtEndian>
 #include <algorithm>
 #include <array>
 #include <future>
+#include <new>
 
+#include "platform/qt/PictureFile.h"
 #include "platform/qt/Pictures.h"
 #include "platform/qt/XSelection.h"
 
@@ -22,15 +22,25 @@ using std::chrono::milliseconds;
 using Clock = XSelection::Clock;
 
 constexpr milliseconds kPatience{800};
-// A screen of 7680 x 4320 pixels fits.
-constexpr qint64 kMostPixels = qint64{1} << 25;
-constexpr std::size_t kMostBytes = std::size_t{kMostPixels} * 4 + 4096;
+// When an owner that gave no answer is asked again.
+constexpr milliseconds kRecovery{2000};
+// No picture that can be read takes more, not even uncompressed.
+constexpr std::size_t kMostBytes = std::size_t{128} << 20;
 
 constexpr const char* kPng = "image/png";
 constexpr const char* kBmp = "image/bmp";
 // Those that keep every pixel as it was come first.
 constexpr std::array kFormats{kPng,        kBmp,        "image/x-bmp", "image/x-MS-bmp",
                               "image/gif", "image/jpeg"};
+
+// The one to read; empty when none of them is an image.
+std::string BestFormat(const std::vector<std::string>& formats) {
+    const auto* const found =
+        std::find_if(kFormats.begin(), kFormats.end(), [&](const char* known) {
+            return std::find(formats.begin(), formats.end(), known) != formats.end();
+        });
+    return found == kFormats.end() ? std::string() : *found;
+}
 
 tl::unexpected<Error> Unreadable() {
     return Fail(kInvalidPicture, "Invalid picture");
@@ -55,28 +65,32 @@ std::vector<std::string> FormatsAtHand() {
     return names;
 }
 
-Result<gdi::Surface> Fetch(const std::string& format, Clock::time_point deadline) {
-    const auto bytes = XSelection(deadline).Read(format, kMostBytes);
+// The owner may have changed since it was asked what it has.
+Result<gdi::Surface> Fetch(Clock::time_point deadline) {
+    XSelection selection(deadline);
+    const auto formats = selection.Targets();
+    if (!formats) return Unreadable();
+    const auto bytes = selection.Read(BestFormat(*formats), kMostBytes);
     if (!bytes) return Unreadable();
     return ReadPicture(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes->data()),
                                                static_cast<qsizetype>(bytes->size())));
 }
 
-// Whether pixels of a bitmap file are missing: the desktop library would leave their rows as the
-// memory was before. Compressed bitmaps count as cut. Fields of BITMAPFILEHEADER and
-// BITMAPINFOHEADER.
-bool IsCutBitmap(const QByteArray& file, QSize size) {
-    constexpr qsizetype kHeaders = 54;
-    if (!file.startsWith("BM")) return false;
-    if (file.size() < kHeaders) return true;
-    const auto dwordAt = [&](qsizetype at) { return qFromLittleEndian<quint32>(file.data() + at); };
-    const qint64 firstPixel = dwordAt(10);
-    const qint64 bits = dwordAt(28) & 0xFFFF;
-    const quint32 compression = dwordAt(30);
-    constexpr quint32 kBitFields = 3;
-    if (compression != 0 && compression != kBitFields) return true;
-    const qint64 stride = (size.width() * bits + 31) / 32 * 4;
-    return firstPixel + stride * size.height() > file.size();
+Result<gdi::Surface> FetchOrRunOut(Clock::time_point deadline) {
+    try {
+        return Fetch(deadline);
+    } catch (const std::bad_alloc&) {
+        return Unreadable();
+    }
+}
+
+// What is transparent is white, whatever its colour was.
+QImage WhiteWhereTransparent(gdi::Surface pixels) {
+    for (int y = 0; y < pixels.Height(); ++y) {
+        for (gdi::COLORREF& pixel : pixels.Row(y))
+            pixel = pixel >> 24 == 0 ? gdi::kWhite : pixel;
+    }
+    return ToImage(pixels);
 }
 
 QByteArray ToFile(const QImage& image, const char* format) {
@@ -92,30 +106,36 @@ QByteArray ToFile(const QImage& image, const char* format) {
 QtClipboard::QtClipboard() {
     aside_.setMaxThreadCount(1);
     connect(&System(), &QClipboard::dataChanged, this, &QtClipboard::Ask);
-    // An owner that gave no answer may have come to itself.
-    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](auto state) {
-        if (state == Qt::ApplicationActive) Ask();
-    });
     QTimer::singleShot(0, this, &QtClipboard::Ask);
+}
+
+QtClipboard::~QtClipboard() {
+    ++question_;
+    aside_.clear();
 }
 
 void QtClipboard::Ask() {
     const int question = ++question_;
-    if (IsAtHand()) return Learn(FormatsAtHand());
+    if (IsAtHand()) return Learn(BestFormat(FormatsAtHand()));
     aside_.start([this, question] {
-        auto formats = XSelection(Clock::now() + kPatience).Targets();
-        QMetaObject::invokeMethod(this, [this, question, formats = std::move(formats)] {
-            if (question == question_) Learn(formats);
+        if (question != question_) return;
+        const auto formats = XSelection(Clock::now() + kPatience).Targets();
+        QMetaObject::invokeMethod(this, [this, question, formats] {
+            if (question != question_) return;
+            Learn(formats ? BestFormat(*formats) : std::string());
+            if (!formats) AskAgain(question);
         });
     });
 }
 
-void QtClipboard::Learn(const std::vector<std::string>& formats) {
-    const auto* const found =
-        std::find_if(kFormats.begin(), kFormats.end(), [&](const char* known) {
-            return std::find(formats.begin(), formats.end(), known) != formats.end();
-        });
-    format_ = found == kFormats.end() ? std::string() : *found;
+void QtClipboard::AskAgain(int question) {
+    QTimer::singleShot(kRecovery, this, [this, question] {
+        if (question == question_) Ask();
+    });
+}
+
+void QtClipboard::Learn(const std::string& format) {
+    format_ = format;
     if (onChanged) onChanged();
 }
 
@@ -125,10 +145,10 @@ Result<gdi::Surface> QtClipboard::GetImage() {
     const auto deadline = Clock::now() + kPatience;
     const auto answer = std::make_shared<std::promise<Result<gdi::Surface>>>();
     std::future<Result<gdi::Surface>> picture = answer->get_future();
-    aside_.start([answer, deadline, format = format_] {
+    aside_.start([answer, deadline] {
         // Nobody waits any more for what comes too late.
         const bool inTime = Clock::now() < deadline;
-        answer->set_value(inTime ? Fetch(format, deadline) : Unreadable());
+        answer->set_value(inTime ? FetchOrRunOut(deadline) : Unreadable());
     });
     if (picture.wait_until(deadline) != std::future_status::ready) return Unreadable();
     return picture.get();
@@ -136,22 +156,9 @@ Result<gdi::Surface> QtClipboard::GetImage() {
 
 void QtClipboard::SetImage(const gdi::Surface& pixels) {
     auto* data = new QMimeData;
-    data->setData(kPng, ToFile(ToImage(pixels), "PNG"));
+    data->setData(kPng, ToFile(WhiteWhereTransparent(pixels), "PNG"));
     data->setData(kBmp, ToFile(ToImage(pixels, pixels.Bounds()), "BMP"));
     System().setMimeData(data);
-}
-
-Result<gdi::Surface> ReadPicture(const QByteArray& file) {
-    QBuffer buffer;
-    buffer.setData(file);
-    QImageReader reader(&buffer);
-    // Asked before anything is allocated for it.
-    const QSize size = reader.size();
-    if (size.isEmpty() || qint64{size.width()} * size.height() > kMostPixels) return Unreadable();
-    if (IsCutBitmap(file, size)) return Unreadable();
-    const QImage image = reader.read().convertToFormat(QImage::Format_ARGB32);
-    if (image.isNull()) return Unreadable();
-    return ToSurface(image);
 }
 
 }  // namespace kestrel::qt

@@ -2,12 +2,10 @@
 
 #include <QObject>
 #include <QThreadPool>
+#include <atomic>
 #include <string>
-#include <vector>
 
 #include "platform/desktop/Clipboard.h"
-
-class QByteArray;
 
 namespace kestrel::qt {
 
@@ -16,6 +14,9 @@ namespace kestrel::qt {
 class QtClipboard : public QObject, public desktop::Clipboard {
   public:
     QtClipboard();
+    QtClipboard(const QtClipboard&) = delete;
+    QtClipboard& operator=(const QtClipboard&) = delete;
+    ~QtClipboard() override;
 
     bool HasImage() const override { return !format_.empty(); }
     Result<gdi::Surface> GetImage() override;
@@ -24,17 +25,15 @@ class QtClipboard : public QObject, public desktop::Clipboard {
   private:
     // Asks what the clipboard holds now; the answer comes when it comes.
     void Ask();
-    void Learn(const std::vector<std::string>& formats);
+    void AskAgain(int question);
+    void Learn(const std::string& format);
 
     // The image format that is read; empty for none.
     std::string format_;
-    // Counts the questions: an answer to an old one is too late.
-    int question_ = 0;
-    // One thread: what was asked in vain does not pile up. Ends before the rest.
+    // Counts the questions: an old one is not worth asking, and its answer comes too late.
+    std::atomic<int> question_ = 0;
+    // One thread; ends before the rest.
     QThreadPool aside_;
 };
-
-// A picture file as pixels, whatever its format. Fails with kInvalidPicture.
-Result<gdi::Surface> ReadPicture(const QByteArray& file);
 
 }  // namespace kestrel::qt

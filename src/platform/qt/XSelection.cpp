@@ -27,10 +27,10 @@ XSelection::XSelection(Clock::time_point deadline)
     property_ = Atom("KESTREL_CLIPBOARD");
 }
 
-std::vector<std::string> XSelection::Targets() {
-    std::vector<std::string> names;
+std::optional<std::vector<std::string>> XSelection::Targets() {
     const auto targets = Convert(Atom("TARGETS"), kMostTargets * sizeof(xcb_atom_t));
-    if (!targets) return names;
+    if (!targets) return std::nullopt;
+    std::vector<std::string> names;
     for (std::size_t at = 0; at + sizeof(xcb_atom_t) <= targets->bytes.size();
          at += sizeof(xcb_atom_t)) {
         xcb_atom_t target = XCB_ATOM_NONE;
@@ -43,7 +43,7 @@ std::vector<std::string> XSelection::Targets() {
 std::optional<std::vector<std::uint8_t>> XSelection::Read(const std::string& target,
                                                           std::size_t limit) {
     auto content = Convert(Atom(target), limit);
-    if (!content) return std::nullopt;
+    if (!content || content->type == XCB_ATOM_NONE) return std::nullopt;
     if (content->type == Atom("INCR")) return ReadParts(limit);
     return std::move(content->bytes);
 }
@@ -55,7 +55,7 @@ std::optional<XSelection::Property> XSelection::Convert(xcb_atom_t target, std::
     const auto event = WaitFor(XCB_SELECTION_NOTIFY);
     if (!event) return std::nullopt;
     const auto* answer = reinterpret_cast<const xcb_selection_notify_event_t*>(event.get());
-    if (answer->property == XCB_ATOM_NONE) return std::nullopt;
+    if (answer->property == XCB_ATOM_NONE) return Property{};
     return TakeProperty(limit);
 }
 
@@ -93,11 +93,12 @@ XSelection::Owned<xcb_generic_event_t> XSelection::WaitFor(std::uint8_t kind) {
     using std::chrono::milliseconds;
     xcb_flush(connection_.get());
     while (xcb_connection_has_error(connection_.get()) == 0) {
-        while (auto event = Owned<xcb_generic_event_t>(xcb_poll_for_event(connection_.get()))) {
-            if ((event->response_type & ~kSentByClient) == kind) return event;
-        }
         const auto left = std::chrono::duration_cast<milliseconds>(deadline_ - Clock::now());
         if (left <= milliseconds(0)) return nullptr;
+        if (auto event = Owned<xcb_generic_event_t>(xcb_poll_for_event(connection_.get()))) {
+            if ((event->response_type & ~kSentByClient) == kind) return event;
+            continue;
+        }
         pollfd descriptor{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
         poll(&descriptor, 1, static_cast<int>(left.count()));
     }

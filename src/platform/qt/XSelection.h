@@ -21,12 +21,13 @@ class XSelection {
   public:
     using Clock = std::chrono::steady_clock;
 
-    // What follows is over when `deadline` has come.
+    // Every wait below ends at the deadline.
     explicit XSelection(Clock::time_point deadline);
 
-    // The formats that the owner offers, by name; none when nobody owns the clipboard.
-    std::vector<std::string> Targets();
-    // The clipboard in one of these formats; nothing when the owner fails, is late or sends more
+    // The formats that the owner offers, by name, which may be none; nothing when it gives no
+    // answer.
+    std::optional<std::vector<std::string>> Targets();
+    // The clipboard in one of these formats; nothing when the owner refuses, is late or sends more
     // than `limit` bytes.
     std::optional<std::vector<std::uint8_t>> Read(const std::string& target, std::size_t limit);
 
@@ -39,6 +40,7 @@ class XSelection {
     struct Disconnect {
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };
+    // Without a type there is none.
     struct Property {
         xcb_atom_t type = XCB_ATOM_NONE;
         std::vector<std::uint8_t> bytes;
