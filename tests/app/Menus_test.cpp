@@ -1,324 +1,243 @@
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QDialog>
-#include <QMenuBar>
 #include <QTimer>
-#include <QtTest/QTest>
 
-#include "app/FrmIcoEd.h"
-#include "document/IcoFile.h"
-#include "i18n/Language.h"
 #include "i18n/ToolbarTable.h"
-#include "tests/support/Services.h"
+#include "tests/app/WindowTest.h"
 
 namespace kestrel::app {
 namespace {
 
 using controls::MenuItem;
 using controls::SmartMenuXP;
-using editing::StatusPanel;
 using Keys = std::vector<std::string>;
 
-class MenusTest : public testing::Test {
+class MenusTest : public test::WindowTest {
   protected:
-    MenusTest() {
-        window_.Form_Load("");
-        window_.show();
-        QApplication::setActiveWindow(&window_);
-        QApplication::processEvents();
-    }
-    void TearDown() override { i18n::SetUiLanguage(i18n::kEnglish); }
-
     QMenuBar* Bar() { return window_.findChild<QMenuBar*>(); }
     SmartMenuXP& BarMenu() { return window_.Menus().SmartMenuXP1; }
     SmartMenuXP& PopupMenu() { return window_.Menus().SmartMenuXP2; }
+    std::string LastMessage() { return given_.boxes.shown.at(given_.boxes.shown.size() - 1).text; }
+    QToolButton* Button(std::string_view key) { return window_.Toolbar1().Button(key); }
 
     // Instead of running commands, notes the items that are clicked; submenus that open are none.
-    void NoteClicks(SmartMenuXP& menu) {
-        menu.onClick = [this, &menu](std::string_view key) {
-            if (!menu.IsSubmenu(key)) clicked_.emplace_back(key);
-        };
-    }
-    static void EnableAll(SmartMenuXP& menu, bool enabled) {
-        for (const std::string& key : Commands(menu))
-            menu.SetEnabled(key, enabled);
-    }
-    // The items that a user can see and that are no submenus, in order.
-    static Keys Commands(const SmartMenuXP& menu) {
-        Keys keys;
-        for (const MenuItem& item : menu.Items()) {
-            if (item.kind == controls::ItemKind::Separator || menu.IsSubmenu(item.key)) continue;
-            bool visible = item.visible;
-            for (const MenuItem* above = menu.Find(item.parent); above != nullptr;
-                 above = menu.Find(above->parent)) {
-                visible = visible && above->visible;
-            }
-            if (visible) keys.push_back(item.key);
+    void NoteClicks() {
+        for (SmartMenuXP* menu : {&BarMenu(), &PopupMenu()}) {
+            menu->onClick = [this, menu](std::string_view key) {
+                if (!menu->IsSubmenu(key)) clicked_.emplace_back(key);
+            };
         }
-        return keys;
     }
-    static Keys EnabledCommands(const SmartMenuXP& menu) {
-        Keys keys = Commands(menu);
-        std::erase_if(keys, [&](const std::string& key) { return !menu.Find(key)->enabled; });
-        return keys;
+    // What is clicked when everything that can be chosen in a menu and its submenus is.
+    Keys ChooseAll(const QWidget* menu) {
+        Keys chosen;
+        for (QAction* action : menu->actions()) {
+            if (!action->isVisible() || !action->isEnabled() || action->isSeparator()) continue;
+            clicked_.clear();
+            action->trigger();
+            const Keys keys = action->menu() != nullptr ? ChooseAll(action->menu()) : clicked_;
+            chosen.insert(chosen.end(), keys.begin(), keys.end());
+        }
+        return chosen;
     }
 
-    // Clicks an item of an open menu, whose submenu opens a moment later if it has one.
-    static void ClickIn(QMenu& menu, QAction* action) {
-        QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
-        if (action->menu() == nullptr) return;
-        EXPECT_TRUE(QTest::qWaitFor([&] { return action->menu()->isVisible(); }, 2000));
-    }
-    // Goes through the submenus to an item and clicks it.
-    void ClickInBar(const std::string& key) {
-        std::vector<QAction*> way;
-        for (const MenuItem* item = BarMenu().Find(key); item != nullptr;
-             item = BarMenu().Find(item->parent)) {
-            way.insert(way.begin(), window_.BarAction(item->key));
-        }
-        QTest::mouseClick(Bar(), Qt::LeftButton, {}, Bar()->actionGeometry(way[0]).center());
-        for (std::size_t i = 1; i < way.size(); ++i)
-            ClickIn(*way[i - 1]->menu(), way[i]);
-        while (QWidget* open = QApplication::activePopupWidget())
-            open->close();
-    }
-    void ClickInPopup(const std::string& key) {
-        QMenu* menu = window_.EditingPopup();
-        menu->popup(window_.mapToGlobal(QPoint(20, 80)));
-        const auto actionOf = [](QMenu& in, const std::string& caption) {
-            for (QAction* action : in.actions())
-                if (action->text().toStdString() == caption) return action;
-            return static_cast<QAction*>(nullptr);
-        };
-        const MenuItem* item = PopupMenu().Find(key);
-        if (item->parent != "mnuEdit") {
-            QAction* above = actionOf(*menu, PopupMenu().Find(item->parent)->caption);
-            ClickIn(*menu, above);
-            menu = above->menu();
-        }
-        ClickIn(*menu, actionOf(*menu, item->caption));
-        while (QWidget* open = QApplication::activePopupWidget())
-            open->close();
-    }
-    void HoverToolbar(int x) {
-        QToolButton* button =
-            window_.Toolbar1().Button(i18n::ToolbarButtons()[static_cast<std::size_t>(x / 28)].key);
-        QTest::mouseMove(button, QPoint(x % 28, 10));
-    }
-
-    test::FakeServices given_;
-    FrmIcoEd window_{given_.Given()};
     Keys clicked_;
 };
 
-TEST_F(MenusTest, ExactlyTheCommandsThatExistAreEnabled) {
-    EXPECT_EQ(EnabledCommands(BarMenu()),
+TEST_F(MenusTest, ItemsThatAreShownAndEnabledAreReached) {
+    NoteClicks();
+    EXPECT_EQ(ChooseAll(Bar()),
               (Keys{"mnuNew", "mnuOpen", "mnuSave", "mnuSaveAs", "mnuExit", "mnuEditOpts9",
                     "mnuToolsOpts6", "mnuToolsOpts7", "mnuLanguageOpts0", "mnuLanguageOpts1",
                     "mnuHomePage", "mnuHelp2", "mnuAbout"}));
-    EXPECT_EQ(EnabledCommands(PopupMenu()), Keys{"mnuPopup2Opts4"});
-}
-
-TEST_F(MenusTest, ItemsLookAsTheyAre) {
-    for (const MenuItem& item : BarMenu().Items()) {
-        const QAction* action = window_.BarAction(item.key);
-        EXPECT_EQ(action->icon().isNull(), item.picture == 0) << item.key;
-        EXPECT_EQ(action->isSeparator(), item.kind == controls::ItemKind::Separator) << item.key;
-        EXPECT_EQ(action->isCheckable(), item.kind == controls::ItemKind::Option) << item.key;
-    }
-}
-
-TEST_F(MenusTest, EveryItemOfTheBarIsReachedByMouseUnlessDisabled) {
-    NoteClicks(BarMenu());
-    const Keys all = Commands(BarMenu());
-    ASSERT_EQ(all.size(), 82U);
-    EnableAll(BarMenu(), false);
-    for (const std::string& key : {all.front(), std::string("mnuEmboss"), all.back()})
-        ClickInBar(key);
-    EXPECT_EQ(clicked_, Keys{});
-    EnableAll(BarMenu(), true);
-    for (const std::string& key : all)
-        ClickInBar(key);
-    EXPECT_EQ(clicked_, all);
-}
-
-TEST_F(MenusTest, EveryItemOfThePopupIsReachedByMouseUnlessDisabled) {
-    NoteClicks(PopupMenu());
-    const Keys all = Commands(PopupMenu());
-    ASSERT_EQ(all.size(), 9U);
-    EnableAll(PopupMenu(), false);
-    for (const std::string& key : all)
-        ClickInPopup(key);
-    EXPECT_EQ(clicked_, Keys{});
-    EnableAll(PopupMenu(), true);
-    for (const std::string& key : all)
-        ClickInPopup(key);
-    EXPECT_EQ(clicked_, all);
-}
-
-TEST_F(MenusTest, EveryShortcutReachesItsItemAloneUnlessDisabled) {
-    // The pop-up names the same keys: they must still belong to the bar alone.
-    static_cast<void>(window_.EditingPopup());
-    EnableAll(PopupMenu(), true);
-    NoteClicks(BarMenu());
-    NoteClicks(PopupMenu());
-    for (const bool enabled : {true, false}) {
-        EnableAll(BarMenu(), enabled);
-        clicked_.clear();
-        Keys expected;
-        for (const MenuItem& item : BarMenu().Items()) {
-            if (item.shortcut.empty()) continue;
-            if (enabled) expected.push_back(item.key);
-            const QKeyCombination keys = QKeySequence(QString::fromStdString(item.shortcut))[0];
-            QTest::keyClick(&window_, keys.key(), keys.keyboardModifiers());
+    EXPECT_EQ(ChooseAll(window_.EditingPopup()), Keys{"mnuPopup2Opts4"});
+    // A new item without a row would look usable and do nothing.
+    for (const auto& [menu, widget, rows] :
+         {std::tuple{&BarMenu(), static_cast<QWidget*>(Bar()), MenuBarCommands()},
+          {&PopupMenu(), window_.EditingPopup(), PopupCommands()}}) {
+        for (const MenuItem& item : menu->Items()) {
+            menu->SetEnabled(item.key, true);
+            menu->SetVisible(item.key, true);
         }
-        EXPECT_EQ(clicked_, expected);
-        EXPECT_EQ(expected.size(), enabled ? 15U : 0U);
+        Keys commands;
+        for (const CommandRow& row : rows)
+            commands.emplace_back(row.key);
+        EXPECT_EQ(ChooseAll(widget), commands);
+    }
+    for (const MenuItem& item : BarMenu().Items()) {
+        EXPECT_EQ(Item(item.key)->icon().isNull(), item.picture == 0) << item.key;
+        EXPECT_EQ(Item(item.key)->isCheckable(), item.kind == controls::ItemKind::Option);
+        if (item.shortcut.empty()) continue;
+        clicked_.clear();
+        const QKeyCombination keys = QKeySequence(item.shortcut.c_str())[0];
+        QTest::keyClick(&window_, keys.key(), keys.keyboardModifiers());
+        EXPECT_EQ(clicked_, Keys{item.key}) << "also where the pop-up names the same keys";
     }
 }
 
-TEST_F(MenusTest, LettersAndF10OpenTheMenusInBothLanguages) {
-    const struct {
-        const char* code;
-        Qt::Key letter;
-        const char* menu;
-    } cases[] = {{"ENG", Qt::Key_F, "mnuFile"},  {"ENG", Qt::Key_I, "mnuImage"},
-                 {"CHS", Qt::Key_F, "mnuFile"},  {"CHS", Qt::Key_L, "mnuFilters"},
-                 {"CHS", Qt::Key_H, "mnuHelp"},  {"ENG", Qt::Key_T, "mnuTools"},
-                 {"CHS", Qt::Key_T, "mnuTools"}, {"ENG", Qt::Key_H, "mnuHelp"}};
-    for (const auto& c : cases) {
-        i18n::ApplyMenuCaptions(c.code, BarMenu(), PopupMenu());
-        QTest::keyClick(&window_, c.letter, Qt::AltModifier);
-        QMenu* opened = window_.BarAction(c.menu)->menu();
-        EXPECT_TRUE(opened->isVisible()) << c.code << " Alt+" << static_cast<char>(c.letter);
-        QTest::keyClick(opened, Qt::Key_Escape);
+TEST_F(MenusTest, MenusOpenByKey) {
+    const auto opens = [](QMenu* menu) {
+        const bool visible = menu->isVisible();
+        menu->close();
+        return visible;
+    };
+    for (const auto& [code, letter, menu] : {std::tuple{"ENG", Qt::Key_I, "mnuImage"},
+                                             {"CHS", Qt::Key_F, "mnuFile"},
+                                             {"CHS", Qt::Key_L, "mnuFilters"}}) {
+        i18n::ApplyMenuCaptions(code, BarMenu(), PopupMenu());
+        QTest::keyClick(&window_, letter, Qt::AltModifier);
+        EXPECT_TRUE(opens(Item(menu)->menu())) << code << " " << menu;
         QTest::keyClick(Bar(), Qt::Key_Escape);
     }
-    QTest::keyClick(&window_, Qt::Key_F1);
-    EXPECT_EQ(given_.help.shown, "/program/help/ENG/index.html");
     QTest::keyClick(&window_, Qt::Key_F10);
-    EXPECT_TRUE(window_.BarAction("mnuFile")->menu()->isVisible());
-    window_.BarAction("mnuFile")->menu()->close();
+    EXPECT_TRUE(opens(Item("mnuFile")->menu()));
     QTest::keyClick(&window_, Qt::Key_F10, Qt::ShiftModifier);
-    EXPECT_TRUE(window_.EditingPopup()->isVisible());
-    window_.EditingPopup()->close();
-    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-    QApplication::sendEvent(&window_, &menuKey);
-    EXPECT_TRUE(window_.EditingPopup()->isVisible());
-    window_.EditingPopup()->close();
-    QContextMenuEvent rightButton(QContextMenuEvent::Mouse, QPoint(), QPoint());
-    QApplication::sendEvent(window_.findChild<QWidget*>("Label1"), &rightButton);
-    EXPECT_FALSE(window_.EditingPopup()->isVisible());
+    EXPECT_TRUE(opens(window_.EditingPopup()));
+    for (const auto& [reason, does] :
+         {std::pair{QContextMenuEvent::Keyboard, true}, {QContextMenuEvent::Mouse, false}}) {
+        QContextMenuEvent event(reason, QPoint(), QPoint());
+        QApplication::sendEvent(&window_, &event);
+        EXPECT_EQ(opens(window_.EditingPopup()), does);
+    }
 }
 
 TEST_F(MenusTest, TheMenuShowsTheModelsStateAndNotTheClicks) {
-    QAction* defaultPalette = window_.BarAction("mnuPaletteOpts0");
-    EXPECT_TRUE(defaultPalette->isChecked());
-    NoteClicks(BarMenu());
+    NoteClicks();
     BarMenu().SetEnabled("mnuPaletteOpts1", true);
-    ClickInBar("mnuPaletteOpts1");
-    EXPECT_TRUE(defaultPalette->isChecked()) << "the model was not told to change";
-    EXPECT_FALSE(window_.BarAction("mnuPaletteOpts1")->isChecked());
+    Item("mnuPaletteOpts1")->trigger();
+    EXPECT_TRUE(Item("mnuPaletteOpts0")->isChecked()) << "the model was not told to change";
+    EXPECT_FALSE(Item("mnuPaletteOpts1")->isChecked());
     BarMenu().SetChecked("mnuPaletteOpts0", false);
-    EXPECT_FALSE(defaultPalette->isChecked()) << "no mark at all is a state, too";
+    EXPECT_FALSE(Item("mnuPaletteOpts0")->isChecked()) << "no mark at all is a state, too";
 
-    EXPECT_FALSE(window_.BarAction("mnuRecentFile0")->isVisible());
-    BarMenu().SetVisible("mnuRecentFile0", true);
-    EXPECT_TRUE(window_.BarAction("mnuRecentFile0")->isVisible());
     BarMenu().SetCaption("mnuRecentFile2", "/a\tb\u202Eoci.png\u202C");
-    EXPECT_EQ(window_.BarAction("mnuRecentFile2")->text(),
-              QStringLiteral("/a\u2409b\uFFFDoci.png\uFFFD"));
+    EXPECT_EQ(Item("mnuRecentFile2")->text(), QStringLiteral("/a\u2409b\uFFFDoci.png\uFFFD"));
     BarMenu().SetCaption("mnuRecentFile1", "/" + std::string(250, 'w') + "/&&.ico");
-    EXPECT_TRUE(window_.BarAction("mnuRecentFile1")->text().endsWith("w/&&.ico"));
-    EXPECT_LT(window_.BarAction("mnuRecentFile1")->text().size(), 120);
+    EXPECT_TRUE(Item("mnuRecentFile1")->text().endsWith("w/&&.ico"));
+    EXPECT_LT(Item("mnuRecentFile1")->text().size(), 120);
 }
 
-TEST_F(MenusTest, SwitchingLanguageByMenuChangesWhatIsShown) {
-    const auto* label = window_.findChild<QLabel*>("Label1");
-    const QToolButton* save = window_.Toolbar1().Button("Save");
-    HoverToolbar(0);
-    ClickInBar("mnuLanguageOpts0");
-    EXPECT_EQ(window_.windowTitle(), QStringLiteral("KestrelIconEditor - 未命名"));
-    EXPECT_EQ(label->text(), QStringLiteral("32 * 32\n真彩色"));
-    EXPECT_EQ(save->toolTip(), QStringLiteral("保存(Ctrl+S)"));
-    EXPECT_EQ(window_.BarAction("mnuFile")->text(), QStringLiteral("(&F) 文件  "));
-    EXPECT_EQ(window_.EditingPopup()->actions().constFirst()->text(), QStringLiteral("剪切  "));
-    EXPECT_EQ(window_.StatusText(StatusPanel::Hint), "") << "a hint in the old language";
-    EXPECT_TRUE(window_.BarAction("mnuLanguageOpts0")->isChecked());
-    ClickInBar("mnuLanguageOpts1");
-    EXPECT_EQ(window_.windowTitle(), QStringLiteral("KestrelIconEditor - Untitled"));
-    EXPECT_EQ(label->text(), QStringLiteral("32 * 32\nTrue Color"));
-    EXPECT_EQ(save->toolTip(), QStringLiteral("Save (Ctrl+s)"));
-    EXPECT_EQ(window_.BarAction("mnuFile")->text(), QStringLiteral("&File "));
-    EXPECT_FALSE(window_.BarAction("mnuLanguageOpts0")->isChecked());
+TEST_F(MenusTest, SwitchingLanguageChangesWhatIsShownAndIsKept) {
+    const auto switched = [this](const char* item) {
+        QTest::mouseMove(Button("New"));
+        Item(item)->trigger();
+        EXPECT_EQ(Hint(), "") << "a hint in the old language";
+        return QStringList{ReadSavedLanguage(given_.settings).c_str(),
+                           window_.windowTitle(),
+                           Control("Label1")->property("text").toString(),
+                           Button("Save")->toolTip(),
+                           Item("mnuFile")->text(),
+                           window_.EditingPopup()->actions().constFirst()->text()};
+    };
+    EXPECT_EQ(switched("mnuLanguageOpts0"),
+              (QStringList{"CHS", "KestrelIconEditor - 未命名", "32 * 32\n真彩色", "保存(Ctrl+S)",
+                           "(&F) 文件  ", "剪切  "}));
+    EXPECT_EQ(switched("mnuLanguageOpts1"),
+              (QStringList{"ENG", "KestrelIconEditor - Untitled", "32 * 32\nTrue Color",
+                           "Save (Ctrl+s)", "&File ", "Cu&t"}));
+}
+
+TEST_F(MenusTest, HelpSpeaksTheLanguageAndLiesInEitherPlace) {
+    QTest::keyClick(&window_, Qt::Key_F1);
+    EXPECT_EQ(LastMessage(), "Unable to open the help file /program/help/ENG/index.html");
+    i18n::SetUiLanguage(i18n::kChinese);
+    // What lies beside the program goes first.
+    for (const std::string file : {"/program/../share/KestrelIconEditor/help/CHS/index.html",
+                                   "/program/help/CHS/index.html"}) {
+        given_.files.contents[file] = {};
+        given_.help.known.insert(file);
+        Item("mnuHelp2")->trigger();
+        EXPECT_EQ(given_.help.shown, file);
+        EXPECT_EQ(given_.help.shownTitle, "KestrelIconEditor - 帮助");
+    }
+    Item("mnuLanguageOpts1")->trigger();
+    EXPECT_EQ(given_.help.changedTo, "/program/help/ENG/index.html");
+    EXPECT_EQ(given_.help.shownTitle, "KestrelIconEditor - Help");
+    EXPECT_EQ(given_.boxes.shown.size(), 1U);
+    window_.close();
+    EXPECT_EQ(given_.help.shown, "") << "the help would keep the program running";
+}
+
+TEST_F(MenusTest, WhatCannotBeStartedIsSaid) {
+    for (const char* item : {"mnuToolsOpts5", "mnuToolsOpts6", "mnuToolsOpts7", "mnuHomePage"})
+        BarMenu().onClick(item);
+    EXPECT_EQ(given_.shell.started, (Keys{"/program/Quillet.exe", "/windows/Varnel.exe",
+                                          "/windows/Ormsby Extender.exe"}));
+    EXPECT_EQ(given_.shell.opened.size(), 1U);
+    given_.shell.failure = "No such file or directory";
+    BarMenu().onClick("mnuHomePage");
+    EXPECT_EQ(given_.boxes.shown.size(), 1U);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the hourglass stays";
+    BarMenu().onClick("mnuToolsOpts6");
+    EXPECT_EQ(LastMessage(),
+              "The program is not installed or cannot be run.\r\n\r\n"
+              "Unable to start /windows/Varnel.exe");
 }
 
 TEST_F(MenusTest, TheToolbarRunsItsCommandsAndHintsAtThem) {
     const auto buttons = i18n::ToolbarButtons();
     for (const std::string_view language : {"CHS", "ENG"}) {
         i18n::SetUiLanguage(language);
-        for (std::size_t i = 0; i < buttons.size(); ++i) {
-            HoverToolbar(static_cast<int>(i) * 28 + 27);
-            EXPECT_EQ(window_.StatusText(StatusPanel::Hint), buttons[i].status.In(language));
+        for (const auto& button : buttons) {
+            QTest::mouseMove(Button(button.key), QPoint(27, 10));
+            EXPECT_EQ(Hint(), button.status.In(language));
         }
     }
     QEvent leave(QEvent::Leave);
     QApplication::sendEvent(&window_.Toolbar1(), &leave);
-    EXPECT_EQ(window_.StatusText(StatusPanel::Hint), "");
-
-    QTest::mouseClick(window_.Toolbar1().Button("Open"), Qt::LeftButton);
-    EXPECT_EQ(given_.cdb.opens.size(), 1U);
-    QTest::mouseClick(window_.Toolbar1().Button("Help"), Qt::LeftButton);
-    EXPECT_EQ(given_.help.shown, "/program/help/ENG/index.html");
-
+    EXPECT_EQ(Hint(), "");
     Keys pressed;
     window_.Toolbar1().onClick = [&](std::string_view key) { pressed.emplace_back(key); };
     for (const auto& button : buttons)
-        QTest::mouseClick(window_.Toolbar1().Button(button.key), Qt::LeftButton);
-    EXPECT_EQ(pressed, (Keys{"New", "Open", "Save", "Help"}));
+        QTest::mouseClick(Button(button.key), Qt::LeftButton);
     EXPECT_EQ(QApplication::focusWidget(), &window_) << "clicks leave the keyboard alone";
-
-    QTest::keyClick(&window_, Qt::Key_Tab);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-    EXPECT_EQ(pressed.back(), "Open");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Left);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return pressed.back() == "New"; }, 2000));
+    for (const Qt::Key key :
+         {Qt::Key_Tab, Qt::Key_Right, Qt::Key_Space, Qt::Key_Left, Qt::Key_Return}) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+    }
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pressed.size() == 6; }, 2000));
+    EXPECT_EQ(pressed, (Keys{"New", "Open", "Save", "Help", "Open", "New"}));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_EQ(QApplication::focusWidget(), &window_);
 }
 
-TEST_F(MenusTest, RecentFilesLeadBackToTheFileAndOutliveTheWindow) {
-    const document::IcoBytes icon = document::EncodeIco({});
-    given_.files.contents["/icons/a.ico"] = {icon.begin(), icon.end()};
+TEST_F(MenusTest, RecentFilesAreThoseOpenedAndSaved) {
+    const auto first = [this] { return Item("mnuRecentFile1")->text().toStdString(); };
     given_.cdb.choice = "/icons/a.ico";
     QTest::keyClick(&window_, Qt::Key_O, Qt::ControlModifier);
-    QTest::keyClick(&window_, Qt::Key_N, Qt::ControlModifier);
-    ClickInBar("mnuRecentFile1");
-    EXPECT_EQ(window_.windowTitle(), QStringLiteral("KestrelIconEditor - a.ico"));
-    given_.help.shown = "help";
+    given_.cdb.choice = "/icons/b.ico";
+    QTest::keyClick(&window_, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(first(), "/icons/b.ico");
+    given_.cdb.choice = "/icons/none.ico";
+    QTest::keyClick(&window_, Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(first(), "/icons/b.ico") << "a refused file is not remembered";
+    given_.files.contents.erase("/icons/b.ico");
+    Item("mnuRecentFile1")->trigger();
+    EXPECT_EQ(LastMessage(), "Unable to locate /icons/b.ico");
+    Item("mnuRecentFile1")->trigger();
+    EXPECT_EQ(window_.windowTitle(), "KestrelIconEditor - a.ico");
+    EXPECT_EQ(given_.boxes.shown.size(), 2U);
     window_.close();
-    EXPECT_EQ(given_.help.shown, "") << "the help would keep the program running";
     FrmIcoEd next(given_.Given());
     next.Form_Load("");
-    EXPECT_EQ(next.BarAction("mnuRecentFile1")->text(), QStringLiteral("/icons/a.ico"));
+    EXPECT_EQ(next.BarAction("mnuRecentFile1")->text(), "/icons/a.ico");
 }
 
 TEST_F(MenusTest, AboutIsModalAndClosesByKeyboard) {
-    const QKeyCombination keys[] = {Qt::Key_Return, Qt::Key_Escape, Qt::ALT | Qt::Key_F4};
+    const auto click = [](auto* in, QAction* action) {
+        QTest::mouseClick(in, Qt::LeftButton, {}, in->actionGeometry(action).center());
+    };
     int seen = 0;
-    for (const QKeyCombination key : keys) {
+    for (const QKeyCombination key :
+         {Qt::NoModifier | Qt::Key_Return, Qt::NoModifier | Qt::Key_Escape,
+          Qt::AltModifier | Qt::Key_F4}) {
         QTimer::singleShot(0, [&] {
-            auto* about = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            QWidget* about = QApplication::activeModalWidget();
             ASSERT_NE(about, nullptr);
-            if (about->windowTitle() == QStringLiteral("About KestrelIconEditor")) ++seen;
-            EXPECT_FALSE(about->findChild<QWidget*>("cmdSysInfo")->isEnabled());
+            if (about->windowTitle() == "About KestrelIconEditor") ++seen;
             QApplication::setActiveWindow(about);
             QTest::keyClick(about, key.key(), key.keyboardModifiers());
         });
-        ClickInBar("mnuAbout");
+        click(Bar(), Item("mnuHelp"));
+        click(Item("mnuHelp")->menu(), Item("mnuAbout"));
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     }
     EXPECT_EQ(seen, 3);
