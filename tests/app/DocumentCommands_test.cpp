@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "document/IcoFile.h"
 #include "i18n/Language.h"
-#include "platform/icons/IconFile.h"
+#include "platform/system/DiskFiles.h"
 #include "tests/support/Services.h"
 
 namespace kestrel::app {
@@ -14,31 +16,16 @@ using dialogs::Answer;
 using dialogs::BoxButtons;
 using dialogs::BoxIcon;
 
-std::vector<std::uint8_t> RedIcon() {
-    document::IconDocument icon;
-    icon.PicMask.SetPixel(1, 2, gdi::kBlack);
-    icon.PicImage.SetPixel(1, 2, 0x0000FF);
-    const document::IcoBytes bytes = document::EncodeIco(icon);
-    return {bytes.begin(), bytes.end()};
-}
-
-// The same image named by two entries of the directory.
-std::vector<std::uint8_t> SeveralIcons() {
-    constexpr std::ptrdiff_t kEntryBytes = 16;
-    std::vector<std::uint8_t> bytes = RedIcon();
-    bytes[4] = 2;
-    bytes[18] = static_cast<std::uint8_t>(bytes[18] + kEntryBytes);
-    const std::vector<std::uint8_t> entry(bytes.begin() + 6, bytes.begin() + 6 + kEntryBytes);
-    bytes.insert(bytes.begin() + 6, entry.begin(), entry.end());
-    return bytes;
-}
-
 class DocumentCommandsTest : public testing::Test {
   protected:
     DocumentCommandsTest() {
-        files_.contents["/icons/red.ico"] = RedIcon();
-        files_.contents["/icons/text.ico"] = {'h', 'e', 'l', 'l', 'o'};
-        files_.contents["/icons/several.ico"] = SeveralIcons();
+        document::IconDocument red;
+        red.PicMask.SetPixel(1, 2, gdi::kBlack);
+        red.PicImage.SetPixel(1, 2, 0x0000FF);
+        EXPECT_TRUE(document::WriteIcoCopy(given_.files, red, "/icons/red.ico"));
+        given_.files.contents["/icons/several.ico"] =
+            system::DiskFiles().ReadFile(TEST_DATA "/several.ico", 100000).value();
+        given_.files.contents["/icons/text.ico"] = {'h', 'e', 'l', 'l', 'o'};
     }
     void TearDown() override { i18n::SetUiLanguage(i18n::kEnglish); }
 
@@ -46,198 +33,153 @@ class DocumentCommandsTest : public testing::Test {
         editor_.PicMain_MouseDown(editing::Button::Left, 95, 95);
         editor_.PicMain_MouseUp(editing::Button::Left, 95, 95);
     }
+    bool HoldsTheIcon(const std::string& path) {
+        return std::ranges::equal(given_.files.contents.at(path), document::EncodeIco(icon_));
+    }
     void ExpectBox(BoxIcon icon, BoxButtons buttons, const std::string& text,
-                   const std::string& title) {
-        ASSERT_FALSE(boxes_.shown.empty());
-        const auto& last = boxes_.shown.back();
-        EXPECT_EQ(last.icon, icon);
-        EXPECT_EQ(last.buttons, buttons);
-        EXPECT_EQ(last.text, text);
-        EXPECT_EQ(last.title, title);
+                   const std::string& title = "KestrelIconEditor") {
+        ASSERT_FALSE(given_.boxes.shown.empty());
+        const auto& last = given_.boxes.shown.back();
+        EXPECT_EQ(std::tie(last.icon, last.buttons), std::tie(icon, buttons));
+        EXPECT_EQ(last.title + ": " + last.text, title + ": " + text);
+    }
+    void ExpectError(const std::string& text) {
+        const bool english = i18n::UiLanguage() == i18n::kEnglish;
+        ExpectBox(BoxIcon::Exclamation, BoxButtons::Ok, text,
+                  english ? "KestrelIconEditor - Error" : "KestrelIconEditor - 错误");
     }
 
+    test::FakeServices given_;
     test::RecordingWindow window_;
-    test::ScriptedBoxes boxes_;
-    test::ScriptedDialogs cdb_;
-    test::MemoryFiles files_;
-    test::MemoryRegistry registry_;
     controls::SmartMenuXP menu_;
-    ModRecent recent_{menu_, registry_, files_, boxes_, 1033};
+    ModRecent recent_{menu_, given_.registry, given_.files, given_.boxes, 1033};
     editing::Editor editor_{window_, 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
-    DocumentCommands commands_{editor_, window_, recent_, cdb_, boxes_, files_};
+    DocumentCommands commands_{editor_, window_, recent_, given_.cdb, given_.boxes, given_.files};
 };
 
-TEST_F(DocumentCommandsTest, OpensByDialogAndByName) {
-    cdb_.choice = "/icons/red.ico";
+TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
     Draw();
-    boxes_.answers = {Answer::No};
+    given_.boxes.answers = {Answer::No};
+    commands_.mnuOpen_Click();
+    commands_.mnuSaveAs_Click();
+    EXPECT_EQ(given_.boxes.shown.size(), 1U) << "cancelled dialogs are silent";
+    EXPECT_FALSE(icon_.Modified) << "answered No before the dialog was cancelled";
+    EXPECT_TRUE(window_.gridEnabled);
+    EXPECT_FALSE(icon_.IsTransparent(9, 9));
+
+    given_.cdb.choice = "/icons/red.ico";
     commands_.mnuOpen_Click();
     EXPECT_EQ(icon_.PicImage.GetPixel(1, 2), 0x0000FFU);
     EXPECT_TRUE(icon_.IsTransparent(9, 9));
-    EXPECT_EQ(icon_.FilePath, "/icons/red.ico");
     EXPECT_EQ(window_.title, "KestrelIconEditor - red.ico");
     EXPECT_FALSE(icon_.Modified);
-    EXPECT_EQ(editor_.History().UndoCount(), 1U);
     EXPECT_FALSE(window_.gridEnabled) << "until the timer's tick";
     EXPECT_TRUE(window_.tmrStarted);
-    const dialogs::FileRequest& asked = cdb_.opens.at(0);
+    const dialogs::FileRequest& asked = given_.cdb.opens.at(0);
     EXPECT_EQ(asked.title, "KestrelIconEditor - Open");
     EXPECT_EQ(asked.filter, "Icon Files (*.ico)|*.ico");
-    EXPECT_EQ(asked.fileName, "");
     EXPECT_TRUE(asked.fileMustExist);
-
-    commands_.OpenNamed("/icons/several.ico");
-    EXPECT_EQ(icon_.FileTitle, "several.ico");
-    EXPECT_TRUE(icon_.MultipleIcons);
-    commands_.OpenNamed("/icons/red.ico");
-    EXPECT_FALSE(icon_.MultipleIcons);
 }
 
 TEST_F(DocumentCommandsTest, RefusedFilesChangeNothing) {
     commands_.OpenNamed("/icons/red.ico");
     window_.tmrStarted = false;
-    const std::string error = "KestrelIconEditor - Error";
-    struct {
-        const char* name;
-        const char* english;
-        const char* chinese;
-    } const cases[] = {
-        {"/icons/text.ico", "Unable to open the file text.ico", "不能打开text.ico文件"},
-        {"/nowhere.ico", "Unable to open the file nowhere.ico", "不能打开nowhere.ico文件"},
-    };
-    for (const auto& c : cases) {
-        commands_.OpenNamed(c.name);
-        ExpectBox(BoxIcon::Exclamation, BoxButtons::Ok, c.english, error);
-        i18n::SetUiLanguage(i18n::kChinese);
-        commands_.OpenNamed(c.name);
-        ExpectBox(BoxIcon::Exclamation, BoxButtons::Ok, c.chinese, "KestrelIconEditor - 错误");
-        i18n::SetUiLanguage(i18n::kEnglish);
+    given_.cdb.choice = "/icons/text.ico";
+    for (const auto& [language, named, chosen] :
+         {std::tuple{i18n::kEnglish, "Unable to open the file nowhere.ico",
+                     "Unable to open the file text.ico"},
+          {i18n::kChinese, "不能打开nowhere.ico文件", "不能打开 text.ico文件"}}) {
+        i18n::SetUiLanguage(language);
+        commands_.OpenNamed("/nowhere.ico");
+        ExpectError(named);
+        EXPECT_TRUE(window_.gridEnabled);
+        commands_.mnuOpen_Click();
+        ExpectError(chosen);
+        EXPECT_TRUE(window_.gridEnabled);
     }
-    cdb_.choice = "/icons/text.ico";
-    i18n::SetUiLanguage(i18n::kChinese);
-    commands_.mnuOpen_Click();
-    ExpectBox(BoxIcon::Exclamation, BoxButtons::Ok, "不能打开 text.ico文件",
-              "KestrelIconEditor - 错误");
     EXPECT_EQ(icon_.FileTitle, "red.ico");
     EXPECT_EQ(icon_.PicImage.GetPixel(1, 2), 0x0000FFU);
-    EXPECT_TRUE(window_.gridEnabled);
     EXPECT_FALSE(window_.tmrStarted);
 }
 
-TEST_F(DocumentCommandsTest, CancelledDialogsAreSilent) {
-    commands_.OpenNamed("/icons/red.ico");
-    Draw();
-    boxes_.answers = {Answer::No};
-    commands_.mnuOpen_Click();
-    commands_.mnuSaveAs_Click();
-    EXPECT_EQ(boxes_.shown.size(), 1U) << "only the question whether to save";
-    EXPECT_EQ(icon_.FileTitle, "red.ico");
-    EXPECT_FALSE(icon_.Modified) << "answered No before the dialog was cancelled";
-    EXPECT_TRUE(window_.gridEnabled);
-    EXPECT_FALSE(icon_.IsTransparent(9, 9));
-}
-
-TEST_F(DocumentCommandsTest, ThePromptGuardsNew) {
+TEST_F(DocumentCommandsTest, UnsavedChangesAreAskedAbout) {
     commands_.mnuNew_Click();
-    EXPECT_TRUE(boxes_.shown.empty()) << "nothing to save yet";
-    struct {
-        Answer answer;
-        const char* saveAs;
-        bool resets;
-    } const cases[] = {
-        {Answer::Cancel, "", false},
-        {Answer::Yes, "", false},  // the save dialog is cancelled
-        {Answer::Yes, "/icons/new.ico", true},
-        {Answer::No, "", true},
-    };
-    for (const auto& c : cases) {
+    EXPECT_TRUE(given_.boxes.shown.empty()) << "nothing to save yet";
+    for (const auto& [answer, saveAs, resets] :
+         {std::tuple{Answer::Cancel, "", false},
+          {Answer::Yes, "", false},  // the save dialog is cancelled
+          {Answer::Yes, "/icons/new.ico", true},
+          {Answer::No, "", true}}) {
         Draw();
-        boxes_.answers = {c.answer};
-        cdb_.choice = c.saveAs;
+        given_.boxes.answers = {answer};
+        given_.cdb.choice = saveAs;
         commands_.mnuNew_Click();
-        ExpectBox(BoxIcon::Question, BoxButtons::YesNoCancel, "Save changes to current icon?",
-                  "KestrelIconEditor");
-        EXPECT_EQ(icon_.IsTransparent(9, 9), c.resets);
-        EXPECT_EQ(icon_.Modified, !c.resets);
+        ExpectBox(BoxIcon::Question, BoxButtons::YesNoCancel, "Save changes to current icon?");
+        EXPECT_EQ(icon_.IsTransparent(9, 9), resets);
+        EXPECT_EQ(icon_.Modified, !resets);
     }
-    EXPECT_EQ(files_.contents.at("/icons/new.ico").size(), 3262U);
-    EXPECT_EQ(cdb_.saves.at(0).fileName, "Untitled.ico");
-    EXPECT_TRUE(cdb_.saves.at(0).overwritePrompt);
+    EXPECT_EQ(given_.files.contents.at("/icons/new.ico").size(), 3262U);
+    EXPECT_EQ(given_.cdb.saves.at(0).fileName, "Untitled.ico");
+    EXPECT_TRUE(given_.cdb.saves.at(0).overwritePrompt);
+
+    Draw();
+    commands_.OpenNamed("/icons/red.ico");
+    EXPECT_TRUE(icon_.IsUntitled()) << "the question was answered Cancel";
+    commands_.mnuExit_Click();
+    EXPECT_TRUE(window_.unloaded);
+    EXPECT_EQ(given_.boxes.shown.size(), 5U) << "the window asks when it closes";
 }
 
 TEST_F(DocumentCommandsTest, SavesInPlaceAndUnderANewName) {
     commands_.OpenNamed("/icons/red.ico");
     Draw();
     commands_.mnuSave_Click();
-    EXPECT_EQ(files_.contents["/icons/red.ico"].at(62 + 22 * 96 + 27), 0) << "black at (9, 9)";
+    EXPECT_TRUE(HoldsTheIcon("/icons/red.ico"));
     EXPECT_FALSE(icon_.Modified);
-    EXPECT_TRUE(icon_.SaveSucceeded);
-    cdb_.choice = "/icons/other.ico";
+    given_.cdb.choice = "/icons/other.ico";
     commands_.mnuSaveAs_Click();
-    EXPECT_EQ(cdb_.saves.at(0).fileName, "/icons/red.ico");
+    EXPECT_EQ(given_.cdb.saves.at(0).fileName, "/icons/red.ico");
     EXPECT_EQ(icon_.FilePath, "/icons/other.ico");
     EXPECT_EQ(window_.title, "KestrelIconEditor - other.ico");
-    EXPECT_EQ(window_.hourglasses, "on off on off ");
-    const auto saved = icons::ReadBestImage(files_.contents.at("/icons/other.ico"));
-    ASSERT_TRUE(saved);
-    EXPECT_TRUE(saved->color.SamePixels(icon_.PicImage));
-    EXPECT_TRUE(saved->mask.SamePixels(icon_.PicMask));
+    EXPECT_TRUE(HoldsTheIcon("/icons/other.ico"));
 }
 
 TEST_F(DocumentCommandsTest, WarnsBeforeReplacingSeveralIcons) {
     commands_.OpenNamed("/icons/several.ico");
-    boxes_.answers = {Answer::Cancel};
+    given_.boxes.answers = {Answer::Cancel, Answer::Ok};
     commands_.mnuSave_Click();
     ExpectBox(BoxIcon::Information, BoxButtons::OkCancel,
               "The file \"several.ico\" contains multiple icons.\r\n"
               "This \"Save\" will overwrite the other icons in the file.\r\n\r\n"
-              "Click Ok to continue with \"Save\".\r\nClick Cancel to \"Save As\".",
-              "KestrelIconEditor");
-    EXPECT_EQ(cdb_.saves.at(0).fileName, "*.ico");
-    EXPECT_FALSE(icon_.SaveSucceeded);
+              "Click Ok to continue with \"Save\".\r\nClick Cancel to \"Save As\".");
+    EXPECT_EQ(given_.cdb.saves.at(0).fileName, "*.ico");
     i18n::SetUiLanguage(i18n::kChinese);
-    boxes_.answers = {Answer::Ok};
     commands_.mnuSave_Click();
     ExpectBox(BoxIcon::Information, BoxButtons::OkCancel,
               "\"several.ico\" 文件包含多个图标.\r\n若 \"保存\" 将覆盖此文件中的其它图标.\r\n\r\n"
-              "点击‘确定’继续 \"保存\".\r\n点击 ‘取消’ 将 \"另存为\".",
-              "KestrelIconEditor");
-    EXPECT_TRUE(icon_.SaveSucceeded);
+              "点击‘确定’继续 \"保存\".\r\n点击 ‘取消’ 将 \"另存为\".");
+    EXPECT_TRUE(HoldsTheIcon("/icons/several.ico"));
     commands_.mnuSave_Click();
-    EXPECT_EQ(boxes_.shown.size(), 2U) << "one image now";
-}
-
-TEST_F(DocumentCommandsTest, ExitAsksTheWindowToClose) {
-    commands_.mnuExit_Click();
-    EXPECT_TRUE(window_.unloaded);
-    EXPECT_TRUE(boxes_.shown.empty()) << "the question is the window's";
+    EXPECT_EQ(given_.boxes.shown.size(), 2U) << "one image now";
 }
 
 TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
-    files_.writeError = {28, "No space left on device"};
-    Draw();
-    cdb_.choice = "/icons/full.ico";
+    given_.files.writeError = {28, "No space left on device"};
+    given_.cdb.choice = "/icons/full.ico";
     commands_.mnuSave_Click();
-    ExpectBox(BoxIcon::Exclamation, BoxButtons::Ok,
-              "No space left on device.\r\n\r\nUnable to save Untitled.",
-              "KestrelIconEditor - Error");
+    ExpectError("No space left on device.\r\n\r\nUnable to save Untitled.");
     EXPECT_EQ(window_.title, "KestrelIconEditor - full.ico");
     EXPECT_TRUE(icon_.IsUntitled());
 
-    boxes_.answers = {Answer::No};
     commands_.OpenNamed("/icons/several.ico");
     Draw();
     i18n::SetUiLanguage(i18n::kChinese);
     commands_.mnuSaveAs_Click();
-    ExpectBox(BoxIcon::Exclamation, BoxButtons::Ok,
-              "No space left on device.\r\n\r\n不能保存 full.ico 文件.",
-              "KestrelIconEditor - 错误");
+    ExpectError("No space left on device.\r\n\r\n不能保存 full.ico 文件.");
     EXPECT_EQ(icon_.FilePath, "/icons/several.ico");
     EXPECT_TRUE(icon_.Modified);
     EXPECT_TRUE(icon_.MultipleIcons);
-    EXPECT_FALSE(icon_.SaveSucceeded);
-    EXPECT_FALSE(icon_.IsTransparent(9, 9));
     EXPECT_EQ(window_.hourglasses, "on off on off ");
 }
 
