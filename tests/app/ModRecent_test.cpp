@@ -10,138 +10,100 @@ namespace kestrel::app {
 namespace {
 
 using Paths = std::vector<std::string>;
-
-const std::string kKey = "HKCU\\Software\\Brinmoor\\KestrelIconEditor\\Rfl";
+using Values = test::MemoryRegistry::Values;
 
 class ModRecentTest : public testing::Test {
   protected:
     ModRecentTest() { i18n::BuildMenuBar(menu_, popup_); }
+    // A list of the next start, with what the one before left in the registry.
     ModRecent NewList(std::uint32_t lcid = 1033) {
-        return {menu_, registry_, files_, boxes_, lcid};
+        ModRecent list(menu_, given_.registry, given_.files, given_.boxes, lcid);
+        list.LoadRecentFiles();
+        return list;
     }
-    void Add(ModRecent& list, const Paths& paths) {
-        for (const std::string& path : paths)
-            list.AddRecentFile(path);
-    }
-    // The captions that the menu shows, in order; they must have no gap, and a visible submenu.
+    // The captions that the menu shows, in order.
     Paths Shown() {
         Paths captions;
         for (int slot = 1; slot <= 4; ++slot) {
             const auto* item = menu_.Find("mnuRecentFile" + std::to_string(slot));
-            if (!item->visible) continue;
-            captions.push_back(item->caption);
-            EXPECT_EQ(captions.size(), static_cast<std::size_t>(slot)) << "a gap";
+            if (item->visible) captions.push_back(item->caption);
         }
         EXPECT_EQ(menu_.Find("mnuRecentFile0")->visible, !captions.empty());
         return captions;
     }
 
+    test::FakeServices given_;
     controls::SmartMenuXP menu_;
     controls::SmartMenuXP popup_;
-    test::MemoryRegistry registry_;
-    test::MemoryFiles files_;
-    test::ScriptedBoxes boxes_;
+    Values& stored_ = given_.registry.values["HKCU\\Software\\Brinmoor\\KestrelIconEditor\\Rfl"];
 };
 
 TEST_F(ModRecentTest, KeepsTheLastFourInOrderOfUse) {
-    const struct {
-        Paths added;
-        Paths shown;
-    } cases[] = {
-        {{}, {}},
+    const std::pair<Paths, Paths> cases[] = {
         {{"A", "B", "C", "D", "E"}, {"E", "D", "C", "B"}},
         {{"A", "B", "C", "D", "B"}, {"B", "D", "C", "A"}},
-        {{"A", "B", "A"}, {"A", "B"}},
-        {{"A", "B", "B"}, {"B", "A"}},
         {{"a.ico", "A.ico"}, {"A.ico", "a.ico"}},
         {{"a && b&c"}, {"a &&&& b&&c"}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [added, shown] : cases) {
         ModRecent list = NewList();
-        // Empties the menu of the case before.
-        registry_.values[kKey] = {};
-        list.LoadRecentFiles();
-        Add(list, c.added);
-        EXPECT_EQ(Shown(), c.shown);
+        for (const std::string& path : added)
+            list.AddRecentFile(path);
+        EXPECT_EQ(Shown(), shown);
     }
 }
 
 TEST_F(ModRecentTest, MovesBetweenRegistryAndMenu) {
-    ModRecent first = NewList();
-    first.LoadRecentFiles();
-    EXPECT_TRUE(registry_.values.empty()) << "a first run leaves no key behind";
-    Add(first, {"/a", "/b"});
-    EXPECT_TRUE(registry_.values.empty()) << "the registry waits for the end";
-    first.SaveRecentFiles();
-    EXPECT_EQ(registry_.values[kKey], (test::MemoryRegistry::Values{{"1.", "/b"}, {"2.", "/a"}}));
-
-    registry_.values[kKey] = {{"1.", "  /x  "}, {"3.", "/y"}, {"4.", std::string(260, 'z')}};
     std::string wide = "/";
     for (int i = 0; i < 250; ++i)
         wide += "图";
-    registry_.values[kKey]["2."] = wide;
-    ModRecent second = NewList();
-    second.LoadRecentFiles();
+    stored_ = {{"1.", "  /x  "}, {"2.", wide}, {"3.", "/y"}, {"4.", std::string(260, 'z')}};
+    ModRecent list = NewList();
     EXPECT_EQ(Shown(), (Paths{"/x", wide, "/y"}));
-    EXPECT_TRUE(registry_.values[kKey].empty());
+    EXPECT_EQ(stored_, Values{}) << "until the end";
+    list.SaveRecentFiles();
+    EXPECT_EQ(stored_, (Values{{"1.", "/x"}, {"2.", wide}, {"3.", "/y"}}));
 
-    registry_.values[kKey] = {{"1.", "/gone"}, {"2.", "/kept"}};
-    registry_.refused = kKey;
-    ModRecent third = NewList();
-    third.LoadRecentFiles();
+    // Where the registry could not be emptied, what has left the list leaves the registry, too.
+    stored_ = {{"1.", "/gone"}, {"2.", "/kept"}};
+    given_.registry.refused = "HKCU\\Software\\Brinmoor\\KestrelIconEditor\\Rfl";
+    ModRecent next = NewList();
     EXPECT_EQ(Shown(), (Paths{"/gone", "/kept"}));
-    third.SaveRecentFiles();
-    registry_.refused = "";
-    third.GetRecentFile(1);
-    third.SaveRecentFiles();
-    EXPECT_EQ(registry_.values[kKey], (test::MemoryRegistry::Values{{"1.", "/kept"}}));
+    given_.registry.refused = "";
+    next.GetRecentFile(1);
+    next.SaveRecentFiles();
+    EXPECT_EQ(stored_, (Values{{"1.", "/kept"}}));
 }
 
 TEST_F(ModRecentTest, AMissingFileIsReportedAndLeavesTheList) {
+    stored_ = {{"1.", "/a"}, {"2.", "/b"}, {"3.", "/c"}, {"4.", "/b"}};
     ModRecent list = NewList();
-    Add(list, {"/c", "/b", "/a"});
-    files_.contents["/a"] = {};
-    files_.contents["/c"] = {};
+    given_.files.contents["/a"] = {};
+    EXPECT_EQ(list.GetRecentFile(4), "");
+    EXPECT_EQ(Shown(), (Paths{"/a", "/b", "/c"})) << "the slot that was chosen goes";
+    EXPECT_EQ(given_.boxes.shown.at(0).text, "Unable to locate /b");
+    EXPECT_EQ(given_.boxes.shown[0].title, "KestrelIconEditor - Error");
     EXPECT_EQ(list.GetRecentFile(1), "/a");
-    EXPECT_EQ(list.GetRecentFile(2), "");
-    ASSERT_EQ(boxes_.shown.size(), 1U);
-    EXPECT_EQ(boxes_.shown[0].text, "Unable to locate /b");
-    EXPECT_EQ(boxes_.shown[0].title, "KestrelIconEditor - Error");
-    EXPECT_EQ(boxes_.shown[0].icon, dialogs::BoxIcon::Exclamation);
-    EXPECT_EQ(Shown(), (Paths{"/a", "/c"}));
-    EXPECT_EQ(list.GetRecentFile(2), "/c");
-    for (const int slot : {0, 3, 5})
+    for (const int slot : {0, 4, 5})
         EXPECT_EQ(list.GetRecentFile(slot), "");
-    files_.contents.clear();
-    EXPECT_EQ(list.GetRecentFile(2), "");
-    EXPECT_EQ(list.GetRecentFile(1), "");
+    EXPECT_EQ(given_.boxes.shown.size(), 1U);
+    given_.files.contents.clear();
+    for (const int slot : {3, 2, 1})
+        EXPECT_EQ(list.GetRecentFile(slot), "");
     EXPECT_EQ(Shown(), Paths{});
-    EXPECT_EQ(boxes_.shown.size(), 3U);
-
-    registry_.values[kKey] = {{"1.", "/b"}, {"2.", "/c"}, {"3.", "/b"}};
-    ModRecent twice = NewList();
-    twice.LoadRecentFiles();
-    EXPECT_EQ(twice.GetRecentFile(3), "");
-    EXPECT_EQ(Shown(), (Paths{"/b", "/c"})) << "the slot that was chosen goes";
 }
 
 TEST_F(ModRecentTest, CaptionsArePaddedForWideCharacters) {
-    ModRecent chinese = NewList(2052);
-    chinese.AddRecentFile("/图标/é.ico");
+    stored_ = {{"1.", "/图标/é.ico"}};
+    ModRecent list = NewList(2052);
     // é is two bytes in this code page too (A8 A6).
     EXPECT_EQ(Shown(), Paths{"/图标/é.ico   "});
-    ModRecent english = NewList(1033);
-    english.AddRecentFile("/图标/é.ico");
-    EXPECT_EQ(Shown(), Paths{"/图标/é.ico"});
 
-    const struct {
-        const char* text;
-        std::uint32_t lcid;
-        int wide;
-    } cases[] = {{"图x", 2052, 1}, {"圖", 1028, 1}, {"ｱア", 1041, 1},      {"한", 1042, 1},
-                 {"한", 2052, 0},  {"", 2052, 0},   {"\xE5\x9B", 2052, 0}, {"\xFF\xFF", 2052, 0}};
-    for (const auto& c : cases)
-        EXPECT_EQ(system::DoubleByteCharacters(c.text, c.lcid), c.wide) << c.text;
+    const std::tuple<const char*, std::uint32_t, int> cases[] = {
+        {"图x", 2052, 1}, {"圖", 1028, 1}, {"ｱア", 1041, 1},      {"한", 1042, 1},
+        {"한", 2052, 0},  {"图", 1033, 0}, {"\xE5\x9B", 2052, 0}, {"\xFF\xFF", 2052, 0}};
+    for (const auto& [text, lcid, wide] : cases)
+        EXPECT_EQ(system::DoubleByteCharacters(text, lcid), wide) << text;
 }
 
 }  // namespace
