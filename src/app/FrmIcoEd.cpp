@@ -122,7 +122,9 @@ void FrmIcoEd::RunCommand(const std::function<void()>& command) {
     const QScopedValueRollback running(commandRunning_, true);
     editor_.EndGesture();
     command();
-    if (picMain_->underMouse()) editor_.RefreshReadout();
+    // What lies under the pointer may have changed.
+    const QPoint at = picMain_->mapFromGlobal(QCursor::pos());
+    if (picMain_->underMouse()) editor_.PicMain_MouseMove({}, at.x(), at.y());
 }
 
 void FrmIcoEd::closeEvent(QCloseEvent* event) {

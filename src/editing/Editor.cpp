@@ -86,7 +86,7 @@ Outcome Editor::ReleaseTool(Button button, int x, int y) {
     if (outcome == Outcome::Changed) RecordChange();
     if (outcome == Outcome::HandBack) tools_.RestoreLastDrawingTool();
     // What lies under the pointer may have changed.
-    RefreshReadout();
+    ShowReadout(pointer_.x, pointer_.y);
     return outcome;
 }
 
@@ -133,10 +133,6 @@ void Editor::SetWindowColor(gdi::COLORREF color) {
 
 void Editor::ShowTitle() {
     window_.SetTitle(i18n::WindowTitle(document_.FileTitle));
-}
-
-void Editor::RefreshReadout() {
-    ShowReadout(pointer_.x, pointer_.y);
 }
 
 void Editor::ShowReadout(int x, int y) {

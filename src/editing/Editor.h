@@ -39,8 +39,6 @@ class Editor {
     void PicMain_MouseDown(Button button, int x, int y);
     void PicMain_MouseMove(HeldButtons held, int x, int y);
     void PicMain_MouseUp(Button button, int x, int y);
-    // Reads again what lies under the pointer, which is over the grid.
-    void RefreshReadout();
     // Ends a gesture where it is, as if its button came up there. For whatever may take the mouse
     // away in its midst, such as a command by keyboard.
     void EndGesture();

@@ -102,6 +102,7 @@ TEST_F(SelectingTest, ArrowKeysMoveItAndEscapeDropsIt) {
     EXPECT_TRUE(Selected().SelectionMarked());
     Key(Qt::Key_Right);
     EXPECT_TRUE(Selected().SelectionFloating());
+    EXPECT_TRUE(window_.BarAction("mnuEditOpts0")->isEnabled());
     Key(Qt::Key_Right);
     Key(Qt::Key_Down);
     EXPECT_EQ(Selected().Marquee(), (Corners{40, 30, 60, 50}));
@@ -116,6 +117,10 @@ TEST_F(SelectingTest, ArrowKeysMoveItAndEscapeDropsIt) {
     }
     EXPECT_TRUE(test::ViewsAreFresh(Editor()));
     const std::size_t entries = Editor().History().UndoCount();
+    Key(Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_EQ(Selected().Marquee(), (Corners{40, 30, 60, 50})) << "those were for the toolbar";
     Key(Qt::Key_Escape);
     EXPECT_FALSE(Selected().Exists());
     EXPECT_FALSE(Editor().Document().IsTransparent(4, 3));
@@ -175,8 +180,16 @@ TEST_F(SelectingTest, WhatFloatsIsSaved) {
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_FALSE(Selected().Exists());
     EXPECT_FALSE(Editor().Document().Modified);
+    MarkCells({2, 2}, {4, 4});
+    Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(Selected().SelectionMarked());
+    Key(Qt::Key_Right);
+    given_.files.writeError = {28, "No space left on device"};
+    Key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(Selected().SelectionFloating()) << "nothing was saved";
+    Key(Qt::Key_Z, Qt::ControlModifier);
+    Editor().Document().Modified = false;
     Key(Qt::Key_O, Qt::ControlModifier);
-    given_.cdb.choice = "/icons/new.ico";
     EXPECT_FALSE(Editor().Document().IsTransparent(3, 2));
     EXPECT_TRUE(Editor().Document().IsTransparent(2, 2));
 }
@@ -195,6 +208,22 @@ TEST_F(SelectingTest, APictureThatCannotBeReadIsToldInBothLanguages) {
         EXPECT_EQ(given_.boxes.shown.back().title, i18n::kErrorTitle.In(code));
     }
     EXPECT_FALSE(Selected().Exists());
+}
+
+TEST_F(SelectingTest, ALargePictureIsAskedAboutOverTheWindow) {
+    given_.clipboard.Offer(gdi::Surface(33, 10, gdi::kBlack));
+    for (const bool accepted : {false, true}) {
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_EQ(dialog->parentWidget(), &window_);
+            dialog->done(accepted ? QDialog::Accepted : QDialog::Rejected);
+        });
+        QApplication::setActiveWindow(&window_);
+        Key(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(Selected().SelectionFloating(), accepted);
+    }
+    EXPECT_TRUE(given_.boxes.shown.empty());
 }
 
 TEST_F(SelectingTest, ThePasteDialogAsksInBothLanguages) {
@@ -220,13 +249,14 @@ TEST_F(SelectingTest, ThePasteDialogAsksInBothLanguages) {
          click("cmdOK"), PasteFit::KeepAspect},
         {nullptr, click("cmdCancel"), std::nullopt},
         {nullptr, key(Qt::Key_Escape), std::nullopt},
-        {nullptr, [](QWidget* dialog) { dialog->close(); }, std::nullopt},
+        {nullptr, [](QWidget* dialog) { QTest::keyClick(dialog, Qt::Key_F4, Qt::AltModifier); },
+         std::nullopt},
     };
     for (const auto& c : cases) {
         FrmClipData dialog(&window_, {200, 100});
-        EXPECT_TRUE(dialog.isModal() || !dialog.isVisible());
         QTimer::singleShot(0, [&] {
             EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+            QApplication::setActiveWindow(&dialog);
             if (c.first) c.first(&dialog);
             c.then(&dialog);
         });

@@ -20,7 +20,8 @@ BEGIN {
     below["icons"] = " gdi system "
     below["dialogs"] = " gdi icons system "
     below["controls"] = " gdi "
-    below["qt"] = " gdi icons system dialogs controls "
+    below["desktop"] = " gdi "
+    below["qt"] = " gdi icons system dialogs controls desktop "
 }
 
 # Only these know Qt; whoever includes their headers knows it too.

@@ -15,10 +15,11 @@ TEST(PasteFit, LargePicturesAreShrunk) {
     const struct {
         PictureSize picture, inProportion;
     } cases[] = {
-        {{64, 32}, {32, 16}}, {{33, 10}, {32, 10}},     {{1, 4000}, {1, 32}},
-        {{4000, 1}, {32, 1}}, {{100, 99}, {32, 32}},    {{33, 64}, {17, 32}},
-        {{65, 3}, {32, 1}},   {{32, 33}, {31, 32}},     {{64, 63}, {32, 31}},
-        {{33, 33}, {32, 32}}, {{7680, 4320}, {32, 19}}, {{32, 20000}, {1, 32}},
+        {{64, 32}, {32, 16}},   {{33, 10}, {32, 10}},  {{1, 4000}, {1, 32}},
+        {{4000, 1}, {32, 1}},   {{100, 99}, {32, 32}}, {{33, 64}, {17, 32}},
+        {{65, 3}, {32, 1}},     {{32, 33}, {31, 32}},  {{64, 63}, {32, 31}},
+        {{177, 47}, {32, 8}},   {{33, 33}, {32, 32}},  {{7680, 4320}, {32, 19}},
+        {{32, 20000}, {1, 32}},
     };
     for (const auto& c : cases) {
         EXPECT_FALSE(FitsIcon(c.picture));
@@ -27,7 +28,6 @@ TEST(PasteFit, LargePicturesAreShrunk) {
         EXPECT_EQ(FittedSize(c.picture, PasteFit::Shrink), (PictureSize{32, 32}));
     }
     EXPECT_TRUE(FitsIcon({32, 32}));
-    EXPECT_EQ(FittedSize({32, 1}, PasteFit::KeepAspect), (PictureSize{32, 1}));
 }
 
 // Each pixel bears its own column in red, its row in green and blue.
@@ -66,7 +66,7 @@ TEST(PasteFit, WhiteAndHalfTransparentPixelsAreSeeThroughUnlessOpaque) {
         {0xFFFEFFFF, 0xFEFFFF, 0xFEFFFF, false}, {0x00000000, 0x000000, 0xFFFFFF, true},
         {0x00FFFFFF, 0x000000, 0xFFFFFF, true},  {0x80000000, 0x000000, 0x7F7F7F, false},
         {0x7F0000FF, 0x000000, 0x8080FF, true},  {0x80FFFFFF, 0x000000, 0xFFFFFF, true},
-        {0x330A141E, 0x000000, 0xCED0D2, true},
+        {0x330A141E, 0x000000, 0xCED0D2, true},  {0x010000C8, 0x000000, 0xFEFEFF, true},
     };
     for (const auto& c : cases) {
         gdi::Surface picture(1, 1);
@@ -85,9 +85,11 @@ class ClipboardTest : public test::EditorTest {
     ClipboardTest() {
         Paint({10, 10}, 0x0000FF);
         Paint({11, 10}, gdi::kWhite);
+        // It inverts the screen.
+        icon_.PicImage.SetPixel(12, 11, 0x123456);
         editor_.History().PushUndoSnapshot();
         editor_.Tools().SelectTool(ToolId::Selection);
-        // Red, white, transparent; below them nothing.
+        // Red, white, transparent; below them nothing but that one.
         Stroke(Button::Left, {{100, 100}, {130, 120}});
     }
     gdi::COLORREF Copied(int x, int y) {
@@ -106,6 +108,7 @@ TEST_F(ClipboardTest, CopyPutsTheSelectionOverWhiteWithItsAlpha) {
     EXPECT_EQ(Copied(0, 0), 0xFF0000FF);
     EXPECT_EQ(Copied(1, 0), 0xFFFFFFFF);
     EXPECT_EQ(Copied(2, 0), 0x00FFFFFFU);
+    EXPECT_EQ(Copied(2, 1), 0x00EDCBA9U);
     EXPECT_TRUE(editor_.Selected().SelectionMarked());
     EXPECT_FALSE(icon_.Modified);
     clipboard_.image.reset();

@@ -83,6 +83,7 @@ TEST_F(EditorTest, TheButtonComesUpWhereThePointerHasBeen) {
     // Undo ends the stroke under way and takes it back.
     editor_.PicMain_MouseDown(Button::Left, 155, 5);
     editor_.PopUndoSnapshot();
+    editor_.PicMain_MouseMove(Held(Button::Left), 155, 5);
     EXPECT_TRUE(icon_.IsTransparent(15, 0));
     EXPECT_EQ(OpaquePixels(), 2);
     icon_.Modified = false;

@@ -52,6 +52,7 @@ TEST_F(SelectionTest, AMarqueeRunsFromTheNearestLineToTheCellUnderThePointer) {
         {"upwards marks the same", {{64, 84}, {20, 40}}, {20, 40, 60, 80}},
         {"across, back and forth", {{64, 41}, {300, 300}, {29, 80}}, {20, 40, 60, 80}},
         {"out at every side", {{155, 155}, {-70, 999}}, {0, 160, 160, 320}},
+        {"begun beside the grid", {{-14, 333}, {50, 250}}, {0, 250, 50, 320}},
         {"far out", {{155, 155}, {32767, -32768}}, {160, 0, 320, 160}},
         {"a click", {{155, 155}}, {}},
         {"no height", {{20, 40}, {300, 44}}, {}},
@@ -81,32 +82,25 @@ TEST_F(SelectionTest, TheRubberMarqueeIsDottedAndTellsItsSize) {
     editor_.PicMain_MouseDown(Button::Left, 28, 41);
     editor_.PicMain_MouseMove(test::Held(Button::Left), 87, 65);
     const gdi::Surface& grid = editor_.Views().PicMain;
-    EXPECT_EQ(grid.GetPixel(30, 40), before.GetPixel(30, 40) ^ gdi::kWhite);
-    EXPECT_EQ(grid.GetPixel(31, 40), before.GetPixel(31, 40));
-    EXPECT_EQ(grid.GetPixel(32, 40), before.GetPixel(32, 40) ^ gdi::kWhite);
+    for (const int x : {30, 31, 32})
+        EXPECT_EQ(grid.GetPixel(x, 40), before.GetPixel(x, 40) ^ (x == 31 ? 0 : gdi::kWhite));
     gdi::Surface expected = before;
     test::InvertMarquee(expected, {30, 40, 80, 60});
     EXPECT_TRUE(test::ComparePicture(grid, expected));
     EXPECT_EQ(window_.panels[4], "5 , 2");
-    EXPECT_EQ(window_.panels[1], "Right-Click Popup Menu");
-}
-
-TEST_F(SelectionTest, MarkedPixelsAreCopied) {
-    MarkCells({5, 6}, {7, 8});
-    ASSERT_EQ(Selected().PicSelMask.Bounds(), (gdi::Rect{0, 0, 3, 3}));
-    for (int y = 0; y < 3; ++y) {
-        for (int x = 0; x < 3; ++x) {
-            EXPECT_EQ(Selected().PicSelImage.GetPixel(x, y), icon_.PicImage.GetPixel(x + 5, y + 6));
-            EXPECT_EQ(Selected().PicSelMask.GetPixel(x, y), icon_.PicMask.GetPixel(x + 5, y + 6));
-        }
-    }
+    editor_.EndGesture();
+    // The right button marks nothing and moves nothing: its size is that of the cells passed.
+    Stroke(Button::Right, {{58, 58}, {157, 157}});
+    EXPECT_EQ(window_.panels[4], "10 , 10");
 }
 
 TEST_F(SelectionTest, LiftedAndDroppedInPlaceNothingChanges) {
     const document::IconDocument before = icon_;
     MarkCells({5, 6}, {12, 20});
+    window_.refreshes = 0;
     // Near the end of a cell, where a press rounded to the nearest line would shift it.
     Stroke(Button::Left, {{68, 79}});
+    EXPECT_GE(window_.refreshes, 1);
     EXPECT_TRUE(Selected().SelectionFloating());
     EXPECT_EQ(Selected().Marquee(), (Corners{50, 60, 130, 210}));
     EXPECT_TRUE(icon_.IsTransparent(7, 6));
@@ -115,7 +109,9 @@ TEST_F(SelectionTest, LiftedAndDroppedInPlaceNothingChanges) {
     EXPECT_TRUE(icon_.Modified);
     EXPECT_TRUE(test::ViewsAreFresh(editor_));
     EXPECT_EQ(Entries(), 1U);
+    icon_.Modified = false;
     Selected().DropSelection();
+    EXPECT_TRUE(icon_.Modified);
     EXPECT_FALSE(Selected().Exists());
     EXPECT_TRUE(SamePlanes(before)) << "also the pixel that inverts the screen";
     EXPECT_EQ(Entries(), 2U);
@@ -137,12 +133,14 @@ TEST_F(SelectionTest, ADragMovesThePixelsByWholeCells) {
                  {{50, 60}, {319, 319}, {300, 300, 320, 310}},
                  {{45, 55}, {-31, 55}, {-30, 50, -10, 60}},
                  {{45, 55}, {30000, -30000}, {30000, -30000, 30020, -29990}},
-                 {{45, 55}, {32767, 55}, {40, 50, 60, 60}}};
+                 {{45, 55}, {32740, 55}, {32740, 50, 32760, 60}},
+                 {{45, 55}, {32767, 55}, {40, 50, 60, 60}},
+                 {{55, 55}, {-32768, 55}, {40, 50, 60, 60}}};
     for (const auto& c : cases) {
         MarkCells({4, 5}, {5, 5});
         ASSERT_TRUE(icon_.IsTransparent(4, 5));
         Stroke(Button::Left, {c.from, c.to});
-        EXPECT_EQ(Selected().Marquee(), c.marquee) << "the last one would leave the 16 bits";
+        EXPECT_EQ(Selected().Marquee(), c.marquee) << "the last two would leave the 16 bits";
         EXPECT_TRUE(test::ViewsAreFresh(editor_));
         const std::size_t entries = Entries();
         Selected().DropSelection();
@@ -176,6 +174,12 @@ TEST_F(SelectionTest, WhileItMovesItIsShownWithoutMarquee) {
     test::InvertMarquee(editor_.Views().PicMain, Selected().Marquee());
     editor_.PicMain_MouseUp(Button::Left, 185, 65);
     EXPECT_TRUE(test::ViewsAreFresh(editor_));
+    editor_.PicMain_MouseDown(Button::Left, 185, 65);
+    Selected().DropSelection();
+    EXPECT_FALSE(Selected().MovingSelection());
+    editor_.SelectAll();
+    EXPECT_TRUE(test::ViewsAreFresh(editor_)) << "the gesture has ended";
+    Selected().LiftSelection();
     // The desktop's colours change behind a floating selection.
     editor_.SetWindowColor(0x00FF00);
     EXPECT_TRUE(test::ViewsAreFresh(editor_));
@@ -288,9 +292,16 @@ TEST_F(SelectionTest, SelectAllAndDeleteLeaveAnEmptyIcon) {
     EXPECT_TRUE(SamePlanes({}));
     EXPECT_TRUE(icon_.Modified);
     EXPECT_TRUE(test::ViewsAreFresh(editor_));
-    editor_.SelectAll();
+    Paint({0, 0}, gdi::kBlack);
+    editor_.FloatSelection(gdi::Surface(2, 2, gdi::kBlack), gdi::Surface(2, 2, 0xABCDEF));
+    Selected().Delete();
+    EXPECT_EQ(OpaquePixels(), 1) << "what it floated over stays";
+    editor_.FloatSelection(gdi::Surface(2, 2, gdi::kBlack), gdi::Surface(2, 2, 0xABCDEF));
     editor_.ResetDocument();
     EXPECT_FALSE(Selected().Exists());
+    EXPECT_TRUE(SamePlanes({}));
+    EXPECT_FALSE(icon_.Modified);
+    EXPECT_EQ(Entries(), 1U);
     EXPECT_TRUE(test::ViewsAreFresh(editor_));
 }
 

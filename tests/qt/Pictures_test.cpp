@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <algorithm>
 #include <array>
 
 #include "platform/qt/PictureFile.h"
@@ -29,22 +31,67 @@ TEST(PictureIcon, DrawsInWholeStepsInTheMiddleAndGreyWhenDisabled) {
     EXPECT_EQ(disabled.pixelColor(1, 1).alpha(), 0);
 }
 
-TEST(QtClipboard, KeepsPixelsWithTheirAlphaAndRefusesDamagedOnes) {
-    gdi::Surface copied(40, 30);
-    for (unsigned i = 0; i < 40 * 30; ++i)
-        copied.Row(static_cast<int>(i / 40))[i % 40] = i * 0x6B43A9B5;
-    QtClipboard clipboard;
-    clipboard.SetImage(copied);
-    const auto pasted = clipboard.GetImage();
-    EXPECT_TRUE(pasted && pasted->SamePixels(copied));
-    for (const char* format : {"image/png", "image/bmp"}) {
-        const QByteArray file = QGuiApplication::clipboard()->mimeData()->data(format);
+TEST(PictureFile, BitmapsOfEveryHeaderAreRead) {
+    using namespace std::string_literals;
+    // 2 x 1 pixels of 24 bits in blue, green and red; a row takes 8 bytes.
+    const std::string row = "\1\2\3\4\5\6\0\0"s;
+    const auto file = [](const std::string& header, const std::string& pixels) {
+        const auto start = static_cast<char>(14 + header.size());
+        return QByteArray::fromStdString("BM"s + std::string(8, '\0') + start + "\0\0\0"s + header +
+                                         pixels);
+    };
+    const auto info = [](const std::string& height, char compression) {
+        return "\x28\0\0\0\2\0\0\0"s + height + "\1\0\x18\0"s + compression + std::string(23, '\0');
+    };
+    const std::string core = "\x0C\0\0\0\2\0\1\0\1\0\x18\0"s;
+    const std::string upwards = info("\1\0\0\0"s, 0);
+    const std::string downwards = info("\xFF\xFF\xFF\xFF"s, 0);
+    for (const std::string& header : {core, upwards, downwards}) {
+        const auto picture = ReadPicture(file(header, row));
+        ASSERT_TRUE(picture) << header.size();
+        EXPECT_EQ(picture->Row(0)[1], 0xFF040506);
+        EXPECT_FALSE(ReadPicture(file(header, row.substr(0, 7)))) << header.size();
+    }
+    EXPECT_FALSE(ReadPicture(file(info("\1\0\0\0"s, 1), row))) << "compressed";
+    EXPECT_FALSE(ReadPicture("P3 1 1 255 1 2 3")) << "not what programs copy";
+}
+
+TEST(PictureFile, CutFilesAreRefused) {
+    QImage image(40, 30, QImage::Format_RGB32);
+    for (int i = 0; i < 40 * 30; ++i)
+        image.setPixel(i % 40, i / 40, 0x6B43A9U * static_cast<QRgb>(i));
+    for (const char* format : {"PNG", "BMP", "JPG"}) {
+        QByteArray file;
+        QBuffer buffer(&file);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, format);
         EXPECT_TRUE(ReadPicture(file)) << format;
         for (const qsizetype cut : {qsizetype{0}, qsizetype{10}, qsizetype{40}, file.size() / 2})
             EXPECT_FALSE(ReadPicture(file.left(cut))) << format << " cut at " << cut;
     }
+}
+
+TEST(QtClipboard, KeepsPixelsWithTheirAlpha) {
+    constexpr gdi::COLORREF kPixels[] = {0xFF0201FE, 0x00030405, 0x80102030};
+    constexpr gdi::COLORREF kPasted[] = {0xFF0201FE, 0x00FFFFFF, 0x80102030};
+    constexpr gdi::COLORREF kInBitmap[] = {0xFF0201FE, 0xFF030405, 0xFF102030};
+    gdi::Surface copied(3, 1);
+    std::copy(std::begin(kPixels), std::end(kPixels), copied.Row(0).begin());
+    QtClipboard clipboard;
+    int changes = 0;
+    clipboard.onChanged = [&] { ++changes; };
+    clipboard.SetImage(copied);
+    EXPECT_TRUE(clipboard.HasImage());
+    EXPECT_EQ(changes, 1);
+    const auto pasted = clipboard.GetImage();
+    ASSERT_TRUE(pasted);
+    EXPECT_TRUE(std::ranges::equal(pasted->Row(0), kPasted));
+    const QByteArray file = QGuiApplication::clipboard()->mimeData()->data("image/bmp");
+    EXPECT_TRUE(std::ranges::equal(ReadPicture(file)->Row(0), kInBitmap));
     QGuiApplication::clipboard()->setText("text");
     EXPECT_FALSE(clipboard.HasImage());
+    EXPECT_EQ(changes, 2);
+    EXPECT_FALSE(clipboard.GetImage());
 }
 
 }  // namespace
