@@ -28,8 +28,12 @@ XSelection::XSelection(Clock::time_point deadline)
 }
 
 std::optional<std::vector<std::string>> XSelection::Targets() {
-    const auto targets = Convert(Atom("TARGETS"), kMostTargets * sizeof(xcb_atom_t));
+    const xcb_atom_t own = Atom("TARGETS");
+    const auto targets = Convert(own, kMostTargets * sizeof(xcb_atom_t));
     if (!targets) return std::nullopt;
+    // Some owners name the list by its own type; any other type is no list.
+    const bool isList = targets->type == XCB_ATOM_ATOM || targets->type == own;
+    if (targets->type != XCB_ATOM_NONE && !isList) return std::nullopt;
     std::vector<std::string> names;
     for (std::size_t at = 0; at + sizeof(xcb_atom_t) <= targets->bytes.size();
          at += sizeof(xcb_atom_t)) {
