@@ -13,19 +13,18 @@ namespace {
 
 class PaletteTest : public testing::Test {
   protected:
-    // The tool whose cell has a sunken edge: grey along its left and top.
+    static test::At CellOf(int id) { return {(id - 1) % 4 * 23, (id - 1) / 4 * 22}; }
+    // The tools whose cells have a sunken edge: grey along left and top.
     std::vector<int> Highlighted() const {
         std::vector<int> tools;
         for (int id = 1; id <= 12; ++id) {
-            const int x = (id - 1) % 4 * 23;
-            const int y = (id - 1) / 4 * 22;
+            const auto [x, y] = CellOf(id);
             const auto& picture = palette_.PicTools();
             if (picture.GetPixel(x, y) != kGround && picture.GetPixel(x, y + 20) != kGround)
                 tools.push_back(id);
         }
         return tools;
     }
-    int Current() const { return static_cast<int>(palette_.CurrentTool()); }
 
     static constexpr gdi::COLORREF kGround = 0xC8D0D4;
     test::RecordingEditorWindow window_;
@@ -33,78 +32,33 @@ class PaletteTest : public testing::Test {
     ToolPalette& palette_ = editor_.Tools();
 };
 
-TEST_F(PaletteTest, EveryCellSelectsItsTool) {
-    for (int id = 1; id <= 12; ++id) {
-        const Button button = id % 2 == 0 ? Button::Left : Button::Right;
-        const int x = (id - 1) % 4 * 23;
-        const int y = (id - 1) / 4 * 22;
-        palette_.PicTools_MouseDown(button, x, y);
-        palette_.PicTools_MouseUp(button, x + 22, y + 21);
-        EXPECT_EQ(Current(), id);
-        EXPECT_EQ(Highlighted(), std::vector{id});
-        const ToolId drawing = palette_.LastDrawingTool();
-        EXPECT_EQ(static_cast<int>(drawing), id == 1 ? 2 : id == 4 ? 3 : id);
-    }
-    palette_.SelectTool(ToolId::Selection);
-    palette_.RestoreLastDrawingTool();
-    EXPECT_EQ(Current(), 12);
-    EXPECT_EQ(Highlighted(), std::vector{12});
-}
-
+// The pressed tool is chosen where the same button comes up over it, and is shown while the pointer
+// is there; only the left button shows where it is. A press on the tool in use is none, and the
+// last one ends unseen.
 TEST_F(PaletteTest, APressCountsWhereItBegan) {
-    const int repaints = window_.toolRepaints;
-    palette_.PicTools_MouseDown(Button::Left, 30, 5);
-    palette_.PicTools_MouseUp(Button::Left, 30, 5);
-    EXPECT_EQ(window_.toolRepaints, repaints) << "the current tool";
-    palette_.PicTools_MouseDown(Button::None, 5, 30);
-    palette_.PicTools_MouseUp(Button::None, 5, 30);
-    EXPECT_EQ(Current(), 2);
-
-    palette_.PicTools_MouseDown(Button::Left, 5, 30);
-    EXPECT_EQ(Highlighted(), (std::vector{2, 5}));
-    palette_.PicTools_MouseMove({true, false}, 5, 70);
-    EXPECT_EQ(Highlighted(), std::vector{2});
-    // Another button has no part in it.
-    palette_.PicTools_MouseDown(Button::Right, 60, 30);
-    palette_.PicTools_MouseUp(Button::Right, 60, 30);
-    palette_.PicTools_MouseUp(Button::Left, 95, 30);
-    EXPECT_EQ(Current(), 2);
-    EXPECT_EQ(Highlighted(), std::vector{2});
-
-    palette_.PicTools_MouseDown(Button::Left, 5, 30);
-    palette_.PicTools_MouseMove({true, false}, -5, 30);
-    palette_.PicTools_MouseMove({true, false}, 10, 40);
-    EXPECT_EQ(Highlighted(), (std::vector{2, 5})) << "back on the cell";
-    palette_.PicTools_MouseUp(Button::Left, 10, 40);
-    EXPECT_EQ(Current(), 5);
-
-    // Only the left button shows where it is.
-    palette_.PicTools_MouseDown(Button::Right, 5, 5);
-    palette_.PicTools_MouseMove({false, true}, 60, 60);
-    EXPECT_EQ(Highlighted(), (std::vector{1, 5}));
-    // A press whose end nobody saw ends with the next one.
-    palette_.PicTools_MouseDown(Button::Right, 30, 30);
-    palette_.PicTools_MouseUp(Button::Right, 30, 30);
-    EXPECT_EQ(Highlighted(), std::vector{6});
-}
-
-TEST_F(PaletteTest, GlyphsStandOnTheWindowsColour) {
-    gdi::Surface before = palette_.PicTools();
-    palette_.SetWindowColor(0x302010);
-    int changed = 0;
-    for (int y = 0; y < 66; ++y) {
-        for (int x = 0; x < 92; ++x) {
-            const gdi::COLORREF now = palette_.PicTools().GetPixel(x, y);
-            if (now == before.GetPixel(x, y)) continue;
-            ++changed;
-            ASSERT_EQ(before.GetPixel(x, y), kGround);
-            ASSERT_EQ(now, 0x302010U);
-        }
+    using enum Button;
+    const struct {
+        char event;
+        Button button;
+        int x, y;
+        std::vector<int> highlighted;
+    } steps[] = {
+        {'d', None, 5, 30, {2}},    {'u', None, 5, 30, {2}},      {'d', Left, 5, 30, {2, 5}},
+        {'m', Left, 5, 70, {2}},    {'d', Right, 60, 30, {2}},    {'u', Right, 60, 30, {2}},
+        {'u', Left, 95, 5, {2}},    {'d', Left, 5, 30, {2, 5}},   {'m', Left, -5, 30, {2}},
+        {'m', Left, 9, 40, {2, 5}}, {'u', Left, 9, 40, {5}},      {'d', Left, 5, 30, {5}},
+        {'d', Right, 5, 5, {1, 5}}, {'m', Right, 60, 60, {1, 5}}, {'m', None, 60, 60, {5}},
+    };
+    for (const auto& s : steps) {
+        if (s.event == 'd') palette_.PicTools_MouseDown(s.button, s.x, s.y);
+        if (s.event == 'm')
+            palette_.PicTools_MouseMove({s.button == Left, s.button == Right}, s.x, s.y);
+        if (s.event == 'u') palette_.PicTools_MouseUp(s.button, s.x, s.y);
+        EXPECT_EQ(Highlighted(), s.highlighted) << s.event << s.x << "," << s.y;
     }
-    EXPECT_GT(changed, 92 * 66 / 2);
 }
 
-TEST_F(PaletteTest, EveryGlyphStandsInItsCell) {
+TEST_F(PaletteTest, EveryGlyphStandsInItsCellOnTheWindowsColour) {
     // The first pixel of each glyph's first row, read from its picture, with the glyph at (4, 3).
     const struct {
         int tool, x, y;
@@ -114,54 +68,52 @@ TEST_F(PaletteTest, EveryGlyphStandsInItsCell) {
         {5, 8, 4, 0x808080},   {6, 17, 4, 0x808000}, {7, 5, 6, 0x808000},    {8, 11, 11, 0x808000},
         {9, 11, 11, 0x00FFFF}, {10, 9, 6, 0x808000}, {11, 11, 11, 0x808000}, {12, 11, 11, 0x00FFFF},
     };
-    for (const auto& c : cases) {
-        const int left = (c.tool - 1) % 4 * 23;
-        const int top = (c.tool - 1) / 4 * 22;
-        EXPECT_EQ(palette_.PicTools().GetPixel(left + c.x, top + c.y), c.color) << c.tool;
-        EXPECT_EQ(palette_.PicTools().GetPixel(left + 3, top + 11), kGround) << c.tool;
+    for (const gdi::COLORREF ground : {kGround, gdi::COLORREF{0x302010}}) {
+        palette_.SetWindowColor(ground);
+        for (const auto& c : cases) {
+            const auto [left, top] = CellOf(c.tool);
+            EXPECT_EQ(palette_.PicTools().GetPixel(left + c.x, top + c.y), c.color) << c.tool;
+            EXPECT_EQ(palette_.PicTools().GetPixel(left + 3, top + 11), ground) << c.tool;
+        }
     }
-    EXPECT_EQ(palette_.PicTools().GetPixel(11, 52), 0x00FFFFU);
 }
 
-TEST_F(PaletteTest, ToolsSpeakTheLanguageInForce) {
-    constexpr std::array kCursors{GridCursor::Cross, GridCursor::Pencil, GridCursor::Eraser,
-                                  GridCursor::Picker, GridCursor::FloodFill};
-    Editor editor(window_, kGround);
+TEST_F(PaletteTest, EveryCellSelectsItsToolWhichSpeaksTheLanguageInForce) {
+    using enum GridCursor;
+    constexpr std::array kCursors{Cross, Pencil, Eraser, Picker, FloodFill, Cross,
+                                  Cross, Cross,  Cross,  Cross,  Cross,     Cross};
     for (const test::Row& row : test::ListedTexts("tool")) {
-        const std::size_t slot = std::stoul(row[test::Key]) - 1;
-        const auto x = static_cast<int>(slot % 4 * 23 + 10);
-        const auto y = static_cast<int>(slot / 4 * 22 + 10);
-        editor.Tools().SelectTool(static_cast<ToolId>(slot + 1));
-        EXPECT_EQ(window_.cursor, slot < 5 ? kCursors[slot] : GridCursor::Cross);
+        const int id = std::stoi(row[test::Key]);
+        const auto [x, y] = CellOf(id);
+        const Button button = id % 2 == 0 ? Button::Left : Button::Right;
+        palette_.PicTools_MouseDown(button, x, y);
+        palette_.PicTools_MouseUp(button, x + 22, y + 21);
+        EXPECT_EQ(palette_.CurrentTool(), static_cast<ToolId>(id));
+        EXPECT_EQ(Highlighted(), std::vector{id});
+        EXPECT_EQ(window_.cursor, kCursors.at(std::stoul(row[test::Key]) - 1));
         for (const auto& [code, column] :
              {std::pair{i18n::kChinese, test::Chinese}, {i18n::kEnglish, test::English}}) {
             i18n::SetUiLanguage(code);
             if (row[test::Kind] == "grid") {
-                editor.PicMain_MouseMove({}, 5, 5);
+                editor_.PicMain_MouseMove({}, 5, 5);
             } else {
-                palette_.PicTools_MouseMove({}, x, y);
+                palette_.PicTools_MouseMove({}, x + 10, y + 10);
             }
             const bool isTip = row[test::Kind] == "tooltip";
             EXPECT_EQ(isTip ? window_.toolTip : window_.panels[1], row[column]);
         }
     }
-    palette_.PicTools_MouseMove({}, 5, 66);
-    EXPECT_EQ(window_.toolTip, "Filled Ellipse");
-    palette_.PicTools_MouseMove({true, false}, 5, 5);
-    EXPECT_EQ(window_.toolTip, "Filled Ellipse") << "only without a button";
 }
 
 class WellsTest : public testing::Test {
   protected:
     // Both wells as hexadecimal colours, T for a transparent one.
     std::string Wells() const {
-        const auto text = [this](Button button) {
-            char digits[16];
-            std::snprintf(digits, sizeof digits, "%X%s", wells_.PenColor(button),
-                          wells_.IsTransparent(button) ? "T" : "");
-            return std::string(digits);
-        };
-        return text(Button::Left) + " " + text(Button::Right);
+        std::ostringstream text;
+        for (const Button button : {Button::Left, Button::Right})
+            text << std::hex << std::uppercase << wells_.PenColor(button)
+                 << (wells_.IsTransparent(button) ? "T " : " ");
+        return text.str();
     }
 
     test::RecordingEditorWindow window_;
@@ -171,52 +123,42 @@ class WellsTest : public testing::Test {
 };
 
 TEST_F(WellsTest, ButtonsDoWhatTheySay) {
+    using enum Button;
     using Event = void (WellCommands::*)(Button);
-    constexpr Event kTransparent = &WellCommands::ImgTransparent_MouseUp;
-    constexpr Event kExchange = &WellCommands::ImgInterchangeColor_MouseUp;
-    constexpr Event kDefault = &WellCommands::ImgDefaultColor_MouseUp;
+    constexpr Event kClear = &WellCommands::ImgTransparent_MouseUp;
+    constexpr Event kSwap = &WellCommands::ImgInterchangeColor_MouseUp;
+    constexpr Event kReset = &WellCommands::ImgDefaultColor_MouseUp;
     constexpr Event kFore = &WellCommands::PicForeColor_MouseUp;
     constexpr Event kBack = &WellCommands::PicBackColor_MouseUp;
-    cdb_.choice = 0x123456;
     const struct {
         Event event;
         Button button;
+        // Chosen in the dialog; a cancelled one leaves the colour, but no transparency.
+        std::optional<gdi::COLORREF> choice;
         const char* wells;
     } steps[] = {
-        {kTransparent, Button::None, "0 FFFFFF"},
-        {kExchange, Button::Left, "FFFFFF 0"},
-        {kExchange, Button::Right, "FFFFFF 0"},
-        {kFore, Button::Right, "FFFFFF 0"},
-        {kFore, Button::Left, "123456 0"},
-        {kTransparent, Button::Right, "123456 FFFFFFT"},
-        {kExchange, Button::Left, "FFFFFFT 123456"},
-        {kExchange, Button::Right, "FFFFFF FFFFFFT"},
-        {kTransparent, Button::Left, "FFFFFFT FFFFFFT"},
-        {kExchange, Button::Left, "FFFFFFT FFFFFFT"},
-        {kExchange, Button::Right, "FFFFFFT FFFFFFT"},
-        {kDefault, Button::Right, "FFFFFFT FFFFFFT"},
-        {kBack, Button::Left, "FFFFFFT 123456"},
-        {kDefault, Button::Left, "0 FFFFFF"},
+        {kClear, None, {}, "0 FFFFFF "},         {kSwap, Left, {}, "FFFFFF 0 "},
+        {kSwap, Right, {}, "FFFFFF 0 "},         {kFore, Right, 0x123456, "FFFFFF 0 "},
+        {kFore, Left, 0x123456, "123456 0 "},    {kClear, Right, {}, "123456 FFFFFFT "},
+        {kSwap, Left, {}, "FFFFFFT 123456 "},    {kSwap, Right, {}, "FFFFFF FFFFFFT "},
+        {kClear, Left, {}, "FFFFFFT FFFFFFT "},  {kSwap, Right, {}, "FFFFFFT FFFFFFT "},
+        {kReset, Right, {}, "FFFFFFT FFFFFFT "}, {kBack, Left, 0x123456, "FFFFFFT 123456 "},
+        {kFore, Left, {}, "FFFFFF 123456 "},     {kClear, Right, {}, "FFFFFF FFFFFFT "},
+        {kReset, Left, {}, "0 FFFFFF "},
     };
-    int step = 0;
     for (const auto& s : steps) {
-        const int repaints = window_.wellRepaints;
+        SCOPED_TRACE(s.wells);
+        window_.wellRepaints = 0;
         const std::string before = Wells();
+        cdb_.choice = s.choice;
         (commands_.*s.event)(s.button);
-        EXPECT_EQ(Wells(), s.wells) << "step " << step++;
-        EXPECT_TRUE(before == Wells() || window_.wellRepaints > repaints);
+        EXPECT_EQ(Wells(), s.wells);
+        EXPECT_TRUE(before == s.wells || window_.wellRepaints > 0);
     }
-    EXPECT_EQ(window_.beeps, 3);
-    // A cancelled dialog leaves the colour, but no transparency.
-    cdb_.choice.reset();
-    commands_.ImgTransparent_MouseUp(Button::Left);
-    window_.wellRepaints = 0;
-    commands_.PicForeColor_MouseUp(Button::Left);
-    EXPECT_EQ(Wells(), "FFFFFF FFFFFF");
-    EXPECT_GT(window_.wellRepaints, 0);
+    EXPECT_EQ(window_.beeps, 4);
     wells_.SetTransparent(Button::Left);
     wells_.ResetDefaultColors();
-    EXPECT_EQ(Wells(), "FFFFFFT FFFFFF");
+    EXPECT_EQ(Wells(), "FFFFFFT FFFFFF ");
 }
 
 }  // namespace

@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <vector>
 
-#include "editing/WellCommands.h"
+#include "platform/gdi/Blit.h"
 #include "tests/support/EditorTest.h"
 
 namespace kestrel::editing {
@@ -14,26 +13,19 @@ using test::At;
 constexpr gdi::COLORREF kRed = 0x0000FF;
 constexpr gdi::COLORREF kBlue = 0xFF0000;
 constexpr gdi::COLORREF kGreen = 0x00FF00;
+// Stands for a transparent pixel.
 constexpr gdi::COLORREF kNoColor = 0x123456;
 constexpr test::Inks kInks = {{'R', kRed}, {'B', kBlue}, {'g', kGreen}, {'.', kNoColor}};
 
 class ToolsTest : public test::EditorTest {
   protected:
-    // A part of the icon, kNoColor where it is transparent.
-    gdi::Surface Part(gdi::Rect area) {
-        gdi::Surface part(area.width, area.height);
-        for (int y = 0; y < area.height; ++y) {
-            for (int x = 0; x < area.width; ++x) {
-                const At at{area.left + x, area.top + y};
-                part.SetPixel(x, y,
-                              icon_.IsTransparent(at.x, at.y)
-                                  ? kNoColor
-                                  : icon_.PicImage.GetPixel(at.x, at.y));
-            }
-        }
-        return part;
+    gdi::Surface Shown() {
+        gdi::Surface picture(32, 32, kNoColor);
+        editor_.Views().DrawIconOver(picture);
+        return picture;
     }
     void UseTool(ToolId tool) { editor_.Tools().SelectTool(tool); }
+    void Click(Button button, At cell) { Drag(button, cell, cell); }
 };
 
 TEST_F(ToolsTest, ShapesCoverTheirCellsWhicheverWayTheyAreDragged) {
@@ -48,189 +40,146 @@ TEST_F(ToolsTest, ShapesCoverTheirCellsWhicheverWayTheyAreDragged) {
         {ToolId::Rectangle, "R R R R R R R \n R . . g . . R \n R R R R R R R"},
         {ToolId::SolidRectangle, "R R R R R R R \n R R R R R R R \n R R R R R R R"},
         {ToolId::FilledRectangle, "R R R R R R R \n R B B B B B R \n R R R R R R R"},
-        {ToolId::Ellipse, ". R R R R R . \n R . . g . . R \n . R R R R R ."},
-        {ToolId::SolidEllipse, ". R R R R R . \n R R R R R R R \n . R R R R R ."},
         {ToolId::FilledEllipse, ". R R R R R . \n R B B B B B R \n . R R R R R ."},
+        {ToolId::SolidEllipse, ". R R R R R . \n R R R R R R R \n . R R R R R ."},
+        {ToolId::Ellipse, ". R R R R R . \n R . . g . . R \n . R R R R R ."},
     };
     for (const auto& c : cases) {
-        for (const Button button : {Button::Left, Button::Right}) {
-            for (int way = 0; way < 4; ++way) {
-                // A line through the other two corners is another line.
-                if (c.tool == ToolId::Line && (way == 1 || way == 2)) continue;
-                editor_.ResetDocument();
-                editor_.Wells().SetPenColor(button, kRed);
-                editor_.Wells().SetPenColor(Other(button), kBlue);
-                Paint({4, 2}, kGreen);
-                UseTool(c.tool);
-                const At from{way % 2 == 0 ? 1 : 7, way / 2 == 0 ? 1 : 3};
-                Drag(button, from, {8 - from.x, 4 - from.y});
-                EXPECT_TRUE(test::ComparePicture(Part({1, 1, 7, 3}), kInks, c.picture))
-                    << "tool " << static_cast<int>(c.tool) << " way " << way;
-                EXPECT_TRUE(test::ViewsAreFresh(editor_));
-                EXPECT_EQ(editor_.History().UndoCount(), 2U);
-            }
+        for (int way = 0; way < 8; ++way) {
+            SCOPED_TRACE(testing::Message() << static_cast<int>(c.tool) << " way " << way);
+            // A line through the other two corners is another line.
+            if (c.tool == ToolId::Line && way / 2 % 2 != way % 2) continue;
+            const Button button = way < 4 ? Button::Left : Button::Right;
+            editor_.ResetDocument();
+            editor_.Wells().SetPenColor(button, kRed);
+            editor_.Wells().SetPenColor(Other(button), kBlue);
+            Paint({4, 2}, kGreen);
+            UseTool(c.tool);
+            const At from{way % 2 == 0 ? 1 : 7, way / 2 % 2 == 0 ? 1 : 3};
+            Drag(button, from, {8 - from.x, 4 - from.y});
+            gdi::Surface cells(7, 3);
+            gdi::StretchBlt(cells, cells.Bounds(), Shown(), {1, 1, 7, 3}, gdi::RasterOp::Copy);
+            EXPECT_TRUE(test::ComparePicture(cells, kInks, c.picture));
+            EXPECT_TRUE(test::ViewsAreFresh(editor_));
+            EXPECT_EQ(editor_.History().UndoCount(), 2U);
         }
     }
-    // No style of a filled figure is left over.
-    editor_.Wells().SetPenColor(Button::Left, kRed);
-    UseTool(ToolId::Ellipse);
-    Drag(Button::Left, {11, 1}, {17, 3});
-    EXPECT_PICTURE(Part({11, 2, 7, 1}), kInks, "R . . . . . R");
 }
 
-TEST_F(ToolsTest, ShapesAreClippedAndASingleCellIsAShape) {
-    for (int id = 6; id <= 12; ++id) {
-        editor_.ResetDocument();
-        UseTool(static_cast<ToolId>(id));
-        Drag(Button::Left, {3, 4}, {3, 4});
-        EXPECT_EQ(OpaquePixels(), 1) << id;
-        EXPECT_FALSE(icon_.IsTransparent(3, 4)) << id;
-        EXPECT_EQ(editor_.History().UndoCount(), 2U);
-        // Far out and back, then out of the window for good.
-        Stroke(Button::Left, {{305, 305}, {32767, -32768}, {155, 155}, {9999, 305}});
-        EXPECT_FALSE(icon_.IsTransparent(31, 30)) << id;
-        EXPECT_TRUE(icon_.IsTransparent(15, 15)) << id;
-        EXPECT_TRUE(test::ViewsAreFresh(editor_)) << id;
-    }
-}
-
-TEST_F(ToolsTest, WithATransparentWellShapesAndFillAreWhiteAndThePencilClears) {
-    for (const ToolId tool : {ToolId::SolidRectangle, ToolId::FloodFill}) {
+TEST_F(ToolsTest, WithATransparentWellOneCellIsWhiteOrCleared) {
+    using enum ToolId;
+    for (int id = 2; id <= 12; ++id) {
+        const auto tool = static_cast<ToolId>(id);
+        if (tool == ColorPicker) continue;
         editor_.ResetDocument();
         editor_.Wells().SetTransparent(Button::Right);
-        UseTool(tool);
-        Drag(Button::Right, {0, 0}, {2, 2});
-        EXPECT_FALSE(icon_.IsTransparent(1, 1));
-        EXPECT_EQ(icon_.PicImage.GetPixel(1, 1), gdi::kWhite);
-    }
-    for (const auto& [tool, button] :
-         {std::pair{ToolId::Pencil, Button::Right}, std::pair{ToolId::ColorEraser, Button::Left},
-          std::pair{ToolId::ColorEraser, Button::Right}}) {
         Paint({1, 1}, kRed);
         UseTool(tool);
-        Drag(button, {1, 1}, {1, 1});
-        EXPECT_TRUE(icon_.IsTransparent(1, 1));
-        EXPECT_EQ(icon_.PicImage.GetPixel(1, 1), gdi::kBlack);
-        EXPECT_TRUE(test::ViewsAreFresh(editor_));
+        // The eraser clears with either button.
+        Click(tool == ColorEraser ? Button::Left : Button::Right, {1, 1});
+        const bool clears = tool == Pencil || tool == ColorEraser;
+        EXPECT_EQ(Shown().GetPixel(1, 1), clears ? kNoColor : gdi::kWhite) << id;
+        EXPECT_EQ(OpaquePixels(), clears ? 0 : 1) << id;
     }
 }
 
-// The pixels that have the seed's value and hang together with it, found by looking again and
-// again.
-std::vector<bool> Connected(const std::vector<gdi::COLORREF>& values, std::size_t seed) {
-    std::vector<bool> found(values.size());
-    found[seed] = true;
-    for (bool grown = true; grown;) {
-        grown = false;
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            const bool beside = (i % 32 > 0 && found[i - 1]) || (i % 32 < 31 && found[i + 1]) ||
-                                (i >= 32 && found[i - 32]) || (i < 992 && found[i + 32]);
-            if (!beside || found[i] || values[i] != values[seed]) continue;
-            found[i] = grown = true;
-        }
-    }
-    return found;
+void FillSimply(gdi::Surface& picture, At at, gdi::COLORREF from, gdi::COLORREF to) {
+    if (from == to || picture.GetPixel(at.x, at.y) != from) return;
+    picture.SetPixel(at.x, at.y, to);
+    for (const At& beside : {At{-1, 0}, At{1, 0}, At{0, -1}, At{0, 1}})
+        FillSimply(picture, {at.x + beside.x, at.y + beside.y}, from, to);
 }
 
 TEST_F(ToolsTest, FloodFillsLikeASimpleOne) {
     // The window's colour makes opaque pixels look like transparent ones.
-    const std::vector<gdi::COLORREF> colors = {kRed, kWindowColor, kBlue};
+    const std::array colors = {kRed, kWindowColor, kBlue};
     std::mt19937 random(20261123);
     for (unsigned turn = 0; turn < 300; ++turn) {
-        const unsigned kinds = turn % 2 == 0 ? 1 : 3;
         editor_.ResetDocument();
         for (int i = 0; i < 1024; ++i) {
-            const std::size_t kind = random() % (kinds + 2);
-            if (kind < kinds) Paint({i % 32, i / 32}, colors[kind]);
-            // As files have them: pixels that invert the screen.
-            if (random() % 40 == 0 && icon_.IsTransparent(i % 32, i / 32))
+            const std::size_t kind = random() % (turn % 5 + 2);
+            if (kind < colors.size()) {
+                Paint({i % 32, i / 32}, colors[kind]);
+            } else if (random() % 40 == 0) {
+                // As files have them: pixels that invert the screen.
                 icon_.PicImage.SetPixel(i % 32, i / 32, kRed);
+            }
         }
         editor_.Views().RedrawAll();
-        const auto planes = [this] {
-            std::vector<gdi::COLORREF> values(1024);
-            for (int i = 0; i < 1024; ++i)
-                values[static_cast<std::size_t>(i)] =
-                    icon_.PicImage.GetPixel(i % 32, i / 32) |
-                    (icon_.IsTransparent(i % 32, i / 32) ? 0x1000000U : 0U);
-            return values;
-        };
-        std::vector<gdi::COLORREF> expected = planes();
-        const auto seed = static_cast<int>(random() % 1024);
-        const auto area = Connected(expected, static_cast<std::size_t>(seed));
+        const At seed{static_cast<int>(random() % 32), static_cast<int>(random() % 32)};
         const gdi::COLORREF fill = turn % 3 == 0 ? kWindowColor : kGreen;
-        for (std::size_t i = 0; i < 1024; ++i)
-            expected[i] = area[i] ? fill : expected[i];
+        gdi::Surface expected = Shown();
+        FillSimply(expected, seed, expected.GetPixel(seed.x, seed.y), fill);
         editor_.Wells().SetPenColor(Button::Left, fill);
         UseTool(ToolId::FloodFill);
-        Drag(Button::Left, {seed % 32, seed / 32}, {seed % 32, seed / 32});
-        ASSERT_EQ(planes(), expected) << "turn " << turn;
+        Click(Button::Left, seed);
+        ASSERT_TRUE(test::ComparePicture(Shown(), expected)) << "turn " << turn;
         ASSERT_TRUE(test::ViewsAreFresh(editor_));
     }
-}
-
-TEST_F(ToolsTest, ClicksOutsideTheCellsDoNothing) {
-    Drag(Button::Left, {1, 1}, {1, 1});
-    editor_.PopUndoSnapshot();
-    icon_.Modified = false;
-    for (const ToolId tool : {ToolId::FloodFill, ToolId::ColorPicker}) {
-        for (const At& at : {At{-1, 5}, At{5, -1}, At{320, 5}, At{5, 320}}) {
-            UseTool(tool);
-            Stroke(Button::Left, {at});
-        }
-    }
-    EXPECT_EQ(OpaquePixels(), 0);
-    EXPECT_FALSE(icon_.Modified);
-    EXPECT_EQ(editor_.History().RedoCount(), 1U);
-    EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::FloodFill) << "as before the picker";
 }
 
 TEST_F(ToolsTest, ThePickerTakesColourOrTransparencyAndHandsBack) {
     Paint({1, 1}, kRed);
     UseTool(ToolId::Ellipse);
-    UseTool(ToolId::Selection);
-    UseTool(ToolId::ColorPicker);
-    Drag(Button::Right, {5, 5}, {1, 1});
-    EXPECT_EQ(editor_.Wells().PenColor(Button::Right), kRed);
-    EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::Ellipse);
-    UseTool(ToolId::ColorPicker);
-    EXPECT_EQ(window_.cursor, GridCursor::Picker);
-    EXPECT_EQ(window_.beeps, 0);
-    Drag(Button::Left, {2, 1}, {2, 1});
-    EXPECT_EQ(window_.beeps, 1);
-    EXPECT_TRUE(editor_.Wells().IsTransparent(Button::Left));
-    EXPECT_EQ(editor_.Wells().PenColor(Button::Left), gdi::kWhite);
-    EXPECT_EQ(window_.cursor, GridCursor::Cross);
-    UseTool(ToolId::ColorPicker);
-    Drag(Button::Left, {1, 1}, {1, 1});
-    EXPECT_FALSE(editor_.Wells().IsTransparent(Button::Left));
+    const struct {
+        Button button;
+        At cell;
+        gdi::COLORREF color;
+        bool transparent;
+    } cases[] = {{Button::Right, {1, 1}, kRed, false},
+                 {Button::Left, {2, 1}, gdi::kWhite, true},
+                 {Button::Left, {1, 1}, kRed, false},
+                 {Button::Left, {-1, 1}, kRed, false},
+                 {Button::Left, {1, 32}, kRed, false}};
+    for (const auto& c : cases) {
+        UseTool(ToolId::Selection);
+        UseTool(ToolId::ColorPicker);
+        Drag(c.button, {5, 5}, c.cell);
+        EXPECT_EQ(editor_.Wells().PenColor(c.button), c.color);
+        EXPECT_EQ(editor_.Wells().IsTransparent(c.button), c.transparent);
+        EXPECT_EQ(window_.beeps, c.button == Button::Right ? 0 : 1);
+        EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::Ellipse);
+        EXPECT_EQ(window_.cursor, GridCursor::Cross);
+    }
     EXPECT_EQ(editor_.History().UndoCount(), 1U);
     EXPECT_FALSE(icon_.Modified);
 }
 
+TEST_F(ToolsTest, NothingIsFilledOutsideTheCells) {
+    Click(Button::Left, {1, 1});
+    editor_.PopUndoSnapshot();
+    icon_.Modified = false;
+    UseTool(ToolId::FloodFill);
+    for (const At& at : {At{-1, 5}, At{5, -1}, At{320, 5}, At{5, 320}})
+        Stroke(Button::Left, {at});
+    EXPECT_EQ(OpaquePixels(), 0);
+    EXPECT_FALSE(icon_.Modified);
+    EXPECT_TRUE(editor_.CanRedo());
+}
+
+// That of a marquee begins at the nearest line; what is moved keeps the size it had.
 TEST_F(ToolsTest, TheSizeOfADragIsShownWhereItIsPrinted) {
+    using enum ToolId;
     const struct {
-        ToolId tool{};
+        ToolId tool;
         At from, to;
-        const char* size{};
+        const char* size;
     } cases[] = {
-        {ToolId::Line, {25, 35}, {95, 35}, "8 , 1"},
-        {ToolId::Ellipse, {95, 95}, {25, 85}, "8 , 2"},
-        {ToolId::Rectangle, {25, 35}, {-400, 900}, "3 , 29"},
-        {ToolId::Pencil, {25, 35}, {95, 35}, ""},
-        {ToolId::Selection, {25, 35}, {95, 35}, "6 , 1"},
-        {ToolId::Selection, {25, 35}, {-1, 320}, "3 , 28"},
-        {ToolId::FloodFill, {25, 35}, {95, 35}, ""},
+        {Line, {25, 35}, {95, 35}, "8 , 1"},        {Ellipse, {95, 95}, {25, 85}, "8 , 2"},
+        {Rectangle, {25, 35}, {-9, 900}, "3 , 29"}, {Pencil, {25, 35}, {95, 35}, ""},
+        {Selection, {25, 35}, {95, 35}, "6 , 1"},   {Selection, {28, 41}, {87, 65}, "5 , 2"},
+        {Selection, {45, 45}, {95, 95}, "5 , 2"},   {Selection, {25, 35}, {-1, 320}, "3 , 28"},
+        {FloodFill, {25, 35}, {95, 35}, ""},
     };
     for (const auto& c : cases) {
-        UseTool(c.tool);
-        editor_.PicMain_MouseMove({}, c.from.x, c.from.y);
-        editor_.PicMain_MouseDown(Button::Left, c.from.x, c.from.y);
-        editor_.PicMain_MouseMove({true, false}, c.to.x, c.to.y);
+        if (editor_.Tools().CurrentTool() != c.tool) UseTool(c.tool);
+        Stroke(Button::Left, {c.from, c.to});
         EXPECT_EQ(window_.panels[4], c.size) << static_cast<int>(c.tool);
         EXPECT_EQ(window_.printed[4], c.size);
-        editor_.EndGesture();
     }
+    UseTool(Selection);
+    Stroke(Button::Right, {{58, 58}, {157, 157}});
+    EXPECT_EQ(window_.panels[4], "10 , 10") << "it marks nothing: the cells passed";
 }
 
 }  // namespace
