@@ -161,6 +161,7 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
         ShowError(boxes_, i18n::CannotSave(written.error().description, named));
         return;
     }
+    // What floated over the icon is in the file; what is only marked stays so.
     if (editor_.Selected().SelectionFloating()) editor_.Selected().DropSelection();
     document_.FilePath = path;
     document_.Modified = false;

@@ -24,12 +24,17 @@ constexpr QPoint kSize(8, 21);
 constexpr QRect kFrame1(8, 42, 252, 84);
 constexpr QRect kCmdOk(92, 134, 80, 26);
 constexpr QRect kCmdCancel(180, 134, 80, 26);
+// In the order of PasteFit.
+constexpr std::array kChoices{i18n::kShrinkToFit, i18n::kShrinkKeepingAspect};
+
 constexpr int kFontPixels = 12;
 constexpr int kMessageFontPixels = 11;
 
 }  // namespace
 
 FrmClipData::FrmClipData(QWidget* owner, editing::PictureSize picture) : QDialog(owner) {
+    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                   Qt::WindowCloseButtonHint);
     setWindowTitle(ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
     setFont(qt::FontOf(*this, kFontPixels));
@@ -45,8 +50,7 @@ void FrmClipData::LayOutControls() {
     frame1->setGeometry(kFrame1);
     auto* choices = new QVBoxLayout(frame1);
     for (std::size_t i = 0; i < opt_.size(); ++i) {
-        const i18n::Text& caption = i == 0 ? i18n::kShrinkToFit : i18n::kShrinkKeepingAspect;
-        opt_[i] = new QRadioButton(ToText(caption.Now()));
+        opt_[i] = new QRadioButton(ToText(kChoices[i].Now()));
         opt_[i]->setObjectName(QStringLiteral("Opt%1").arg(i));
         choices->addWidget(opt_[i]);
     }

@@ -76,11 +76,11 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void BuildToolbar();
     void DisableMissingCommands();
     void ShowEditingPopupByKey();
-    bool MoveSelection(const QKeyEvent& event);
     void Toolbar1_MouseMove(int x);
     // FrmIcoEd_Grid.cpp
     void ConnectGrid();
     void ClearStatusPanels();
+    bool MoveSelectionByKey(const QKeyEvent& event);
 
     void RepaintView(document::View view, gdi::Rect area) override;
     void SetTitle(const std::string& title) override;
@@ -117,7 +117,6 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     QTimer* tmr_ = nullptr;
     std::map<editing::StatusPanel, QString> readouts_;
     bool commandRunning_ = false;
-    std::optional<editing::GridCursor> gridCursor_;
 
     dialogs::HelpViewer& help_;
     desktop::Clipboard& clipboard_;

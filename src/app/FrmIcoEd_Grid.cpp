@@ -1,6 +1,7 @@
 #include <QCursor>
+#include <QKeyEvent>
 #include <QPixmap>
-#include <utility>
+#include <algorithm>
 
 #include "app/FrmIcoEd.h"
 #include "app/FrmMouseButtons.h"
@@ -66,8 +67,7 @@ void FrmIcoEd::RepaintView(document::View view, gdi::Rect area) {
 }
 
 void FrmIcoEd::SetGridCursor(GridCursor cursor) {
-    // The selection asks for it at every move of the pointer.
-    if (std::exchange(gridCursor_, cursor) != cursor) picMain_->setCursor(ToCursor(cursor));
+    picMain_->setCursor(ToCursor(cursor));
 }
 
 void FrmIcoEd::SetStatusPanel(StatusPanel panel, std::string_view text) {
@@ -93,6 +93,23 @@ void FrmIcoEd::mouseMoveEvent(QMouseEvent* /*event*/) {
 void FrmIcoEd::mouseReleaseEvent(QMouseEvent* event) {
     if (!rect().contains(event->pos()) || childAt(event->pos()) != nullptr) return;
     RunCommand([this] { editor_.Selected().DropSelection(); });
+}
+
+// The arrow keys; false for any other key.
+bool FrmIcoEd::MoveSelectionByKey(const QKeyEvent& event) {
+    constexpr struct {
+        Qt::Key key;
+        int columns;
+        int rows;
+    } kArrows[] = {
+        {Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}};
+    const auto* const arrow = std::find_if(std::begin(kArrows), std::end(kArrows),
+                                           [&](const auto& a) { return a.key == event.key(); });
+    const bool modified = (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
+    // On the toolbar they go from button to button.
+    if (arrow == std::end(kArrows) || modified || !hasFocus()) return false;
+    RunCommand([&] { editor_.Selected().MoveBy(arrow->columns, arrow->rows); });
+    return true;
 }
 
 }  // namespace kestrel::app

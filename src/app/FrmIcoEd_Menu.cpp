@@ -1,7 +1,7 @@
 #include <QContextMenuEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
-#include <algorithm>
 
 #include "app/FrmIcoEd.h"
 #include "i18n/Language.h"
@@ -70,6 +70,8 @@ void FrmIcoEd::ShowEditingPopup() {
 }
 
 void FrmIcoEd::ShowEditingPopupByKey() {
+    // The button that drags would choose an item where it comes up.
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
     const bool overGrid = picMain_->underMouse();
     EditingPopup()->popup(overGrid ? QCursor::pos()
                                    : picMain_->mapToGlobal(picMain_->rect().center()));
@@ -91,27 +93,9 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
         // From the toolbar back to the window, from there out of the selection.
         if (hasFocus()) RunCommand([this] { editor_.Selected().DropSelection(); });
         setFocus();
-    } else if (!MoveSelection(*event)) {
+    } else if (!MoveSelectionByKey(*event)) {
         QWidget::keyPressEvent(event);
     }
-}
-
-// The arrow keys; false for any other key.
-bool FrmIcoEd::MoveSelection(const QKeyEvent& event) {
-    constexpr struct {
-        Qt::Key key;
-        int columns;
-        int rows;
-    } kArrows[] = {
-        {Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}};
-    const auto* const arrow = std::find_if(std::begin(kArrows), std::end(kArrows),
-                                           [&](const auto& a) { return a.key == event.key(); });
-    const bool modified = (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
-    // On the toolbar they go from button to button.
-    if (arrow == std::end(kArrows) || modified || !hasFocus()) return false;
-    RunCommand([&] { editor_.Selected().MoveBy(arrow->columns, arrow->rows); });
-    RefreshEditCommands();
-    return true;
 }
 
 void FrmIcoEd::SetControlCaption(std::string_view control, std::string_view text) {

@@ -30,7 +30,7 @@ void MainCommands::mnuRecent_Click(int slot) {
 void MainCommands::mnuEdit_Click() {
     const bool canPaste = clipboard_.CanPaste();
     const bool isSelected = editor_.Selected().Exists();
-    // Keys of the menu bar, the pop-up and the toolbar.
+    // Keys of the menu bar, the pop-up and the toolbar; not all have all three.
     const struct {
         std::string_view item;
         std::string_view popupItem;
@@ -43,10 +43,10 @@ void MainCommands::mnuEdit_Click() {
                     {"mnuEditOpts5", "mnuPopup2Opts2", "Paste", canPaste},
                     {"mnuEditOpts6", {}, {}, canPaste},
                     {"mnuEditOpts7", "mnuPopup2Opts3", "Delete", isSelected}};
-    for (const auto& command : commands) {
-        menus_.SmartMenuXP1.SetEnabled(command.item, command.enabled);
-        menus_.SmartMenuXP2.SetEnabled(command.popupItem, command.enabled);
-        window_.EnableButton(command.button, command.enabled);
+    for (const auto& [item, popupItem, button, enabled] : commands) {
+        menus_.SmartMenuXP1.SetEnabled(item, enabled);
+        if (!popupItem.empty()) menus_.SmartMenuXP2.SetEnabled(popupItem, enabled);
+        if (!button.empty()) window_.EnableButton(button, enabled);
     }
 }
 

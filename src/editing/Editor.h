@@ -46,7 +46,7 @@ class Editor {
     // Drops the selection, then goes one step of the history back or forward if there is one.
     void PopUndoSnapshot();
     void PopRedoSnapshot();
-    // Whether they can do something. To drop a floating selection makes the entry to go back from.
+    // Whether there is one. To drop a floating selection makes the entry to go back from.
     bool CanUndo();
     bool CanRedo() const { return history_.CanRedo(); }
 

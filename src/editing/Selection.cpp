@@ -43,22 +43,23 @@ void Selection::BeginMarquee(int x, int y) {
     document::SnapToNearestLine(x, y);
     document::ClampToGrid(x, y);
     marquee_ = {x, y, x, y};
-    ShowMarquee(true);
+    Enter(State::Drawing);
 }
 
 void Selection::StretchMarquee(int x, int y) {
     document::SnapToCell(x, y);
     document::ClampToGrid(x, y);
-    if (Exists() || (x == marquee_.x2 && y == marquee_.y2)) return;
-    ShowMarquee(false);
+    if (state_ != State::Drawing || (x == marquee_.x2 && y == marquee_.y2)) return;
+    InvertMarquee();
     marquee_.x2 = x;
     marquee_.y2 = y;
-    ShowMarquee(true);
+    InvertMarquee();
 }
 
 void Selection::EndMarquee() {
+    if (state_ != State::Drawing) return;
+    Enter(State::None);
     auto& [x1, y1, x2, y2] = marquee_;
-    ShowMarquee(false);
     if (x1 > x2) document::SwapInt(x1, x2);
     if (y1 > y2) document::SwapInt(y1, y2);
     if (x1 != x2 && y1 != y2) Mark();
@@ -72,30 +73,26 @@ void Selection::MarkAll() {
 
 void Selection::Mark() {
     CopyAreaToSelection();
-    state_ = State::Marked;
-    ShowMarquee(true);
+    Enter(State::Marked);
 }
 
 void Selection::BeginMove(int x, int y) {
-    ShowMarquee(false);
     if (SelectionMarked()) LiftSelection();
     // To the cell, so that a press alone moves nothing.
     document::SnapToCell(x, y);
     grip_ = {x - marquee_.x1, y - marquee_.y1};
-    moving_ = true;
-    ShowFloatingSelection();
+    Enter(State::Moving);
 }
 
 void Selection::MoveTo(int x, int y) {
     document::SnapToCell(x, y);
-    if (moving_ && PlaceAt(x - grip_.x, y - grip_.y)) ShowFloatingSelection();
+    if (MovingSelection() && PlaceAt(x - grip_.x, y - grip_.y)) ShowFloatingSelection();
 }
 
 void Selection::EndMove() {
-    if (!moving_) return;
-    moving_ = false;
-    ShowMarquee(true);
-    window_.RefreshEditCommands();
+    if (!MovingSelection()) return;
+    Enter(State::Floating);
+    document_.Modified = true;
 }
 
 void Selection::MoveBy(int columns, int rows) {
@@ -114,18 +111,18 @@ bool Selection::PlaceAt(int x1, int y1) {
 }
 
 void Selection::LiftSelection() {
-    const gdi::Rect cells = Cells();
-    state_ = State::Floating;
-    canvas_.EraseAndRedraw(cells);
+    Enter(State::Floating);
+    canvas_.EraseAndRedraw(Cells());
+    window_.RefreshEditCommands();
 }
 
 void Selection::Float(gdi::Surface mask, gdi::Surface image) {
     PicSelMask = std::move(mask);
     PicSelImage = std::move(image);
     marquee_ = {0, 0, PicSelMask.Width() * kCellSize, PicSelMask.Height() * kCellSize};
-    state_ = State::Floating;
-    marqueeShown_ = true;
+    Enter(State::Floating);
     ShowFloatingSelection();
+    window_.RefreshEditCommands();
 }
 
 void Selection::DropSelection() {
@@ -147,9 +144,7 @@ void Selection::Delete() {
 
 void Selection::Forget() {
     state_ = State::None;
-    marqueeShown_ = false;
-    moving_ = false;
-    if (std::exchange(moveCursor_, false)) window_.SetGridCursor(GridCursor::Cross);
+    ShowMoveCursor(false);
 }
 
 void Selection::CopyAreaToSelection() {
@@ -192,8 +187,12 @@ void Selection::StampSelection() {
 void Selection::UpdateMoveCursor(int x, int y) {
     const auto& [x1, y1, x2, y2] = marquee_;
     const bool inside = x >= x1 && x <= x2 && y >= y1 && y <= y2;
-    moveCursor_ = moving_ || (Exists() && inside);
-    window_.SetGridCursor(moveCursor_ ? GridCursor::Move : GridCursor::Cross);
+    ShowMoveCursor(MovingSelection() || (Exists() && inside));
+}
+
+void Selection::ShowMoveCursor(bool shown) {
+    if (std::exchange(moveCursor_, shown) == shown) return;
+    window_.SetGridCursor(shown ? GridCursor::Move : GridCursor::Cross);
 }
 
 gdi::Rect Selection::Cells() const {
@@ -209,7 +208,7 @@ void Selection::DrawUnderLines(gdi::Surface& grid) const {
 }
 
 void Selection::DrawOverLines(gdi::Surface& grid) const {
-    if (marqueeShown_) DrawMarquee(grid);
+    if (MarqueeIsShown()) DrawMarquee(grid);
 }
 
 void Selection::DrawOnPreview(gdi::Surface& preview) const {
@@ -224,16 +223,20 @@ void Selection::DrawMarquee(gdi::Surface& grid) const {
     grid.state = before;
 }
 
-void Selection::ShowMarquee(bool shown) {
-    if (marqueeShown_ == shown) return;
-    marqueeShown_ = shown;
-    // Inverted twice, the grid is as it was.
+// Inverted twice, the grid is as it was.
+void Selection::InvertMarquee() {
     DrawMarquee(canvas_.PicMain);
     window_.RepaintView(document::View::Grid, canvas_.PicMain.Bounds());
 }
 
+void Selection::Enter(State next) {
+    const bool wasShown = MarqueeIsShown();
+    state_ = next;
+    if (MarqueeIsShown() != wasShown) InvertMarquee();
+}
+
 void Selection::EraseMarquee() {
-    ShowMarquee(false);
+    Enter(State::None);
     Forget();
 }
 

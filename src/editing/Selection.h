@@ -27,8 +27,10 @@ class Selection : private document::CanvasOverlay {
     gdi::Surface PicSelMask{0, 0, gdi::kWhite};
 
     bool SelectionMarked() const { return state_ == State::Marked; }
-    bool SelectionFloating() const { return state_ == State::Floating; }
-    bool Exists() const { return state_ != State::None; }
+    bool SelectionFloating() const { return state_ == State::Floating || MovingSelection(); }
+    // The floating selection is being dragged.
+    bool MovingSelection() const { return state_ == State::Moving; }
+    bool Exists() const { return SelectionMarked() || SelectionFloating(); }
     // The top left and the bottom right corner.
     const Corners& Marquee() const { return marquee_; }
 
@@ -45,7 +47,6 @@ class Selection : private document::CanvasOverlay {
     void BeginMove(int x, int y);
     void MoveTo(int x, int y);
     void EndMove();
-    bool MovingSelection() const { return moving_; }
     // Moves it by whole cells at once.
     void MoveBy(int columns, int rows);
 
@@ -73,7 +74,8 @@ class Selection : private document::CanvasOverlay {
     bool HasMoveCursor() const { return moveCursor_; }
 
   private:
-    enum class State { None, Marked, Floating };
+    // Drawing: a new marquee follows the pointer. Moving: a floating selection does.
+    enum class State { None, Drawing, Marked, Floating, Moving };
 
     void DrawUnderLines(gdi::Surface& grid) const override;
     void DrawOverLines(gdi::Surface& grid) const override;
@@ -81,8 +83,12 @@ class Selection : private document::CanvasOverlay {
 
     gdi::Rect Cells() const;
     void DrawMarquee(gdi::Surface& grid) const;
-    void ShowMarquee(bool shown);
+    void InvertMarquee();
+    bool MarqueeIsShown() const { return state_ != State::None && state_ != State::Moving; }
+    // Shows or hides the marquee on the grid as the state asks.
+    void Enter(State next);
     void EraseMarquee();
+    void ShowMoveCursor(bool shown);
     void Mark();
     void CopyAreaToSelection();
     void CompositeSelection();
@@ -96,10 +102,6 @@ class Selection : private document::CanvasOverlay {
 
     State state_ = State::None;
     Corners marquee_;
-    // Whether the marquee is drawn on the grid: also while a new one is being drawn, and not while
-    // the selection is being moved.
-    bool marqueeShown_ = false;
-    bool moving_ = false;
     // From the marquee's top left corner to where it is held.
     GridPoint grip_;
     bool moveCursor_ = false;

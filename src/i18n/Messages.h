@@ -49,8 +49,9 @@ std::string CannotStart(std::string_view program);
 
 // Clipboard.
 inline constexpr Text kCannotPaste{
-    "The image on the clipboard is gone, damaged or too large.\r\n\r\nUnable to paste.",
-    "剪切板中的图像已不存在, 已损坏或过大.\r\n\r\n不能粘贴."};
+    "The image on the clipboard is gone, damaged, too large or did not arrive in time.\r\n\r\n"
+    "Unable to paste.",
+    "剪切板中的图像已不存在, 已损坏, 过大或未能及时送达.\r\n\r\n不能粘贴."};
 
 // The warning before a save replaces a file that held several icons.
 std::string SeveralIcons(std::string_view fileTitle);

@@ -7,7 +7,6 @@
 #include <QTimer>
 #include <algorithm>
 #include <array>
-#include <future>
 #include <new>
 
 #include "platform/qt/PictureFile.h"
@@ -19,28 +18,22 @@ namespace kestrel::qt {
 namespace {
 
 using std::chrono::milliseconds;
-using Clock = XSelection::Clock;
+using Clock = std::chrono::steady_clock;
 
+// How long the window waits for an owner's answer, and how long anybody does.
 constexpr milliseconds kPatience{800};
-// When an owner that gave no answer is asked again.
-constexpr milliseconds kRecovery{2000};
+constexpr milliseconds kLongest{10000};
+// When an owner that gave no answer is asked again; each time twice as late, up to the last.
+constexpr milliseconds kFirstRecovery{2000};
+constexpr milliseconds kLastRecovery{32000};
 // No picture that can be read takes more, not even uncompressed.
 constexpr std::size_t kMostBytes = std::size_t{128} << 20;
 
 constexpr const char* kPng = "image/png";
 constexpr const char* kBmp = "image/bmp";
-// Those that keep every pixel as it was come first.
+// What is read; those that keep every pixel as it was come first.
 constexpr std::array kFormats{kPng,        kBmp,        "image/x-bmp", "image/x-MS-bmp",
                               "image/gif", "image/jpeg"};
-
-// The one to read; empty when none of them is an image.
-std::string BestFormat(const std::vector<std::string>& formats) {
-    const auto* const found =
-        std::find_if(kFormats.begin(), kFormats.end(), [&](const char* known) {
-            return std::find(formats.begin(), formats.end(), known) != formats.end();
-        });
-    return found == kFormats.end() ? std::string() : *found;
-}
 
 tl::unexpected<Error> Unreadable() {
     return Fail(kInvalidPicture, "Invalid picture");
@@ -56,29 +49,36 @@ bool IsAtHand() {
     return System().ownsClipboard() || QGuiApplication::platformName() != QLatin1String("xcb");
 }
 
-std::vector<std::string> FormatsAtHand() {
-    std::vector<std::string> names;
+std::string FormatAtHand() {
     const QMimeData* data = System().mimeData();
-    if (data == nullptr) return names;
-    for (const QString& name : data->formats())
-        names.push_back(name.toStdString());
-    return names;
+    for (const char* format : kFormats) {
+        if (data != nullptr && data->hasFormat(format)) return format;
+    }
+    return {};
+}
+
+Result<gdi::Surface> ImageAtHand(const std::string& format) {
+    const QMimeData* data = System().mimeData();
+    if (data == nullptr) return Unreadable();
+    const QByteArray file = data->data(QString::fromStdString(format));
+    if (static_cast<std::size_t>(file.size()) > kMostBytes) return Unreadable();
+    return ReadPicture(file);
 }
 
 // The owner may have changed since it was asked what it has.
-Result<gdi::Surface> Fetch(Clock::time_point deadline) {
-    XSelection selection(deadline);
-    const auto formats = selection.Targets();
-    if (!formats) return Unreadable();
-    const auto bytes = selection.Read(BestFormat(*formats), kMostBytes);
+Result<gdi::Surface> Fetch(const XSelection::Wanted& wanted) {
+    XSelection selection(wanted);
+    const auto format = selection.FirstOffered(kFormats);
+    if (!format || format->empty()) return Unreadable();
+    const auto bytes = selection.Read(*format, kMostBytes);
     if (!bytes) return Unreadable();
     return ReadPicture(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes->data()),
                                                static_cast<qsizetype>(bytes->size())));
 }
 
-Result<gdi::Surface> FetchOrRunOut(Clock::time_point deadline) {
+Result<gdi::Surface> FetchOrRunOut(const XSelection::Wanted& wanted) {
     try {
-        return Fetch(deadline);
+        return Fetch(wanted);
     } catch (const std::bad_alloc&) {
         return Unreadable();
     }
@@ -105,8 +105,12 @@ QByteArray ToFile(const QImage& image, const char* format) {
 
 QtClipboard::QtClipboard() {
     aside_.setMaxThreadCount(1);
-    connect(&System(), &QClipboard::dataChanged, this, &QtClipboard::Ask);
-    QTimer::singleShot(0, this, &QtClipboard::Ask);
+    const auto change = [this] {
+        recovery_ = kFirstRecovery;
+        Ask();
+    };
+    connect(&System(), &QClipboard::dataChanged, this, change);
+    QTimer::singleShot(0, this, change);
 }
 
 QtClipboard::~QtClipboard() {
@@ -114,24 +118,31 @@ QtClipboard::~QtClipboard() {
     aside_.clear();
 }
 
+std::function<bool()> QtClipboard::WantedFor(milliseconds patience) const {
+    return [this, question = question_.load(), deadline = Clock::now() + patience] {
+        return question == question_ && Clock::now() < deadline;
+    };
+}
+
 void QtClipboard::Ask() {
     const int question = ++question_;
-    if (IsAtHand()) return Learn(BestFormat(FormatsAtHand()));
-    aside_.start([this, question] {
-        if (question != question_) return;
-        const auto formats = XSelection(Clock::now() + kPatience).Targets();
-        QMetaObject::invokeMethod(this, [this, question, formats] {
+    if (IsAtHand()) return Learn(FormatAtHand());
+    aside_.start([this, question, wanted = WantedFor(kLongest)] {
+        if (!wanted()) return;
+        const auto format = XSelection(WantedFor(kPatience)).FirstOffered(kFormats);
+        QMetaObject::invokeMethod(this, [this, question, format] {
             if (question != question_) return;
-            Learn(formats ? BestFormat(*formats) : std::string());
-            if (!formats) AskAgain(question);
+            Learn(format.value_or(std::string()));
+            if (!format) AskAgain(question);
         });
     });
 }
 
 void QtClipboard::AskAgain(int question) {
-    QTimer::singleShot(kRecovery, this, [this, question] {
+    QTimer::singleShot(recovery_, this, [this, question] {
         if (question == question_) Ask();
     });
+    recovery_ = std::min(2 * recovery_, kLastRecovery);
 }
 
 void QtClipboard::Learn(const std::string& format) {
@@ -141,17 +152,22 @@ void QtClipboard::Learn(const std::string& format) {
 
 Result<gdi::Surface> QtClipboard::GetImage() {
     if (!HasImage()) return Unreadable();
-    if (IsAtHand()) return ReadPicture(System().mimeData()->data(QString::fromStdString(format_)));
-    const auto deadline = Clock::now() + kPatience;
+    if (IsAtHand()) return ImageAtHand(format_);
+    // What came too late for the last call may be there by now.
+    if (!coming_.valid() || comingFor_ != question_) StartFetching();
+    if (coming_.wait_for(kPatience) != std::future_status::ready) return Unreadable();
+    Result<gdi::Surface> picture = coming_.get();
+    if (!picture) Ask();
+    return picture;
+}
+
+void QtClipboard::StartFetching() {
     const auto answer = std::make_shared<std::promise<Result<gdi::Surface>>>();
-    std::future<Result<gdi::Surface>> picture = answer->get_future();
-    aside_.start([answer, deadline] {
-        // Nobody waits any more for what comes too late.
-        const bool inTime = Clock::now() < deadline;
-        answer->set_value(inTime ? FetchOrRunOut(deadline) : Unreadable());
-    });
-    if (picture.wait_until(deadline) != std::future_status::ready) return Unreadable();
-    return picture.get();
+    coming_ = answer->get_future();
+    // An owner that is slow to say what it has must not keep the image waiting.
+    comingFor_ = ++question_;
+    aside_.start(
+        [answer, wanted = WantedFor(kLongest)] { answer->set_value(FetchOrRunOut(wanted)); });
 }
 
 void QtClipboard::SetImage(const gdi::Surface& pixels) {

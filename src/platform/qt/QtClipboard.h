@@ -3,6 +3,8 @@
 #include <QObject>
 #include <QThreadPool>
 #include <atomic>
+#include <chrono>
+#include <future>
 #include <string>
 
 #include "platform/desktop/Clipboard.h"
@@ -27,11 +29,18 @@ class QtClipboard : public QObject, public desktop::Clipboard {
     void Ask();
     void AskAgain(int question);
     void Learn(const std::string& format);
+    void StartFetching();
+    // Until then, and only while nothing else is asked, an answer is worth waiting for.
+    std::function<bool()> WantedFor(std::chrono::milliseconds patience) const;
 
     // The image format that is read; empty for none.
     std::string format_;
-    // Counts the questions: an old one is not worth asking, and its answer comes too late.
+    // Counts the questions what the clipboard holds: answers to old ones come too late.
     std::atomic<int> question_ = 0;
+    std::chrono::milliseconds recovery_{};
+    // The image that is being fetched, and for which state of the clipboard.
+    std::future<Result<gdi::Surface>> coming_;
+    int comingFor_ = 0;
     // One thread; ends before the rest.
     QThreadPool aside_;
 };

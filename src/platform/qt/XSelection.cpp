@@ -2,7 +2,9 @@
 
 #include <poll.h>
 
+#include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace kestrel::qt {
 
@@ -13,8 +15,8 @@ constexpr std::size_t kMostTargets = 1000;
 
 }  // namespace
 
-XSelection::XSelection(Clock::time_point deadline)
-    : deadline_(deadline), connection_(xcb_connect(nullptr, nullptr)) {
+XSelection::XSelection(Wanted wanted)
+    : wanted_(std::move(wanted)), connection_(xcb_connect(nullptr, nullptr)) {
     const xcb_setup_t* setup = xcb_get_setup(connection_.get());
     if (setup == nullptr || xcb_connection_has_error(connection_.get()) != 0) return;
     const xcb_screen_t* screen = xcb_setup_roots_iterator(setup).data;
@@ -27,26 +29,24 @@ XSelection::XSelection(Clock::time_point deadline)
     property_ = Atom("KESTREL_CLIPBOARD");
 }
 
-std::optional<std::vector<std::string>> XSelection::Targets() {
+std::optional<std::string> XSelection::FirstOffered(std::span<const char* const> formats) {
     const xcb_atom_t own = Atom("TARGETS");
     const auto targets = Convert(own, kMostTargets * sizeof(xcb_atom_t));
     if (!targets) return std::nullopt;
     // Some owners name the list by its own type; any other type is no list.
     const bool isList = targets->type == XCB_ATOM_ATOM || targets->type == own;
     if (targets->type != XCB_ATOM_NONE && !isList) return std::nullopt;
-    std::vector<std::string> names;
-    for (std::size_t at = 0; at + sizeof(xcb_atom_t) <= targets->bytes.size();
-         at += sizeof(xcb_atom_t)) {
-        xcb_atom_t target = XCB_ATOM_NONE;
-        std::memcpy(&target, targets->bytes.data() + at, sizeof(target));
-        names.push_back(NameOf(target));
+    std::vector<xcb_atom_t> offered(targets->bytes.size() / sizeof(xcb_atom_t));
+    std::memcpy(offered.data(), targets->bytes.data(), offered.size() * sizeof(xcb_atom_t));
+    for (const char* format : formats) {
+        if (std::find(offered.begin(), offered.end(), Atom(format)) != offered.end()) return format;
     }
-    return names;
+    return std::string();
 }
 
-std::optional<std::vector<std::uint8_t>> XSelection::Read(const std::string& target,
+std::optional<std::vector<std::uint8_t>> XSelection::Read(std::string_view format,
                                                           std::size_t limit) {
-    auto content = Convert(Atom(target), limit);
+    auto content = Convert(Atom(format), limit);
     if (!content || content->type == XCB_ATOM_NONE) return std::nullopt;
     if (content->type == Atom("INCR")) return ReadParts(limit);
     return std::move(content->bytes);
@@ -56,11 +56,12 @@ std::optional<XSelection::Property> XSelection::Convert(xcb_atom_t target, std::
     if (window_ == XCB_NONE || target == XCB_ATOM_NONE) return std::nullopt;
     xcb_convert_selection(connection_.get(), window_, clipboard_, target, property_,
                           XCB_CURRENT_TIME);
-    const auto event = WaitFor(XCB_SELECTION_NOTIFY);
-    if (!event) return std::nullopt;
-    const auto* answer = reinterpret_cast<const xcb_selection_notify_event_t*>(event.get());
-    if (answer->property == XCB_ATOM_NONE) return Property{};
-    return TakeProperty(limit);
+    while (const auto event = WaitFor(XCB_SELECTION_NOTIFY)) {
+        const auto* answer = reinterpret_cast<const xcb_selection_notify_event_t*>(event.get());
+        if (answer->selection != clipboard_ || answer->target != target) continue;
+        return answer->property == XCB_ATOM_NONE ? Property{} : TakeProperty(limit);
+    }
+    return std::nullopt;
 }
 
 // The owner puts the next part into the property whenever the last one was taken out of it; an
@@ -94,17 +95,15 @@ std::optional<XSelection::Property> XSelection::TakeProperty(std::size_t limit) 
 }
 
 XSelection::Owned<xcb_generic_event_t> XSelection::WaitFor(std::uint8_t kind) {
-    using std::chrono::milliseconds;
+    constexpr int kLook = 20;  // milliseconds
     xcb_flush(connection_.get());
-    while (xcb_connection_has_error(connection_.get()) == 0) {
-        const auto left = std::chrono::duration_cast<milliseconds>(deadline_ - Clock::now());
-        if (left <= milliseconds(0)) return nullptr;
+    while (xcb_connection_has_error(connection_.get()) == 0 && wanted_()) {
         if (auto event = Owned<xcb_generic_event_t>(xcb_poll_for_event(connection_.get()))) {
             if ((event->response_type & ~kSentByClient) == kind) return event;
             continue;
         }
         pollfd descriptor{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
-        poll(&descriptor, 1, static_cast<int>(left.count()));
+        poll(&descriptor, 1, kLook);
     }
     return nullptr;
 }
@@ -115,15 +114,6 @@ xcb_atom_t XSelection::Atom(std::string_view name) {
     const Owned<xcb_intern_atom_reply_t> reply(
         xcb_intern_atom_reply(connection_.get(), cookie, nullptr));
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-}
-
-std::string XSelection::NameOf(xcb_atom_t atom) {
-    const auto cookie = xcb_get_atom_name(connection_.get(), atom);
-    const Owned<xcb_get_atom_name_reply_t> reply(
-        xcb_get_atom_name_reply(connection_.get(), cookie, nullptr));
-    if (!reply) return {};
-    return {xcb_get_atom_name_name(reply.get()),
-            static_cast<std::size_t>(xcb_get_atom_name_name_length(reply.get()))};
 }
 
 }  // namespace kestrel::qt

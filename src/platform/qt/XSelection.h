@@ -2,11 +2,12 @@
 
 #include <xcb/xcb.h>
 
-#include <chrono>
 #include <cstdint>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,17 +20,16 @@ namespace kestrel::qt {
 // Protocol: Inter-Client Communication Conventions Manual 2.0, section 2 (selections, INCR).
 class XSelection {
   public:
-    using Clock = std::chrono::steady_clock;
+    // Every wait for the owner ends soon after this says no.
+    using Wanted = std::function<bool()>;
+    explicit XSelection(Wanted wanted);
 
-    // Every wait below ends at the deadline.
-    explicit XSelection(Clock::time_point deadline);
-
-    // The formats that the owner offers, by name, which may be none; nothing when it gives no
-    // answer.
-    std::optional<std::vector<std::string>> Targets();
-    // The clipboard in one of these formats; nothing when the owner refuses, is late or sends more
+    // The first of these formats that the owner offers; empty when it offers none of them, nothing
+    // when it gives no answer that makes sense.
+    std::optional<std::string> FirstOffered(std::span<const char* const> formats);
+    // The clipboard in one of its formats; nothing when the owner refuses, is late or sends more
     // than `limit` bytes.
-    std::optional<std::vector<std::uint8_t>> Read(const std::string& target, std::size_t limit);
+    std::optional<std::vector<std::uint8_t>> Read(std::string_view format, std::size_t limit);
 
   private:
     struct Free {
@@ -47,14 +47,13 @@ class XSelection {
     };
 
     xcb_atom_t Atom(std::string_view name);
-    std::string NameOf(xcb_atom_t atom);
     std::optional<Property> Convert(xcb_atom_t target, std::size_t limit);
     std::optional<std::vector<std::uint8_t>> ReadParts(std::size_t limit);
     std::optional<Property> TakeProperty(std::size_t limit);
-    // The next event of this kind; null when it does not come in time.
+    // The next event of this kind; null when it is not wanted any more.
     Owned<xcb_generic_event_t> WaitFor(std::uint8_t kind);
 
-    Clock::time_point deadline_;
+    Wanted wanted_;
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_window_t window_ = XCB_NONE;
     xcb_atom_t clipboard_ = XCB_ATOM_NONE;
