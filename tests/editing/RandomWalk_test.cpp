@@ -6,6 +6,7 @@
 
 #include "editing/ClipboardCommands.h"
 #include "editing/WellCommands.h"
+#include "i18n/Language.h"
 #include "platform/gdi/Blit.h"
 #include "tests/support/EditorTest.h"
 #include "tests/support/Recorders.h"
@@ -59,6 +60,8 @@ class RandomWalkTest : public test::EditorTest {
             [&] { editor_.Selected().MoveBy(Below(9) - 4, Below(9) - 4); },
             [&] { commands_.Cut(); },
             [&] { Paste(); },
+            [&] { DropUnmoved(); },
+            [&] { i18n::SetUiLanguage(Below(2) == 0 ? i18n::kChinese : i18n::kEnglish); },
         };
         commands[random_() % std::size(commands)]();
     }
@@ -75,6 +78,18 @@ class RandomWalkTest : public test::EditorTest {
         dialog_.fit = Below(2) == 0 ? PasteFit::Shrink : PasteFit::KeepAspect;
         const auto mode = Below(2) == 0 ? PasteMode::Opaque : PasteMode::Transparent;
         EXPECT_EQ(commands_.Paste(mode).has_value(), clipboard_.HasImage());
+    }
+    // Lifts what is marked, and puts it down where it was.
+    void DropUnmoved() {
+        const Selection& selection = editor_.Selected();
+        if (!selection.SelectionMarked()) return;
+        const document::IconDocument before = icon_;
+        const auto& [x1, y1, x2, y2] = selection.Marquee();
+        const test::At at{x1 + Below(x2 - x1), y1 + Below(y2 - y1)};
+        Stroke(Button::Left, {at, AnyPoint(), at});
+        ASSERT_TRUE(selection.SelectionFloating());
+        editor_.Selected().DropSelection();
+        ExpectSame(before);
     }
     // Whoever watches the grid has been told of every pixel that changed.
     void ExpectRepainted(gdi::Surface watched) {
@@ -140,6 +155,7 @@ TEST_F(RandomWalkTest, LeavesNothingBehind) {
             editor_.PopRedoSnapshot();
             ExpectSame(undone.back());
         }
+        i18n::SetUiLanguage(i18n::kEnglish);
     }
 }
 
