@@ -168,8 +168,8 @@ TEST_F(SelectingTest, ALostPictureIsToldInBothLanguages) {
 TEST_F(SelectingTest, ALargePictureIsAskedAboutInBothLanguages) {
     const struct {
         Qt::KeyboardModifiers modifiers;
-        Qt::Key key;
-        const char* click;
+        Qt::Key key{};
+        const char* click{};
         std::optional<Corners> pasted;
     } cases[] = {
         {{}, Qt::Key_Return, nullptr, Corners{0, 0, 320, 320}},

@@ -14,7 +14,7 @@ constexpr COLORREF kOpaque = 0xFF000000;
 TEST(PasteFit, LargePicturesAreShrunkToTheNearestPixelsAboveLeft) {
     const struct {
         PictureSize picture;
-        PasteFit fit;
+        PasteFit fit{};
         PictureSize size;
         // Target pixel, and the source pixel in its place.
         test::At target, source;

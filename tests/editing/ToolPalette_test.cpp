@@ -131,11 +131,11 @@ TEST_F(WellsTest, ButtonsDoWhatTheySay) {
     constexpr Event kFore = &WellCommands::PicForeColor_MouseUp;
     constexpr Event kBack = &WellCommands::PicBackColor_MouseUp;
     const struct {
-        Event event;
-        Button button;
+        Event event{};
+        Button button{};
         // Chosen in the dialog; a cancelled one leaves the colour, but no transparency.
         std::optional<gdi::COLORREF> choice;
-        const char* wells;
+        const char* wells{};
     } steps[] = {
         {kClear, None, {}, "0 FFFFFF "},         {kSwap, Left, {}, "FFFFFF 0 "},
         {kSwap, Right, {}, "FFFFFF 0 "},         {kFore, Right, 0x123456, "FFFFFF 0 "},

@@ -122,10 +122,10 @@ TEST_F(ToolsTest, ThePickerTakesColourOrTransparencyAndHandsBack) {
     Paint({1, 1}, kRed);
     UseTool(ToolId::Ellipse);
     const struct {
-        Button button;
+        Button button{};
         At cell;
-        gdi::COLORREF color;
-        bool transparent;
+        gdi::COLORREF color{};
+        bool transparent{};
     } cases[] = {{Button::Right, {1, 1}, kRed, false},
                  {Button::Left, {2, 1}, gdi::kWhite, true},
                  {Button::Left, {1, 1}, kRed, false},
@@ -161,9 +161,9 @@ TEST_F(ToolsTest, NothingIsFilledOutsideTheCells) {
 TEST_F(ToolsTest, TheSizeOfADragIsShownWhereItIsPrinted) {
     using enum ToolId;
     const struct {
-        ToolId tool;
+        ToolId tool{};
         At from, to;
-        const char* size;
+        const char* size{};
     } cases[] = {
         {Line, {25, 35}, {95, 35}, "8 , 1"},        {Ellipse, {95, 95}, {25, 85}, "8 , 2"},
         {Rectangle, {25, 35}, {-9, 900}, "3 , 29"}, {Pencil, {25, 35}, {95, 35}, ""},

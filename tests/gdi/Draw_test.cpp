@@ -49,8 +49,8 @@ void SlowBox(Surface& target, int x1, int y1, int x2, int y2, COLORREF color) {
 
 // Whether x is at most half a pixel farther out than the curve at y. Distances from the middle are
 // doubled, so that they are whole numbers.
-bool Reaches(int x, int y, int spanX, int spanY) {
-    return x <= 1 || (x - 1) * (x - 1) * spanY * spanY <= spanX * spanX * (spanY * spanY - y * y);
+bool Reaches(int x, int y, int span, int height) {
+    return x <= 1 || (x - 1) * (x - 1) * height * height <= span * span * (height * height - y * y);
 }
 
 // The curve runs through the middles of the outermost pixels; a pixel is covered when the curve

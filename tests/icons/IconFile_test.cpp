@@ -86,7 +86,7 @@ constexpr Depth kDepths[] = {
 TEST(DibImage, ReadsEveryDepth) {
     for (const Depth& row : kDepths) {
         SCOPED_TRACE(row.name);
-        ByteList file(&kGood[0], &kGood[62]);
+        ByteList file(kGood.begin(), kGood.begin() + 62);
         if (row.rowsAt == 124) file[22] = 124;
         file[36] = row.bits;
         file[38] = row.bits > 8 && row.rowsAt > 40 ? 3 : 0;

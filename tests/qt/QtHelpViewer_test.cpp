@@ -16,7 +16,7 @@ namespace {
 class QtHelpViewerTest : public testing::Test {
   protected:
     std::string Page(const char* name, const char* text) {
-        const std::string path = folder_.filePath(QString::fromLatin1(name)).toStdString();
+        std::string path = folder_.filePath(QString::fromLatin1(name)).toStdString();
         std::ofstream(path) << text;
         return path;
     }
