@@ -36,6 +36,7 @@ std::optional<std::string> XSelection::FirstOffered(std::span<const char* const>
     // Some owners name the list by its own type; any other type is no list.
     const bool isList = targets->type == XCB_ATOM_ATOM || targets->type == own;
     if (targets->type != XCB_ATOM_NONE && !isList) return std::nullopt;
+    if (targets->bytes.empty()) return std::string();
     std::vector<xcb_atom_t> offered(targets->bytes.size() / sizeof(xcb_atom_t));
     std::memcpy(offered.data(), targets->bytes.data(), offered.size() * sizeof(xcb_atom_t));
     for (const char* format : formats) {
