@@ -26,7 +26,8 @@ gdi::Surface PictureOf(const Selection& selection) {
 }  // namespace
 
 void ClipboardCommands::Copy() {
-    if (CanCopy()) clipboard_.SetImage(PictureOf(editor_.Selected()));
+    const Selection& selection = editor_.Selected();
+    if (selection.Exists()) clipboard_.SetImage(PictureOf(selection));
 }
 
 void ClipboardCommands::Cut() {

@@ -21,7 +21,6 @@ class ClipboardCommands {
     ClipboardCommands(Editor& editor, desktop::Clipboard& clipboard, PasteDialog& dialog)
         : editor_(editor), clipboard_(clipboard), dialog_(dialog) {}
 
-    bool CanCopy() const { return editor_.Selected().Exists(); }
     bool CanPaste() const { return clipboard_.HasImage(); }
 
     // Without a selection nothing happens.

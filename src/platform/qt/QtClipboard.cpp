@@ -44,7 +44,7 @@ QClipboard& System() {
 }
 
 // Whether the clipboard can be read here and now: it is this program's own, or the desktop's
-// library is the only way to it.
+// library is the only way to it, with the time limit that it has.
 bool IsAtHand() {
     return System().ownsClipboard() || QGuiApplication::platformName() != QLatin1String("xcb");
 }
@@ -118,8 +118,8 @@ QtClipboard::~QtClipboard() {
     aside_.clear();
 }
 
-std::function<bool()> QtClipboard::WantedFor(milliseconds patience) const {
-    return [this, question = question_.load(), deadline = Clock::now() + patience] {
+std::function<bool()> QtClipboard::WantedFor(int question, milliseconds patience) const {
+    return [this, question, deadline = Clock::now() + patience] {
         return question == question_ && Clock::now() < deadline;
     };
 }
@@ -127,9 +127,9 @@ std::function<bool()> QtClipboard::WantedFor(milliseconds patience) const {
 void QtClipboard::Ask() {
     const int question = ++question_;
     if (IsAtHand()) return Learn(FormatAtHand());
-    aside_.start([this, question, wanted = WantedFor(kLongest)] {
-        if (!wanted()) return;
-        const auto format = XSelection(WantedFor(kPatience)).FirstOffered(kFormats);
+    aside_.start([this, question] {
+        if (question != question_) return;
+        const auto format = XSelection(WantedFor(question, kPatience)).FirstOffered(kFormats);
         QMetaObject::invokeMethod(this, [this, question, format] {
             if (question != question_) return;
             Learn(format.value_or(std::string()));
@@ -166,8 +166,9 @@ void QtClipboard::StartFetching() {
     coming_ = answer->get_future();
     // An owner that is slow to say what it has must not keep the image waiting.
     comingFor_ = ++question_;
-    aside_.start(
-        [answer, wanted = WantedFor(kLongest)] { answer->set_value(FetchOrRunOut(wanted)); });
+    aside_.start([answer, wanted = WantedFor(comingFor_, kLongest)] {
+        answer->set_value(FetchOrRunOut(wanted));
+    });
 }
 
 void QtClipboard::SetImage(const gdi::Surface& pixels) {

@@ -30,8 +30,8 @@ class QtClipboard : public QObject, public desktop::Clipboard {
     void AskAgain(int question);
     void Learn(const std::string& format);
     void StartFetching();
-    // Until then, and only while nothing else is asked, an answer is worth waiting for.
-    std::function<bool()> WantedFor(std::chrono::milliseconds patience) const;
+    // For this long, and only while nothing else is asked, an answer is worth waiting for.
+    std::function<bool()> WantedFor(int question, std::chrono::milliseconds patience) const;
 
     // The image format that is read; empty for none.
     std::string format_;
