@@ -1,0 +1,66 @@
+#include "platform/dialogs/Cdb.h"
+
+#include <algorithm>
+
+namespace kestrel::dialogs {
+
+Cdb::Cdb(DesktopDialogs& desktop, const OwnerWindow& owner) : desktop_(desktop), owner_(owner) {
+    customColors_.fill(gdi::kWhite);
+}
+
+Result<ChosenFile> Cdb::ShowOpen(const FileRequest& request) {
+    FileRecord record = RecordOf(request);
+    return Answer(desktop_.GetOpenFileName(record), record);
+}
+
+Result<ChosenFile> Cdb::ShowSave(const FileRequest& request) {
+    FileRecord record = RecordOf(request);
+    return Answer(desktop_.GetSaveFileName(record), record);
+}
+
+Result<gdi::COLORREF> Cdb::ShowColor(gdi::COLORREF current) {
+    ColorRecord record{.owner = owner_.hWnd(),
+                       .color = current,
+                       .customColors = customColors_,
+                       .flags = kInitialColor | kFullOpen};
+    if (desktop_.ChooseColor(record) != kConfirmed) return Unconfirmed();
+    customColors_ = record.customColors;
+    return record.color;
+}
+
+Result<ChosenPrinter> Cdb::ShowPrinter() {
+    PrinterRecord record{.owner = owner_.hWnd(),
+                         .printer = printer_.printer,
+                         .file = printer_.file,
+                         .copies = printer_.copies};
+    if (desktop_.ChoosePrinter(record) != kConfirmed) return Unconfirmed();
+    printer_ = {record.printer, record.file, record.copies};
+    return printer_;
+}
+
+FileRecord Cdb::RecordOf(const FileRequest& request) const {
+    FileRecord record;
+    record.owner = owner_.hWnd();
+    record.filter = request.filter;
+    std::replace(record.filter.begin(), record.filter.end(), '|', '\0');
+    record.filter.append(2, '\0');
+    record.filterIndex = request.filterIndex;
+    record.file = request.fileName;
+    record.title = request.title;
+    record.defaultExtension = request.defaultExtension;
+    record.flags = request.flags;
+    return record;
+}
+
+Result<ChosenFile> Cdb::Answer(std::int32_t returned, const FileRecord& record) const {
+    if (returned != kConfirmed) return Unconfirmed();
+    return ChosenFile{record.file, record.fileTitle};
+}
+
+tl::unexpected<Error> Cdb::Unconfirmed() const {
+    const std::int32_t reason = desktop_.CommDlgExtendedError();
+    if (reason != 0) return Fail(reason, "The dialog failed");
+    return Fail(kDialogCancelled, "Cancel was selected");
+}
+
+}  // namespace kestrel::dialogs

@@ -1,0 +1,149 @@
+#include "platform/dialogs/GCommonDialog.h"
+
+#include <algorithm>
+
+#include "platform/system/Characters.h"
+#include "platform/system/PathText.h"
+
+namespace kestrel::dialogs {
+
+namespace {
+
+std::string WithNuls(std::string filter) {
+    for (const char separator : {'|', ':'})
+        std::replace(filter.begin(), filter.end(), separator, '\0');
+    return filter.append(2, '\0');
+}
+
+std::string UpToNul(const std::string& buffer) {
+    return buffer.substr(0, buffer.find('\0'));
+}
+
+bool FitsBuffer(const std::string& name) {
+    const auto characters = std::count_if(name.begin(), name.end(), system::StartsCharacter);
+    return static_cast<std::size_t>(characters) < GCommonDialog::kMaxFile;
+}
+
+constexpr std::uint32_t When(bool condition, std::uint32_t flag) {
+    return condition ? flag : 0;
+}
+
+// Hooks and templates are code and data of a caller that this desktop cannot run.
+constexpr std::uint32_t CallersFlags(std::uint32_t flags) {
+    return flags & ~(kFileHook | kFileTemplate);
+}
+
+bool IsCustomColor(int index) {
+    return index >= 0 && index < static_cast<int>(CustomColors().size());
+}
+
+}  // namespace
+
+bool GCommonDialog::VBGetOpenFileName(std::string& Filename, std::string& FileTitle,
+                                      bool FileMustExist, bool MultiSelect, bool& ReadOnly,
+                                      bool HideReadOnly, std::string& Filter, int& FilterIndex,
+                                      const std::string& InitDir, const std::string& DlgTitle,
+                                      const std::string& DefaultExt, WindowHandle Owner,
+                                      std::uint32_t& flags) {
+    FileRecord record;
+    record.owner = Owner;
+    record.initialFolder = InitDir;
+    record.title = DlgTitle;
+    record.defaultExtension = DefaultExt;
+    record.flags = When(MultiSelect, kMultiSelect) | When(ReadOnly, kReadOnly) |
+                   When(HideReadOnly, kHideReadOnly) | When(FileMustExist, kFileMustExist) |
+                   CallersFlags(flags);
+    if (!ChooseFile(&DesktopDialogs::GetOpenFileName, record, Filename, FileTitle, Filter,
+                    FilterIndex, flags)) {
+        return false;
+    }
+    ReadOnly = (flags & kReadOnly) != 0;
+    return true;
+}
+
+bool GCommonDialog::VBGetSaveFileName(std::string& Filename, std::string& FileTitle,
+                                      bool OverWritePrompt, std::string& Filter, int& FilterIndex,
+                                      const std::string& InitDir, const std::string& DlgTitle,
+                                      const std::string& DefaultExt, WindowHandle Owner,
+                                      std::uint32_t& flags) {
+    FileRecord record;
+    record.owner = Owner;
+    record.initialFolder = InitDir;
+    record.title = DlgTitle;
+    record.defaultExtension = DefaultExt;
+    record.flags = When(OverWritePrompt, kOverwritePrompt) | kHideReadOnly | CallersFlags(flags);
+    return ChooseFile(&DesktopDialogs::GetSaveFileName, record, Filename, FileTitle, Filter,
+                      FilterIndex, flags);
+}
+
+bool GCommonDialog::ChooseFile(FileFunction show, FileRecord& record, std::string& Filename,
+                               std::string& FileTitle, std::string& Filter, int& FilterIndex,
+                               std::uint32_t& flags) {
+    record.filter = WithNuls(Filter);
+    record.filterIndex = FilterIndex;
+    record.file = Filename;
+    record.fileTitle = FileTitle;
+    record.maxFile = kMaxFile;
+    if (!Confirmed((desktop_.*show)(record))) {
+        Filename.clear();
+        FileTitle.clear();
+        Filter.clear();
+        flags = 0;
+        return false;
+    }
+    Filename = UpToNul(record.file);
+    FileTitle = UpToNul(record.fileTitle);
+    FilterIndex = record.filterIndex;
+    flags = record.flags;
+    return true;
+}
+
+std::string GCommonDialog::VBGetFileTitle(const std::string& sFIle) {
+    const std::string title(system::FileTitleOf(sFIle));
+    return FitsBuffer(title) ? title : std::string();
+}
+
+bool GCommonDialog::VBChooseColor(gdi::COLORREF& Color, bool AnyColor, bool FullOpen,
+                                  bool DisableFullOpen, WindowHandle Owner) {
+    FillCustomColors();
+    ColorRecord record;
+    record.owner = Owner;
+    record.color = Color;
+    record.customColors = customColors_;
+    record.flags = kInitialColor | (AnyColor ? kAnyColor : kSolidColor) |
+                   When(FullOpen, kFullOpen) | When(DisableFullOpen, kPreventFullOpen);
+    if (!Confirmed(desktop_.ChooseColor(record))) {
+        Color = gdi::CLR_INVALID;
+        return false;
+    }
+    Color = record.color;
+    customColors_ = record.customColors;
+    return true;
+}
+
+gdi::COLORREF GCommonDialog::CustomColor(int iValue) {
+    FillCustomColors();
+    return IsCustomColor(iValue) ? customColors_[static_cast<std::size_t>(iValue)]
+                                 : gdi::CLR_INVALID;
+}
+
+void GCommonDialog::SetCustomColor(int iValue, gdi::COLORREF color) {
+    FillCustomColors();
+    if (IsCustomColor(iValue)) customColors_[static_cast<std::size_t>(iValue)] = color;
+}
+
+bool GCommonDialog::Confirmed(std::int32_t returned) {
+    apiReturn_ = returned;
+    const bool confirmed = returned == kConfirmed;
+    extendedError_ = confirmed ? 0 : desktop_.CommDlgExtendedError();
+    return confirmed;
+}
+
+void GCommonDialog::FillCustomColors() {
+    if (customColorsFilled_) return;
+    customColorsFilled_ = true;
+    for (int i = 0; IsCustomColor(i); ++i)
+        customColors_[static_cast<std::size_t>(i)] = desktop_.GetSysColor(i);
+}
+
+}  // namespace kestrel::dialogs

@@ -1,0 +1,175 @@
+#include "platform/dialogs/GCommonDialog.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/dialogs/Cdb.h"
+#include "tests/support/ScriptedDialogs.h"
+
+namespace kestrel::dialogs {
+namespace {
+
+using namespace std::string_literals;
+
+class GCommonDialogTest : public testing::Test {
+  protected:
+    bool Open(bool fileMustExist, bool multiSelect, bool hideReadOnly) {
+        return dialog_.VBGetOpenFileName(name_, title_, fileMustExist, multiSelect, readOnly_,
+                                         hideReadOnly, filter_, index_, "/pictures", "Title", "PAL",
+                                         5, flags_);
+    }
+    bool Save(bool overwritePrompt) {
+        return dialog_.VBGetSaveFileName(name_, title_, overwritePrompt, filter_, index_, "/p", "T",
+                                         "PAL", kNoOwner, flags_);
+    }
+
+    test::ScriptedDialogs desktop_;
+    GCommonDialog dialog_{desktop_};
+    std::string name_ = "old.pal";
+    std::string title_ = "old";
+    std::string filter_ = "A: b|*.a;*.b|All (*.*)|*.*";
+    int index_ = 2;
+    bool readOnly_ = false;
+    std::uint32_t flags_ = 0x80060;
+};
+
+TEST_F(GCommonDialogTest, AsksTheDesktopAndTakesItsAnswer) {
+    desktop_.choice = "/a/b.pal";
+    desktop_.alsoChanges = [](FileRecord& record) {
+        record.file += "\0junk"s;
+        record.filterIndex = 1;
+        record.flags |= 0x401;
+    };
+    EXPECT_TRUE(Open(true, true, true));
+    const FileRecord& asked = desktop_.opens.at(0);
+    EXPECT_EQ(asked.owner, 5);
+    EXPECT_EQ(asked.filter, "A\0 b\0*.a;*.b\0All (*.*)\0*.*\0\0"s);
+    EXPECT_EQ(asked.filterIndex, 2);
+    EXPECT_EQ(asked.file + asked.fileTitle, "old.palold");
+    EXPECT_EQ(asked.initialFolder + asked.title + asked.defaultExtension, "/picturesTitlePAL");
+    EXPECT_EQ(asked.maxFile, 260U);
+    EXPECT_EQ(asked.flags, 0x81204U);
+    EXPECT_EQ(name_, "/a/b.pal");
+    EXPECT_EQ(title_, "b.pal");
+    EXPECT_EQ(filter_, "A: b|*.a;*.b|All (*.*)|*.*");
+    EXPECT_EQ(index_, 1);
+    EXPECT_EQ(flags_, 0x81605U);
+    EXPECT_TRUE(readOnly_);
+    EXPECT_EQ(dialog_.APIReturn(), 1);
+
+    flags_ = 0;
+    desktop_.alsoChanges = [](FileRecord& record) { record.flags = 0; };
+    EXPECT_TRUE(Open(false, false, false));
+    EXPECT_EQ(desktop_.opens.at(1).flags, 0x1U);
+    EXPECT_FALSE(readOnly_) << "the user took the tick away";
+    EXPECT_TRUE(Save(true));
+    EXPECT_TRUE(Save(false));
+    EXPECT_EQ(desktop_.saves.at(0).flags, 0x6U);
+    EXPECT_EQ(desktop_.saves.at(1).flags, 0x4U);
+    EXPECT_EQ(desktop_.saves.at(0).maxFile, 260U);
+}
+
+TEST_F(GCommonDialogTest, CancelClearsWhatWasGivenAndTellsWhy) {
+    const auto refuse = [this](std::int32_t error, auto ask) {
+        desktop_.error = error;
+        std::tie(name_, title_, filter_, flags_) = std::tuple("old.pal", "old", "A|*.a", 8U);
+        readOnly_ = true;
+        EXPECT_FALSE(ask());
+        EXPECT_EQ(name_ + title_ + filter_, "");
+        EXPECT_EQ(flags_, 0U);
+        EXPECT_EQ(dialog_.ExtendedError(), error);
+        EXPECT_EQ(dialog_.APIReturn(), 0);
+    };
+    refuse(0, [this] { return Open(true, false, true); });
+    refuse(0x3003, [this] { return Save(true); });
+    desktop_.choice = "/a";
+    EXPECT_TRUE(Save(true));
+    EXPECT_EQ(dialog_.ExtendedError(), 0);
+}
+
+TEST_F(GCommonDialogTest, FileTitles) {
+    for (const auto& [path, title] : {std::pair{"/a/b.pal"s, "b.pal"s},
+                                      {"c:\\x\\y.ico", "y.ico"},
+                                      {"plain", "plain"},
+                                      {"", ""},
+                                      {"/a/", ""},
+                                      {"/" + std::string(259, 'n'), std::string(259, 'n')},
+                                      {"/" + std::string(260, 'n'), ""}}) {
+        EXPECT_EQ(GCommonDialog::VBGetFileTitle(path), title);
+    }
+}
+
+TEST_F(GCommonDialogTest, ColoursAndTheRowOfCustomColours) {
+    EXPECT_EQ(dialog_.CustomColor(0), 0x102000U) << "the desktop's colour 0";
+    EXPECT_EQ(dialog_.CustomColor(15), 0x10200FU);
+    dialog_.SetCustomColor(15, 0x5);
+    for (const int outside : {-1, 16}) {
+        dialog_.SetCustomColor(outside, 0x5);
+        EXPECT_EQ(dialog_.CustomColor(outside), 0xFFFFFFFFU);
+    }
+    gdi::COLORREF color = 0x808080;
+    EXPECT_FALSE(dialog_.VBChooseColor(color, true, true, false, 9));
+    EXPECT_EQ(color, 0xFFFFFFFFU);
+    EXPECT_EQ(desktop_.colors.at(0).color, 0x808080U);
+    EXPECT_EQ(desktop_.colors.at(0).owner, 9);
+    EXPECT_EQ(desktop_.colors.at(0).flags, 0x103U);
+    EXPECT_EQ(desktop_.colors.at(0).customColors[15], 0x5U);
+    EXPECT_EQ(dialog_.CustomColor(3), 0x102003U);
+
+    desktop_.color = 0x010203;
+    EXPECT_TRUE(dialog_.VBChooseColor(color, false, false, true, kNoOwner));
+    EXPECT_EQ(color, 0x010203U);
+    EXPECT_EQ(desktop_.colors.at(1).flags, 0x85U);
+    EXPECT_EQ(dialog_.CustomColor(3), 0x010203U) << "changed in the dialog";
+
+    GCommonDialog fresh(desktop_);
+    EXPECT_TRUE(fresh.VBChooseColor(color, true, true, false, kNoOwner));
+    EXPECT_EQ(desktop_.colors.back().customColors[15], 0x10200FU);
+}
+
+struct Window : OwnerWindow {
+    WindowHandle hWnd() const override { return 7; }
+};
+
+TEST(Cdb, TellsCancelFromFailureAndRemembersColoursAndPrinter) {
+    test::ScriptedDialogs desktop;
+    const Window window;
+    Cdb cdb(desktop, window);
+    for (const auto& [reason, number] : {std::pair{0, kDialogCancelled}, {2, 2}}) {
+        desktop.error = reason;
+        EXPECT_EQ(cdb.ShowOpen({}).error().number, number);
+        EXPECT_EQ(cdb.ShowSave({}).error().number, number);
+        EXPECT_EQ(cdb.ShowColor(0).error().number, number);
+        EXPECT_EQ(cdb.ShowPrinter().error().number, number);
+    }
+    EXPECT_EQ(desktop.colors.at(0).customColors[3], 0xFFFFFFU);
+    EXPECT_EQ(desktop.colors.at(0).flags, 0x3U);
+
+    desktop.choice = "/a/b.ico";
+    desktop.color = 0x123456;
+    const auto chosen = cdb.ShowSave({.title = "T",
+                                      .filter = "A:|*.a",
+                                      .filterIndex = 3,
+                                      .defaultExtension = ".ico",
+                                      .fileName = "f",
+                                      .flags = 0x806});
+    EXPECT_EQ(chosen->path + chosen->fileTitle, "/a/b.icob.ico");
+    const FileRecord& asked = desktop.saves.back();
+    EXPECT_EQ(asked.title + asked.defaultExtension + asked.file, "T.icof");
+    EXPECT_EQ(asked.filter, "A:\0*.a\0\0"s);
+    EXPECT_EQ(asked.filterIndex, 3);
+    EXPECT_EQ(asked.flags, 0x806U);
+    EXPECT_EQ(asked.maxFile, 0U) << "any path";
+    EXPECT_EQ(cdb.ShowColor(0x1), 0x123456U);
+    EXPECT_EQ(cdb.ShowColor(0x2), 0x123456U);
+    EXPECT_EQ(desktop.colors.back().customColors[3], 0x123456U);
+    for (const int copies : {3, 5})
+        EXPECT_EQ(cdb.ShowPrinter()->copies, copies);
+    EXPECT_EQ(desktop.printers.back().file, "/a/b.ico");
+    for (const auto owner : {desktop.opens[0].owner, desktop.saves[0].owner,
+                             desktop.colors[0].owner, desktop.printers[0].owner}) {
+        EXPECT_EQ(owner, 7);
+    }
+}
+
+}  // namespace
+}  // namespace kestrel::dialogs
