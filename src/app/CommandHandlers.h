@@ -18,6 +18,10 @@ class CommandHandlers {
     virtual void mnuExit_Click() = 0;
     // The index is that of the Edit menu's item.
     virtual void mnuEditOpts_Click(int index) = 0;
+    // 0 is the default palette, 1 a random one.
+    virtual void mnuPaletteOpts_Click(int index) = 0;
+    virtual void ImgLoadPalette_Click() = 0;
+    virtual void ImgSavePalette_Click() = 0;
     virtual void StartSibling(Sibling program) = 0;
     // 0 is Chinese, 1 English; others are none.
     virtual void mnuLanguageOpts_Click(int index) = 0;

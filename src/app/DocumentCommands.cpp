@@ -31,7 +31,7 @@ std::string ProposedName(const document::IconDocument& document) {
 }  // namespace
 
 DocumentCommands::DocumentCommands(editing::Editor& editor, DocumentWindow& window,
-                                   ModRecent& recent, dialogs::FileDialogs& cdb,
+                                   ModRecent& recent, dialogs::Cdb& cdb,
                                    dialogs::MessageBoxes& boxes, system::FileSystem& files)
     : editor_(editor),
       document_(editor.Document()),
@@ -69,7 +69,7 @@ void DocumentCommands::mnuOpen_Click() {
 
 void DocumentCommands::OpenChosenFile() {
     dialogs::FileRequest request = IconRequest(i18n::kOpenTitle.Now());
-    request.fileMustExist = true;
+    request.flags = dialogs::kFileMustExist | dialogs::kHideReadOnly;
     const Result<dialogs::ChosenFile> chosen = cdb_.ShowOpen(request);
     if (!chosen) {
         window_.EnableGrid(true);
@@ -127,8 +127,7 @@ void DocumentCommands::SaveDocument(SaveMode mode) {
 void DocumentCommands::SaveUnderNewName() {
     dialogs::FileRequest request = IconRequest(i18n::kSaveAsTitle.Now());
     request.fileName = ProposedName(document_);
-    request.overwritePrompt = true;
-    request.pathMustExist = true;
+    request.flags = dialogs::kOverwritePrompt | dialogs::kHideReadOnly | dialogs::kPathMustExist;
     const Result<dialogs::ChosenFile> chosen = cdb_.ShowSave(request);
     if (!chosen) {
         document_.SaveSucceeded = false;

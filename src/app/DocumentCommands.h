@@ -5,7 +5,7 @@
 #include "app/BusyWindow.h"
 #include "app/ModRecent.h"
 #include "editing/Editor.h"
-#include "platform/dialogs/FileDialogs.h"
+#include "platform/dialogs/Cdb.h"
 #include "platform/dialogs/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 
@@ -29,8 +29,7 @@ enum class SaveMode { Save, SaveAs };
 class DocumentCommands {
   public:
     DocumentCommands(editing::Editor& editor, DocumentWindow& window, ModRecent& recent,
-                     dialogs::FileDialogs& cdb, dialogs::MessageBoxes& boxes,
-                     system::FileSystem& files);
+                     dialogs::Cdb& cdb, dialogs::MessageBoxes& boxes, system::FileSystem& files);
 
     void mnuNew_Click();
     // Asks for the file with the open dialog.
@@ -56,7 +55,7 @@ class DocumentCommands {
     document::IconDocument& document_;
     DocumentWindow& window_;
     ModRecent& recent_;
-    dialogs::FileDialogs& cdb_;
+    dialogs::Cdb& cdb_;
     dialogs::MessageBoxes& boxes_;
     system::FileSystem& files_;
 };

@@ -68,8 +68,9 @@ FrmIcoEd::FrmIcoEd(const MainServices& services)
       barView_(menus_.SmartMenuXP1, pictures_),
       popupView_(menus_.SmartMenuXP2, pictures_),
       editor_(*this, WindowColor()),
-      wellCommands_(editor_.Wells(), *this, services.colors),
-      commands_(editor_, *this, menus_, services),
+      cdb_(services.dialogs, *this),
+      wellCommands_(editor_.Wells(), *this, cdb_),
+      commands_(editor_, *this, menus_, cdb_, services),
       dispatch_(commands_, *this) {}
 
 // The controls show what the members hold: they go first.
@@ -90,11 +91,14 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     LayOutControls();
     LayOutTools();
     BuildToolbar();
+    LayOutPalette();
+    ShowTextControls(false);
     i18n::ApplyMainCaptions(i18n::UiLanguage(), *this);
     BuildMenus();
     DisableMissingCommands();
     ConnectGrid();
     ConnectTools();
+    ConnectPalette();
     tmr_ = new QTimer(this);
     tmr_->setInterval(kGuardAfterOpen);
     tmr_->setSingleShot(true);
@@ -193,6 +197,10 @@ void FrmIcoEd::ShowHourglass(bool shown) {
 
 void FrmIcoEd::ProcessPendingEvents() {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+dialogs::WindowHandle FrmIcoEd::hWnd() const {
+    return static_cast<dialogs::WindowHandle>(winId());
 }
 
 void FrmIcoEd::Unload() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QLabel>
 #include <QMenuBar>
 #include <QTimer>
@@ -36,6 +37,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     std::string StatusText(editing::StatusPanel panel) const;
     qt::SurfaceWidget& GridWidget() { return *picMain_; }
     qt::SurfaceWidget& PicTools() { return *picTools_; }
+    qt::SurfaceWidget& PicPal() { return *picPal_; }
     qt::ToolBar& Toolbar1() { return *toolbar1_; }
     MainMenus& Menus() { return menus_; }
     // The menus as they are shown: what stands for an item of the bar, and the editing pop-up.
@@ -71,6 +73,9 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void LayOutTools();
     void ConnectTools();
     void PaintIndicators(QPainter& painter);
+    // FrmIcoEd_Palette.cpp
+    void LayOutPalette();
+    void ConnectPalette();
     // FrmIcoEd_Menu.cpp
     void BuildMenus();
     void BuildToolbar();
@@ -90,10 +95,12 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void RepaintTools() override;
     void SetToolTipOfTools(std::string_view text) override;
     void RepaintWells() override;
+    void RepaintPalette() override;
     void ShowEditingPopup() override;
     void Beep() override;
     void RefreshEditCommands() override;
 
+    dialogs::WindowHandle hWnd() const override;
     void EnableGrid(bool enabled) override;
     void StartTmr() override;
     void ShowHourglass(bool shown) override;
@@ -112,6 +119,8 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     qt::SurfaceWidget* picMain_ = nullptr;
     qt::SurfaceWidget* picIcon_ = nullptr;
     qt::SurfaceWidget* picTools_ = nullptr;
+    qt::SurfaceWidget* picPal_ = nullptr;
+    QCheckBox* chkPal_ = nullptr;
     QLabel* label1_ = nullptr;
     qt::StatusBar* statusBar_ = nullptr;
     QTimer* tmr_ = nullptr;
@@ -127,6 +136,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     qt::MenuView popupView_;
     // After the widgets: they call back into the window from their first moment.
     editing::Editor editor_;
+    dialogs::Cdb cdb_;
     editing::WellCommands wellCommands_;
     MainCommands commands_;
     CommandDispatch dispatch_;

@@ -26,7 +26,6 @@ constexpr QPoint kPicIcon(350, 69);
 constexpr QRect kLabel1(392, 70, 62, 34);
 constexpr QRect kStatusBar(2, 408, 561, 22);
 constexpr QRect kColorWells(344, 156, 208, 20);
-constexpr QRect kPicPal(344, 184, 208, 208);
 
 // Where a readout is printed beside the preview, and the pictogram before it.
 struct Readout {
@@ -83,11 +82,11 @@ void FrmIcoEd::LayOutControls() {
     statusBar_ = new qt::StatusBar(kPanelWidths, this);
     statusBar_->setFont(qt::FontOf(*this, kSmallFontPixels));
     statusBar_->setGeometry(kStatusBar);
-    ShowTextControls(false);
 }
 
 void FrmIcoEd::ShowTextControls(bool shown) {
-    for (QWidget* control : std::initializer_list<QWidget*>{menuBar_, label1_, statusBar_}) {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{menuBar_, label1_, chkPal_, statusBar_}) {
         control->setVisible(shown);
     }
     if (shown) FitMenuBar();
@@ -115,9 +114,7 @@ void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
     DrawEdgeAround(painter, picMain_->geometry(), palette());
     DrawEdgeAround(painter, picIcon_->geometry(), palette());
     DrawEdgeAround(painter, picTools_->geometry(), palette());
-    for (const QRect& place : {kColorWells, kPicPal}) {
-        qDrawShadePanel(&painter, place, palette(), true, 1);
-    }
+    qDrawShadePanel(&painter, kColorWells, palette(), true, 1);
     PaintIndicators(painter);
     PaintReadouts(painter);
 }

@@ -9,16 +9,18 @@
 namespace kestrel::app {
 
 MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
-                           const MainServices& services)
+                           dialogs::Cdb& cdb, const MainServices& services)
     : editor_(editor),
       window_(window),
       menus_(menus),
       settings_(services.settings),
       boxes_(services.boxes),
+      palette_(editor.ColorPalette(),
+               {editor.Wells(), cdb, services.dialogs, window, services.files, services.random}),
       clipboard_(editor, services.clipboard, window),
       recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
               services.systemLcid),
-      documents_(editor, window, recent_, services.cdb, services.boxes, services.files),
+      documents_(editor, window, recent_, cdb, services.boxes, services.files),
       shell_(window, {services.boxes, services.help, services.files, services.shell},
              services.folders) {}
 
@@ -78,6 +80,16 @@ void MainCommands::Paste(editing::PasteMode mode) {
     if (!pasted && pasted.error().number != kDialogCancelled) {
         ShowError(boxes_, std::string(i18n::kCannotPaste.Now()));
     }
+}
+
+void MainCommands::ImgLoadPalette_Click() {
+    const Result<void> loaded = palette_.ImgLoadPalette_Click();
+    if (!loaded) ShowError(boxes_, i18n::CannotLoadPalette(loaded.error().description));
+}
+
+void MainCommands::ImgSavePalette_Click() {
+    const Result<void> saved = palette_.ImgSavePalette_Click();
+    if (!saved) ShowError(boxes_, i18n::CannotSavePalette(saved.error().description));
 }
 
 void MainCommands::mnuLanguageOpts_Click(int index) {

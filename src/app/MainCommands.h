@@ -10,15 +10,17 @@
 #include "app/ShellCommands.h"
 #include "editing/ClipboardCommands.h"
 #include "editing/Editor.h"
+#include "editing/PaletteCommands.h"
 #include "i18n/ModLanguage.h"
 #include "platform/controls/SmartMenuXP.h"
-#include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/Cdb.h"
 
 namespace kestrel::app {
 
 // What the commands need of the main window.
 class MainWindow : public DocumentWindow,
                    public i18n::CaptionedWindow,
+                   public dialogs::OwnerWindow,
                    public editing::PasteDialog {
   public:
     // A button of the toolbar, by its key.
@@ -30,14 +32,14 @@ class MainWindow : public DocumentWindow,
 
 // What the main window is given; all of it outlives the window.
 struct MainServices {
-    dialogs::FileDialogs& cdb;
-    dialogs::ColorDialog& colors;
+    dialogs::DesktopDialogs& dialogs;
     desktop::Clipboard& clipboard;
     dialogs::MessageBoxes& boxes;
     dialogs::HelpViewer& help;
     system::FileSystem& files;
     system::Registry& registry;
     system::Shell& shell;
+    system::RandomNumbers& random;
     Settings& settings;
     ProgramFolders folders;
     std::uint32_t systemLcid = 0;
@@ -52,11 +54,12 @@ struct MainMenus {
 // The handlers of all commands, each handed to the object whose business it is.
 class MainCommands : public CommandHandlers {
   public:
-    MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
+    MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus, dialogs::Cdb& cdb,
                  const MainServices& services);
 
     DocumentCommands& Documents() { return documents_; }
     ModRecent& Recent() { return recent_; }
+    editing::PaletteCommands& OfPalette() { return palette_; }
     // Enables the Edit commands that can do something now.
     void mnuEdit_Click();
 
@@ -67,6 +70,9 @@ class MainCommands : public CommandHandlers {
     void mnuRecent_Click(int slot) override;
     void mnuExit_Click() override { documents_.mnuExit_Click(); }
     void mnuEditOpts_Click(int index) override;
+    void mnuPaletteOpts_Click(int index) override { palette_.mnuPaletteOpts_Click(index); }
+    void ImgLoadPalette_Click() override;
+    void ImgSavePalette_Click() override;
     void StartSibling(Sibling program) override { shell_.StartSibling(program); }
     // Changes the language of everything and keeps it for the next start.
     void mnuLanguageOpts_Click(int index) override;
@@ -82,6 +88,7 @@ class MainCommands : public CommandHandlers {
     MainMenus& menus_;
     Settings& settings_;
     dialogs::MessageBoxes& boxes_;
+    editing::PaletteCommands palette_;
     editing::ClipboardCommands clipboard_;
     ModRecent recent_;
     DocumentCommands documents_;

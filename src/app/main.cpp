@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QScreen>
+#include <chrono>
 #include <csignal>
 
 #include "app/FrmIcoEd.h"
@@ -7,8 +8,7 @@
 #include "app/Startup.h"
 #include "i18n/DesktopTexts.h"
 #include "platform/qt/QtClipboard.h"
-#include "platform/qt/QtColorDialog.h"
-#include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtDesktopDialogs.h"
 #include "platform/qt/QtHelpViewer.h"
 #include "platform/qt/QtMessageBoxes.h"
 #include "platform/qt/TableTranslator.h"
@@ -45,6 +45,10 @@ std::string CommandLine(int argc, char* argv[]) {
     return line;
 }
 
+std::uint32_t SeedOfClock() {
+    return static_cast<std::uint32_t>(std::chrono::system_clock::now().time_since_epoch().count());
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -67,18 +71,16 @@ int main(int argc, char* argv[]) {
     const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
     if (!values) return 0;
 
-    qt::QtFileDialogs cdb;
-    qt::QtColorDialog colors;
+    qt::QtDesktopDialogs dialogs;
     qt::QtClipboard clipboard;
     system::DesktopShell shell;
     qt::QtHelpViewer help(shell);
     const app::ProgramFolders folders{.application = facts.applicationFolder,
                                       .windows = values->WindowsFolder};
-    app::FrmIcoEd window({cdb, colors, clipboard, boxes, help, files, registry, shell, settings,
+    system::RandomNumbers random(SeedOfClock());
+    app::FrmIcoEd window({dialogs, clipboard, boxes, help, files, registry, shell, random, settings,
                           folders, facts.systemLcid});
     boxes.SetOwner(&window);
-    cdb.SetOwner(&window);
-    colors.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv)));
     window.show();
     return QApplication::exec();

@@ -11,6 +11,7 @@ Editor::Editor(EditorWindow& window, gdi::COLORREF windowColor)
     : window_(window),
       canvas_(document_, window, windowColor),
       wells_(window),
+      palette_(window),
       history_(document_),
       selection_(document_, canvas_, history_, window),
       tools_(window, selection_, windowColor),
@@ -29,6 +30,8 @@ void Editor::ResetDocument() {
     tools_.SelectTool(ToolId::Pencil);
     wells_.ClearTransparent();
     wells_.ResetDefaultColors();
+    palette_.SetChkPal(false);
+    palette_.DrawPalette(PaletteReload::Yes);
     canvas_.ShowEmptyIcon();
     history_.ClearUndoHistory();
     history_.PushUndoSnapshot();

@@ -9,6 +9,7 @@
 #include "editing/EditorWindow.h"
 #include "editing/GridTool.h"
 #include "editing/ModCollections.h"
+#include "editing/Palette.h"
 #include "editing/PointerReadout.h"
 #include "editing/Selection.h"
 #include "editing/ToolPalette.h"
@@ -25,11 +26,12 @@ class Editor {
     document::IconDocument& Document() { return document_; }
     document::Canvas& Views() { return canvas_; }
     ColorWells& Wells() { return wells_; }
+    Palette& ColorPalette() { return palette_; }
     ToolPalette& Tools() { return tools_; }
     ModCollections& History() { return history_; }
     Selection& Selected() { return selection_; }
 
-    // A new, empty icon, with tools, colours and history as at start-up.
+    // A new, empty icon, with tools, colours, palette and history as at start-up.
     void ResetDocument();
     // Makes `icon` the content of the document just reset, and its oldest state.
     void ShowOpenedIcon(const icons::IconImage& icon);
@@ -73,6 +75,7 @@ class Editor {
     document::IconDocument document_;
     document::Canvas canvas_;
     ColorWells wells_;
+    Palette palette_;
     ModCollections history_;
     Selection selection_;
     ToolPalette tools_;

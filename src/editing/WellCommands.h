@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editing/ColorWells.h"
-#include "platform/dialogs/ColorDialog.h"
+#include "platform/dialogs/Cdb.h"
 
 namespace kestrel::editing {
 
@@ -9,7 +9,7 @@ namespace kestrel::editing {
 // Button::None stands for every button that does not draw.
 class WellCommands {
   public:
-    WellCommands(ColorWells& wells, EditorWindow& window, dialogs::ColorDialog& cdb)
+    WellCommands(ColorWells& wells, EditorWindow& window, dialogs::Cdb& cdb)
         : wells_(wells), window_(window), cdb_(cdb) {}
 
     // Left: black and white, neither transparent.
@@ -28,7 +28,7 @@ class WellCommands {
 
     ColorWells& wells_;
     EditorWindow& window_;
-    dialogs::ColorDialog& cdb_;
+    dialogs::Cdb& cdb_;
 };
 
 }  // namespace kestrel::editing

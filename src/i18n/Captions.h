@@ -11,6 +11,9 @@ inline constexpr Text kExchangeColors{"Exchange colors", "切换前景和背景�
 inline constexpr Text kDefaultColors{"Select Black and White colors", "默认前景色和背景色"};
 inline constexpr Text kActualSize{"Actual Size", "图标实际大小"};
 inline constexpr Text kTransparent{"Transparent", "透明"};
+inline constexpr Text kSelfDefineColor{"Self-Define Color", "双击调色板 自定义颜色"};
+inline constexpr Text kLoadPalette{"Load Palette", "打开调色板"};
+inline constexpr Text kSavePalette{"Save Palette", "保存调色板"};
 
 // The paste-fitting dialog.
 inline constexpr Text kPasteTitle{"KestrelIconEditor - Paste", "KestrelIconEditor - 粘贴"};

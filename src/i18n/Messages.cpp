@@ -17,11 +17,17 @@ std::string Fill(std::string_view pattern, std::string_view name) {
     return text;
 }
 
+std::string WithReason(std::string_view reason, std::string_view sentence) {
+    return std::string(reason).append(".\r\n\r\n").append(sentence);
+}
+
 constexpr Text kUntitledWindow{"KestrelIconEditor - Untitled", "KestrelIconEditor - 未命名"};
 constexpr Text kCannotOpenChosen{"Unable to open the file %1", "不能打开 %1文件"};
 constexpr Text kCannotOpenNamed{"Unable to open the file %1", "不能打开%1文件"};
 constexpr Text kCannotSaveUntitled{"Unable to save Untitled.", "不能保存 Untitled.ico 文件."};
 constexpr Text kCannotSave{"Unable to save %1", "不能保存 %1 文件."};
+constexpr Text kCannotLoadPalette{"Unable to load the palette file.", "不能打开调色板文件."};
+constexpr Text kCannotSavePalette{"Unable to save the palette file.", "不能保存调色板文件."};
 constexpr Text kCannotOpenHelp{"Unable to open the help file %1", "不能打开帮助文件 %1"};
 constexpr Text kCannotOpenHomePage{"No web browser could be started.\r\n\r\nUnable to open %1",
                                    "无法启动网页浏览器.\r\n\r\n不能打开 %1"};
@@ -55,7 +61,15 @@ std::string CannotOpenNamed(std::string_view fileTitle) {
 
 std::string CannotSave(std::string_view reason, std::string_view fileTitle) {
     const Text& sentence = fileTitle.empty() ? kCannotSaveUntitled : kCannotSave;
-    return std::string(reason) + ".\r\n\r\n" + Fill(sentence.Now(), fileTitle);
+    return WithReason(reason, Fill(sentence.Now(), fileTitle));
+}
+
+std::string CannotLoadPalette(std::string_view reason) {
+    return WithReason(reason, kCannotLoadPalette.Now());
+}
+
+std::string CannotSavePalette(std::string_view reason) {
+    return WithReason(reason, kCannotSavePalette.Now());
 }
 
 std::string CannotLocate(std::string_view path) {

@@ -41,6 +41,14 @@ std::string CannotSave(std::string_view reason, std::string_view fileTitle);
 // A recent file that is gone; this one speaks English only.
 std::string CannotLocate(std::string_view path);
 
+// Palette files; `reason` is the system's description.
+inline constexpr std::string_view kLoadPaletteFilter =
+    "Palette Files (*.PAL)|*.PAL|All Files (*.*)|*.*";
+inline constexpr std::string_view kSavePaletteFilter =
+    "Palette Files (*.PAL)|*.PAL|All FIles (*.*)|*.*";
+std::string CannotLoadPalette(std::string_view reason);
+std::string CannotSavePalette(std::string_view reason);
+
 // Programs and pages beside the editor.
 inline constexpr Text kHelpTitle{"KestrelIconEditor - Help", "KestrelIconEditor - 帮助"};
 std::string CannotOpenHelp(std::string_view path);

@@ -7,10 +7,12 @@
 namespace kestrel {
 
 // Why an operation failed. `number` is an errno value for system failures or one of the codes
-// below; `description` is the text a message box may show, without a final period.
+// below; `description` is the text a message box may show, without a final period; `source` is the
+// part of the program that failed, where it has a name.
 struct Error {
     int number = 0;
     std::string description;
+    std::string source{};
 };
 
 // The user closed a standard dialog without choosing; commands end silently on it.
@@ -26,7 +28,7 @@ class [[nodiscard]] Result : public tl::expected<T, Error> {
 };
 
 inline tl::unexpected<Error> Fail(int number, std::string description) {
-    return tl::unexpected<Error>(Error{number, std::move(description)});
+    return tl::unexpected<Error>(Error{number, std::move(description), {}});
 }
 
 }  // namespace kestrel

@@ -20,6 +20,9 @@ struct RecordingHandlers : CommandHandlers {
     void mnuRecent_Click(int slot) override { Note("Recent", slot); }
     void mnuExit_Click() override { calls += "Exit"; }
     void mnuEditOpts_Click(int index) override { Note("Edit", index); }
+    void mnuPaletteOpts_Click(int index) override { Note("Palette", index); }
+    void ImgLoadPalette_Click() override { calls += "LoadPalette"; }
+    void ImgSavePalette_Click() override { calls += "SavePalette"; }
     void StartSibling(Sibling program) override { Note("Sibling", static_cast<int>(program)); }
     void mnuLanguageOpts_Click(int index) override { Note("Language", index); }
     void mnuHomePage_Click() override { calls += "HomePage"; }
@@ -50,7 +53,9 @@ TEST(CommandDispatch, EveryKeyCallsItsHandlerAlone) {
               "mnuRecentFile3 Recent3, mnuRecentFile4 Recent4, mnuSave Save, mnuSaveAs SaveAs, "
               "mnuExit Exit, mnuEditOpts0 Edit0, mnuEditOpts1 Edit1, mnuEditOpts3 Edit3, "
               "mnuEditOpts4 Edit4, mnuEditOpts5 Edit5, mnuEditOpts6 Edit6, mnuEditOpts7 Edit7, "
-              "mnuEditOpts9 Edit9, mnuToolsOpts5 Sibling0, mnuToolsOpts6 Sibling1, "
+              "mnuEditOpts9 Edit9, mnuPaletteOpts0 Palette0, "
+              "mnuPaletteOpts1 Palette1, mnuPaletteOpts3 LoadPalette, "
+              "mnuPaletteOpts4 SavePalette, mnuToolsOpts5 Sibling0, mnuToolsOpts6 Sibling1, "
               "mnuToolsOpts7 Sibling2, mnuLanguageOpts0 Language0, mnuLanguageOpts1 Language1, "
               "mnuHomePage HomePage, mnuHelp2 Help, mnuAbout About, ");
     EXPECT_EQ(callsOf(i18n::PopupMenuRows(), &CommandDispatch::SmartMenuXP2_Click),

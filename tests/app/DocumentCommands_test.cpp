@@ -55,7 +55,8 @@ class DocumentCommandsTest : public testing::Test {
     ModRecent recent_{menu_, given_.registry, given_.files, given_.boxes, 1033};
     editing::Editor editor_{window_, 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
-    DocumentCommands commands_{editor_, window_, recent_, given_.cdb, given_.boxes, given_.files};
+    dialogs::Cdb cdb_{given_.desktop, window_};
+    DocumentCommands commands_{editor_, window_, recent_, cdb_, given_.boxes, given_.files};
 };
 
 TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
@@ -68,7 +69,7 @@ TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
     EXPECT_TRUE(window_.gridEnabled);
     EXPECT_FALSE(icon_.IsTransparent(9, 9));
 
-    given_.cdb.choice = "/icons/red.ico";
+    given_.desktop.choice = "/icons/red.ico";
     commands_.mnuOpen_Click();
     EXPECT_EQ(icon_.PicImage.GetPixel(1, 2), 0x0000FFU);
     EXPECT_TRUE(icon_.IsTransparent(9, 9));
@@ -76,16 +77,16 @@ TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
     EXPECT_FALSE(icon_.Modified);
     EXPECT_FALSE(window_.gridEnabled) << "until the timer's tick";
     EXPECT_TRUE(window_.tmrStarted);
-    const dialogs::FileRequest& asked = given_.cdb.opens.at(0);
+    const dialogs::FileRecord& asked = given_.desktop.opens.at(0);
     EXPECT_EQ(asked.title, "KestrelIconEditor - Open");
-    EXPECT_EQ(asked.filter, "Icon Files (*.ico)|*.ico");
-    EXPECT_TRUE(asked.fileMustExist);
+    EXPECT_STREQ(asked.filter.c_str(), "Icon Files (*.ico)");
+    EXPECT_EQ(asked.flags, 0x1004U);
 }
 
 TEST_F(DocumentCommandsTest, RefusedFilesChangeNothing) {
     commands_.OpenNamed("/icons/red.ico");
     window_.tmrStarted = false;
-    given_.cdb.choice = "/icons/text.ico";
+    given_.desktop.choice = "/icons/text.ico";
     for (const auto& [language, named, chosen] :
          {std::tuple{i18n::kEnglish, "Unable to open the file nowhere.ico",
                      "Unable to open the file text.ico"},
@@ -113,15 +114,15 @@ TEST_F(DocumentCommandsTest, UnsavedChangesAreAskedAbout) {
           {Answer::No, "", true}}) {
         Draw();
         given_.boxes.answers = {answer};
-        given_.cdb.choice = saveAs;
+        given_.desktop.choice = saveAs;
         commands_.mnuNew_Click();
         ExpectBox(BoxIcon::Question, BoxButtons::YesNoCancel, "Save changes to current icon?");
         EXPECT_EQ(icon_.IsTransparent(9, 9), resets);
         EXPECT_EQ(icon_.Modified, !resets);
     }
     EXPECT_EQ(given_.files.contents.at("/icons/new.ico").size(), 3262U);
-    EXPECT_EQ(given_.cdb.saves.at(0).fileName, "Untitled.ico");
-    EXPECT_TRUE(given_.cdb.saves.at(0).overwritePrompt);
+    EXPECT_EQ(given_.desktop.saves.at(0).file, "Untitled.ico");
+    EXPECT_EQ(given_.desktop.saves.at(0).flags, 0x806U);
 
     Draw();
     commands_.OpenNamed("/icons/red.ico");
@@ -137,9 +138,9 @@ TEST_F(DocumentCommandsTest, SavesInPlaceAndUnderANewName) {
     commands_.mnuSave_Click();
     EXPECT_TRUE(HoldsTheIcon("/icons/red.ico"));
     EXPECT_FALSE(icon_.Modified);
-    given_.cdb.choice = "/icons/other.ico";
+    given_.desktop.choice = "/icons/other.ico";
     commands_.mnuSaveAs_Click();
-    EXPECT_EQ(given_.cdb.saves.at(0).fileName, "/icons/red.ico");
+    EXPECT_EQ(given_.desktop.saves.at(0).file, "/icons/red.ico");
     EXPECT_EQ(icon_.FilePath, "/icons/other.ico");
     EXPECT_EQ(window_.title, "KestrelIconEditor - other.ico");
     EXPECT_TRUE(HoldsTheIcon("/icons/other.ico"));
@@ -153,7 +154,7 @@ TEST_F(DocumentCommandsTest, WarnsBeforeReplacingSeveralIcons) {
               "The file \"several.ico\" contains multiple icons.\r\n"
               "This \"Save\" will overwrite the other icons in the file.\r\n\r\n"
               "Click Ok to continue with \"Save\".\r\nClick Cancel to \"Save As\".");
-    EXPECT_EQ(given_.cdb.saves.at(0).fileName, "*.ico");
+    EXPECT_EQ(given_.desktop.saves.at(0).file, "*.ico");
     i18n::SetUiLanguage(i18n::kChinese);
     commands_.mnuSave_Click();
     ExpectBox(BoxIcon::Information, BoxButtons::OkCancel,
@@ -165,8 +166,8 @@ TEST_F(DocumentCommandsTest, WarnsBeforeReplacingSeveralIcons) {
 }
 
 TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
-    given_.files.writeError = {28, "No space left on device"};
-    given_.cdb.choice = "/icons/full.ico";
+    given_.files.writeError = {28, "No space left on device", {}};
+    given_.desktop.choice = "/icons/full.ico";
     commands_.mnuSave_Click();
     ExpectError("No space left on device.\r\n\r\nUnable to save Untitled.");
     EXPECT_EQ(window_.title, "KestrelIconEditor - full.ico");

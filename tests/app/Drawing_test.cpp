@@ -83,9 +83,9 @@ TEST_F(DrawingTest, WellsAreUsedByMouse) {
     };
     const QPoint fore = Control("PicForeColor")->geometry().center();
     const QPoint back = Control("PicBackColor")->geometry().center();
-    given_.colors.choice = 0x102030;
+    given_.desktop.color = 0x102030;
     QTest::mouseClick(Control("PicForeColor"), Qt::LeftButton);
-    EXPECT_EQ(given_.colors.asked, std::vector<gdi::COLORREF>{gdi::kBlack});
+    EXPECT_EQ(given_.desktop.colors.at(0).color, gdi::kBlack);
     for (const QPoint& at : {QPoint(347, 160), QPoint(357, 170), fore})
         EXPECT_EQ(shown(at), 0x102030U);
     QTest::mouseClick(Control("ImgInterchangeColor"), Qt::LeftButton);

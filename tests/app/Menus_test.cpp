@@ -46,6 +46,7 @@ TEST_F(MenusTest, ItemsThatAreShownAndEnabledAreReached) {
     NoteClicks();
     EXPECT_EQ(ChooseAll(Bar()),
               (Keys{"mnuNew", "mnuOpen", "mnuSave", "mnuSaveAs", "mnuExit", "mnuEditOpts9",
+                    "mnuPaletteOpts0", "mnuPaletteOpts1", "mnuPaletteOpts3", "mnuPaletteOpts4",
                     "mnuToolsOpts6", "mnuToolsOpts7", "mnuLanguageOpts0", "mnuLanguageOpts1",
                     "mnuHomePage", "mnuHelp2", "mnuAbout"}));
     EXPECT_EQ(ChooseAll(window_.EditingPopup()), Keys{"mnuPopup2Opts4"});
@@ -101,7 +102,6 @@ TEST_F(MenusTest, MenusOpenByKey) {
 
 TEST_F(MenusTest, TheMenuShowsTheModelsStateAndNotTheClicks) {
     NoteClicks();
-    BarMenu().SetEnabled("mnuPaletteOpts1", true);
     Item("mnuPaletteOpts1")->trigger();
     EXPECT_TRUE(Item("mnuPaletteOpts0")->isChecked()) << "the model was not told to change";
     EXPECT_FALSE(Item("mnuPaletteOpts1")->isChecked());
@@ -201,12 +201,12 @@ TEST_F(MenusTest, TheToolbarRunsItsCommandsAndHintsAtThem) {
 
 TEST_F(MenusTest, RecentFilesAreThoseOpenedAndSaved) {
     const auto first = [this] { return Item("mnuRecentFile1")->text().toStdString(); };
-    given_.cdb.choice = "/icons/a.ico";
+    given_.desktop.choice = "/icons/a.ico";
     QTest::keyClick(&window_, Qt::Key_O, Qt::ControlModifier);
-    given_.cdb.choice = "/icons/b.ico";
+    given_.desktop.choice = "/icons/b.ico";
     QTest::keyClick(&window_, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(first(), "/icons/b.ico");
-    given_.cdb.choice = "/icons/none.ico";
+    given_.desktop.choice = "/icons/none.ico";
     QTest::keyClick(&window_, Qt::Key_O, Qt::ControlModifier);
     EXPECT_EQ(first(), "/icons/b.ico") << "a refused file is not remembered";
     given_.files.contents.erase("/icons/b.ico");

@@ -102,9 +102,9 @@ TEST_F(SelectingTest, ArrowKeysMoveItAndEscapeDropsIt) {
 }
 
 TEST_F(SelectingTest, TheWindowsBackgroundDropsIt) {
-    // Left of the grid and in the place of the palette; a label, the status bar and the preview.
+    // Left of the grid and under the tools; a label, the status bar and the preview.
     for (const auto& [at, drops] : {std::pair{QPoint(3, 200), true},
-                                    {QPoint(450, 300), true},
+                                    {QPoint(450, 145), true},
                                     {QPoint(400, 75), false},
                                     {QPoint(20, 420), false},
                                     {QPoint(360, 80), false}}) {
@@ -138,7 +138,7 @@ TEST_F(SelectingTest, WhatFloatsIsSaved) {
     Key(Qt::Key_Right);
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(Selected().SelectionFloating()) << "the dialog was cancelled";
-    given_.cdb.choice = "/icons/new.ico";
+    given_.desktop.choice = "/icons/new.ico";
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_FALSE(Selected().Exists());
     EXPECT_FALSE(Icon().Modified);
@@ -146,7 +146,7 @@ TEST_F(SelectingTest, WhatFloatsIsSaved) {
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(Selected().SelectionMarked());
     Key(Qt::Key_Right);
-    given_.files.writeError = {28, "No space left on device"};
+    given_.files.writeError = {28, "No space left on device", {}};
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(Selected().SelectionFloating()) << "nothing was saved";
     Key(Qt::Key_Z, Qt::ControlModifier);

@@ -45,7 +45,7 @@ class RandomWalkTest : public test::EditorTest {
 
     void Step() {
         if (Below(2) == 0) return Gesture();
-        cdb_.choice = random_() & gdi::kWhite;
+        desktop_.color = random_() & gdi::kWhite;
         const std::function<void()> commands[] = {
             [&] { wells_.ImgTransparent_MouseUp(AnyButton()); },
             [&] { wells_.ImgInterchangeColor_MouseUp(AnyButton()); },
@@ -115,9 +115,10 @@ class RandomWalkTest : public test::EditorTest {
     }
 
     std::mt19937 random_{4711};
-    test::ScriptedColors cdb_;
-    WellCommands wells_{editor_.Wells(), window_, cdb_};
     test::RecordingWindow dialog_;
+    test::ScriptedDialogs desktop_;
+    dialogs::Cdb cdb_{desktop_, dialog_};
+    WellCommands wells_{editor_.Wells(), window_, cdb_};
     test::MemoryClipboard clipboard_;
     ClipboardCommands commands_{editor_, clipboard_, dialog_};
 };

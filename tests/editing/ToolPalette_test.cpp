@@ -116,8 +116,9 @@ class WellsTest : public testing::Test {
         return text.str();
     }
 
-    test::RecordingEditorWindow window_;
-    test::ScriptedColors cdb_;
+    test::RecordingWindow window_;
+    test::ScriptedDialogs desktop_;
+    dialogs::Cdb cdb_{desktop_, window_};
     ColorWells wells_{window_};
     WellCommands commands_{wells_, window_, cdb_};
 };
@@ -150,7 +151,7 @@ TEST_F(WellsTest, ButtonsDoWhatTheySay) {
         SCOPED_TRACE(s.wells);
         window_.wellRepaints = 0;
         const std::string before = Wells();
-        cdb_.choice = s.choice;
+        desktop_.color = s.choice;
         (commands_.*s.event)(s.button);
         EXPECT_EQ(Wells(), s.wells);
         EXPECT_TRUE(before == s.wells || window_.wellRepaints > 0);

@@ -1,72 +1,50 @@
 #include <gtest/gtest.h>
 
-#include <QAbstractButton>
-#include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QFile>
-#include <QLineEdit>
-#include <QListView>
-#include <QMessageBox>
+#include <QFileDialog>
+#include <QPrintDialog>
+#include <QSpinBox>
 #include <QTemporaryDir>
-#include <QTimer>
-#include <QtTest/QTest>
 
-#include "platform/qt/QtColorDialog.h"
-#include "platform/qt/QtFileDialogs.h"
+#include "platform/qt/QtDesktopDialogs.h"
+#include "tests/support/Typist.h"
 
 namespace kestrel::qt {
 namespace {
 
-// A user at the keyboard: types a name into the file dialog, answers every box that comes up, and
-// gives up when the dialog stays.
-class Typist {
-  public:
-    Typist(QString name, QMessageBox::StandardButton answer)
-        : name_(std::move(name)), answer_(answer) {
-        Wait();
-    }
-    QStringList boxes;
+using namespace std::string_literals;
+using dialogs::FileRecord;
+using dialogs::kConfirmed;
+using test::Typist;
 
-  private:
-    void Wait() {
-        constexpr int kPause = 40;  // milliseconds
-        QTimer::singleShot(kPause, &life_, [this] { Act(); });
-    }
-    void Act() {
-        Wait();  // a key may open a box, which only comes back when it is answered
-        QWidget* front = QApplication::activeModalWidget();
-        if (front == nullptr) return;
-        if (auto* box = qobject_cast<QMessageBox*>(front)) {
-            boxes << box->text();
-            box->button(box->buttons().size() > 1 ? answer_ : QMessageBox::Ok)->click();
-        } else if (name_.isEmpty()) {
-            QTest::keyClick(front, Qt::Key_Escape);
-        } else if (const auto* list = front->findChild<QListView*>(QStringLiteral("listView"));
-                   list->model()->rowCount(list->rootIndex()) > 0 && ++ticksWithFiles_ > 2) {
-            // The dialog has read its folder behind its window, and marked the file it proposes.
-            auto* edit = front->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-            edit->setText(std::exchange(name_, {}));
-            QTest::keyClick(edit, Qt::Key_Return);
+// A folder with these empty files, deep enough for any name to be too long that says so.
+class FileDialogTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(QDir(folder_.path()).mkdir("sub"));
+        for (const char* name : {"bird.ico", "st*r.ico", "plain", "sub/kite.ico"}) {
+            QFile file(folder_.filePath(QString::fromUtf8(name)));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         }
+        record_.initialFolder = Path("");
+        record_.filter = "Icon Files (*.ico)\0*.ico\0All Files (*.*)\0*.*\0\0"s;
+        record_.defaultExtension = ".ico";
+    }
+    std::string Path(const char* name) const {
+        return folder_.filePath(QString::fromUtf8(name)).toStdString();
     }
 
-    int ticksWithFiles_ = 0;
-    QString name_;
-    QMessageBox::StandardButton answer_;
-    QObject life_;
+    const QTemporaryDir folder_;
+    QtDesktopDialogs dialogs_;
+    FileRecord record_;
 };
 
-TEST(QtFileDialogs, CheckNamesAndAskBeforeReplacing) {
-    const QTemporaryDir folder;
-    for (const char* name : {"bird.ico", "st*r.ico"}) {
-        QFile file(folder.filePath(QString::fromUtf8(name)));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    }
-    dialogs::FileRequest request;
-    request.filter = "Icon Files (*.ico)|*.ico";
-    request.defaultExtension = ".ico";
-    request.fileMustExist = request.overwritePrompt = request.pathMustExist = true;
-    request.fileName = folder.filePath(QStringLiteral("bird.ico")).toStdString();
+TEST_F(FileDialogTest, ChecksNamesAndAsksBeforeReplacing) {
+    record_.flags = 0x1806;
+    record_.filterIndex = 2;
     struct {
         bool opens;
         const char* typed;
@@ -74,6 +52,8 @@ TEST(QtFileDialogs, CheckNamesAndAskBeforeReplacing) {
         const char *box, *chosen;  // empty: no box, the dialog stayed
     } const cases[] = {
         {false, "new", QMessageBox::No, "", "new.ico"},
+        {false, "new.x", QMessageBox::No, "", "new.x"},
+        {false, "bird", QMessageBox::No, "bird.ico already exists.", ""},
         {false, "bird.ico", QMessageBox::No, " already exists.", ""},
         {false, "BIRD.Ico", QMessageBox::Yes, "bird.ico already exists.", "bird.ico"},
         {false, "what?", QMessageBox::Yes, "\nThe file name is not valid.", ""},
@@ -82,32 +62,121 @@ TEST(QtFileDialogs, CheckNamesAndAskBeforeReplacing) {
         {false, "<b>gone/new.ico", QMessageBox::Yes, "\nDirectory not found.", ""},
         {true, "none.ico", QMessageBox::No, "none.ico\nFile not found.", ""},
         {true, "Bird.ICO", QMessageBox::No, "", "bird.ico"},
+        {true, "bird", QMessageBox::No, "", "bird.ico"},
+        {true, "plain", QMessageBox::No, "", "plain"},
+        {true, "", QMessageBox::No, "", ""},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.typed);
         Typist typist(QString::fromUtf8(c.typed), c.answer);
-        QtFileDialogs dialogs;
-        const auto file = c.opens ? dialogs.ShowOpen(request) : dialogs.ShowSave(request);
-        EXPECT_EQ(file ? file->fileTitle : "", c.chosen);
-        const std::string path = folder.filePath(QString::fromUtf8(c.chosen)).toStdString();
-        EXPECT_TRUE(!file || file->path == path);
+        FileRecord record = record_;
+        const bool chosen = (c.opens ? dialogs_.GetOpenFileName(record)
+                                     : dialogs_.GetSaveFileName(record)) == kConfirmed;
+        EXPECT_EQ(chosen ? record.fileTitle : "", c.chosen);
+        EXPECT_EQ(record.file, chosen ? Path(c.chosen) : "");
+        EXPECT_EQ(record.filterIndex, 2);
         EXPECT_EQ(typist.boxes.size(), *c.box == '\0' ? 0 : 1);
         EXPECT_TRUE(typist.boxes.join(QString()).contains(QString::fromUtf8(c.box)));
     }
+    for (const bool fits : {true, false}) {
+        FileRecord record = record_;
+        record.maxFile = Path("abc.ico").size() + (fits ? 1 : 0);
+        Typist typist(QStringLiteral("abc"), QMessageBox::No);
+        EXPECT_EQ(dialogs_.GetSaveFileName(record), fits ? kConfirmed : 0);
+        EXPECT_EQ(typist.boxes.join(QString()), fits ? "" : "abc.ico\nThe file name is too long.");
+    }
 }
 
-TEST(QtColorDialog, GivesTheColourThatWasAcceptedAndElseTheCancel) {
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+TEST_F(FileDialogTest, ReturnsSeveralFilesAndTheReadOnlyMark) {
+    record_.flags = 0x1201;
+    record_.filterIndex = 2;
+    Typist typist(QStringLiteral("\"bird.ico\" \"plain\""), QMessageBox::No);
+    QTimer::singleShot(0, [] {
+        auto* box = QApplication::activeModalWidget()->findChild<QCheckBox*>();
+        EXPECT_EQ(box->text(), "Open as &read-only");
+        EXPECT_TRUE(box->isChecked());
+        box->click();
+    });
+    ASSERT_EQ(dialogs_.GetOpenFileName(record_), kConfirmed);
+    record_.file.erase(0, Path("").size());
+    EXPECT_EQ(record_.file, "\0bird.ico\0plain\0"s);
+    EXPECT_EQ(record_.flags, 0x1200U);
+}
+
+TEST_F(FileDialogTest, BeginsWhereAndHowItIsTold) {
+    const auto titleOf = [this](bool opens) {
+        Typist typist({}, QMessageBox::No);
+        EXPECT_EQ(opens ? dialogs_.GetOpenFileName(record_) : dialogs_.GetSaveFileName(record_), 0);
+        return typist.title;
+    };
+    EXPECT_EQ(titleOf(true), "Open");
+    EXPECT_EQ(titleOf(false), "Save As");
+    record_.title = "Mine";
+    EXPECT_EQ(titleOf(true), "Mine");
+    // The folder where a file was chosen last, unless told otherwise; the proposed name.
+    for (const auto& [name, typed, chosen] : {std::tuple{"one.ico", "sub/one", "sub/one.ico"},
+                                              {"", "../two", "two.ico"},
+                                              {"", "", ""},
+                                              {"", "three", "three.ico"}}) {
+        SCOPED_TRACE(typed);
+        record_.file = name;
+        Typist typist(QString::fromUtf8(typed), QMessageBox::No);
+        QTimer::singleShot(0, [&name = name, &typed = typed] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            EXPECT_EQ(dialog->findChild<QLineEdit*>("fileNameEdit")->text(), name);
+            EXPECT_EQ(dialog->findChild<QComboBox*>("fileTypeCombo")->itemText(1),
+                      "All Files (*.*)");
+            // Looking elsewhere without a choice is not remembered.
+            if (*typed == '\0') dialog->setDirectory("/");
+        });
+        const bool confirmed = dialogs_.GetSaveFileName(record_) == kConfirmed;
+        EXPECT_EQ(confirmed ? record_.file : "", *typed == '\0' ? "" : Path(chosen));
+        record_.initialFolder.clear();
+    }
+}
+
+TEST(ColorDialog, GivesColourAndCustomColoursUnlessCancelled) {
+    dialogs::ColorRecord asked;
+    asked.color = 0x123456;
+    asked.customColors[1] = 0x0A0B0C;
+    asked.flags = dialogs::kInitialColor;
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
         QTimer::singleShot(0, [key] {
             auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
             EXPECT_EQ(dialog->currentColor(), QColor(0x56, 0x34, 0x12));
+            EXPECT_EQ(QColorDialog::customColor(1), QColor(0x0C, 0x0B, 0x0A));
+            QColorDialog::setCustomColor(15, Qt::red);
             dialog->setCurrentColor(QColor(1, 2, 3));
             QTest::keyClick(dialog, key);
         });
-        const auto chosen = QtColorDialog().ShowColor(0x123456);
-        EXPECT_EQ(chosen.value_or(0), key == Qt::Key_Return ? 0x030201U : 0U);
-        EXPECT_TRUE(chosen || chosen.error().number == kDialogCancelled);
+        dialogs::ColorRecord record = asked;
+        const bool chosen = QtDesktopDialogs().ChooseColor(record) == kConfirmed;
+        EXPECT_EQ(chosen, key == Qt::Key_Return);
+        EXPECT_EQ(record.color, chosen ? 0x030201U : 0x123456U);
+        EXPECT_EQ(record.customColors[15], chosen ? 0x0000FFU : 0U);
+        EXPECT_EQ(record.customColors[1], 0x0A0B0CU);
+    }
+}
+
+TEST(PrinterDialog, GivesTheFileAndTheCopies) {
+    const QTemporaryDir folder;
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
+        dialogs::PrinterRecord record;
+        record.file = folder.filePath("page.pdf").toStdString();
+        record.copies = 2;
+        QTimer::singleShot(0, [key] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            auto* copies = dialog->findChild<QSpinBox*>("copies");
+            EXPECT_EQ(copies->value(), 2);
+            copies->setValue(3);
+            QTest::keyClick(dialog, key);
+        });
+        const bool chosen = QtDesktopDialogs().ChoosePrinter(record) == kConfirmed;
+        EXPECT_EQ(chosen, key == Qt::Key_Return);
+        EXPECT_EQ(record.copies, chosen ? 3 : 2);
+        EXPECT_EQ(record.file, folder.filePath("page.pdf").toStdString());
     }
 }
 

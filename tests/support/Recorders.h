@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "app/MainCommands.h"
-#include "platform/dialogs/FileDialogs.h"
 #include "platform/dialogs/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "tests/support/EditorRecorder.h"
+#include "tests/support/ScriptedDialogs.h"
 
 namespace kestrel::test {
 
@@ -38,9 +38,11 @@ class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
         asked.push_back(picture);
         return fit;
     }
+    dialogs::WindowHandle hWnd() const override { return kHandle; }
     void ShowAbout() override { aboutShown = true; }
     void LanguageChanged() override { languageChanged = true; }
 
+    static constexpr dialogs::WindowHandle kHandle = 77;
     bool gridEnabled = true;
     bool tmrStarted = false;
     std::string hourglasses;
@@ -78,43 +80,6 @@ class ScriptedBoxes : public dialogs::MessageBoxes {
     // What happens while a box waits.
     std::function<void()> whileShown;
     std::vector<Shown> shown;
-};
-
-// File dialogs in which the user chooses `choice`; an empty one cancels.
-class ScriptedDialogs : public dialogs::FileDialogs {
-  public:
-    Result<dialogs::ChosenFile> ShowOpen(const dialogs::FileRequest& request) override {
-        opens.push_back(request);
-        return Choose();
-    }
-    Result<dialogs::ChosenFile> ShowSave(const dialogs::FileRequest& request) override {
-        saves.push_back(request);
-        return Choose();
-    }
-
-    std::string choice;
-    std::vector<dialogs::FileRequest> opens;
-    std::vector<dialogs::FileRequest> saves;
-
-  private:
-    Result<dialogs::ChosenFile> Choose() const {
-        if (choice.empty()) return Fail(kDialogCancelled, "Cancel was selected");
-        return dialogs::ChosenFile{choice, choice.substr(choice.find_last_of('/') + 1)};
-    }
-};
-
-// A colour dialog in which the user chooses `choice`; none cancels.
-class ScriptedColors : public dialogs::ColorDialog {
-  public:
-    Result<gdi::COLORREF> ShowColor(gdi::COLORREF current) override {
-        asked.push_back(current);
-        if (!choice) return Fail(kDialogCancelled, "Cancel was selected");
-        return *choice;
-    }
-
-    std::optional<gdi::COLORREF> choice;
-    // What was selected when the dialog opened.
-    std::vector<gdi::COLORREF> asked;
 };
 
 // A clipboard of this program alone; holding nothing it fails.

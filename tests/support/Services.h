@@ -100,20 +100,22 @@ class RecordingHelp : public dialogs::HelpViewer {
 
 // All that a main window is given.
 struct FakeServices {
-    app::MainServices Given() {
-        return {cdb,   colors,   clipboard, boxes,    help,
-                files, registry, shell,     settings, {"/program", "/windows"},
+    app::MainServices Given() { return Given(desktop); }
+    app::MainServices Given(dialogs::DesktopDialogs& dialogs) {
+        return {dialogs,  clipboard, boxes,  help,     files,
+                registry, shell,     random, settings, {"/program", "/windows"},
                 1033};
     }
 
-    ScriptedDialogs cdb;
-    ScriptedColors colors;
+    ScriptedDialogs desktop;
     MemoryClipboard clipboard;
     ScriptedBoxes boxes;
     RecordingHelp help;
     MemoryFiles files;
     MemoryRegistry registry;
     RecordingShell shell;
+    // The seed whose numbers the C++ standard tells.
+    system::RandomNumbers random{std::mt19937::default_seed};
     app::Settings settings{files};
 };
 

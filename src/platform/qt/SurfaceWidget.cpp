@@ -3,6 +3,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
+#include <utility>
 
 #include "platform/qt/Pictures.h"
 
@@ -45,6 +46,7 @@ void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
 // The second press of a quick pair is a press like any other.
 void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
+    doubleClicked_ = true;
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
@@ -52,7 +54,9 @@ void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
+    const bool doubleClicked = std::exchange(doubleClicked_, false);
     if (onMouseUp) onMouseUp(event->button(), PointOf(*event));
+    if (doubleClicked && onDoubleClick) onDoubleClick();
 }
 
 }  // namespace kestrel::qt

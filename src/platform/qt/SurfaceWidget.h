@@ -20,6 +20,8 @@ class SurfaceWidget : public QWidget {
     std::function<void(Qt::MouseButton button, QPoint point)> onMouseDown;
     std::function<void(Qt::MouseButtons held, QPoint point)> onMouseMove;
     std::function<void(Qt::MouseButton button, QPoint point)> onMouseUp;
+    // The second button of a quick pair has come up, after onMouseUp.
+    std::function<void()> onDoubleClick;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -30,6 +32,7 @@ class SurfaceWidget : public QWidget {
 
   private:
     const gdi::Surface& surface_;
+    bool doubleClicked_ = false;
 };
 
 }  // namespace kestrel::qt

@@ -1,0 +1,90 @@
+#include <array>
+
+#include "app/FrmIcoEd.h"
+#include "app/FrmMouseButtons.h"
+#include "i18n/Captions.h"
+#include "platform/qt/PictureBox.h"
+#include "platform/qt/PictureIcon.h"
+#include "platform/qt/WindowDesign.h"
+#include "resources/ImageList.h"
+
+namespace kestrel::app {
+
+namespace {
+
+constexpr QPoint kPicPal(344, 184);
+constexpr QRect kChkPal(344, 393, 208, 14);
+constexpr int kSmallFontPixels = 11;
+
+// A button beside the colour wells.
+struct PaletteButton {
+    const char* name{};
+    QRect place;
+    // In the image list of the menus.
+    int picture = 0;
+    i18n::Text hint;
+    void (MainCommands::*mouseUp)(){};
+};
+
+constexpr std::array kButtons{
+    PaletteButton{"ImgLoadPalette", QRect(510, 157, 18, 18), 22, i18n::kLoadPalette,
+                  &MainCommands::ImgLoadPalette_Click},
+    PaletteButton{"ImgSavePalette", QRect(530, 157, 18, 18), 23, i18n::kSavePalette,
+                  &MainCommands::ImgSavePalette_Click},
+};
+
+}  // namespace
+
+void FrmIcoEd::LayOutPalette() {
+    picPal_ = new qt::SurfaceWidget(editor_.ColorPalette().PicPal(), this);
+    picPal_->setObjectName("PicPal");
+    picPal_->move(kPicPal);
+    chkPal_ = new QCheckBox(this);
+    chkPal_->setObjectName("ChkPal");
+    chkPal_->setFont(qt::FontOf(*this, kSmallFontPixels));
+    chkPal_->setGeometry(kChkPal);
+    // A click leaves the keyboard with the window, whose keys move the selection.
+    chkPal_->setFocusPolicy(Qt::TabFocus);
+    for (const PaletteButton& button : kButtons) {
+        auto* box = new qt::PictureBox(qt::PictureBox::Edge::Button, this);
+        box->setObjectName(button.name);
+        box->setGeometry(button.place);
+        box->Show({}, qt::PictureIcon(pictures_, button.picture));
+    }
+}
+
+void FrmIcoEd::ConnectPalette() {
+    picPal_->onMouseUp = [this](Qt::MouseButton button, QPoint at) {
+        RunCommand([&] { commands_.OfPalette().PicPal_MouseUp(ToButton(button), at.x(), at.y()); });
+    };
+    picPal_->onDoubleClick = [this] {
+        RunCommand([this] { commands_.OfPalette().PicPal_DblClick(); });
+    };
+    picPal_->onMouseMove = [this](Qt::MouseButtons /*held*/, QPoint /*at*/) {
+        SetStatusPanel(editing::StatusPanel::Hint, i18n::kSelfDefineColor.Now());
+    };
+    connect(chkPal_, &QCheckBox::toggled, this,
+            [this](bool ticked) { editor_.ColorPalette().SetChkPal(ticked); });
+    for (const PaletteButton& button : kButtons) {
+        auto* box = findChild<qt::PictureBox*>(button.name);
+        box->onMouseUp = [this, &button](Qt::MouseButton pressed) {
+            if (pressed == Qt::LeftButton) RunCommand([&] { (commands_.*button.mouseUp)(); });
+        };
+        box->onMouseMove = [this, &button] {
+            SetStatusPanel(editing::StatusPanel::Hint, button.hint.Now());
+        };
+    }
+}
+
+void FrmIcoEd::RepaintPalette() {
+    // While the editor is being built there is no widget yet.
+    if (picPal_ == nullptr) return;
+    picPal_->update();
+    const editing::Palette& palette = editor_.ColorPalette();
+    chkPal_->setChecked(palette.ChkPal());
+    using editing::PaletteKind;
+    menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts0", palette.Kind() == PaletteKind::Default);
+    menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts1", palette.Kind() == PaletteKind::Random);
+}
+
+}  // namespace kestrel::app

@@ -1,0 +1,69 @@
+#include "editing/Palette.h"
+
+#include <cmath>
+
+#include "platform/gdi/Draw.h"
+#include "resources/DefaultPalette.h"
+
+namespace kestrel::editing {
+
+namespace {
+
+constexpr int kColumns = 16;
+constexpr int kRows = 16;
+constexpr int kCellSize = 13;  // pixels, with the edge
+
+}  // namespace
+
+Palette::Palette(EditorWindow& window)
+    : window_(window), picPal_(kColumns * kCellSize, kRows * kCellSize, gdi::kBlack) {
+    DrawPalette(PaletteReload::Yes);
+}
+
+std::optional<std::size_t> Palette::CellAt(int x, int y) {
+    if (x < 0 || y < 0 || x >= kColumns * kCellSize || y >= kRows * kCellSize) return {};
+    return static_cast<std::size_t>(y / kCellSize * kColumns + x / kCellSize);
+}
+
+void Palette::DrawPalette(PaletteReload reload) {
+    if (reload == PaletteReload::Yes) {
+        colors_ = resources::kDefaultPalette;
+        kind_ = PaletteKind::Default;
+    }
+    for (int row = 0; row < kRows; ++row) {
+        for (int column = 0; column < kColumns; ++column) {
+            const int x = column * kCellSize;
+            const int y = row * kCellSize;
+            gdi::FillBox(picPal_, x, y, x + kCellSize - 1, y + kCellSize - 1,
+                         colors_[static_cast<std::size_t>(row * kColumns + column)]);
+            gdi::DrawSunkenEdge(picPal_, x, y, x + kCellSize, y + kCellSize);
+        }
+    }
+    window_.RepaintPalette();
+}
+
+void Palette::DrawRandom(system::RandomNumbers& random) {
+    for (std::size_t cell = 1; cell + 1 < colors_.size(); ++cell)
+        colors_[cell] = static_cast<gdi::COLORREF>(std::nearbyint(random.Next() * gdi::kWhite));
+    kind_ = PaletteKind::Random;
+    DrawPalette(PaletteReload::No);
+}
+
+void Palette::SetColor(std::size_t cell, gdi::COLORREF color) {
+    colors_.at(cell) = color;
+    kind_ = PaletteKind::Own;
+    DrawPalette(PaletteReload::No);
+}
+
+void Palette::SetColors(const PaletteColors& colors) {
+    colors_ = colors;
+    kind_ = PaletteKind::Own;
+    DrawPalette(PaletteReload::No);
+}
+
+void Palette::SetChkPal(bool ticked) {
+    chkPal_ = ticked;
+    window_.RepaintPalette();
+}
+
+}  // namespace kestrel::editing

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "editing/EditorWindow.h"
+#include "platform/gdi/Surface.h"
+#include "platform/system/RandomNumbers.h"
+
+namespace kestrel::editing {
+
+using PaletteColors = std::array<gdi::COLORREF, 256>;
+
+// What the colours of the palette are: those of a new document, random ones, or the user's own.
+enum class PaletteKind { Default, Random, Own };
+enum class PaletteReload { No, Yes };
+
+// The palette's colours and their picture, 16 rows of 16 cells. The window is told of changes.
+class Palette {
+  public:
+    explicit Palette(EditorWindow& window);
+
+    const PaletteColors& Colors() const { return colors_; }
+    PaletteKind Kind() const { return kind_; }
+    const gdi::Surface& PicPal() const { return picPal_; }
+    // The cell under a point in pixels of PicPal.
+    static std::optional<std::size_t> CellAt(int x, int y);
+
+    // Paints every cell, after a reload of the default colours if wanted.
+    void DrawPalette(PaletteReload reload);
+    // All but the first and the last, which stay black and white in the default palette.
+    void DrawRandom(system::RandomNumbers& random);
+    void SetColor(std::size_t cell, gdi::COLORREF color);
+    void SetColors(const PaletteColors& colors);
+
+    // Whether a click on a cell changes its colour.
+    bool ChkPal() const { return chkPal_; }
+    void SetChkPal(bool ticked);
+
+  private:
+    EditorWindow& window_;
+    PaletteColors colors_{};
+    PaletteKind kind_ = PaletteKind::Default;
+    gdi::Surface picPal_;
+    bool chkPal_ = false;
+};
+
+}  // namespace kestrel::editing

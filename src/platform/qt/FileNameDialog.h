@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "platform/dialogs/DesktopDialogs.h"
+
+namespace kestrel::qt {
+
+// Qt's own file dialog on every desktop: it asks about names by the rules of this program, where
+// names in other letter case are known to be the same file, and it speaks the program's language.
+class FileNameDialog : public QFileDialog {
+  public:
+    FileNameDialog(AcceptMode mode, const dialogs::FileRecord& record, QWidget* owner);
+
+    // What the user chose, once the dialog is accepted. Names are spelled as on the disk.
+    void AnswerIn(dialogs::FileRecord& record) const;
+    std::string ChosenFolder() const;
+
+  protected:
+    void accept() override;
+
+  private:
+    bool Asks(std::uint32_t flag) const { return (record_.flags & flag) != 0; }
+    QStringList ChosenPaths() const;
+    QString WithExtension(const QString& path) const;
+    bool MayOpen(const QFileInfo& chosen);
+    bool MaySaveAs(const QFileInfo& chosen);
+    bool FitsBuffer(const QFileInfo& chosen);
+    int Tell(const QString& sentence, const QString& name,
+             QMessageBox::StandardButtons buttons = QMessageBox::Ok);
+
+    const dialogs::FileRecord record_;
+    QCheckBox* readOnly_ = nullptr;
+};
+
+}  // namespace kestrel::qt

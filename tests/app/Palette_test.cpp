@@ -1,0 +1,166 @@
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/qt/Pictures.h"
+#include "platform/qt/QtDesktopDialogs.h"
+#include "tests/app/WindowTest.h"
+#include "tests/support/Typist.h"
+
+namespace kestrel::app {
+namespace {
+
+using test::Typist;
+
+void DoubleClick(QWidget& widget, Qt::MouseButton button, QPoint at) {
+    QTest::mouseClick(&widget, button, {}, at);
+    QTest::mouseDClick(&widget, button, {}, at);
+    QTest::mouseRelease(&widget, button, {}, at);
+}
+
+class PaletteWindowTest : public test::WindowTest {
+  protected:
+    void Click(Qt::MouseButton button, QPoint at) {
+        QTest::mouseClick(&window_.PicPal(), button, {}, at);
+        // The next click is not the second of a pair.
+        QTest::mouseMove(&window_.PicPal(), at + QPoint(0, 40));
+        QTest::qWait(QApplication::doubleClickInterval() + 1);
+    }
+    gdi::COLORREF Pen(editing::Button button) { return Editor().Wells().PenColor(button); }
+    gdi::COLORREF Cell(std::size_t cell) { return Editor().ColorPalette().Colors()[cell]; }
+    QCheckBox* ChkPal() { return window_.findChild<QCheckBox*>("ChkPal"); }
+    // Which of the two palettes has the mark.
+    std::string Marks() {
+        std::string marks;
+        for (const char* key : {"mnuPaletteOpts0", "mnuPaletteOpts1"})
+            marks += Item(key)->isChecked() ? "x" : "-";
+        return marks;
+    }
+};
+
+TEST_F(PaletteWindowTest, MouseAndMenuUseIt) {
+    EXPECT_EQ(window_.PicPal().geometry(), QRect(344, 184, 208, 208));
+    Click(Qt::LeftButton, {20, 5});
+    Click(Qt::RightButton, {207, 207});
+    Click(Qt::MiddleButton, {40, 40});
+    EXPECT_EQ(Pen(editing::Button::Left), 0x80U);
+    EXPECT_EQ(Pen(editing::Button::Right), 0xFFFFFFU);
+    EXPECT_TRUE(given_.desktop.colors.empty());
+    EXPECT_EQ(Marks(), "x-");
+    given_.desktop.color = 0x123456;
+    DoubleClick(window_.PicPal(), Qt::RightButton, {33, 20});
+    EXPECT_EQ(given_.desktop.colors.size(), 1U);
+    EXPECT_EQ(Cell(18), 0x123456U);
+    EXPECT_EQ(Pen(editing::Button::Right), 0x123456U);
+    EXPECT_EQ(Marks(), "--");
+    EXPECT_TRUE(ScreenIsFresh());
+
+    Item("mnuPaletteOpts1")->trigger();
+    EXPECT_EQ(Marks(), "-x");
+    EXPECT_TRUE(ScreenIsFresh());
+    QTest::mouseClick(ChkPal(), Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), &window_);
+    Click(Qt::LeftButton, {1, 1});
+    EXPECT_EQ(Cell(0), 0x123456U);
+    EXPECT_EQ(Marks(), "--");
+    Item("mnuPaletteOpts0")->trigger();
+    EXPECT_EQ(Cell(0) + Cell(1), 0x80U);
+    EXPECT_EQ(Marks(), "x-");
+    EXPECT_TRUE(ChkPal()->isChecked());
+    Click(Qt::LeftButton, {1, 1});
+    Item("mnuNew")->trigger();
+    EXPECT_EQ(Cell(0) + Cell(1), 0x80U);
+    EXPECT_EQ(Marks(), "x-");
+    EXPECT_FALSE(ChkPal()->isChecked());
+    EXPECT_TRUE(ScreenIsFresh());
+
+    for (const bool english : {false, true}) {
+        Item(english ? "mnuLanguageOpts1" : "mnuLanguageOpts0")->trigger();
+        EXPECT_EQ(ChkPal()->text(), english ? "New Palette Entry" : "自定义颜色");
+        for (const auto& [name, hint] :
+             {std::pair{"PicPal", english ? "Self-Define Color" : "双击调色板 自定义颜色"},
+              {"ImgLoadPalette", english ? "Load Palette" : "打开调色板"},
+              {"ImgSavePalette", english ? "Save Palette" : "保存调色板"}}) {
+            QTest::mouseMove(Control(name), QPoint(5, 5));
+            EXPECT_EQ(Hint(), hint);
+            EXPECT_EQ(Control(name)->toolTip(), hint);
+        }
+    }
+}
+
+TEST_F(PaletteWindowTest, FailuresAreTold) {
+    given_.desktop.choice = "/none.PAL";
+    given_.files.writeError = {28, "No space left on device", {}};
+    QTest::mouseClick(Control("ImgLoadPalette"), Qt::LeftButton);
+    EXPECT_EQ(given_.boxes.shown.at(0).text,
+              "No such file or directory.\r\n\r\nUnable to load the palette file.");
+    QTest::mouseClick(Control("ImgSavePalette"), Qt::RightButton);
+    EXPECT_EQ(given_.boxes.shown.size(), 1U);
+    QTest::mouseClick(Control("ImgSavePalette"), Qt::LeftButton);
+    EXPECT_EQ(given_.boxes.shown.at(1).text,
+              "No space left on device.\r\n\r\nUnable to save the palette file.");
+    EXPECT_EQ(given_.boxes.shown.at(1).title, "KestrelIconEditor - Error");
+    EXPECT_EQ(Marks(), "x-");
+    i18n::SetUiLanguage(i18n::kChinese);
+    Item("mnuPaletteOpts3")->trigger();
+    Item("mnuPaletteOpts4")->trigger();
+    EXPECT_EQ(given_.boxes.shown.at(2).text,
+              "No such file or directory.\r\n\r\n不能打开调色板文件.");
+    EXPECT_EQ(given_.boxes.shown.at(3).text, "No space left on device.\r\n\r\n不能保存调色板文件.");
+}
+
+// The same window with the desktop's own dialogs.
+TEST(PaletteDialogs, AreUsedByKeyboard) {
+    const QTemporaryDir folder;
+    QFile existing(folder.filePath("old.PAL"));
+    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
+    existing.close();
+    test::FakeServices given;
+    qt::QtDesktopDialogs dialogs;
+    FrmIcoEd window(given.Given(dialogs));
+    window.Form_Load("");
+    window.show();
+    const auto choose = [&](const char* key, const QString& typed,
+                            QMessageBox::StandardButton answer = QMessageBox::No) {
+        Typist typist(typed, answer);
+        window.BarAction(key)->trigger();
+        return typist.boxes.size();
+    };
+    const auto saved = [&](const char* name) {
+        return given.files.contents.contains(folder.filePath(name).toStdString());
+    };
+    const auto cell = [&] { return window.OpenEditor().ColorPalette().Colors()[1]; };
+    window.BarAction("mnuPaletteOpts1")->trigger();
+    EXPECT_EQ(choose("mnuPaletteOpts4", folder.filePath("mine")), 0);
+    EXPECT_TRUE(saved("mine.PAL"));
+    EXPECT_EQ(choose("mnuPaletteOpts4", {}), 0);
+    EXPECT_EQ(given.files.contents.size(), 1U) << "cancelled";
+    EXPECT_EQ(choose("mnuPaletteOpts4", "old"), 1) << "in the folder used last";
+    EXPECT_FALSE(saved("old.PAL"));
+    EXPECT_EQ(choose("mnuPaletteOpts4", "old.pal", QMessageBox::Yes), 1);
+    EXPECT_TRUE(saved("old.PAL"));
+
+    window.BarAction("mnuPaletteOpts0")->trigger();
+    EXPECT_EQ(choose("mnuPaletteOpts3", {}), 0);
+    EXPECT_EQ(choose("mnuPaletteOpts3", "mine"), 1) << "is not on the disk";
+    EXPECT_EQ(cell(), 0x80U);
+    EXPECT_EQ(choose("mnuPaletteOpts3", "old"), 0);
+    EXPECT_EQ(cell(), 0xD091BBU);
+
+    QTimer::singleShot(0, [] {
+        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        for (auto* edit : dialog->findChildren<QLineEdit*>()) {
+            if (!edit->text().startsWith('#')) continue;
+            edit->selectAll();
+            QTest::keyClicks(edit, "#112233");
+        }
+        QTest::keyClick(dialog, Qt::Key_Return);
+    });
+    DoubleClick(window.PicPal(), Qt::LeftButton, {20, 5});
+    EXPECT_EQ(cell(), 0x332211U);
+}
+
+}  // namespace
+}  // namespace kestrel::app

@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "editing/PaletteCommands.h"
+#include "editing/PaletteFile.h"
+#include "tests/support/Recorders.h"
+
+namespace kestrel::editing {
+namespace {
+
+using namespace std::string_literals;
+
+class ColorPaletteTest : public testing::Test {
+  protected:
+    // The colours from this cell on.
+    std::vector<gdi::COLORREF> Cells(std::size_t first, std::size_t count) const {
+        const auto begin = palette_.Colors().begin() + static_cast<std::ptrdiff_t>(first);
+        return {begin, begin + static_cast<std::ptrdiff_t>(count)};
+    }
+    void Keep(const std::string& path, const std::string& text) {
+        files_.contents[path].assign(text.begin(), text.end());
+    }
+    std::string Wells() {
+        std::string text;
+        for (const Button button : {Button::Left, Button::Right})
+            text += std::to_string(wells_.PenColor(button)) +
+                    (wells_.IsTransparent(button) ? "t " : " ");
+        return text;
+    }
+    // Every cell shows its colour inside a sunken edge of one pixel.
+    bool PictureIsFresh() const {
+        for (int cell = 0; cell < 256; ++cell) {
+            for (int pixel = 0; pixel < 169; ++pixel) {
+                const int x = pixel % 13;
+                const int y = pixel / 13;
+                gdi::COLORREF expected = palette_.Colors()[static_cast<std::size_t>(cell)];
+                if (x == 0 || y == 0) expected = 0x808080;
+                if (x == 12 || y == 12) expected = gdi::kWhite;
+                if (palette_.PicPal().GetPixel(cell % 16 * 13 + x, cell / 16 * 13 + y) != expected)
+                    return false;
+            }
+        }
+        return true;
+    }
+
+    test::RecordingWindow window_;
+    test::MemoryFiles files_;
+    test::ScriptedDialogs desktop_;
+    system::RandomNumbers random_{std::mt19937::default_seed};
+    dialogs::Cdb cdb_{desktop_, window_};
+    ColorWells wells_{window_};
+    Palette palette_{window_};
+    PaletteCommands commands_{palette_, {wells_, cdb_, desktop_, window_, files_, random_}};
+};
+
+TEST_F(ColorPaletteTest, PicturesOfTheDefaultAndARandomPalette) {
+    EXPECT_TRUE(PictureIsFresh());
+    std::ifstream table(TEST_DATA "/default_palette.txt");
+    table >> std::hex;
+    for (const gdi::COLORREF color : palette_.Colors()) {
+        gdi::COLORREF listed = 0;
+        ASSERT_TRUE(table >> listed);
+        EXPECT_EQ(color, listed);
+    }
+    const PaletteColors first = palette_.Colors();
+    wells_.SetPenColor(Button::Right, 0x123456);
+    wells_.SetTransparent(Button::Left);
+    commands_.mnuPaletteOpts_Click(1);
+    // The generator's numbers as another program computes them.
+    EXPECT_EQ(Cells(0, 3), (std::vector<gdi::COLORREF>{0x000000, 0xD091BB, 0x22AE9F}));
+    EXPECT_EQ(Cells(254, 2), (std::vector<gdi::COLORREF>{0x58A2C0, 0xFFFFFF}));
+    EXPECT_TRUE(PictureIsFresh());
+    EXPECT_EQ(palette_.Kind(), PaletteKind::Random);
+    EXPECT_EQ(Wells(), "16777215t 16777215 ");
+    commands_.mnuPaletteOpts_Click(0);
+    EXPECT_EQ(palette_.Colors(), first);
+    EXPECT_TRUE(PictureIsFresh());
+    EXPECT_EQ(palette_.Kind(), PaletteKind::Default);
+}
+
+TEST_F(ColorPaletteTest, ClicksPickColours) {
+    const struct {
+        Button button;
+        int x, y;
+        const char* wells;
+    } cases[] = {{Button::Left, 12, 25, "2236962 16777215t "},  // row 1: 0x222222
+                 {Button::Left, 207, 0, "1842204 16777215t "},
+                 {Button::Left, 208, 0, "1842204 16777215t "},
+                 {Button::None, 0, 0, "1842204 16777215t "},
+                 {Button::Right, 208, 5, "1842204 16777215 "},  // opaque, with its old colour
+                 {Button::Right, 13, 207, "1842204 14540253 "},
+                 {Button::Right, 0, 208, "1842204 14540253 "},
+                 {Button::Left, 5, -1, "1842204 14540253 "},
+                 {Button::Left, -1, 5, "1842204 14540253 "}};
+    wells_.SetTransparent(Button::Left);
+    wells_.SetTransparent(Button::Right);
+    for (const auto& [button, x, y, wells] : cases) {
+        commands_.PicPal_MouseUp(button, x, y);
+        EXPECT_EQ(Wells(), wells) << x << ", " << y;
+    }
+    EXPECT_TRUE(desktop_.colors.empty());
+}
+
+TEST_F(ColorPaletteTest, CellsAreEdited) {
+    commands_.PicPal_MouseUp(Button::Right, 20, 5);
+    commands_.PicPal_DblClick();
+    EXPECT_EQ(palette_.Kind(), PaletteKind::Default) << "cancelled";
+    EXPECT_EQ(desktop_.colors.at(0).color, 0x80U);
+    desktop_.color = 0x123456;
+    commands_.PicPal_DblClick();
+    EXPECT_EQ(Cells(0, 3), (std::vector<gdi::COLORREF>{0, 0x123456, 0x8000}));
+    EXPECT_EQ(palette_.Kind(), PaletteKind::Own);
+    EXPECT_EQ(Wells(), "0 1193046 ");
+    EXPECT_TRUE(PictureIsFresh());
+    for (const auto& [button, x] : {std::pair{Button::None, 5}, {Button::Left, 208}}) {
+        commands_.PicPal_MouseUp(button, x, 5);
+        commands_.PicPal_DblClick();
+    }
+    palette_.SetChkPal(true);
+    commands_.PicPal_MouseUp(Button::Left, 300, 5);
+    EXPECT_EQ(desktop_.colors.size(), 2U) << "no cell there";
+    commands_.PicPal_MouseUp(Button::Left, 0, 0);
+    EXPECT_EQ(palette_.Colors()[0], 0x123456U) << "one click is enough";
+}
+
+TEST_F(ColorPaletteTest, FilesAreReadLineByLine) {
+    const auto line = [](const std::string& text) { return "JASC\r\n\r\n" + text; };
+    const struct {
+        std::string text;
+        std::vector<gdi::COLORREF> cells;  // the first three, 0 0x80 0x8000 at first
+        bool fails = false;
+    } cases[] = {
+        {"", {0, 0x80, 0x8000}},
+        {"JASC\r\n", {0, 0x80, 0x8000}},
+        {line("7"), {7, 0x80, 0x8000}},
+        {line("7\r\n"), {7, 0, 0x8000}},
+        {"x\r\n1\r\n2\r\n3\r\n4", {2, 3, 4}},
+        {line("1\n2\n3"), {1, 0x80, 0x8000}},
+        {"JASC\n\n1\n2\n3", {0, 0x80, 0x8000}},
+        {line("1\r2\r\n\n3\r\n4"), {1, 0, 4}},
+        {line("  \t12 34\r\nred\r\n+5x"), {12, 0, 5}},
+        {line("12.5\r\n13.5\r\n12.500001"), {12, 14, 13}},
+        {line("12.49999\r\n0.5\r\n1."), {12, 0, 1}},
+        {line(".75\r\n16777215\r\n1e3"), {1, 0xFFFFFF, 1}},
+        {line("-1\r\n-0.5\r\n- 4"), {0xFFFFFF, 0, 0}},
+        {line("16777216\r\n2147483647\r\n-2147483648"), {0, 0xFFFFFF, 0}},
+        {line("1\r\n2147483648\r\n3"), {1, 0x80, 0x8000}, true},
+        {line("1\r\n2147483647.5\r\n3"), {1, 0x80, 0x8000}, true},
+        {line("-2147483649"), {0, 0x80, 0x8000}, true},
+        {line(std::string(400, '9')), {0, 0x80, 0x8000}, true},
+        {line("1\r\n\0002\r\n\xFF\x80"s), {1, 0, 0}},
+    };
+    for (const auto& c : cases) {
+        palette_.DrawPalette(PaletteReload::Yes);
+        Keep("/a.pal", c.text);
+        const Result<void> read = ReadPaletteFile(files_, palette_, "/a.pal");
+        EXPECT_EQ(Cells(0, 3), c.cells) << c.text;
+        EXPECT_EQ(!read, c.fails) << c.text;
+        EXPECT_TRUE(PictureIsFresh());
+        const bool unread = c.fails && c.cells[0] == 0;
+        EXPECT_EQ(palette_.Kind(), unread ? PaletteKind::Default : PaletteKind::Own) << c.text;
+        if (read) continue;
+        EXPECT_EQ(read.error().description, "Value too large for defined data type");
+        EXPECT_EQ(read.error().source, "KestrelIconEditor.cPalette");
+    }
+    std::string many = "\r\n";
+    for (int i = 0; i < 100000; ++i)
+        many += "\r\n" + std::to_string(i % 1000);
+    Keep("/many.pal", many);
+    EXPECT_TRUE(ReadPaletteFile(files_, palette_, "/many.pal"));
+    EXPECT_EQ(Cells(254, 2), (std::vector<gdi::COLORREF>{254, 255}));
+}
+
+TEST_F(ColorPaletteTest, AreLoadedAndSavedThroughTheDialogs) {
+    desktop_.choice = "/mine.PAL";
+    commands_.mnuPaletteOpts_Click(1);
+    const PaletteColors random = palette_.Colors();
+    EXPECT_TRUE(commands_.ImgSavePalette_Click());
+    commands_.mnuPaletteOpts_Click(0);
+    EXPECT_TRUE(commands_.ImgLoadPalette_Click());
+    EXPECT_EQ(palette_.Colors(), random);
+    EXPECT_EQ(palette_.Kind(), PaletteKind::Own);
+    EXPECT_TRUE(PictureIsFresh());
+
+    const dialogs::FileRecord& save = desktop_.saves.at(0);
+    const dialogs::FileRecord& load = desktop_.opens.at(0);
+    EXPECT_EQ(save.filter, "Palette Files (*.PAL)\0*.PAL\0All FIles (*.*)\0*.*\0\0"s);
+    EXPECT_EQ(load.filter, "Palette Files (*.PAL)\0*.PAL\0All Files (*.*)\0*.*\0\0"s);
+    EXPECT_EQ(save.flags, 0x806U);
+    EXPECT_EQ(load.flags, 0x1004U);
+    for (const dialogs::FileRecord* asked : {&save, &load}) {
+        EXPECT_EQ(asked->owner, test::RecordingWindow::kHandle);
+        EXPECT_EQ(asked->filterIndex, 1);
+        EXPECT_EQ(asked->defaultExtension, "PAL");
+        EXPECT_EQ(asked->file + asked->title + asked->initialFolder, "");
+    }
+
+    files_.writeError = {28, "No space left on device", {}};
+    const Result<void> full = commands_.ImgSavePalette_Click();
+    EXPECT_EQ(full.error().source + full.error().description,
+              "KestrelIconEditor.cPaletteNo space left on device");
+    desktop_.choice = "/gone.PAL";
+    const Result<void> gone = commands_.ImgLoadPalette_Click();
+    EXPECT_EQ(gone.error().source + gone.error().description,
+              "KestrelIconEditor.cPaletteNo such file or directory");
+    desktop_.choice.clear();
+    EXPECT_TRUE(commands_.ImgSavePalette_Click()) << "cancelled";
+    EXPECT_TRUE(commands_.ImgLoadPalette_Click()) << "cancelled";
+    EXPECT_EQ(palette_.Colors(), random);
+}
+
+}  // namespace
+}  // namespace kestrel::editing
