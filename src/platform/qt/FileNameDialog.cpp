@@ -2,8 +2,10 @@
 
 #include <QComboBox>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QLayout>
 #include <QLineEdit>
+#include <QTreeView>
 #include <algorithm>
 
 #include "platform/system/PathText.h"
@@ -32,6 +34,14 @@ QString Resolved(const QString& path) {
     return QString::fromStdString(system::ResolvePath(path.toStdString()));
 }
 
+// Of the columns beside the names the last was cut.
+void ShowDatesWhole(const QFileDialog& dialog) {
+    const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr) return;
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 }  // namespace
 
 FileNameDialog::FileNameDialog(AcceptMode mode, const FileRecord& record, QWidget* owner)
@@ -52,6 +62,7 @@ FileNameDialog::FileNameDialog(AcceptMode mode, const FileRecord& record, QWidge
         const bool isPath = !system::FolderOf(record.file).empty();
         selectFile(isPath ? Resolved(name) : name);
     }
+    ShowDatesWhole(*this);
     if (mode == AcceptOpen && !Asks(dialogs::kHideReadOnly)) {
         readOnly_ = new QCheckBox(tr("Open as &read-only"), this);
         readOnly_->setChecked(Asks(dialogs::kReadOnly));

@@ -1,0 +1,21 @@
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "editing/PaletteFile.h"
+
+// Any text gives colours of 24 bits, and what is written of them is read as the same.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    using namespace kestrel;
+    const std::vector<char> text(bytes, bytes + size);
+    editing::PaletteColors colors{};
+    if (!editing::ReadPaletteText({text.data(), text.size()}, colors)) return 0;
+    for (const gdi::COLORREF color : colors) {
+        if (color > gdi::kWhite) std::abort();
+    }
+    editing::PaletteColors again{};
+    if (!editing::ReadPaletteText(editing::PaletteText(colors), again) || again != colors)
+        std::abort();
+    return 0;
+}

@@ -1,0 +1,83 @@
+#!/usr/bin/env bash
+# Palette files through the desktop's own dialogs, compared with files that awk makes.
+# shellcheck source=tests/desktop/desktop.sh
+source "$(dirname "$0")/desktop.sh"
+StartDesktop
+table=$desktopFolder/../data/default_palette.txt
+
+# PaletteOf <file of hexadecimal numbers>: the palette file of these colours.
+PaletteOf() {
+    printf 'JASC\r\n'
+    # shellcheck disable=SC2046  # one argument for each number
+    printf '\r\n%d' $(tr -s ' \n' '\n' <"$1" | sed 's/^/0x/')
+}
+
+# OpenPaletteItem <letter>: an item of Tools, Palette by keyboard.
+OpenPaletteItem() {
+    OpenMenu t
+    Press Return "$1"
+}
+
+# ExpectColor <x> <y> <RRGGBB>: waits until this client point shows the colour.
+PointHas() {
+    [[ $(import -silent -window "$window" -crop "1x1+$1+$2" -depth 8 rgb:- |
+        od -An -tx1 | tr -d ' \n') == "$3" ]]
+}
+ExpectColor() { WaitFor "$kPatience" PointHas "$@" || Fail "($1, $2) does not show $3"; }
+
+PaletteOf "$table" >"$scratch/default.pal"
+StartEditor
+WaitForWindow 'KestrelIconEditor - Untitled'
+ExpectColor 551 391 ffffff
+
+# The name gets its extension. Asked again, No leaves the file, and Yes replaces it.
+Click 539 166
+AnswerDialog 'Save As' "$files/default"
+WaitForWindow 'KestrelIconEditor - Untitled'
+cmp "$files/default.PAL" "$scratch/default.pal" || Fail "the default palette's file is another"
+OpenPaletteItem r
+for answer in n y; do
+    Click 539 166
+    WaitFor "$kPatience" HasDialog 'Save As' || Fail "no save dialog"
+    Type default
+    Press Return
+    WaitFor "$kPatience" HasBox 'Save As' || Fail "no question before a file is replaced"
+    Press "alt+$answer"
+    [[ $answer == n ]] || break
+    WaitFor "$kPatience" HasDialog 'Save As' || Fail "the dialog is gone"
+    Press Escape
+    WaitForWindow 'KestrelIconEditor - Untitled'
+    cmp "$files/default.PAL" "$scratch/default.pal" || Fail "No has replaced the file"
+done
+WaitForWindow 'KestrelIconEditor - Untitled'
+! cmp -s "$files/default.PAL" "$scratch/default.pal" || Fail "Yes has not replaced the file"
+
+# A short file in lower case without an extension, loaded over the default palette.
+printf 'x\r\ny\r\n255\r\n65280.4\r\n 16711680 z' >"$files/short"
+OpenPaletteItem d
+ExpectColor 350 190 000000
+Click 518 166
+AnswerDialog 'Open' "$files/short"
+WaitForWindow 'KestrelIconEditor - Untitled'
+ExpectColor 350 190 ff0000
+ExpectColor 363 190 00ff00
+ExpectColor 376 190 0000ff
+ExpectColor 389 190 808000
+# What is loaded is used: the third cell with the left button, the first with the right one.
+Click 376 190
+Click 350 190 3
+ExpectColor 394 166 0000ff
+ExpectColor 419 166 ff0000
+ExpectColor 352 165 0000ff
+
+# A folder without leave to write in, and a file without leave to read, are told.
+OpenPaletteItem s
+WaitFor "$kPatience" HasDialog 'Save As' || Fail "the menu opens no save dialog"
+Press ctrl+a
+Type "/proc/mine"
+Press Return
+ExpectError '*Unable to save the palette file.' 'Untitled'
+OpenPaletteItem l
+AnswerDialog 'Open' /dev/null
+ExpectError '*Unable to load the palette file.' 'Untitled'
+Quit
