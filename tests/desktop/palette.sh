@@ -34,7 +34,8 @@ ExpectColor 551 391 ffffff
 Click 539 166
 AnswerDialog 'Save As' "$files/default"
 WaitForWindow 'KestrelIconEditor - Untitled'
-cmp "$files/default.PAL" "$scratch/default.pal" || Fail "the default palette's file is another"
+WaitFor "$kPatience" cmp -s "$files/default.PAL" "$scratch/default.pal" ||
+    Fail "the default palette's file is another"
 OpenPaletteItem r
 for answer in n y; do
     Click 539 166
@@ -50,7 +51,8 @@ for answer in n y; do
     cmp "$files/default.PAL" "$scratch/default.pal" || Fail "No has replaced the file"
 done
 WaitForWindow 'KestrelIconEditor - Untitled'
-! cmp -s "$files/default.PAL" "$scratch/default.pal" || Fail "Yes has not replaced the file"
+HasChanged() { ! cmp -s "$files/default.PAL" "$scratch/default.pal"; }
+WaitFor "$kPatience" HasChanged || Fail "Yes has not replaced the file"
 
 # A short file in lower case without an extension, loaded over the default palette.
 printf 'x\r\ny\r\n255\r\n65280.4\r\n 16711680 z' >"$files/short"
@@ -70,14 +72,16 @@ ExpectColor 394 166 0000ff
 ExpectColor 419 166 ff0000
 ExpectColor 352 165 0000ff
 
-# A folder without leave to write in, and a file without leave to read, are told.
+# What cannot be written or read is told.
+chmod 444 "$files/default.PAL"
 OpenPaletteItem s
 WaitFor "$kPatience" HasDialog 'Save As' || Fail "the menu opens no save dialog"
-Press ctrl+a
-Type "/proc/mine"
+Type default
 Press Return
-ExpectError '*Unable to save the palette file.' 'Untitled'
+WaitFor "$kPatience" HasBox 'Save As' || Fail "no question before a file is replaced"
+Press alt+y
+ExpectError 'Permission denied*Unable to save the palette file.' 'Untitled'
 OpenPaletteItem l
 AnswerDialog 'Open' /dev/null
-ExpectError '*Unable to load the palette file.' 'Untitled'
+ExpectError 'Invalid argument*Unable to load the palette file.' 'Untitled'
 Quit

@@ -23,6 +23,14 @@ QWidget* WindowOf(WindowHandle owner) {
     return owner == dialogs::kNoOwner ? nullptr : QWidget::find(static_cast<WId>(owner));
 }
 
+// Whether the user confirmed. A window manager may forget who comes next when a dialog goes together
+// with a box over it.
+bool Ask(QDialog& dialog) {
+    const bool confirmed = dialog.exec() == QDialog::Accepted;
+    if (dialog.parentWidget() != nullptr) dialog.parentWidget()->activateWindow();
+    return confirmed;
+}
+
 }  // namespace
 
 std::int32_t QtDesktopDialogs::GetOpenFileName(FileRecord& record) {
@@ -36,7 +44,7 @@ std::int32_t QtDesktopDialogs::GetSaveFileName(FileRecord& record) {
 std::int32_t QtDesktopDialogs::ChooseFile(FileNameDialog::AcceptMode mode, FileRecord& record) {
     if (record.initialFolder.empty()) record.initialFolder = lastFolder_;
     FileNameDialog dialog(mode, record, WindowOf(record.owner));
-    if (dialog.exec() != QDialog::Accepted) return kCancelled;
+    if (!Ask(dialog)) return kCancelled;
     dialog.AnswerIn(record);
     lastFolder_ = dialog.ChosenFolder();
     return dialogs::kConfirmed;
@@ -51,7 +59,7 @@ std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     const bool preset = (record.flags & dialogs::kInitialColor) != 0;
     dialog.setCurrentColor(ToColor(preset ? record.color : gdi::kBlack));
-    if (dialog.exec() != QDialog::Accepted) return kCancelled;
+    if (!Ask(dialog)) return kCancelled;
     record.color = ToColorRef(dialog.selectedColor());
     for (std::size_t i = 0; i < record.customColors.size(); ++i)
         record.customColors[i] = ToColorRef(QColorDialog::customColor(static_cast<int>(i)));
@@ -66,7 +74,7 @@ std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
     QPrintDialog dialog(&printer, WindowOf(record.owner));
     // There is one page, and each copy is a job of its own.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile);
-    if (dialog.exec() != QDialog::Accepted) return kCancelled;
+    if (!Ask(dialog)) return kCancelled;
     record.printer = printer.printerName().toStdString();
     record.file = printer.outputFileName().toStdString();
     record.copies = printer.copyCount();
