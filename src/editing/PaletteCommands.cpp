@@ -10,6 +10,15 @@ namespace {
 
 constexpr const char* kDefaultExtension = "PAL";
 
+// What a file dialog is asked with and answers in.
+struct FileChoice {
+    std::string filter;
+    std::uint32_t flags = 0;
+    std::string path{};
+    std::string title{};
+    int filterIndex = 1;
+};
+
 }  // namespace
 
 void PaletteCommands::PicPal_MouseUp(Button button, int x, int y) {
@@ -43,31 +52,30 @@ void PaletteCommands::mnuPaletteOpts_Click(int index) {
 
 Result<void> PaletteCommands::ImgLoadPalette_Click() {
     dialogs::GCommonDialog dialog(parts_.desktop);
-    std::string path;
-    std::string title;
-    std::string filter(i18n::kLoadPaletteFilter);
-    int filterIndex = 1;
+    FileChoice file{.filter = std::string(i18n::kLoadPaletteFilter)};
+    constexpr bool kMustExist = true;
+    constexpr bool kSeveral = false;
     bool readOnly = false;
-    std::uint32_t flags = 0;
-    if (!dialog.VBGetOpenFileName(path, title, true, false, readOnly, true, filter, filterIndex, {},
-                                  {}, kDefaultExtension, parts_.owner.hWnd(), flags)) {
+    constexpr bool kNoReadOnlyBox = true;
+    if (!dialog.VBGetOpenFileName(file.path, file.title, kMustExist, kSeveral, readOnly,
+                                  kNoReadOnlyBox, file.filter, file.filterIndex, {}, {},
+                                  kDefaultExtension, parts_.owner.hWnd(), file.flags)) {
         return {};
     }
-    return ReadPaletteFile(parts_.files, palette_, path);
+    return ReadPaletteFile(parts_.files, palette_, file.path);
 }
 
 Result<void> PaletteCommands::ImgSavePalette_Click() {
     dialogs::GCommonDialog dialog(parts_.desktop);
-    std::string path;
-    std::string title;
-    std::string filter(i18n::kSavePaletteFilter);
-    int filterIndex = 1;
-    std::uint32_t flags = dialogs::kPathMustExist;
-    if (!dialog.VBGetSaveFileName(path, title, true, filter, filterIndex, {}, {}, kDefaultExtension,
-                                  parts_.owner.hWnd(), flags)) {
+    FileChoice file{.filter = std::string(i18n::kSavePaletteFilter),
+                    .flags = dialogs::kPathMustExist};
+    constexpr bool kAskBeforeReplacing = true;
+    if (!dialog.VBGetSaveFileName(file.path, file.title, kAskBeforeReplacing, file.filter,
+                                  file.filterIndex, {}, {}, kDefaultExtension, parts_.owner.hWnd(),
+                                  file.flags)) {
         return {};
     }
-    return WritePaletteFile(parts_.files, palette_, path);
+    return WritePaletteFile(parts_.files, palette_, file.path);
 }
 
 }  // namespace kestrel::editing

@@ -80,7 +80,7 @@ TEST_F(GCommonDialogTest, CancelClearsWhatWasGivenAndTellsWhy) {
         EXPECT_EQ(dialog_.APIReturn(), 0);
     };
     refuse(0, [this] { return Open(true, false, true); });
-    refuse(0x3003, [this] { return Save(true); });
+    refuse(0x2001, [this] { return Save(true); });
     desktop_.choice = "/a";
     EXPECT_TRUE(Save(true));
     EXPECT_EQ(dialog_.ExtendedError(), 0);

@@ -33,8 +33,6 @@ inline constexpr std::uint32_t kAnyColor = 0x100;
 
 // What a dialog function returns when the user confirmed; everything else is a cancel or a failure.
 inline constexpr std::int32_t kConfirmed = 1;
-// Extended error code: the chosen path is longer than its caller can take.
-inline constexpr std::int32_t kBufferTooSmall = 0x3003;
 
 // What a file dialog is asked with and answers in.
 struct FileRecord {
@@ -47,7 +45,8 @@ struct FileRecord {
     // their names, each ended by a NUL.
     std::string file;
     std::string fileTitle;
-    // Characters, with the NUL at the end, that a path may have; 0 for any number.
+    // Characters, with the NUL at the end, that `file` may have on return; 0 for any number. The
+    // user is told that a choice is too long.
     std::size_t maxFile = 0;
     // Empty: the folder that was used last.
     std::string initialFolder;

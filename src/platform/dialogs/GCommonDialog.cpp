@@ -33,6 +33,17 @@ constexpr std::uint32_t CallersFlags(std::uint32_t flags) {
     return flags & ~(kFileHook | kFileTemplate);
 }
 
+FileRecord NewRecord(const std::string& folder, const std::string& title,
+                     const std::string& extension, WindowHandle owner) {
+    FileRecord record;
+    record.owner = owner;
+    record.maxFile = GCommonDialog::kMaxFile;
+    record.initialFolder = folder;
+    record.title = title;
+    record.defaultExtension = extension;
+    return record;
+}
+
 bool IsCustomColor(int index) {
     return index >= 0 && index < static_cast<int>(CustomColors().size());
 }
@@ -45,11 +56,7 @@ bool GCommonDialog::VBGetOpenFileName(std::string& Filename, std::string& FileTi
                                       const std::string& InitDir, const std::string& DlgTitle,
                                       const std::string& DefaultExt, WindowHandle Owner,
                                       std::uint32_t& flags) {
-    FileRecord record;
-    record.owner = Owner;
-    record.initialFolder = InitDir;
-    record.title = DlgTitle;
-    record.defaultExtension = DefaultExt;
+    FileRecord record = NewRecord(InitDir, DlgTitle, DefaultExt, Owner);
     record.flags = When(MultiSelect, kMultiSelect) | When(ReadOnly, kReadOnly) |
                    When(HideReadOnly, kHideReadOnly) | When(FileMustExist, kFileMustExist) |
                    CallersFlags(flags);
@@ -66,11 +73,7 @@ bool GCommonDialog::VBGetSaveFileName(std::string& Filename, std::string& FileTi
                                       const std::string& InitDir, const std::string& DlgTitle,
                                       const std::string& DefaultExt, WindowHandle Owner,
                                       std::uint32_t& flags) {
-    FileRecord record;
-    record.owner = Owner;
-    record.initialFolder = InitDir;
-    record.title = DlgTitle;
-    record.defaultExtension = DefaultExt;
+    FileRecord record = NewRecord(InitDir, DlgTitle, DefaultExt, Owner);
     record.flags = When(OverWritePrompt, kOverwritePrompt) | kHideReadOnly | CallersFlags(flags);
     return ChooseFile(&DesktopDialogs::GetSaveFileName, record, Filename, FileTitle, Filter,
                       FilterIndex, flags);
@@ -83,7 +86,6 @@ bool GCommonDialog::ChooseFile(FileFunction show, FileRecord& record, std::strin
     record.filterIndex = FilterIndex;
     record.file = Filename;
     record.fileTitle = FileTitle;
-    record.maxFile = kMaxFile;
     if (!Confirmed((desktop_.*show)(record))) {
         Filename.clear();
         FileTitle.clear();

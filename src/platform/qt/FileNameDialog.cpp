@@ -112,13 +112,14 @@ QString FileNameDialog::WithExtension(const QString& path) const {
 
 void FileNameDialog::accept() {
     const QStringList paths = ChosenPaths();
-    const bool mayGo = std::all_of(paths.begin(), paths.end(), [this](const QString& path) {
+    const bool goesThere = std::all_of(paths.begin(), paths.end(),
+                                       [](const QString& path) { return QFileInfo(path).isDir(); });
+    const auto mayTake = [this](const QString& path) {
         const QFileInfo chosen(path);
-        if (chosen.isDir()) return true;  // the dialog goes there
-        return (acceptMode() == AcceptOpen ? MayOpen(chosen) : MaySaveAs(chosen)) &&
-               FitsBuffer(chosen);
-    });
-    if (mayGo) QFileDialog::accept();
+        return acceptMode() == AcceptOpen ? MayOpen(chosen) : MaySaveAs(chosen);
+    };
+    if (goesThere || (std::all_of(paths.begin(), paths.end(), mayTake) && FitsBuffer()))
+        QFileDialog::accept();
 }
 
 bool FileNameDialog::MayOpen(const QFileInfo& chosen) {
@@ -147,10 +148,13 @@ bool FileNameDialog::MaySaveAs(const QFileInfo& chosen) {
                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
 
-bool FileNameDialog::FitsBuffer(const QFileInfo& chosen) {
-    const auto characters = static_cast<std::size_t>(chosen.filePath().toUcs4().size());
+bool FileNameDialog::FitsBuffer() {
+    FileRecord answer = record_;
+    AnswerIn(answer);
+    const QString file = QString::fromStdString(answer.file);
+    const auto characters = static_cast<std::size_t>(file.toUcs4().size());
     if (record_.maxFile == 0 || characters < record_.maxFile) return true;
-    Tell(tr("%1\nThe file name is too long."), chosen.fileName());
+    Tell(tr("%1\nThe file name is too long."), QString::fromStdString(answer.fileTitle));
     return false;
 }
 

@@ -27,7 +27,7 @@ class FileNameDialog : public QFileDialog {
     QString WithExtension(const QString& path) const;
     bool MayOpen(const QFileInfo& chosen);
     bool MaySaveAs(const QFileInfo& chosen);
-    bool FitsBuffer(const QFileInfo& chosen);
+    bool FitsBuffer();
     int Tell(const QString& sentence, const QString& name,
              QMessageBox::StandardButtons buttons = QMessageBox::Ok);
 
