@@ -30,14 +30,13 @@ void Palette::DrawPalette(PaletteReload reload) {
         colors_ = resources::kDefaultPalette;
         kind_ = PaletteKind::Default;
     }
-    for (int row = 0; row < kRows; ++row) {
-        for (int column = 0; column < kColumns; ++column) {
-            const int x = column * kCellSize;
-            const int y = row * kCellSize;
-            gdi::FillBox(picPal_, x, y, x + kCellSize - 1, y + kCellSize - 1,
-                         colors_[static_cast<std::size_t>(row * kColumns + column)]);
-            gdi::DrawSunkenEdge(picPal_, x, y, x + kCellSize, y + kCellSize);
-        }
+    int cell = 0;
+    for (const gdi::COLORREF color : colors_) {
+        const int x = cell % kColumns * kCellSize;
+        const int y = cell / kColumns * kCellSize;
+        gdi::FillBox(picPal_, x, y, x + kCellSize - 1, y + kCellSize - 1, color);
+        gdi::DrawSunkenEdge(picPal_, x, y, x + kCellSize, y + kCellSize);
+        ++cell;
     }
     window_.RepaintPalette();
 }

@@ -15,8 +15,8 @@ class ColorPaletteTest : public testing::Test {
   protected:
     // The colours from this cell on.
     std::vector<gdi::COLORREF> Cells(std::size_t first, std::size_t count) const {
-        const auto begin = palette_.Colors().begin() + static_cast<std::ptrdiff_t>(first);
-        return {begin, begin + static_cast<std::ptrdiff_t>(count)};
+        const gdi::COLORREF* const begin = palette_.Colors().data() + first;
+        return {begin, begin + count};
     }
     void Keep(const std::string& path, const std::string& text) {
         files_.contents[path].assign(text.begin(), text.end());
