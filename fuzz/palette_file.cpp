@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
+#include <vector>
 
 #include "editing/PaletteFile.h"
 
@@ -12,7 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     editing::PaletteColors colors{};
     if (!editing::ReadPaletteText({text.data(), text.size()}, colors)) return 0;
     for (const gdi::COLORREF color : colors) {
-        if (color > gdi::kWhite) std::abort();
+        if (color > gdi::kColorBits) std::abort();
     }
     editing::PaletteColors again{};
     if (!editing::ReadPaletteText(editing::PaletteText(colors), again) || again != colors)

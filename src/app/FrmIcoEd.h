@@ -14,6 +14,7 @@
 #include "editing/WellCommands.h"
 #include "platform/controls/ImageList.h"
 #include "platform/qt/MenuView.h"
+#include "platform/qt/PictureBox.h"
 #include "platform/qt/StatusBar.h"
 #include "platform/qt/SurfaceWidget.h"
 #include "platform/qt/ToolBar.h"
@@ -71,6 +72,9 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void PaintReadouts(QPainter& painter);
     // FrmIcoEd_Tools.cpp
     void LayOutTools();
+    // A box at `place` that shows `hint` on the status bar while the pointer is over it.
+    void AddBox(const char* name, const QRect& place, qt::PictureBox::Edge edge,
+                const QIcon& picture, const i18n::Text& hint);
     void ConnectTools();
     void PaintIndicators(QPainter& painter);
     // FrmIcoEd_Palette.cpp
@@ -95,7 +99,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void RepaintTools() override;
     void SetToolTipOfTools(std::string_view text) override;
     void RepaintWells() override;
-    void RepaintPalette() override;
+    void PaletteChanged() override;
     void ShowEditingPopup() override;
     void Beep() override;
     void RefreshEditCommands() override;

@@ -45,7 +45,6 @@ constexpr std::array kReadouts{
 constexpr std::array kPanelWidths{0, 84, 56, 56, 44};
 
 constexpr int kFontPixels = 12;
-constexpr int kSmallFontPixels = 11;
 
 // A sunken edge four pixels outside the control on every side.
 void DrawEdgeAround(QPainter& painter, const QRect& control, const QPalette& colors) {
@@ -76,11 +75,11 @@ void FrmIcoEd::LayOutControls() {
     label1_ = new QLabel(this);
     label1_->setObjectName("Label1");
     label1_->setGeometry(kLabel1);
-    label1_->setFont(qt::FontOf(*this, kSmallFontPixels));
+    label1_->setFont(qt::FontOf(*this, qt::kSmallFontPixels));
     label1_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
 
     statusBar_ = new qt::StatusBar(kPanelWidths, this);
-    statusBar_->setFont(qt::FontOf(*this, kSmallFontPixels));
+    statusBar_->setFont(qt::FontOf(*this, qt::kSmallFontPixels));
     statusBar_->setGeometry(kStatusBar);
 }
 
@@ -120,7 +119,7 @@ void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void FrmIcoEd::PaintReadouts(QPainter& painter) {
-    painter.setFont(qt::FontOf(*this, kSmallFontPixels));
+    painter.setFont(qt::FontOf(*this, qt::kSmallFontPixels));
     for (const Readout& readout : kReadouts) {
         qt::PictureIcon(wellPictures_, readout.picture).paint(&painter, readout.pictogram);
         painter.drawText(readout.text, Qt::AlignLeft | Qt::AlignVCenter, readouts_[readout.panel]);

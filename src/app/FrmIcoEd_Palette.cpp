@@ -3,10 +3,8 @@
 #include "app/FrmIcoEd.h"
 #include "app/FrmMouseButtons.h"
 #include "i18n/Captions.h"
-#include "platform/qt/PictureBox.h"
 #include "platform/qt/PictureIcon.h"
 #include "platform/qt/WindowDesign.h"
-#include "resources/ImageList.h"
 
 namespace kestrel::app {
 
@@ -14,13 +12,12 @@ namespace {
 
 constexpr QPoint kPicPal(344, 184);
 constexpr QRect kChkPal(344, 393, 208, 14);
-constexpr int kSmallFontPixels = 11;
 
 // A button beside the colour wells.
 struct PaletteButton {
     const char* name{};
     QRect place;
-    // In the image list of the menus.
+    // In the image list, as in the palette's menu.
     int picture = 0;
     i18n::Text hint;
     void (MainCommands::*mouseUp)(){};
@@ -41,24 +38,23 @@ void FrmIcoEd::LayOutPalette() {
     picPal_->move(kPicPal);
     chkPal_ = new QCheckBox(this);
     chkPal_->setObjectName("ChkPal");
-    chkPal_->setFont(qt::FontOf(*this, kSmallFontPixels));
+    chkPal_->setFont(qt::FontOf(*this, qt::kSmallFontPixels));
     chkPal_->setGeometry(kChkPal);
     // A click leaves the keyboard with the window, whose keys move the selection.
     chkPal_->setFocusPolicy(Qt::TabFocus);
     for (const PaletteButton& button : kButtons) {
-        auto* box = new qt::PictureBox(qt::PictureBox::Edge::Button, this);
-        box->setObjectName(button.name);
-        box->setGeometry(button.place);
-        box->Show({}, qt::PictureIcon(pictures_, button.picture));
+        AddBox(button.name, button.place, qt::PictureBox::Edge::Button,
+               qt::PictureIcon(pictures_, button.picture), button.hint);
     }
 }
 
 void FrmIcoEd::ConnectPalette() {
     picPal_->onMouseUp = [this](Qt::MouseButton button, QPoint at) {
-        RunCommand([&] { commands_.OfPalette().PicPal_MouseUp(ToButton(button), at.x(), at.y()); });
+        RunCommand(
+            [&] { commands_.PaletteHandlers().PicPal_MouseUp(ToButton(button), at.x(), at.y()); });
     };
     picPal_->onDoubleClick = [this] {
-        RunCommand([this] { commands_.OfPalette().PicPal_DblClick(); });
+        RunCommand([this] { commands_.PaletteHandlers().PicPal_DblClick(); });
     };
     picPal_->onMouseMove = [this](Qt::MouseButtons /*held*/, QPoint /*at*/) {
         SetStatusPanel(editing::StatusPanel::Hint, i18n::kSelfDefineColor.Now());
@@ -70,13 +66,10 @@ void FrmIcoEd::ConnectPalette() {
         box->onMouseUp = [this, &button](Qt::MouseButton pressed) {
             if (pressed == Qt::LeftButton) RunCommand([&] { (commands_.*button.mouseUp)(); });
         };
-        box->onMouseMove = [this, &button] {
-            SetStatusPanel(editing::StatusPanel::Hint, button.hint.Now());
-        };
     }
 }
 
-void FrmIcoEd::RepaintPalette() {
+void FrmIcoEd::PaletteChanged() {
     // While the editor is being built there is no widget yet.
     if (picPal_ == nullptr) return;
     picPal_->update();

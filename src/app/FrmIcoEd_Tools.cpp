@@ -62,11 +62,18 @@ void FrmIcoEd::LayOutTools() {
     picTools_ = new qt::SurfaceWidget(editor_.Tools().PicTools(), this);
     picTools_->move(kPicTools);
     for (const WellControl& control : kWellControls) {
-        auto* box = new PictureBox(control.edge, this);
-        box->setObjectName(control.name);
-        box->setGeometry(control.place);
-        box->Show({}, qt::PictureIcon(wellPictures_, control.picture));
+        AddBox(control.name, control.place, control.edge,
+               qt::PictureIcon(wellPictures_, control.picture), control.hint);
     }
+}
+
+void FrmIcoEd::AddBox(const char* name, const QRect& place, PictureBox::Edge edge,
+                      const QIcon& picture, const i18n::Text& hint) {
+    auto* box = new PictureBox(edge, this);
+    box->setObjectName(name);
+    box->setGeometry(place);
+    box->Show({}, picture);
+    box->onMouseMove = [this, hint] { SetStatusPanel(editing::StatusPanel::Hint, hint.Now()); };
 }
 
 void FrmIcoEd::ConnectTools() {
@@ -84,9 +91,6 @@ void FrmIcoEd::ConnectTools() {
         auto* box = findChild<PictureBox*>(control.name);
         box->onMouseUp = [this, &control](Qt::MouseButton button) {
             RunCommand([&] { (wellCommands_.*control.mouseUp)(ToButton(button)); });
-        };
-        box->onMouseMove = [this, &control] {
-            SetStatusPanel(editing::StatusPanel::Hint, control.hint.Now());
         };
     }
 }

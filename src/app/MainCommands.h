@@ -59,7 +59,7 @@ class MainCommands : public CommandHandlers {
 
     DocumentCommands& Documents() { return documents_; }
     ModRecent& Recent() { return recent_; }
-    editing::PaletteCommands& OfPalette() { return palette_; }
+    editing::PaletteCommands& PaletteHandlers() { return palette_; }
     // Enables the Edit commands that can do something now.
     void mnuEdit_Click();
 

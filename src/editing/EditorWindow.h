@@ -27,7 +27,7 @@ class EditorWindow : public document::CanvasWindow {
     // A colour well has changed.
     virtual void RepaintWells() = 0;
     // The palette, its kind or ChkPal has changed.
-    virtual void RepaintPalette() = 0;
+    virtual void PaletteChanged() = 0;
     // Opens the editing pop-up at the pointer.
     virtual void ShowEditingPopup() = 0;
     virtual void Beep() = 0;

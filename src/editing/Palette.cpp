@@ -38,12 +38,12 @@ void Palette::DrawPalette(PaletteReload reload) {
         gdi::DrawSunkenEdge(picPal_, x, y, x + kCellSize, y + kCellSize);
         ++cell;
     }
-    window_.RepaintPalette();
+    window_.PaletteChanged();
 }
 
-void Palette::DrawRandom(system::RandomNumbers& random) {
+void Palette::Randomize(system::RandomNumbers& random) {
     for (std::size_t cell = 1; cell + 1 < colors_.size(); ++cell)
-        colors_[cell] = static_cast<gdi::COLORREF>(std::nearbyint(random.Next() * gdi::kWhite));
+        colors_[cell] = static_cast<gdi::COLORREF>(std::nearbyint(random.Next() * gdi::kColorBits));
     kind_ = PaletteKind::Random;
     DrawPalette(PaletteReload::No);
 }
@@ -62,7 +62,7 @@ void Palette::SetColors(const PaletteColors& colors) {
 
 void Palette::SetChkPal(bool ticked) {
     chkPal_ = ticked;
-    window_.RepaintPalette();
+    window_.PaletteChanged();
 }
 
 }  // namespace kestrel::editing

@@ -29,7 +29,7 @@ class Palette {
     // Paints every cell, after a reload of the default colours if wanted.
     void DrawPalette(PaletteReload reload);
     // All but the first and the last, which stay black and white in the default palette.
-    void DrawRandom(system::RandomNumbers& random);
+    void Randomize(system::RandomNumbers& random);
     void SetColor(std::size_t cell, gdi::COLORREF color);
     void SetColors(const PaletteColors& colors);
 

@@ -43,7 +43,7 @@ void PaletteCommands::mnuPaletteOpts_Click(int index) {
     if (index == 0) {
         palette_.DrawPalette(PaletteReload::Yes);
     } else if (index == 1) {
-        palette_.DrawRandom(parts_.random);
+        palette_.Randomize(parts_.random);
     } else {
         return;
     }

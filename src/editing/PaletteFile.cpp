@@ -91,7 +91,7 @@ Result<void> ReadPaletteText(std::string_view text, PaletteColors& colors) {
         if (!rest) break;
         const auto number = NumberOf(TakeLine(rest));
         if (!number) return system::SystemFailure(EOVERFLOW);
-        color = static_cast<gdi::COLORREF>(*number) & gdi::kWhite;
+        color = static_cast<gdi::COLORREF>(*number) & gdi::kColorBits;
     }
     return {};
 }

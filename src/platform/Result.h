@@ -28,7 +28,7 @@ class [[nodiscard]] Result : public tl::expected<T, Error> {
 };
 
 inline tl::unexpected<Error> Fail(int number, std::string description) {
-    return tl::unexpected<Error>(Error{number, std::move(description), {}});
+    return tl::unexpected<Error>(Error{number, std::move(description)});
 }
 
 }  // namespace kestrel

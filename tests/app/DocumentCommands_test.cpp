@@ -166,7 +166,7 @@ TEST_F(DocumentCommandsTest, WarnsBeforeReplacingSeveralIcons) {
 }
 
 TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
-    given_.files.writeError = {28, "No space left on device", {}};
+    given_.files.writeError = {28, "No space left on device"};
     given_.desktop.choice = "/icons/full.ico";
     commands_.mnuSave_Click();
     ExpectError("No space left on device.\r\n\r\nUnable to save Untitled.");

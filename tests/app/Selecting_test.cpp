@@ -146,7 +146,7 @@ TEST_F(SelectingTest, WhatFloatsIsSaved) {
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(Selected().SelectionMarked());
     Key(Qt::Key_Right);
-    given_.files.writeError = {28, "No space left on device", {}};
+    given_.files.writeError = {28, "No space left on device"};
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(Selected().SelectionFloating()) << "nothing was saved";
     Key(Qt::Key_Z, Qt::ControlModifier);

@@ -36,6 +36,7 @@ TEST_F(GCommonDialogTest, AsksTheDesktopAndTakesItsAnswer) {
     desktop_.choice = "/a/b.pal";
     desktop_.alsoChanges = [](FileRecord& record) {
         record.file += "\0junk"s;
+        record.fileTitle += "\0junk"s;
         record.filterIndex = 1;
         record.flags |= 0x401;
     };
@@ -87,21 +88,23 @@ TEST_F(GCommonDialogTest, CancelClearsWhatWasGivenAndTellsWhy) {
 }
 
 TEST_F(GCommonDialogTest, FileTitles) {
-    for (const auto& [path, title] : {std::pair{"/a/b.pal"s, "b.pal"s},
-                                      {"c:\\x\\y.ico", "y.ico"},
-                                      {"plain", "plain"},
-                                      {"", ""},
-                                      {"/a/", ""},
-                                      {"/" + std::string(259, 'n'), std::string(259, 'n')},
-                                      {"/" + std::string(260, 'n'), ""}}) {
+    for (const auto& [path, title] :
+         {std::pair{"/a/b.pal"s, "b.pal"s},
+          {"c:\\x\\y.ico", "y.ico"},
+          {"plain", "plain"},
+          {"", ""},
+          {"/a/", ""},
+          {"/" + std::string(259, 'n'), std::string(259, 'n')},
+          {"/" + std::string(260, 'n'), ""},
+          {"\xE5\x9B\xBE" + std::string(258, 'n'), "\xE5\x9B\xBE" + std::string(258, 'n')}}) {
         EXPECT_EQ(GCommonDialog::VBGetFileTitle(path), title);
     }
 }
 
 TEST_F(GCommonDialogTest, ColoursAndTheRowOfCustomColours) {
-    EXPECT_EQ(dialog_.CustomColor(0), 0x102000U) << "the desktop's colour 0";
-    EXPECT_EQ(dialog_.CustomColor(15), 0x10200FU);
     dialog_.SetCustomColor(15, 0x5);
+    EXPECT_EQ(dialog_.CustomColor(15), 0x5U);
+    EXPECT_EQ(dialog_.CustomColor(0), 0x102000U) << "the desktop's colour 0";
     for (const int outside : {-1, 16}) {
         dialog_.SetCustomColor(outside, 0x5);
         EXPECT_EQ(dialog_.CustomColor(outside), 0xFFFFFFFFU);
@@ -164,7 +167,7 @@ TEST(Cdb, TellsCancelFromFailureAndRemembersColoursAndPrinter) {
     EXPECT_EQ(desktop.colors.back().customColors[3], 0x123456U);
     for (const int copies : {3, 5})
         EXPECT_EQ(cdb.ShowPrinter()->copies, copies);
-    EXPECT_EQ(desktop.printers.back().file, "/a/b.ico");
+    EXPECT_EQ(desktop.printers.back().choice.file, "/a/b.ico");
     for (const auto owner : {desktop.opens[0].owner, desktop.saves[0].owner,
                              desktop.colors[0].owner, desktop.printers[0].owner}) {
         EXPECT_EQ(owner, 7);

@@ -120,7 +120,7 @@ TEST_F(ColorPaletteTest, CellsAreEdited) {
     palette_.SetChkPal(true);
     commands_.PicPal_MouseUp(Button::Left, 300, 5);
     EXPECT_EQ(desktop_.colors.size(), 2U) << "no cell there";
-    commands_.PicPal_MouseUp(Button::Left, 0, 0);
+    commands_.PicPal_MouseUp(Button::Right, 0, 0);
     EXPECT_EQ(palette_.Colors()[0], 0x123456U) << "one click is enough";
 }
 
@@ -133,7 +133,7 @@ TEST_F(ColorPaletteTest, FilesAreReadLineByLine) {
     } cases[] = {
         {"", {0, 0x80, 0x8000}},
         {"JASC\r\n", {0, 0x80, 0x8000}},
-        {line("7"), {7, 0x80, 0x8000}},
+        {line("7."), {7, 0x80, 0x8000}},
         {line("7\r\n"), {7, 0, 0x8000}},
         {"x\r\n1\r\n2\r\n3\r\n4", {2, 3, 4}},
         {line("1\n2\n3"), {1, 0x80, 0x8000}},
@@ -141,9 +141,9 @@ TEST_F(ColorPaletteTest, FilesAreReadLineByLine) {
         {line("1\r2\r\n\n3\r\n4"), {1, 0, 4}},
         {line("  \t12 34\r\nred\r\n+5x"), {12, 0, 5}},
         {line("12.5\r\n13.5\r\n12.500001"), {12, 14, 13}},
-        {line("12.49999\r\n0.5\r\n1."), {12, 0, 1}},
+        {line("12.49999\r\n0.5\r\n12.51"), {12, 0, 13}},
         {line(".75\r\n16777215\r\n1e3"), {1, 0xFFFFFF, 1}},
-        {line("-1\r\n-0.5\r\n- 4"), {0xFFFFFF, 0, 0}},
+        {line("-1\r\n-1.5\r\n- 4"), {0xFFFFFF, 0xFFFFFE, 0}},
         {line("16777216\r\n2147483647\r\n-2147483648"), {0, 0xFFFFFF, 0}},
         {line("1\r\n2147483648\r\n3"), {1, 0x80, 0x8000}, true},
         {line("1\r\n2147483647.5\r\n3"), {1, 0x80, 0x8000}, true},
@@ -196,7 +196,7 @@ TEST_F(ColorPaletteTest, AreLoadedAndSavedThroughTheDialogs) {
         EXPECT_EQ(asked->file + asked->title + asked->initialFolder, "");
     }
 
-    files_.writeError = {28, "No space left on device", {}};
+    files_.writeError = {28, "No space left on device"};
     const Result<void> full = commands_.ImgSavePalette_Click();
     EXPECT_EQ(full.error().source + full.error().description,
               "KestrelIconEditor.cPaletteNo space left on device");

@@ -6,10 +6,14 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QPrintDialog>
+#include <QRegularExpression>
 #include <QSpinBox>
 #include <QTemporaryDir>
 
+#include "i18n/DesktopTexts.h"
+#include "i18n/Language.h"
 #include "platform/qt/QtDesktopDialogs.h"
+#include "platform/qt/TableTranslator.h"
 #include "tests/support/Typist.h"
 
 namespace kestrel::qt {
@@ -20,7 +24,7 @@ using dialogs::FileRecord;
 using dialogs::kConfirmed;
 using test::Typist;
 
-// A folder with these empty files, deep enough for any name to be too long that says so.
+// Dialogs in a folder with these empty files.
 class FileDialogTest : public testing::Test {
   protected:
     void SetUp() override {
@@ -30,7 +34,7 @@ class FileDialogTest : public testing::Test {
             ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         }
         record_.initialFolder = Path("");
-        record_.filter = "Icon Files (*.ico)\0*.ico\0All Files (*.*)\0*.*\0\0"s;
+        record_.filter = "Icon Files (*.ico)\0*.ico;*.cur\0All Files (*.*)\0*.*\0\0"s;
         record_.defaultExtension = ".ico";
     }
     std::string Path(const char* name) const {
@@ -59,6 +63,9 @@ TEST_F(FileDialogTest, ChecksNamesAndAsksBeforeReplacing) {
         {false, "what?", QMessageBox::Yes, "\nThe file name is not valid.", ""},
         {false, "a\"b\".ico", QMessageBox::Yes, "\nThe file name is not valid.", ""},
         {false, "st*r.ico", QMessageBox::Yes, " already exists.", "st*r.ico"},
+        {false, "sub/", QMessageBox::No, "", ""},
+        {false, "sub", QMessageBox::No, "", ""},
+        {true, "*", QMessageBox::No, "*\nThe file name is not valid.", ""},
         {false, "<b>gone/new.ico", QMessageBox::Yes, "\nDirectory not found.", ""},
         {true, "none.ico", QMessageBox::No, "none.ico\nFile not found.", ""},
         {true, "Bird.ICO", QMessageBox::No, "", "bird.ico"},
@@ -100,7 +107,14 @@ TEST_F(FileDialogTest, ReturnsSeveralFilesAndTheReadOnlyMark) {
     ASSERT_EQ(dialogs_.GetOpenFileName(record_), kConfirmed);
     record_.file.erase(0, Path("").size());
     EXPECT_EQ(record_.file, "\0bird.ico\0plain\0"s);
+    EXPECT_EQ(record_.fileTitle, "");
     EXPECT_EQ(record_.flags, 0x1200U);
+    record_ = {};
+    record_.flags = 0x4;
+    Typist another({}, QMessageBox::No);
+    QTimer::singleShot(
+        0, [] { EXPECT_EQ(QApplication::activeModalWidget()->findChild<QCheckBox*>(), nullptr); });
+    EXPECT_EQ(dialogs_.GetOpenFileName(record_), 0);
 }
 
 TEST_F(FileDialogTest, BeginsWhereAndHowItIsTold) {
@@ -126,6 +140,8 @@ TEST_F(FileDialogTest, BeginsWhereAndHowItIsTold) {
             EXPECT_EQ(dialog->findChild<QLineEdit*>("fileNameEdit")->text(), name);
             EXPECT_EQ(dialog->findChild<QComboBox*>("fileTypeCombo")->itemText(1),
                       "All Files (*.*)");
+            EXPECT_EQ(dialog->nameFilters().join('|'),
+                      "Icon Files (*.ico) (*.ico *.cur)|All Files (*.*) (*)");
             // Looking elsewhere without a choice is not remembered.
             if (*typed == '\0') dialog->setDirectory("/");
         });
@@ -135,11 +151,17 @@ TEST_F(FileDialogTest, BeginsWhereAndHowItIsTold) {
     }
 }
 
+bool IsEnglish(const QString& text) {
+    static const QRegularExpression word(QStringLiteral("^[^\\x{4E00}-\\x{9FFF}]*[a-z]{2,}"));
+    return word.match(text).hasMatch();
+}
+
 TEST(ColorDialog, GivesColourAndCustomColoursUnlessCancelled) {
     dialogs::ColorRecord asked;
     asked.color = 0x123456;
     asked.customColors[1] = 0x0A0B0C;
     asked.flags = dialogs::kInitialColor;
+    QColorDialog::setCustomColor(15, Qt::blue);
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
         QTimer::singleShot(0, [key] {
             auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
@@ -156,6 +178,7 @@ TEST(ColorDialog, GivesColourAndCustomColoursUnlessCancelled) {
         EXPECT_EQ(record.color, chosen ? 0x030201U : 0x123456U);
         EXPECT_EQ(record.customColors[15], chosen ? 0x0000FFU : 0U);
         EXPECT_EQ(record.customColors[1], 0x0A0B0CU);
+        EXPECT_EQ(QColorDialog::customColor(15), Qt::blue) << "other programs have it, too";
     }
 }
 
@@ -163,8 +186,8 @@ TEST(PrinterDialog, GivesTheFileAndTheCopies) {
     const QTemporaryDir folder;
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
         dialogs::PrinterRecord record;
-        record.file = folder.filePath("page.pdf").toStdString();
-        record.copies = 2;
+        record.choice.file = folder.filePath("page.pdf").toStdString();
+        record.choice.copies = 2;
         QTimer::singleShot(0, [key] {
             auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
@@ -175,9 +198,41 @@ TEST(PrinterDialog, GivesTheFileAndTheCopies) {
         });
         const bool chosen = QtDesktopDialogs().ChoosePrinter(record) == kConfirmed;
         EXPECT_EQ(chosen, key == Qt::Key_Return);
-        EXPECT_EQ(record.copies, chosen ? 3 : 2);
-        EXPECT_EQ(record.file, folder.filePath("page.pdf").toStdString());
+        EXPECT_EQ(record.choice.copies, chosen ? 3 : 2);
+        EXPECT_EQ(record.choice.file, folder.filePath("page.pdf").toStdString());
     }
+}
+
+// What a user reads in the dialogs, but for names and numbers.
+TEST(Dialogs, SpeakChinese) {
+    TableTranslator translator(i18n::DesktopText);
+    QApplication::installTranslator(&translator);
+    i18n::SetUiLanguage(i18n::kChinese);
+    QtDesktopDialogs dialogs;
+    FileRecord file;
+    dialogs::ColorRecord color;
+    dialogs::PrinterRecord printer;
+    const std::function<std::int32_t()> shows[] = {[&] { return dialogs.GetOpenFileName(file); },
+                                                   [&] { return dialogs.GetSaveFileName(file); },
+                                                   [&] { return dialogs.ChooseColor(color); },
+                                                   [&] { return dialogs.ChoosePrinter(printer); }};
+    for (const auto& show : shows) {
+        QTimer::singleShot(0, [] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            EXPECT_FALSE(IsEnglish(dialog->windowTitle())) << dialog->windowTitle().toStdString();
+            for (const QWidget* part : dialog->findChildren<QWidget*>()) {
+                for (const char* property : {"text", "title"}) {
+                    const bool isTyped = qobject_cast<const QLineEdit*>(part) != nullptr;
+                    const QString text = part->property(property).toString();
+                    EXPECT_FALSE(!isTyped && IsEnglish(text)) << text.toStdString();
+                }
+            }
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        });
+        EXPECT_EQ(show(), 0);
+    }
+    i18n::SetUiLanguage(i18n::kEnglish);
+    QApplication::removeTranslator(&translator);
 }
 
 }  // namespace

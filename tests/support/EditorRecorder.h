@@ -26,7 +26,7 @@ class RecordingEditorWindow : public editing::EditorWindow {
     void RepaintTools() override { ++toolRepaints; }
     void SetToolTipOfTools(std::string_view text) override { toolTip = text; }
     void RepaintWells() override { ++wellRepaints; }
-    void RepaintPalette() override { ++paletteRepaints; }
+    void PaletteChanged() override {}
     void ShowEditingPopup() override { ++popups; }
     void Beep() override { ++beeps; }
     void RefreshEditCommands() override { ++refreshes; }
@@ -39,7 +39,6 @@ class RecordingEditorWindow : public editing::EditorWindow {
     editing::GridCursor cursor = editing::GridCursor::Cross;
     int toolRepaints = 0;
     int wellRepaints = 0;
-    int paletteRepaints = 0;
     int popups = 0;
     int beeps = 0;
     int refreshes = 0;

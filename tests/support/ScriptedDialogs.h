@@ -31,8 +31,8 @@ class ScriptedDialogs : public dialogs::DesktopDialogs {
     std::int32_t ChoosePrinter(dialogs::PrinterRecord& record) override {
         printers.push_back(record);
         if (choice.empty()) return 0;
-        record.file = choice;
-        record.copies += 2;
+        record.choice.file = choice;
+        record.choice.copies += 2;
         return dialogs::kConfirmed;
     }
     std::int32_t CommDlgExtendedError() const override { return error; }

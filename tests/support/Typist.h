@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
 #include <QListView>
@@ -11,8 +10,8 @@
 
 namespace kestrel::test {
 
-// A user at the keyboard: types a name into the file dialog, answers every box that comes up, and
-// gives up when the dialog stays. An empty name cancels at once.
+// A user at the keyboard: types a name into the file dialog, answers every box that comes up (with
+// Return for No), and gives up when the dialog stays. An empty name cancels at once.
 class Typist {
   public:
     Typist(QString name, QMessageBox::StandardButton answer)
@@ -33,7 +32,11 @@ class Typist {
         if (front == nullptr) return;
         if (auto* box = qobject_cast<QMessageBox*>(front)) {
             boxes << box->text();
-            box->button(box->buttons().size() > 1 ? answer_ : QMessageBox::Ok)->click();
+            if (answer_ == QMessageBox::No || box->buttons().size() == 1) {
+                QTest::keyClick(box, Qt::Key_Return);
+            } else {
+                box->button(answer_)->click();
+            }
         } else if (name_.isEmpty()) {
             title = front->windowTitle();
             QTest::keyClick(front, Qt::Key_Escape);

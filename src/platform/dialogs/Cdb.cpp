@@ -1,7 +1,5 @@
 #include "platform/dialogs/Cdb.h"
 
-#include <algorithm>
-
 namespace kestrel::dialogs {
 
 Cdb::Cdb(DesktopDialogs& desktop, const OwnerWindow& owner) : desktop_(desktop), owner_(owner) {
@@ -29,21 +27,16 @@ Result<gdi::COLORREF> Cdb::ShowColor(gdi::COLORREF current) {
 }
 
 Result<ChosenPrinter> Cdb::ShowPrinter() {
-    PrinterRecord record{.owner = owner_.hWnd(),
-                         .printer = printer_.printer,
-                         .file = printer_.file,
-                         .copies = printer_.copies};
+    PrinterRecord record{.owner = owner_.hWnd(), .choice = printer_};
     if (desktop_.ChoosePrinter(record) != kConfirmed) return Unconfirmed();
-    printer_ = {record.printer, record.file, record.copies};
+    printer_ = record.choice;
     return printer_;
 }
 
 FileRecord Cdb::RecordOf(const FileRequest& request) const {
     FileRecord record;
     record.owner = owner_.hWnd();
-    record.filter = request.filter;
-    std::replace(record.filter.begin(), record.filter.end(), '|', '\0');
-    record.filter.append(2, '\0');
+    record.filter = FilterOf(request.filter, "|");
     record.filterIndex = request.filterIndex;
     record.file = request.fileName;
     record.title = request.title;

@@ -24,13 +24,6 @@ struct ChosenFile {
     std::string fileTitle;
 };
 
-struct ChosenPrinter {
-    // Empty: to the file.
-    std::string printer;
-    std::string file;
-    int copies = 1;
-};
-
 // The main window's dialog control. A dialog that the user closes without choosing fails with
 // kDialogCancelled, every other failure with the desktop's own number.
 class Cdb {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "platform/gdi/Color.h"
 
@@ -57,6 +58,9 @@ struct FileRecord {
     std::uint32_t flags = 0;
 };
 
+// The `filter` of a record from a list that these characters part.
+std::string FilterOf(std::string list, std::string_view separators);
+
 using CustomColors = std::array<gdi::COLORREF, 16>;
 
 // What the colour dialog is asked with and answers in.
@@ -68,12 +72,17 @@ struct ColorRecord {
     std::uint32_t flags = 0;
 };
 
-// What the printer dialog is asked with and answers in. A printer without a name prints to a file.
-struct PrinterRecord {
-    WindowHandle owner = kNoOwner;
+// A printer without a name prints to the file.
+struct ChosenPrinter {
     std::string printer;
     std::string file;
     int copies = 1;
+};
+
+// What the printer dialog is asked with and answers in.
+struct PrinterRecord {
+    WindowHandle owner = kNoOwner;
+    ChosenPrinter choice;
 };
 
 // The desktop's standard dialogs. Each is modal to the owner's window, changes its record when the

@@ -1,7 +1,5 @@
 #include "platform/dialogs/GCommonDialog.h"
 
-#include <algorithm>
-
 #include "platform/system/Characters.h"
 #include "platform/system/PathText.h"
 
@@ -9,19 +7,12 @@ namespace kestrel::dialogs {
 
 namespace {
 
-std::string WithNuls(std::string filter) {
-    for (const char separator : {'|', ':'})
-        std::replace(filter.begin(), filter.end(), separator, '\0');
-    return filter.append(2, '\0');
-}
-
 std::string UpToNul(const std::string& buffer) {
     return buffer.substr(0, buffer.find('\0'));
 }
 
 bool FitsBuffer(const std::string& name) {
-    const auto characters = std::count_if(name.begin(), name.end(), system::StartsCharacter);
-    return static_cast<std::size_t>(characters) < GCommonDialog::kMaxFile;
+    return system::CountCharacters(name) < GCommonDialog::kMaxFile;
 }
 
 constexpr std::uint32_t When(bool condition, std::uint32_t flag) {
@@ -82,11 +73,12 @@ bool GCommonDialog::VBGetSaveFileName(std::string& Filename, std::string& FileTi
 bool GCommonDialog::ChooseFile(FileFunction show, FileRecord& record, std::string& Filename,
                                std::string& FileTitle, std::string& Filter, int& FilterIndex,
                                std::uint32_t& flags) {
-    record.filter = WithNuls(Filter);
+    record.filter = FilterOf(Filter, "|:");
     record.filterIndex = FilterIndex;
     record.file = Filename;
     record.fileTitle = FileTitle;
-    if (!Confirmed((desktop_.*show)(record))) {
+    ClearResult();
+    if (!NoteResult((desktop_.*show)(record))) {
         Filename.clear();
         FileTitle.clear();
         Filter.clear();
@@ -114,7 +106,8 @@ bool GCommonDialog::VBChooseColor(gdi::COLORREF& Color, bool AnyColor, bool Full
     record.customColors = customColors_;
     record.flags = kInitialColor | (AnyColor ? kAnyColor : kSolidColor) |
                    When(FullOpen, kFullOpen) | When(DisableFullOpen, kPreventFullOpen);
-    if (!Confirmed(desktop_.ChooseColor(record))) {
+    ClearResult();
+    if (!NoteResult(desktop_.ChooseColor(record))) {
         Color = gdi::CLR_INVALID;
         return false;
     }
@@ -134,18 +127,25 @@ void GCommonDialog::SetCustomColor(int iValue, gdi::COLORREF color) {
     if (IsCustomColor(iValue)) customColors_[static_cast<std::size_t>(iValue)] = color;
 }
 
-bool GCommonDialog::Confirmed(std::int32_t returned) {
+void GCommonDialog::ClearResult() {
+    apiReturn_ = 0;
+    extendedError_ = 0;
+}
+
+// Whether the user confirmed.
+bool GCommonDialog::NoteResult(std::int32_t returned) {
     apiReturn_ = returned;
     const bool confirmed = returned == kConfirmed;
-    extendedError_ = confirmed ? 0 : desktop_.CommDlgExtendedError();
+    if (!confirmed) extendedError_ = desktop_.CommDlgExtendedError();
     return confirmed;
 }
 
 void GCommonDialog::FillCustomColors() {
     if (customColorsFilled_) return;
     customColorsFilled_ = true;
-    for (int i = 0; IsCustomColor(i); ++i)
-        customColors_[static_cast<std::size_t>(i)] = desktop_.GetSysColor(i);
+    int role = 0;
+    for (gdi::COLORREF& color : customColors_)
+        color = desktop_.GetSysColor(role++);
 }
 
 }  // namespace kestrel::dialogs

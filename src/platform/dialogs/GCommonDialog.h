@@ -51,7 +51,8 @@ class GCommonDialog {
     bool ChooseFile(FileFunction show, FileRecord& record, std::string& Filename,
                     std::string& FileTitle, std::string& Filter, int& FilterIndex,
                     std::uint32_t& flags);
-    bool Confirmed(std::int32_t returned);
+    void ClearResult();
+    bool NoteResult(std::int32_t returned);
     void FillCustomColors();
 
     DesktopDialogs& desktop_;

@@ -9,6 +9,8 @@ using COLORREF = std::uint32_t;
 
 inline constexpr COLORREF kBlack = 0x000000;
 inline constexpr COLORREF kWhite = 0xFFFFFF;
+// The bits of a colour.
+inline constexpr COLORREF kColorBits = 0xFFFFFF;
 // What reading a pixel outside a surface gives.
 inline constexpr COLORREF CLR_INVALID = 0xFFFFFFFF;
 

@@ -2,12 +2,15 @@
 
 #include <QComboBox>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QHeaderView>
 #include <QLayout>
 #include <QLineEdit>
+#include <QScreen>
 #include <QTreeView>
 #include <algorithm>
 
+#include "platform/system/Characters.h"
 #include "platform/system/PathText.h"
 
 namespace kestrel::qt {
@@ -34,12 +37,29 @@ QString Resolved(const QString& path) {
     return QString::fromStdString(system::ResolvePath(path.toStdString()));
 }
 
-// Of the columns beside the names the last was cut.
-void ShowDatesWhole(const QFileDialog& dialog) {
-    const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+// Sizes and dates in their own width, and the rest for the names: the library cuts the dates.
+void FitColumns(QTreeView& files) {
+    constexpr int kNarrowestNames = 160;  // pixels
+    int rest = files.viewport()->width();
+    for (int column = 1; column < files.header()->count(); ++column) {
+        files.resizeColumnToContents(column);
+        rest -= files.columnWidth(column);
+    }
+    files.setColumnWidth(0, std::max(rest, kNarrowestNames));
+}
+
+void ShowColumnsWhole(QFileDialog& dialog) {
+    constexpr QSize kRoomForColumns(680, 0);
+    dialog.resize(
+        dialog.size().expandedTo(kRoomForColumns).boundedTo(dialog.screen()->availableSize()));
+    auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
     if (files == nullptr) return;
-    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    const auto* model = qobject_cast<QFileSystemModel*>(files->model());
+    const auto fit = [files] { FitColumns(*files); };
+    if (model != nullptr) {
+        QObject::connect(model, &QFileSystemModel::directoryLoaded, files, fit,
+                         Qt::SingleShotConnection);
+    }
 }
 
 }  // namespace
@@ -53,8 +73,6 @@ FileNameDialog::FileNameDialog(AcceptMode mode, const FileRecord& record, QWidge
     setFileMode(Asks(dialogs::kMultiSelect) ? QFileDialog::ExistingFiles : QFileDialog::AnyFile);
     setNameFilters(NameFilters(record.filter));
     selectNameFilter(nameFilters().value(record.filterIndex - 1));
-    // The library would add it to the name of an existing file that has none.
-    if (mode == AcceptSave) setDefaultSuffix(QString::fromStdString(record.defaultExtension));
     if (!record.initialFolder.empty())
         setDirectory(Resolved(QString::fromStdString(record.initialFolder)));
     // A path may differ in letter case from the file it names; a mere name is only a proposal.
@@ -62,7 +80,7 @@ FileNameDialog::FileNameDialog(AcceptMode mode, const FileRecord& record, QWidge
         const bool isPath = !system::FolderOf(record.file).empty();
         selectFile(isPath ? Resolved(name) : name);
     }
-    ShowDatesWhole(*this);
+    ShowColumnsWhole(*this);
     if (mode == AcceptOpen && !Asks(dialogs::kHideReadOnly)) {
         readOnly_ = new QCheckBox(tr("Open as &read-only"), this);
         readOnly_->setChecked(Asks(dialogs::kReadOnly));
@@ -71,17 +89,9 @@ FileNameDialog::FileNameDialog(AcceptMode mode, const FileRecord& record, QWidge
 }
 
 void FileNameDialog::AnswerIn(FileRecord& record) const {
-    const QStringList paths = ChosenPaths();
-    const QFileInfo first(paths.value(0));
-    record.file = first.filePath().toStdString();
-    record.fileTitle = first.fileName().toStdString();
-    if (paths.size() > 1) {
-        record.file = first.path().toStdString();
-        for (const QString& path : paths)
-            record.file += '\0' + QFileInfo(path).fileName().toStdString();
-        record.file += '\0';
-        record.fileTitle.clear();
-    }
+    record.file = Answer().toStdString();
+    record.fileTitle =
+        chosen_.size() > 1 ? "" : QFileInfo(chosen_.value(0)).fileName().toStdString();
     if (const auto* filters = findChild<QComboBox*>(QStringLiteral("fileTypeCombo")))
         record.filterIndex = filters->currentIndex() + 1;
     if (readOnly_ == nullptr) return;
@@ -90,35 +100,41 @@ void FileNameDialog::AnswerIn(FileRecord& record) const {
 }
 
 std::string FileNameDialog::ChosenFolder() const {
-    return QFileInfo(ChosenPaths().value(0)).path().toStdString();
+    return QFileInfo(chosen_.value(0)).path().toStdString();
 }
 
-QStringList FileNameDialog::ChosenPaths() const {
-    QStringList paths = selectedFiles();
-    std::transform(paths.begin(), paths.end(), paths.begin(), [this](const QString& path) {
-        return WithExtension(Resolved(QDir::cleanPath(path)));
-    });
-    return paths;
+// The path, or the folder and the names.
+QString FileNameDialog::Answer() const {
+    if (chosen_.size() < 2) return chosen_.value(0);
+    QString answer = QFileInfo(chosen_[0]).path() + QChar(QChar::Null);
+    for (const QString& path : chosen_)
+        answer += QFileInfo(path).fileName() + QChar(QChar::Null);
+    return answer;
 }
 
+// The library would add the extension also to an existing file that is to be opened and has none.
 QString FileNameDialog::WithExtension(const QString& path) const {
     const QFileInfo chosen(path);
     QString extension = QString::fromStdString(record_.defaultExtension);
-    if (extension.isEmpty() || chosen.exists() || chosen.fileName().contains(QLatin1Char('.')))
+    if (extension.isEmpty() || chosen.fileName().contains(QLatin1Char('.')) || chosen.isDir() ||
+        (acceptMode() == AcceptOpen && chosen.exists())) {
         return path;
+    }
     if (extension.startsWith(QLatin1Char('.'))) extension.remove(0, 1);
     return Resolved(path + QLatin1Char('.') + extension);
 }
 
 void FileNameDialog::accept() {
-    const QStringList paths = ChosenPaths();
-    const bool goesThere = std::all_of(paths.begin(), paths.end(),
+    chosen_ = selectedFiles();
+    for (QString& path : chosen_)
+        path = WithExtension(Resolved(QDir::cleanPath(path)));
+    const bool goesThere = std::all_of(chosen_.begin(), chosen_.end(),
                                        [](const QString& path) { return QFileInfo(path).isDir(); });
     const auto mayTake = [this](const QString& path) {
         const QFileInfo chosen(path);
-        return acceptMode() == AcceptOpen ? MayOpen(chosen) : MaySaveAs(chosen);
+        return IsName(chosen) && (acceptMode() == AcceptOpen ? MayOpen(chosen) : MaySaveAs(chosen));
     };
-    if (goesThere || (std::all_of(paths.begin(), paths.end(), mayTake) && FitsBuffer()))
+    if (goesThere || (std::all_of(chosen_.begin(), chosen_.end(), mayTake) && FitsBuffer()))
         QFileDialog::accept();
 }
 
@@ -129,15 +145,18 @@ bool FileNameDialog::MayOpen(const QFileInfo& chosen) {
     return false;
 }
 
-bool FileNameDialog::MaySaveAs(const QFileInfo& chosen) {
-    // The library takes quotes as marks between several names.
+bool FileNameDialog::IsName(const QFileInfo& chosen) {
     const auto* edit = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     const QString typed = edit == nullptr ? chosen.fileName() : edit->text();
     const bool wildcards = typed.contains(QLatin1Char('*')) || typed.contains(QLatin1Char('?'));
-    if (typed.contains(QLatin1Char('"')) || (wildcards && !chosen.exists())) {
-        Tell(tr("%1\nThe file name is not valid."), typed);
-        return false;
-    }
+    // The library takes quotes as marks between several names.
+    const bool several = acceptMode() == AcceptSave && typed.contains(QLatin1Char('"'));
+    if (!several && (!wildcards || chosen.exists())) return true;
+    Tell(tr("%1\nThe file name is not valid."), typed);
+    return false;
+}
+
+bool FileNameDialog::MaySaveAs(const QFileInfo& chosen) {
     if (Asks(dialogs::kPathMustExist) && !chosen.absoluteDir().exists()) {
         Tell(tr("%1\nDirectory not found.\nPlease verify the correct directory name was given."),
              chosen.absolutePath());
@@ -149,12 +168,10 @@ bool FileNameDialog::MaySaveAs(const QFileInfo& chosen) {
 }
 
 bool FileNameDialog::FitsBuffer() {
-    FileRecord answer = record_;
-    AnswerIn(answer);
-    const QString file = QString::fromStdString(answer.file);
-    const auto characters = static_cast<std::size_t>(file.toUcs4().size());
-    if (record_.maxFile == 0 || characters < record_.maxFile) return true;
-    Tell(tr("%1\nThe file name is too long."), QString::fromStdString(answer.fileTitle));
+    const QString answer = Answer();
+    if (record_.maxFile == 0 || system::CountCharacters(answer.toStdString()) < record_.maxFile)
+        return true;
+    Tell(tr("%1\nThe file name is too long."), QFileInfo(chosen_.value(0)).fileName());
     return false;
 }
 

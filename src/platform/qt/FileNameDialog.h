@@ -23,8 +23,9 @@ class FileNameDialog : public QFileDialog {
 
   private:
     bool Asks(std::uint32_t flag) const { return (record_.flags & flag) != 0; }
-    QStringList ChosenPaths() const;
+    QString Answer() const;
     QString WithExtension(const QString& path) const;
+    bool IsName(const QFileInfo& chosen);
     bool MayOpen(const QFileInfo& chosen);
     bool MaySaveAs(const QFileInfo& chosen);
     bool FitsBuffer();
@@ -33,6 +34,8 @@ class FileNameDialog : public QFileDialog {
 
     const dialogs::FileRecord record_;
     QCheckBox* readOnly_ = nullptr;
+    // What the user chose last, spelled as on the disk and with its extension.
+    QStringList chosen_;
 };
 
 }  // namespace kestrel::qt

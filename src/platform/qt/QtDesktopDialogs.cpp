@@ -1,7 +1,9 @@
 #include "platform/qt/QtDesktopDialogs.h"
 
+#include <QApplication>
 #include <QColorDialog>
-#include <QGuiApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -23,9 +25,59 @@ QWidget* WindowOf(WindowHandle owner) {
     return owner == dialogs::kNoOwner ? nullptr : QWidget::find(static_cast<WId>(owner));
 }
 
-// Whether the user confirmed. A window manager may forget who comes next when a dialog goes together
-// with a box over it.
+// The library has one row of custom colours for all programs and keeps it in a file; while this
+// lives it holds the colours of one dialog.
+class LibrarysCustomColors {
+  public:
+    explicit LibrarysCustomColors(const CustomColors& colors) : before_(Now()) { Set(colors); }
+    LibrarysCustomColors(const LibrarysCustomColors&) = delete;
+    LibrarysCustomColors& operator=(const LibrarysCustomColors&) = delete;
+    ~LibrarysCustomColors() { Set(before_); }
+
+    static CustomColors Now() {
+        CustomColors colors{};
+        int index = 0;
+        for (gdi::COLORREF& color : colors)
+            color = ToColorRef(QColorDialog::customColor(index++));
+        return colors;
+    }
+
+  private:
+    static void Set(const CustomColors& colors) {
+        int index = 0;
+        for (const gdi::COLORREF color : colors)
+            QColorDialog::setCustomColor(index++, ToColor(color));
+    }
+
+    CustomColors before_;
+};
+
+// A dialog that a click opens comes up under the pointer. When the click was the first of a quick
+// pair, the second press is not meant for the dialog.
+class SecondPressGuard : public QObject {
+  public:
+    SecondPressGuard() : clicked_(QCursor::pos()) {
+        sinceClick_.start();
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+  protected:
+    bool eventFilter(QObject* /*target*/, QEvent* event) override {
+        if (event->type() != QEvent::MouseButtonPress) return false;
+        const QPoint at = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+        return sinceClick_.elapsed() < QApplication::doubleClickInterval() &&
+               (at - clicked_).manhattanLength() < QApplication::startDragDistance();
+    }
+
+  private:
+    QPoint clicked_;
+    QElapsedTimer sinceClick_;
+};
+
+// Whether the user confirmed. A window manager may forget who comes next when a dialog goes
+// together with a box over it.
 bool Ask(QDialog& dialog) {
+    const SecondPressGuard guard;
     const bool confirmed = dialog.exec() == QDialog::Accepted;
     if (dialog.parentWidget() != nullptr) dialog.parentWidget()->activateWindow();
     return confirmed;
@@ -51,9 +103,7 @@ std::int32_t QtDesktopDialogs::ChooseFile(FileNameDialog::AcceptMode mode, FileR
 }
 
 std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
-    // The library has one row of custom colours for all dialogs.
-    for (std::size_t i = 0; i < record.customColors.size(); ++i)
-        QColorDialog::setCustomColor(static_cast<int>(i), ToColor(record.customColors[i]));
+    const LibrarysCustomColors row(record.customColors);
     QColorDialog dialog(WindowOf(record.owner));
     // The desktop's own dialog speaks the desktop's language.
     dialog.setOption(QColorDialog::DontUseNativeDialog);
@@ -61,23 +111,23 @@ std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
     dialog.setCurrentColor(ToColor(preset ? record.color : gdi::kBlack));
     if (!Ask(dialog)) return kCancelled;
     record.color = ToColorRef(dialog.selectedColor());
-    for (std::size_t i = 0; i < record.customColors.size(); ++i)
-        record.customColors[i] = ToColorRef(QColorDialog::customColor(static_cast<int>(i)));
+    record.customColors = LibrarysCustomColors::Now();
     return dialogs::kConfirmed;
 }
 
 std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
     QPrinter printer;
-    if (!record.printer.empty()) printer.setPrinterName(QString::fromStdString(record.printer));
-    if (!record.file.empty()) printer.setOutputFileName(QString::fromStdString(record.file));
-    printer.setCopyCount(record.copies);
+    auto& [name, file, copies] = record.choice;
+    if (!name.empty()) printer.setPrinterName(QString::fromStdString(name));
+    if (!file.empty()) printer.setOutputFileName(QString::fromStdString(file));
+    printer.setCopyCount(copies);
     QPrintDialog dialog(&printer, WindowOf(record.owner));
     // There is one page, and each copy is a job of its own.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile);
     if (!Ask(dialog)) return kCancelled;
-    record.printer = printer.printerName().toStdString();
-    record.file = printer.outputFileName().toStdString();
-    record.copies = printer.copyCount();
+    name = printer.printerName().toStdString();
+    file = printer.outputFileName().toStdString();
+    copies = printer.copyCount();
     return dialogs::kConfirmed;
 }
 

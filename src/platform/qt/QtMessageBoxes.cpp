@@ -1,5 +1,6 @@
 #include "platform/qt/QtMessageBoxes.h"
 
+#include <QGridLayout>
 #include <QMessageBox>
 
 namespace kestrel::qt {
@@ -49,6 +50,18 @@ Answer ToAnswer(int button, BoxButtons asked) {
     }
 }
 
+// A short sentence makes a box whose frame cuts the title.
+void MakeRoomForTitle(QMessageBox& box) {
+    constexpr int kButtonsOfFrame = 120;  // pixels, with the icon
+    QFont frameFont = box.font();
+    frameFont.setBold(true);
+    const int width = QFontMetrics(frameFont).horizontalAdvance(box.windowTitle());
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()); grid != nullptr) {
+        grid->addItem(new QSpacerItem(width + kButtonsOfFrame, 0), grid->rowCount(), 0, 1,
+                      grid->columnCount());
+    }
+}
+
 }  // namespace
 
 Answer QtMessageBoxes::Show(BoxIcon icon, BoxButtons buttons, const std::string& text,
@@ -57,6 +70,7 @@ Answer QtMessageBoxes::Show(BoxIcon icon, BoxButtons buttons, const std::string&
                     QString::fromStdString(text).remove(QLatin1Char('\r')), ToButtons(buttons),
                     owner_);
     box.setTextFormat(Qt::PlainText);
+    MakeRoomForTitle(box);
     return ToAnswer(box.exec(), buttons);
 }
 

@@ -3,7 +3,6 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <cmath>
-#include <utility>
 
 #include "platform/qt/Pictures.h"
 
@@ -40,13 +39,14 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
+    doubleClicked_ = Qt::NoButton;
     if (onMouseDown) onMouseDown(event->button(), PointOf(*event));
 }
 
 // The second press of a quick pair is a press like any other.
 void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
-    doubleClicked_ = true;
+    doubleClicked_ = event->button();
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
@@ -54,9 +54,13 @@ void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
-    const bool doubleClicked = std::exchange(doubleClicked_, false);
-    if (onMouseUp) onMouseUp(event->button(), PointOf(*event));
-    if (doubleClicked && onDoubleClick) onDoubleClick();
+    const bool ofDoubleClick = event->button() == doubleClicked_;
+    if (ofDoubleClick) doubleClicked_ = Qt::NoButton;
+    if (ofDoubleClick && onDoubleClick) {
+        onDoubleClick();
+    } else if (onMouseUp) {
+        onMouseUp(event->button(), PointOf(*event));
+    }
 }
 
 }  // namespace kestrel::qt

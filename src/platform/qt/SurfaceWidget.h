@@ -20,7 +20,7 @@ class SurfaceWidget : public QWidget {
     std::function<void(Qt::MouseButton button, QPoint point)> onMouseDown;
     std::function<void(Qt::MouseButtons held, QPoint point)> onMouseMove;
     std::function<void(Qt::MouseButton button, QPoint point)> onMouseUp;
-    // The second button of a quick pair has come up, after onMouseUp.
+    // In place of onMouseUp where the second press of a quick pair ends, wherever that is.
     std::function<void()> onDoubleClick;
 
   protected:
@@ -32,7 +32,8 @@ class SurfaceWidget : public QWidget {
 
   private:
     const gdi::Surface& surface_;
-    bool doubleClicked_ = false;
+    // The button of a quick pair whose second press is held; NoButton for none.
+    Qt::MouseButton doubleClicked_ = Qt::NoButton;
 };
 
 }  // namespace kestrel::qt

@@ -6,6 +6,9 @@
 
 namespace kestrel::qt {
 
+// Of labels and status texts.
+inline constexpr int kSmallFontPixels = 11;
+
 // The widget's font in another size.
 inline QFont FontOf(const QWidget& widget, int pixels) {
     QFont font = widget.font();
