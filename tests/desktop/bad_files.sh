@@ -6,20 +6,13 @@ StartDesktop
 
 kMemoryLimit=100000 # kB
 
-good=$scratch/good.ico
-convert -size 32x32 xc:'#204060' "$good"
-
 # Bytes <hex>...: writes them.
 Bytes() { printf '%b' "$(printf '%s' "$@" | sed 's/../\\x&/g')"; }
 # Entry <width> <height> <bytes> <offset>, the numbers as little-endian hex.
 Header() { Bytes 000001000100 "$1" "$2" 0000 01001800 "$3" "$4"; }
 
 : >"$files/Empty.ico"
-head -c 5 "$good" >"$files/Short.ico"
-head -c 40 "$good" >"$files/Cut.ico"
-Bytes 00000100ffff >"$files/Count.ico"
 head -c 65536 /dev/zero | tr '\0' '\377' >"$files/Ones.ico"
-Header 20 20 a80c0000 f0ffffff >"$files/Offset.ico"
 { Header 00 00 ffffff7f 16000000; Bytes 28000000 ffffff7f ffffff7f 01002000; head -c 24 /dev/zero; } \
     >"$files/Huge.ico"
 # A picture of 30000 x 30000 in a few kilobytes of PNG.
@@ -30,7 +23,6 @@ Header 20 20 a80c0000 f0ffffff >"$files/Offset.ico"
     Bytes 0000753000007530
     tail -c +25 "$scratch/dot.png"
 } >"$files/Bomb.ico"
-echo 'This is no icon.' >"$files/Text.ico"
 mkdir "$files/Folder.ico"
 
 for file in "$files"/*.ico "$files/Missing.ico"; do

@@ -40,10 +40,6 @@ ExpectCell 16 16 c00000
 Press ctrl+o
 AnswerDialog 'KestrelIconEditor - Open' "$files/Notes.txt"
 ExpectError 'Unable to open the file Notes.txt' Red.ico
-Press ctrl+o
-WaitForWindow 'KestrelIconEditor - Open'
-Press Escape
-WaitForWindow 'KestrelIconEditor - Red.ico'
 ExpectCell 16 16 c00000
 
 Drop "$files/Blue.ico" "$files/Red.ico"
