@@ -7,7 +7,6 @@
 #include <tuple>
 #include <vector>
 
-#include "i18n/ClassicMenu.h"
 #include "i18n/ToolbarTable.h"
 #include "tests/support/ListedTexts.h"
 
@@ -80,11 +79,6 @@ TEST(ModLanguage, TheTextsOfTheWindowAreAsListedInBothLanguages) {
         EXPECT_EQ(button.key, hints[i][Key]);
         EXPECT_EQ(button.status.english, hints[i][English]);
         EXPECT_EQ(button.status.chinese, hints[i][Chinese]);
-    }
-    EXPECT_EQ(ClassicRows().size(), ListedTexts("classic").size());
-    for (const Row& row : ListedTexts("classic")) {
-        EXPECT_EQ(ClassicCaption(row[Key]).english, row[English]) << row[Key];
-        EXPECT_EQ(ClassicCaption(row[Key]).chinese, row[Chinese]) << row[Key];
     }
 }
 
