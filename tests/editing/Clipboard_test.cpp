@@ -70,47 +70,28 @@ TEST(PasteFit, WhiteAndHalfTransparentPixelsAreSeeThroughUnlessOpaque) {
     }
 }
 
-class ClipboardTest : public test::EditorTest {
-  protected:
-    // Selects a red, a white and a transparent pixel; below them lie two of the last kind and one
-    // that inverts the screen.
-    ClipboardTest() {
-        Paint({10, 10}, 0x0000FF);
-        Paint({11, 10}, gdi::kWhite);
-        icon_.PicImage.SetPixel(12, 11, 0x123456);
-        editor_.History().PushUndoSnapshot();
-        editor_.Tools().SelectTool(ToolId::Selection);
-        Stroke(Button::Left, {{100, 100}, {130, 120}});
-        icon_.Modified = false;
-    }
-
-    test::RecordingWindow dialog_;
-    test::MemoryClipboard clipboard_;
-    ClipboardCommands commands_{editor_, clipboard_, dialog_};
-};
-
-TEST_F(ClipboardTest, CopyPutsTheSelectionOverWhiteWithItsAlpha) {
-    commands_.Copy();
-    ASSERT_EQ(clipboard_.image->Bounds(), (gdi::Rect{0, 0, 3, 2}));
-    const auto pixels = clipboard_.image->Pixels();
-    EXPECT_EQ(
-        std::vector(pixels.begin(), pixels.end()),
-        (std::vector<COLORREF>{0xFF0000FF, 0xFFFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xEDCBA9}));
-    EXPECT_FALSE(icon_.Modified);
-    clipboard_.image.reset();
-    editor_.Selected().DropSelection();
-    commands_.Copy();
-    EXPECT_FALSE(clipboard_.HasImage()) << "there is nothing to copy";
-}
+using ClipboardTest = test::EditorTest;
 
 TEST_F(ClipboardTest, CutAndPasteMoveToTheTopLeftCorner) {
-    commands_.Cut();
+    test::RecordingWindow dialog;
+    test::MemoryClipboard clipboard;
+    ClipboardCommands commands(editor_, clipboard, dialog);
+    // A red, a white and a transparent pixel; below them two of the last kind and one that inverts
+    // the screen.
+    Paint({10, 10}, 0x0000FF);
+    Paint({11, 10}, gdi::kWhite);
+    icon_.PicImage.SetPixel(12, 11, 0x123456);
+    editor_.History().PushUndoSnapshot();
+    editor_.Tools().SelectTool(ToolId::Selection);
+    Stroke(Button::Left, {{100, 100}, {130, 120}});
+    commands.Cut();
     EXPECT_EQ(OpaquePixels(), 0);
     EXPECT_EQ(editor_.History().UndoCount(), 3U);
+    EXPECT_EQ(clipboard.image->Row(1)[2], 0xEDCBA9U) << "inverted white";
     editor_.Tools().SelectTool(ToolId::Pencil);
     for (const PasteMode mode : {PasteMode::Transparent, PasteMode::Opaque}) {
         icon_.Modified = false;
-        ASSERT_TRUE(commands_.Paste(mode));
+        ASSERT_TRUE(commands.Paste(mode));
         EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::Selection);
         EXPECT_EQ(editor_.Selected().Marquee(), (Corners{0, 0, 30, 20}));
         EXPECT_TRUE(icon_.Modified);

@@ -155,7 +155,6 @@ TEST_F(SelectionTest, EachCommandRecordsWhatItSays) {
         {"beside", stroke(Button::Left, {300, 300}, {300, 300})},
         {"popup", stroke(Button::Right, {35, 35}, {35, 35})},
         {"move", [this] { Selected().MoveBy(1, -9); }},
-        {"stamp", [this] { Selected().StampSelection(); }},
     };
     const struct {
         std::string before, command;
@@ -170,7 +169,7 @@ TEST_F(SelectionTest, EachCommandRecordsWhatItSays) {
         {"lift", "delete", 1, '-'}, {"paste", "delete", 1, '-'}, {"mark", "line", 0, '-'},
         {"lift", "line", 1, '-'},   {"lift", "tool", 1, '-'},    {"lift", "anew", 1, 'M'},
         {"lift", "beside", 1, '-'}, {"lift", "popup", 0, 'F'},   {"mark", "move", 0, 'F'},
-        {"lift", "move", 0, 'F'},   {"", "move", 0, '-'},        {"mark", "stamp", 0, 'M'},
+        {"lift", "move", 0, 'F'},   {"", "move", 0, '-'},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.before + ", " + c.command);
@@ -243,35 +242,6 @@ TEST_F(SelectionTest, ThePointerTellsWhereItCanBeMoved) {
     EXPECT_TRUE(Selected().MovingSelection());
     Selected().DropSelection();
     EXPECT_EQ(window_.cursor, GridCursor::Cross);
-}
-
-// What transforms and filters do with the selection planes.
-TEST_F(SelectionTest, ChangedPlanesAreShownWhereTheSelectionIs) {
-    Paste();
-    editor_.PopUndoSnapshot();
-    MarkCells();
-    Selected().PicSelImage = gdi::Surface(3, 3, 0x00ABCD);
-    Selected().PicSelMask = gdi::Surface(3, 3, gdi::kBlack);
-    Selected().PicSelImage.SetPixel(0, 0, gdi::kBlack);
-    Selected().PicSelMask.SetPixel(0, 0, gdi::kWhite);
-    icon_.Modified = false;
-    Selected().StampSelection();
-    EXPECT_EQ(icon_.PicImage.GetPixel(3, 3), 0x00ABCDU);
-    EXPECT_TRUE(icon_.IsTransparent(2, 2)) << "what is there is replaced";
-    EXPECT_TRUE(icon_.Modified);
-    // Nobody has recorded it, and yet it can be undone and comes back.
-    editor_.PopUndoSnapshot();
-    EXPECT_TRUE(SamePlanes(first_));
-    editor_.PopRedoSnapshot();
-    EXPECT_TRUE(icon_.IsTransparent(2, 2));
-    EXPECT_FALSE(editor_.CanRedo()) << "what was pasted before";
-    MarkCells();
-    Selected().LiftSelection();
-    Selected().PicSelImage.SetPixel(1, 1, 0x00FF00);
-    icon_.Modified = false;
-    Selected().ShowFloatingSelection();
-    EXPECT_TRUE(icon_.Modified);
-    EXPECT_TRUE(test::ViewsAreFresh(editor_));
 }
 
 }  // namespace

@@ -59,7 +59,7 @@ TEST_F(ToolsTest, ShapesCoverTheirCellsWhicheverWayTheyAreDragged) {
             Drag(button, from, {8 - from.x, 4 - from.y});
             gdi::Surface cells(7, 3);
             gdi::StretchBlt(cells, cells.Bounds(), Shown(), {1, 1, 7, 3}, gdi::RasterOp::Copy);
-            EXPECT_TRUE(test::ComparePicture(cells, kInks, c.picture));
+            EXPECT_PICTURE(cells, kInks, c.picture);
             EXPECT_TRUE(test::ViewsAreFresh(editor_));
             EXPECT_EQ(editor_.History().UndoCount(), 2U);
         }

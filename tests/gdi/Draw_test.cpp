@@ -13,9 +13,6 @@ namespace {
 using test::ComparePicture;
 
 constexpr COLORREF kRed = 0x0000FF;
-constexpr COLORREF kFace = 0xC0C0C0;
-constexpr test::Inks kInks = {
-    {'#', kBlack}, {'.', kWhite}, {'r', kRed}, {'s', 0x808080}, {'f', kFace}};
 
 int StepOf(const Surface& target) {
     return target.state.lineStyle == LineStyle::Dot ? 2 : 1;
@@ -105,32 +102,6 @@ TEST(Draw, AgreesWithSlowTwinsInEverySizeAndDirectionAndWhereItIsCut) {
             }
         }
     }
-}
-
-TEST(Draw, SunkenEdgesHaveShadowLeftAndTop) {
-    Surface target(6, 3, kFace);
-    target.state.drawMode = DrawMode::Invert;
-    DrawSunkenEdge(target, 0, 0, 3, 3);
-    DrawSunkenEdge(target, 4, 0, 9, 2);
-    DrawSunkenEdge(target, 4, 2, 4, 3);
-    EXPECT_PICTURE(target, kInks, "s s . f s s\n s f . f . .\n . . . f f f");
-}
-
-TEST(Draw, RoundsAsByHand) {
-    Surface target(21, 6);
-    target.state = {kBlack, kRed, DrawMode::CopyPen, LineStyle::Solid, FillStyle::Solid};
-    // The first row holds the columns where the curve is half a pixel high: |x| <= 9 * sqrt(3/4).
-    Ellipse(target, 1, 0, 20, 3);
-    // Half way between two pixels stays with the start.
-    DrawLine(target, 0, 3, 4, 5, kBlack);
-    DrawLine(target, 12, 5, 8, 3, kBlack);
-    EXPECT_PICTURE(target, kInks, R"(
-        . . . # # # # # # # # # # # # # # # . . .
-        . # # r r r r r r r r r r r r r r r # # .
-        . . . # # # # # # # # # # # # # # # . . .
-        # # . . . . . . . . . . . . . . . . . . .
-        . . # # . . . . . # # . . . . . . . . . .
-        . . . . . . . . . . . # # . . . . . . . .)");
 }
 
 }  // namespace

@@ -73,18 +73,5 @@ TEST(Blit, AgreesWithSlowTwinInsideOutsideAndAtTheEndsOfInt) {
         ExpectAgreesWithTwin(Noise(9, 8, 3), {shift % 5, shift / 5, 6, 5}, nullptr, {2, 2, 6, 5});
 }
 
-TEST(Surface, IsFilledWhateverTheDrawingStateAndUntouchedOutside) {
-    Surface target(4, 2);
-    target.state.drawMode = DrawMode::Invert;
-    PatBlt(target, {2, 1, INT_MAX, INT_MAX}, kBlack);
-    PatBlt(target, {-1, 0, 2, 1}, kBlack);
-    for (const auto& [x, y] : {std::pair{-1, 0}, {4, 0}, {0, -1}, {0, 2}}) {
-        target.SetPixel(x, y, kBlack);
-        EXPECT_EQ(target.GetPixel(x, y), CLR_INVALID);
-    }
-    target.SetPixel(1, 0, 0xFF000000);
-    EXPECT_PICTURE(target, test::kBlackOnWhite, "# # . .\n. . # #");
-}
-
 }  // namespace
 }  // namespace kestrel::gdi

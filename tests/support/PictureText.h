@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <string_view>
 
 #include "platform/gdi/PixelArt.h"
 
@@ -11,16 +10,13 @@ namespace kestrel::test {
 
 using Inks = std::initializer_list<gdi::ArtInk>;
 
-inline constexpr Inks kBlackOnWhite = {{'#', gdi::kBlack}, {'.', gdi::kWhite}};
-
-// Fails with the first pixel that differs. A letter of `rows` that has no ink is a failure too.
-testing::AssertionResult ComparePicture(const gdi::Surface& actual, Inks inks,
-                                        std::string_view rows);
+// Fails with the first pixel that differs.
 testing::AssertionResult ComparePicture(const gdi::Surface& actual, const gdi::Surface& expected);
 
 }  // namespace kestrel::test
 
 // EXPECT_PICTURE(surface, inks, R"( text )"): the surface shows exactly the picture in the text.
-// `inks` is a named list, such as kBlackOnWhite.
+// `inks` is a named list.
 #define EXPECT_PICTURE(surface, inks, rows) \
-    EXPECT_TRUE(::kestrel::test::ComparePicture((surface), (inks), (rows)))
+    EXPECT_TRUE(                            \
+        ::kestrel::test::ComparePicture((surface), ::kestrel::gdi::ReadPixelArt(rows, inks)))
