@@ -99,6 +99,7 @@ TEST_F(DocumentCommandsTest, RefusedFilesChangeNothing) {
         ExpectError(chosen);
         EXPECT_TRUE(window_.gridEnabled);
     }
+    EXPECT_EQ(recent_.GetRecentFile(1) + recent_.GetRecentFile(2), "/icons/red.ico");
     EXPECT_EQ(icon_.FileTitle, "red.ico");
     EXPECT_EQ(icon_.PicImage.GetPixel(1, 2), 0x0000FFU);
     EXPECT_FALSE(window_.tmrStarted);
@@ -144,6 +145,8 @@ TEST_F(DocumentCommandsTest, SavesInPlaceAndUnderANewName) {
     EXPECT_EQ(icon_.FilePath, "/icons/other.ico");
     EXPECT_EQ(window_.title, "KestrelIconEditor - other.ico");
     EXPECT_TRUE(HoldsTheIcon("/icons/other.ico"));
+    EXPECT_EQ(recent_.GetRecentFile(1), "/icons/other.ico");
+    EXPECT_EQ(recent_.GetRecentFile(2), "/icons/red.ico");
 }
 
 TEST_F(DocumentCommandsTest, WarnsBeforeReplacingSeveralIcons) {

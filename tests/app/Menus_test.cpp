@@ -199,28 +199,6 @@ TEST_F(MenusTest, TheToolbarRunsItsCommandsAndHintsAtThem) {
     EXPECT_EQ(QApplication::focusWidget(), &window_);
 }
 
-TEST_F(MenusTest, RecentFilesAreThoseOpenedAndSaved) {
-    const auto first = [this] { return Item("mnuRecentFile1")->text().toStdString(); };
-    given_.desktop.choice = "/icons/a.ico";
-    QTest::keyClick(&window_, Qt::Key_O, Qt::ControlModifier);
-    given_.desktop.choice = "/icons/b.ico";
-    QTest::keyClick(&window_, Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_EQ(first(), "/icons/b.ico");
-    given_.desktop.choice = "/icons/none.ico";
-    QTest::keyClick(&window_, Qt::Key_O, Qt::ControlModifier);
-    EXPECT_EQ(first(), "/icons/b.ico") << "a refused file is not remembered";
-    given_.files.contents.erase("/icons/b.ico");
-    Item("mnuRecentFile1")->trigger();
-    EXPECT_EQ(LastMessage(), "Unable to locate /icons/b.ico");
-    Item("mnuRecentFile1")->trigger();
-    EXPECT_EQ(window_.windowTitle(), "KestrelIconEditor - a.ico");
-    EXPECT_EQ(given_.boxes.shown.size(), 2U);
-    window_.close();
-    FrmIcoEd next(given_.Given());
-    next.Form_Load("");
-    EXPECT_EQ(next.BarAction("mnuRecentFile1")->text(), "/icons/a.ico");
-}
-
 TEST_F(MenusTest, AboutIsModalAndClosesByKeyboard) {
     const auto click = [](auto* in, QAction* action) {
         QTest::mouseClick(in, Qt::LeftButton, {}, in->actionGeometry(action).center());

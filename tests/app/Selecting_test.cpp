@@ -5,7 +5,6 @@
 #include <QTimer>
 
 #include "app/FrmClipData.h"
-#include "i18n/Messages.h"
 #include "platform/qt/Text.h"
 #include "tests/app/WindowTest.h"
 #include "tests/support/EditorTest.h"
@@ -154,15 +153,6 @@ TEST_F(SelectingTest, WhatFloatsIsSaved) {
     Key(Qt::Key_O, Qt::ControlModifier);
     EXPECT_FALSE(Icon().IsTransparent(3, 2));
     EXPECT_TRUE(Icon().IsTransparent(2, 2));
-}
-
-TEST_F(SelectingTest, ALostPictureIsToldInBothLanguages) {
-    for (const std::string_view code : {i18n::kEnglish, i18n::kChinese}) {
-        i18n::SetUiLanguage(code);
-        window_.Menus().SmartMenuXP1.onClick("mnuEditOpts6");
-        EXPECT_EQ(given_.boxes.shown.back().text, i18n::kCannotPaste.In(code));
-    }
-    EXPECT_FALSE(Selected().Exists());
 }
 
 TEST_F(SelectingTest, ALargePictureIsAskedAboutInBothLanguages) {

@@ -11,8 +11,6 @@
 namespace kestrel::app {
 namespace {
 
-using dialogs::BoxIcon;
-
 class StartupTest : public testing::Test {
   protected:
     void TearDown() override {
@@ -43,10 +41,10 @@ TEST_F(StartupTest, ChoosesTheLanguageByLocaleUnlessAnotherWasChosen) {
 
 TEST_F(StartupTest, FailedChecksEndTheStartWithTheirMessage) {
     for (const auto& [facts, box] :
-         {std::pair{StartupFacts{2052, true, 100, 100, 1, "", ""}, "错误!|请不要重复运行程序！"},
-          {{1033, false, 639, 480, 24, "", ""},
-           "KestrelIconEditor - Error|KestrelIconEditor requires a screen resolution of at least "
-           "640 x 480 pixels.\r\n\r\nPlease adjust your screen resolution and try again."},
+         {std::pair{StartupFacts{1033, false, 639, 480, 24, "", ""},
+                    "KestrelIconEditor - Error|KestrelIconEditor requires a screen resolution of "
+                    "at least "
+                    "640 x 480 pixels.\r\n\r\nPlease adjust your screen resolution and try again."},
           {{2052, false, 640, 479, 24, "", ""},
            "KestrelIconEditor - 错误|KestrelIconEditor 显示屏分辨率需设置为640×480以上.\r\n\r\n"
            "请在调整分辨率后重新运行程序."},
@@ -60,7 +58,7 @@ TEST_F(StartupTest, FailedChecksEndTheStartWithTheirMessage) {
         EXPECT_FALSE(PrepareStart(facts, services_));
         ASSERT_EQ(given_.boxes.shown.size(), 1U) << box;
         const auto& shown = given_.boxes.shown[0];
-        EXPECT_EQ(shown.icon, facts.anotherInstanceRuns ? BoxIcon::Exclamation : BoxIcon::Critical);
+        EXPECT_EQ(shown.icon, dialogs::BoxIcon::Critical);
         EXPECT_EQ(shown.title + "|" + shown.text, box);
     }
     EXPECT_TRUE(given_.registry.values.empty());

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QPointer>
 #include <QTemporaryDir>
 #include <QtTest/QTest>
@@ -48,18 +47,6 @@ TEST_F(QtHelpViewerTest, FollowsLinksAndChangesLanguageInOneWindow) {
     EXPECT_EQ(help_.Window(), window);
     EXPECT_EQ(window->windowTitle(), QStringLiteral("帮助"));
     EXPECT_FALSE(window->isBackwardAvailable());
-}
-
-TEST_F(QtHelpViewerTest, ClosesByKeyAndOpensAgainBeforeTheClosedWindowIsGone) {
-    ASSERT_TRUE(help_.ShowHelp(english_, "Help"));
-    for (const QKeyCombination key : {QKeyCombination(Qt::Key_Escape), Qt::ALT | Qt::Key_F4}) {
-        QApplication::setActiveWindow(help_.Window());
-        QTest::keyClick(help_.Window(), key.key(), key.keyboardModifiers());
-        EXPECT_FALSE(help_.Window()->isVisible());
-        ASSERT_TRUE(help_.ShowHelp(english_, "Help"));
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        ASSERT_TRUE(help_.Window() != nullptr && help_.Window()->isVisible());
-    }
 }
 
 }  // namespace
