@@ -7,7 +7,6 @@
 #include <tuple>
 #include <vector>
 
-#include "i18n/ToolbarTable.h"
 #include "tests/support/ListedTexts.h"
 
 namespace kestrel::i18n {
@@ -70,15 +69,6 @@ TEST(ModLanguage, TheTextsOfTheWindowAreAsListedInBothLanguages) {
                 EXPECT_EQ(window.texts[row[Key] + " " + row[Kind]], row[column]) << row[Key];
             }
         }
-    }
-    std::vector<Row> hints = ListedTexts("toolbar");
-    std::erase_if(hints, [](const Row& row) { return row[Kind] != "status"; });
-    ASSERT_EQ(ToolbarButtons().size(), hints.size());
-    for (std::size_t i = 0; i < hints.size(); ++i) {
-        const ToolbarButton& button = ToolbarButtons()[i];
-        EXPECT_EQ(button.key, hints[i][Key]);
-        EXPECT_EQ(button.status.english, hints[i][English]);
-        EXPECT_EQ(button.status.chinese, hints[i][Chinese]);
     }
 }
 
