@@ -7,6 +7,7 @@
 #include <QFileDialog>
 #include <QPrintDialog>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QSpinBox>
 #include <QTemporaryDir>
 
@@ -178,7 +179,9 @@ TEST(ColorDialog, GivesColourAndCustomColoursUnlessCancelled) {
         EXPECT_EQ(record.color, chosen ? 0x030201U : 0x123456U);
         EXPECT_EQ(record.customColors[15], chosen ? 0x0000FFU : 0U);
         EXPECT_EQ(record.customColors[1], 0x0A0B0CU);
+        const QSettings kept(QSettings::UserScope, QStringLiteral("QtProject"));
         EXPECT_EQ(QColorDialog::customColor(15), Qt::blue) << "other programs have it, too";
+        EXPECT_EQ(kept.value("Qt/customColors/15").toUInt(), 0xFF0000FFU);
     }
 }
 

@@ -103,8 +103,9 @@ std::int32_t QtDesktopDialogs::ChooseFile(FileNameDialog::AcceptMode mode, FileR
 }
 
 std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
-    const LibrarysCustomColors row(record.customColors);
     QColorDialog dialog(WindowOf(record.owner));
+    // Ends before the dialog, which writes the row to the file.
+    const LibrarysCustomColors row(record.customColors);
     // The desktop's own dialog speaks the desktop's language.
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     const bool preset = (record.flags & dialogs::kInitialColor) != 0;
