@@ -40,7 +40,7 @@ WaitFor "$kPatience" cmp -s "$files/default.PAL" "$scratch/default.pal" ||
 # With the box ticked the first click opens the dialog, and the second one, which falls on its Cancel
 # button, is not meant for it.
 Click 350 400
-ToScreen 405 315
+ToScreen 492 378
 xdotool mousemove "$pointX" "$pointY" click --repeat 2 --delay 150 1
 sleep 0.5
 WaitForWindow 'Select Color'

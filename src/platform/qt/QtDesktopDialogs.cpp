@@ -63,7 +63,11 @@ class SecondPressGuard : public QObject {
 
   protected:
     bool eventFilter(QObject* /*target*/, QEvent* event) override {
-        if (event->type() != QEvent::MouseButtonPress) return false;
+        // The library reports the press, and then that it was the second one.
+        if (event->type() != QEvent::MouseButtonPress &&
+            event->type() != QEvent::MouseButtonDblClick) {
+            return false;
+        }
         const QPoint at = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
         return sinceClick_.elapsed() < QApplication::doubleClickInterval() &&
                (at - clicked_).manhattanLength() < QApplication::startDragDistance();
