@@ -75,7 +75,7 @@ void DocumentCommands::OpenChosenFile() {
         window_.EnableGrid(true);
         return;
     }
-    window_.ProcessPendingEvents();
+    window_.DoEvents();
     if (OpenFile(*chosen)) return;
     window_.EnableGrid(true);
     ShowError(boxes_, i18n::CannotOpenChosen(chosen->fileTitle));
@@ -133,7 +133,7 @@ void DocumentCommands::SaveUnderNewName() {
         document_.SaveSucceeded = false;
         return;
     }
-    window_.ProcessPendingEvents();
+    window_.DoEvents();
     WriteIcoFile(chosen->path);
 }
 

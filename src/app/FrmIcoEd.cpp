@@ -195,7 +195,7 @@ void FrmIcoEd::ShowHourglass(bool shown) {
     }
 }
 
-void FrmIcoEd::ProcessPendingEvents() {
+void FrmIcoEd::DoEvents() {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 

@@ -108,7 +108,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void EnableGrid(bool enabled) override;
     void StartTmr() override;
     void ShowHourglass(bool shown) override;
-    void ProcessPendingEvents() override;
+    void DoEvents() override;
     void Unload() override;
     void SetControlCaption(std::string_view control, std::string_view text) override;
     void SetControlToolTip(std::string_view control, std::string_view text) override;

@@ -53,7 +53,7 @@ void ShellCommands::FollowLanguage() {
 void ShellCommands::mnuHomePage_Click() {
     // The menu goes first: the opener may take a while.
     window_.ShowHourglass(true);
-    window_.ProcessPendingEvents();
+    window_.DoEvents();
     const bool opened = services_.shell.Open(std::string(kHomePage)).has_value();
     window_.ShowHourglass(false);
     if (!opened) ShowError(services_.boxes, i18n::CannotOpenHomePage(kHomePage));

@@ -22,7 +22,7 @@ class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
     void EnableGrid(bool enabled) override { gridEnabled = enabled; }
     void StartTmr() override { tmrStarted = true; }
     void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
-    void ProcessPendingEvents() override {}
+    void DoEvents() override {}
     void Unload() override { unloaded = true; }
     void SetControlCaption(std::string_view control, std::string_view text) override {
         captions[std::string(control)] = text;

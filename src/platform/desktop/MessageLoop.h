@@ -1,0 +1,13 @@
+#pragma once
+
+namespace kestrel::desktop {
+
+// The loop that hands events to the windows of the program.
+class MessageLoop {
+  public:
+    virtual ~MessageLoop() = default;
+    // Lets pending paint and window events run, but no input.
+    virtual void DoEvents() = 0;
+};
+
+}  // namespace kestrel::desktop
