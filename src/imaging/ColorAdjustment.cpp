@@ -2,13 +2,14 @@
 
 #include <utility>
 
-#include "imaging/Rounding.h"
+#include "imaging/filters/Levels.h"
 
 namespace kestrel::imaging {
 
 namespace {
 
 using document::kIconSize;
+using filters::Level;
 
 // How many levels a step shifts a channel.
 constexpr int kStep = 5;

@@ -4,13 +4,15 @@
 #include <cstdint>
 
 #include "document/IconDocument.h"
-#include "imaging/Rounding.h"
+#include "imaging/filters/Levels.h"
 
 namespace kestrel::imaging {
 
 namespace {
 
 using document::kIconSize;
+using filters::Level;
+using filters::Round;
 
 bool IsDiagonal(int degrees) {
     return degrees / kDegreesPerStep % 2 != 0;

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "imaging/filters/Filter.h"
+
+namespace kestrel::filters {
+
+// A command of the filter menu: the number of its filter and the parameter that it gives it.
+struct FilterRow {
+    std::string_view key;
+    int FilterId;
+    int Param;
+    Filter filter;
+};
+
+// The number of gamma correction; its parameter is asked of the user.
+inline constexpr int kGammaFilter = 31;
+
+std::span<const FilterRow> Filters();
+// The command with this key; null for none.
+const FilterRow* FindFilter(std::string_view key);
+
+}  // namespace kestrel::filters
