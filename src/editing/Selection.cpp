@@ -117,12 +117,18 @@ void Selection::LiftSelection() {
 }
 
 void Selection::Float(gdi::Surface mask, gdi::Surface image) {
+    marquee_ = {};
+    Enter(State::Floating);
+    ReplacePlanes(std::move(mask), std::move(image));
+    window_.RefreshEditCommands();
+}
+
+void Selection::ReplacePlanes(gdi::Surface mask, gdi::Surface image) {
     PicSelMask = std::move(mask);
     PicSelImage = std::move(image);
-    marquee_ = {0, 0, PicSelMask.Width() * kCellSize, PicSelMask.Height() * kCellSize};
-    Enter(State::Floating);
+    marquee_.x2 = marquee_.x1 + PicSelMask.Width() * kCellSize;
+    marquee_.y2 = marquee_.y1 + PicSelMask.Height() * kCellSize;
     ShowFloatingSelection();
-    window_.RefreshEditCommands();
 }
 
 void Selection::DropSelection() {

@@ -62,6 +62,9 @@ class Selection : private document::CanvasOverlay {
     // Ends it without touching pixels or views.
     void Forget();
 
+    // Gives a floating selection other pixels, also of another size, and shows them. Its top left
+    // corner stays.
+    void ReplacePlanes(gdi::Surface mask, gdi::Surface image);
     // Shows planes that have changed, floating over the icon or written into it where they were
     // marked.
     void ShowFloatingSelection();

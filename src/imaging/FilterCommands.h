@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "imaging/ImageTarget.h"
+#include "imaging/ImagingDialogs.h"
+#include "imaging/filters/FilterTable.h"
+#include "imaging/filters/mFilterG.h"
+
+namespace kestrel::imaging {
+
+// The commands of the filter menu, on the selection or the whole icon.
+class FilterCommands {
+  public:
+    FilterCommands(editing::Editor& editor, ImagingDialogs& dialogs, desktop::MessageLoop& loop,
+                   system::RandomNumbers& random)
+        : target_(editor), dialogs_(dialogs), filters_(loop, random) {}
+
+    // Runs the command with this key; without one nothing happens.
+    void Run(std::string_view key);
+
+  private:
+    // None where the user does not want the filter.
+    std::optional<int> ParamOf(const filters::FilterRow& row);
+
+    ImageTarget target_;
+    ImagingDialogs& dialogs_;
+    filters::mFilterG filters_;
+};
+
+}  // namespace kestrel::imaging

@@ -1,0 +1,58 @@
+#include "imaging/ImageCommands.h"
+
+#include "imaging/Recoloring.h"
+#include "platform/gdi/Blit.h"
+
+namespace kestrel::imaging {
+
+void ImageCommands::mnuImageOpts_Click(int index) {
+    switch (index) {
+        case 0:
+            return AdjustColors();
+        case 1:
+            return MakeButton();
+        case 2:
+            return Change(Grayscale);
+        case 3:
+            return Change(Invert);
+        default:
+            return;
+    }
+}
+
+void ImageCommands::AdjustColors() {
+    editor_.Selected().DropSelection();
+    ColorAdjustment colors(editor_.Document());
+    if (!dialogs_.AdjustColors(colors, editor_.Views().PicIcon)) return;
+    colors.Draw(editor_.Document().PicImage);
+    target_.Show();
+    target_.Record();
+}
+
+void ImageCommands::MakeButton() {
+    editor_.Selected().DropSelection();
+    Buttonize(editor_.Document(), loop_);
+    target_.Show();
+    target_.Record();
+}
+
+template <typename Recolor>
+void ImageCommands::Change(const Recolor& recolor) {
+    recolor(target_.Image(), target_.Mask());
+    target_.Show();
+    target_.RecordIcon();
+}
+
+void ImageCommands::GradientBackground() {
+    const std::optional<gdi::Surface> gradient = dialogs_.AskGradient();
+    if (!gradient) return;
+    editor_.Selected().DropSelection();
+    document::IconDocument& icon = editor_.Document();
+    gdi::BitBlt(icon.PicImage, 0, 0, document::kIconSize, document::kIconSize, *gradient, 0, 0,
+                gdi::RasterOp::Copy);
+    gdi::PatBlt(icon.PicMask, icon.PicMask.Bounds(), gdi::kBlack);
+    target_.Show();
+    target_.Record();
+}
+
+}  // namespace kestrel::imaging
