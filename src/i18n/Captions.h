@@ -25,6 +25,30 @@ inline constexpr Text kShrinkKeepingAspect{"Shrink to fit keeping aspect.", "保
 inline constexpr Text kOk{"OK", "确定"};
 inline constexpr Text kCancel{"Cancel", "取消"};
 
+// The colour adjustment.
+inline constexpr Text kColorAdjustmentTitle{"KestrelIconEditor - Color Adjustment",
+                                            "KestrelIconEditor - 颜色调整"};
+inline constexpr Text kBrightness{"Brightness:", "亮度:"};
+inline constexpr Text kRed{"Red(R):", "红(R):"};
+inline constexpr Text kGreen{"Green(G):", "绿(G):"};
+inline constexpr Text kBlue{"Blue(B):", "蓝(B):"};
+inline constexpr Text kReset{"Reset", "复位"};
+
+// The gamma correction.
+inline constexpr Text kGammaTitle{"KestrelIconEditor - Gamma Correction",
+                                  "KestrelIconEditor - 伽马校正"};
+inline constexpr Text kGammaPrompt{"Input Gamma Factor * 100", "输入伽马要素 * 100"};
+inline constexpr Text kGammaOk{"&OK", "确定"};
+inline constexpr Text kGammaCancel{"&Cancel", "取消"};
+
+// The gradient background.
+inline constexpr Text kGradientTitle{"KestrelIconEditor - Gradient Background",
+                                     "KestrelIconEditor - 填充渐变色"};
+inline constexpr Text kGradientRed{"  (R):", "红(R):"};
+inline constexpr Text kGradientGreen{"  (G):", "绿(G):"};
+inline constexpr Text kGradientBlue{"  (B):", "蓝(B):"};
+inline constexpr Text kDegrees{"Degrees:", " 角度:"};
+
 // The About box.
 inline constexpr Text kAboutTitle{"About KestrelIconEditor", "关于 KestrelIconEditor"};
 inline constexpr Text kAboutVersion{"Version ", "版本 "};

@@ -1,0 +1,108 @@
+#include "imaging/FrmColAdj.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "i18n/Captions.h"
+#include "imaging/FrmParts.h"
+#include "platform/qt/Text.h"
+
+namespace kestrel::imaging {
+
+namespace {
+
+using qt::ToText;
+
+constexpr int kLimit = 255;
+constexpr int kStep = 5;
+constexpr int kBarHeight = 176;
+constexpr int kBetweenColumns = 18;
+constexpr int kBetweenLabels = 6;
+
+// In the order of AdjustmentBar.
+constexpr std::array kNames{"Brightness", "Red", "Green", "Blue"};
+constexpr std::array kCaptions{i18n::kBrightness, i18n::kRed, i18n::kGreen, i18n::kBlue};
+
+QLabel* NewValueLabel(const char* name) {
+    auto* value = new QLabel(QString::number(0));
+    value->setObjectName(QStringLiteral("Lbl%1").arg(name));
+    value->setAlignment(Qt::AlignCenter);
+    // The columns stand still whatever is shown.
+    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QString::number(-kLimit)));
+    return value;
+}
+
+}  // namespace
+
+FrmColAdj::FrmColAdj(QWidget* owner, ColorAdjustment& colors, const gdi::Surface& preview)
+    : QDialog(owner),
+      colors_(colors),
+      picture_(preview),
+      PicShade_(new qt::SurfaceWidget(picture_, this)) {
+    PicShade_->setObjectName("PicShade");
+    QVBoxLayout* rows = NewRows(*this, i18n::kColorAdjustmentTitle);
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(kBetweenColumns);
+    for (int bar = 0; bar < kAdjustmentBars; ++bar)
+        columns->addLayout(NewColumn(static_cast<AdjustmentBar>(bar)));
+    columns->addWidget(NewFrame(PicShade_));
+    rows->addLayout(columns);
+    rows->addLayout(NewCommands());
+    PlaceDialog(*this);
+}
+
+QLayout* FrmColAdj::NewColumn(AdjustmentBar bar) {
+    const auto index = static_cast<std::size_t>(bar);
+    auto* caption = new QLabel(ToText(kCaptions[index].Now()));
+    caption->setAlignment(Qt::AlignCenter);
+    QLabel* value = NewValueLabel(kNames[index]);
+    auto* vsb = new qt::ValueBar(Qt::Vertical);
+    vsb->setObjectName(QStringLiteral("Vsb%1").arg(kNames[index]));
+    vsb->setRange(-kLimit, kLimit);
+    vsb->setSingleStep(kStep);
+    vsb->setPageStep(kStep);
+    vsb->setFixedHeight(kBarHeight);
+    // A drag is one change, however long it is.
+    vsb->setTracking(false);
+    caption->setBuddy(vsb);
+    connect(vsb, &QScrollBar::sliderMoved, value, qOverload<int>(&QLabel::setNum));
+    connect(vsb, &QScrollBar::valueChanged, value, qOverload<int>(&QLabel::setNum));
+    connect(vsb, &QScrollBar::valueChanged, this, [this, bar](int now) { VsbChange(bar, now); });
+    vsb_[index] = vsb;
+
+    auto* column = new QVBoxLayout;
+    column->setSpacing(kBetweenLabels);
+    column->addWidget(caption);
+    column->addWidget(vsb, 0, Qt::AlignHCenter);
+    column->addWidget(value);
+    return column;
+}
+
+QLayout* FrmColAdj::NewCommands() {
+    QHBoxLayout* row = NewButtons(*this, i18n::kOk, i18n::kCancel);
+    auto* cmdReset = new QPushButton(ToText(i18n::kReset.Now()));
+    cmdReset->setObjectName("CmdReset");
+    connect(cmdReset, &QPushButton::clicked, this, &FrmColAdj::CmdReset_Click);
+    row->insertWidget(0, cmdReset);
+    return row;
+}
+
+void FrmColAdj::VsbChange(AdjustmentBar bar, int value) {
+    colors_.Change(bar, value);
+    ShowColors();
+}
+
+void FrmColAdj::CmdReset_Click() {
+    colors_.Reset();
+    ShowColors();
+    // The colours know every bar at 0 already, so that none of these is a step.
+    for (qt::ValueBar* vsb : vsb_)
+        vsb->setValue(0);
+}
+
+void FrmColAdj::ShowColors() {
+    colors_.Draw(picture_);
+    PicShade_->update();
+}
+
+}  // namespace kestrel::imaging

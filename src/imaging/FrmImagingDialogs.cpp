@@ -1,0 +1,21 @@
+#include "imaging/FrmImagingDialogs.h"
+
+#include "imaging/FrmColAdj.h"
+#include "imaging/FrmShades.h"
+#include "imaging/frmGamma.h"
+
+namespace kestrel::imaging {
+
+bool FrmImagingDialogs::AdjustColors(ColorAdjustment& colors, const gdi::Surface& preview) {
+    return FrmColAdj(&owner_, colors, preview).exec() == QDialog::Accepted;
+}
+
+std::optional<int> FrmImagingDialogs::AskGamma() {
+    return frmGamma(&owner_).Ask();
+}
+
+std::optional<gdi::Surface> FrmImagingDialogs::AskGradient() {
+    return FrmShades(&owner_).Ask();
+}
+
+}  // namespace kestrel::imaging

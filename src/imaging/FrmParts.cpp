@@ -1,0 +1,52 @@
+#include "imaging/FrmParts.h"
+
+#include <QFrame>
+#include <QPushButton>
+
+#include "platform/qt/CloseKey.h"
+#include "platform/qt/Text.h"
+#include "platform/qt/WindowDesign.h"
+
+namespace kestrel::imaging {
+
+QVBoxLayout* NewRows(QDialog& dialog, const i18n::Text& title) {
+    dialog.setWindowTitle(qt::ToText(title.Now()));
+    qt::AddCloseKey(dialog, Qt::ALT | Qt::Key_F4);
+    auto* rows = new QVBoxLayout(&dialog);
+    rows->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
+    rows->setSpacing(kBetweenBlocks);
+    rows->setSizeConstraint(QLayout::SetFixedSize);
+    return rows;
+}
+
+QHBoxLayout* NewButtons(QDialog& dialog, const i18n::Text& ok, const i18n::Text& cancel) {
+    auto* cmdOk = new QPushButton(qt::ToText(ok.Now()));
+    cmdOk->setObjectName("cmdOK");
+    cmdOk->setDefault(true);
+    QObject::connect(cmdOk, &QPushButton::clicked, &dialog, &QDialog::accept);
+    auto* cmdCancel = new QPushButton(qt::ToText(cancel.Now()));
+    cmdCancel->setObjectName("cmdCancel");
+    QObject::connect(cmdCancel, &QPushButton::clicked, &dialog, &QDialog::reject);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(cmdOk);
+    row->addWidget(cmdCancel);
+    return row;
+}
+
+QWidget* NewFrame(qt::SurfaceWidget* picture) {
+    auto* frame = new QFrame;
+    frame->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    auto* inside = new QVBoxLayout(frame);
+    inside->setContentsMargins(0, 0, 0, 0);
+    inside->addWidget(picture);
+    frame->setFixedSize(frame->sizeHint());
+    return frame;
+}
+
+void PlaceDialog(QDialog& dialog) {
+    dialog.layout()->activate();
+    qt::PlaceOnScreen(dialog, dialog.size());
+}
+
+}  // namespace kestrel::imaging

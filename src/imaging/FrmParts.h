@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QDialog>
+
+#include "i18n/Language.h"
+#include "platform/qt/SurfaceWidget.h"
+
+namespace kestrel::imaging {
+
+inline constexpr int kDialogMargin = 14;
+inline constexpr int kBetweenBlocks = 14;
+
+// The rows of a dialog: titled, closed by its keys, and as large as what is in them.
+QVBoxLayout* NewRows(QDialog& dialog, const i18n::Text& title);
+
+// OK, which Enter presses, and Cancel, at the right end of a row.
+QHBoxLayout* NewButtons(QDialog& dialog, const i18n::Text& ok, const i18n::Text& cancel);
+
+// A picture in a sunken frame.
+QWidget* NewFrame(qt::SurfaceWidget* picture);
+
+// The dialog's controls are complete: gives it its size and its place on the screen.
+void PlaceDialog(QDialog& dialog);
+
+}  // namespace kestrel::imaging

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QDialog>
+#include <QLabel>
+#include <array>
+#include <optional>
+
+#include "imaging/Shades.h"
+#include "platform/qt/DigitBox.h"
+#include "platform/qt/PictureBox.h"
+#include "platform/qt/SurfaceWidget.h"
+#include "platform/qt/ValueBar.h"
+
+namespace kestrel::imaging {
+
+// Lets the user choose the two colours and the direction of a gradient, and shows it. Modal.
+class FrmShades : public QDialog {
+  public:
+    explicit FrmShades(QWidget* owner);
+
+    // The gradient's pixels; none when the dialog is closed without OK.
+    std::optional<gdi::Surface> Ask();
+
+  private:
+    // Red, green and blue of the start colour, then of the end colour.
+    static constexpr std::size_t kLevels = 6;
+    enum class End { Start, End };
+
+    QWidget* NewColorGroup(End end);
+    void AddLevel(std::size_t index, int value);
+    QLayout* NewDirection();
+    gdi::COLORREF ColorAt(End end) const;
+
+    void Hsb_Change(std::size_t index, int value);
+    void TxtColor_Change(std::size_t index);
+    void ShowShade();
+
+    Shades shades_;
+    gdi::Surface picture_;
+    qt::SurfaceWidget* PicSml_;
+    qt::ValueBar* VsbDegrees_;
+    QLabel* LblDegrees_;
+    std::array<qt::ValueBar*, kLevels> Hsb_{};
+    std::array<qt::DigitBox*, kLevels> TxtColor_{};
+    // In the order of End.
+    std::array<qt::PictureBox*, 2> swatch_{};
+};
+
+}  // namespace kestrel::imaging

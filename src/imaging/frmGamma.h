@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QDialog>
+#include <optional>
+
+#include "platform/qt/DigitBox.h"
+
+namespace kestrel::imaging {
+
+// Asks for a gamma factor. Modal.
+class frmGamma : public QDialog {
+  public:
+    explicit frmGamma(QWidget* owner);
+
+    // The factor times 100, 0 for an empty box; none when the dialog is closed without OK.
+    std::optional<int> Ask();
+
+  private:
+    qt::DigitBox* txtGamma_;
+};
+
+}  // namespace kestrel::imaging

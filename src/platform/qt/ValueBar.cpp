@@ -1,0 +1,51 @@
+#include "platform/qt/ValueBar.h"
+
+#include <QPainter>
+
+namespace kestrel::qt {
+
+ValueBar::ValueBar(Qt::Orientation orientation) : QScrollBar(orientation) {
+    setFocusPolicy(Qt::StrongFocus);
+    const bool vertical = orientation == Qt::Vertical;
+    setInvertedAppearance(vertical);
+    setInvertedControls(vertical);
+    if (vertical) connect(this, &QScrollBar::actionTriggered, this, &ValueBar::TurnOver);
+}
+
+// Arrows, groove, menu and inverted keys all take the top for the minimum, wherever that is shown.
+void ValueBar::TurnOver(int action) {
+    switch (action) {
+        case SliderSingleStepAdd:
+            return setSliderPosition(value() - singleStep());
+        case SliderSingleStepSub:
+            return setSliderPosition(value() + singleStep());
+        case SliderPageStepAdd:
+            return setSliderPosition(value() - pageStep());
+        case SliderPageStepSub:
+            return setSliderPosition(value() + pageStep());
+        case SliderToMinimum:
+            return setSliderPosition(maximum());
+        case SliderToMaximum:
+            return setSliderPosition(minimum());
+        default:
+            break;
+    }
+}
+
+void ValueBar::paintEvent(QPaintEvent* event) {
+    QScrollBar::paintEvent(event);
+    if (!hasFocus()) return;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+// Away from the user raises the value, whatever the other controls do.
+void ValueBar::wheelEvent(QWheelEvent* event) {
+    const bool inverted = invertedControls();
+    setInvertedControls(false);
+    QScrollBar::wheelEvent(event);
+    setInvertedControls(inverted);
+}
+
+}  // namespace kestrel::qt

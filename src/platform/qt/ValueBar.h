@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QScrollBar>
+
+namespace kestrel::qt {
+
+// A scroll bar that sets a value: it takes the keyboard focus and shows it. A vertical one has its
+// maximum at the top.
+class ValueBar : public QScrollBar {
+  public:
+    explicit ValueBar(Qt::Orientation orientation);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    void TurnOver(int action);
+};
+
+}  // namespace kestrel::qt
