@@ -2,9 +2,13 @@
 
 #include <algorithm>
 
+#include "imaging/filters/FilterTable.h"
+
 namespace kestrel::app {
 
 void CommandDispatch::SmartMenuXP1_Click(std::string_view key) {
+    // The filters stand in a table of their own.
+    if (filters::FindFilter(key) != nullptr) handlers_.RunFilterCommand(key);
     Run(MenuBarCommands(), key);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 namespace kestrel::app {
 
 // Programs of the same maker that the Tools menu starts.
@@ -18,6 +20,16 @@ class CommandHandlers {
     virtual void mnuExit_Click() = 0;
     // The index is that of the Edit menu's item.
     virtual void mnuEditOpts_Click(int index) = 0;
+    // Of the Tools menu: 1 is the gradient; others are none yet.
+    virtual void mnuToolsOpts_Click(int index) = 0;
+    // The Image menu is being opened.
+    virtual void mnuImage_Click() = 0;
+    // The indexes are those of the Image menu's items.
+    virtual void mnuImageOpts_Click(int index) = 0;
+    virtual void mnuMirrorOpts_Click(int index) = 0;
+    virtual void mnuRotateOpts_Click(int index) = 0;
+    // A command of the filter menu, by its key.
+    virtual void RunFilterCommand(std::string_view key) = 0;
     // 0 is the default palette, 1 a random one.
     virtual void mnuPaletteOpts_Click(int index) = 0;
     virtual void ImgLoadPalette_Click() = 0;

@@ -13,7 +13,8 @@ struct CommandRow {
     void (*run)(CommandHandlers& handlers);
 };
 
-// Every key that stands for a command: of the menu bar, the editing pop-up and the toolbar.
+// Every key that stands for a command: of the menu bar without its filters, the editing pop-up and
+// the toolbar.
 std::span<const CommandRow> MenuBarCommands();
 std::span<const CommandRow> PopupCommands();
 std::span<const CommandRow> ToolbarCommands();

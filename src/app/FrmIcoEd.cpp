@@ -70,7 +70,8 @@ FrmIcoEd::FrmIcoEd(const MainServices& services)
       editor_(*this, WindowColor()),
       cdb_(services.dialogs, *this),
       wellCommands_(editor_.Wells(), *this, cdb_),
-      commands_(editor_, *this, menus_, cdb_, services),
+      imagingDialogs_(*this),
+      commands_(editor_, *this, menus_, cdb_, imagingDialogs_, services),
       dispatch_(commands_, *this) {}
 
 // The controls show what the members hold: they go first.

@@ -12,6 +12,7 @@
 #include "app/MainCommands.h"
 #include "editing/Editor.h"
 #include "editing/WellCommands.h"
+#include "imaging/FrmImagingDialogs.h"
 #include "platform/controls/ImageList.h"
 #include "platform/qt/MenuView.h"
 #include "platform/qt/PictureBox.h"
@@ -142,6 +143,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     editing::Editor editor_;
     dialogs::Cdb cdb_;
     editing::WellCommands wellCommands_;
+    imaging::FrmImagingDialogs imagingDialogs_;
     MainCommands commands_;
     CommandDispatch dispatch_;
 };

@@ -9,7 +9,8 @@
 namespace kestrel::app {
 
 MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
-                           dialogs::Cdb& cdb, const MainServices& services)
+                           dialogs::Cdb& cdb, imaging::ImagingDialogs& imagingDialogs,
+                           const MainServices& services)
     : editor_(editor),
       window_(window),
       menus_(menus),
@@ -18,6 +19,9 @@ MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenu
       palette_(editor.ColorPalette(),
                {editor.Wells(), cdb, services.dialogs, window, services.files, services.random}),
       clipboard_(editor, services.clipboard, window),
+      transforms_(editor),
+      images_(editor, imagingDialogs, window),
+      filters_(editor, imagingDialogs, window, services.random),
       recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
               services.systemLcid),
       documents_(editor, window, recent_, cdb, services.boxes, services.files),
@@ -80,6 +84,18 @@ void MainCommands::Paste(editing::PasteMode mode) {
     if (!pasted && pasted.error().number != kDialogCancelled) {
         ShowError(boxes_, std::string(i18n::kCannotPaste.Now()));
     }
+}
+
+void MainCommands::mnuToolsOpts_Click(int index) {
+    if (index == 1) images_.GradientBackground();
+}
+
+void MainCommands::mnuImage_Click() {
+    controls::SmartMenuXP& menu = menus_.SmartMenuXP1;
+    for (const auto* item : {"mnuMirrorOpts0", "mnuMirrorOpts1"})
+        menu.SetEnabled(item, transforms_.CanMirrorColumns());
+    for (const auto* item : {"mnuMirrorOpts2", "mnuMirrorOpts3"})
+        menu.SetEnabled(item, transforms_.CanMirrorRows());
 }
 
 void MainCommands::ImgLoadPalette_Click() {

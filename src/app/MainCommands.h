@@ -12,6 +12,9 @@
 #include "editing/Editor.h"
 #include "editing/PaletteCommands.h"
 #include "i18n/ModLanguage.h"
+#include "imaging/FilterCommands.h"
+#include "imaging/ImageCommands.h"
+#include "imaging/TransformCommands.h"
 #include "platform/controls/SmartMenuXP.h"
 #include "platform/dialogs/Cdb.h"
 
@@ -55,7 +58,7 @@ struct MainMenus {
 class MainCommands : public CommandHandlers {
   public:
     MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus, dialogs::Cdb& cdb,
-                 const MainServices& services);
+                 imaging::ImagingDialogs& imagingDialogs, const MainServices& services);
 
     DocumentCommands& Documents() { return documents_; }
     ModRecent& Recent() { return recent_; }
@@ -70,6 +73,13 @@ class MainCommands : public CommandHandlers {
     void mnuRecent_Click(int slot) override;
     void mnuExit_Click() override { documents_.mnuExit_Click(); }
     void mnuEditOpts_Click(int index) override;
+    void mnuToolsOpts_Click(int index) override;
+    // Enables the mirror commands that suit the size of the selection.
+    void mnuImage_Click() override;
+    void mnuImageOpts_Click(int index) override { images_.mnuImageOpts_Click(index); }
+    void mnuMirrorOpts_Click(int index) override { transforms_.mnuMirrorOpts_Click(index); }
+    void mnuRotateOpts_Click(int index) override { transforms_.mnuRotateOpts_Click(index); }
+    void RunFilterCommand(std::string_view key) override { filters_.Run(key); }
     void mnuPaletteOpts_Click(int index) override { palette_.mnuPaletteOpts_Click(index); }
     void ImgLoadPalette_Click() override;
     void ImgSavePalette_Click() override;
@@ -90,6 +100,9 @@ class MainCommands : public CommandHandlers {
     dialogs::MessageBoxes& boxes_;
     editing::PaletteCommands palette_;
     editing::ClipboardCommands clipboard_;
+    imaging::TransformCommands transforms_;
+    imaging::ImageCommands images_;
+    imaging::FilterCommands filters_;
     ModRecent recent_;
     DocumentCommands documents_;
     ShellCommands shell_;

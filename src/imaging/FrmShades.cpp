@@ -5,7 +5,7 @@
 
 #include "i18n/Captions.h"
 #include "imaging/FrmParts.h"
-#include "imaging/Rounding.h"
+#include "imaging/filters/Levels.h"
 #include "platform/qt/Pictures.h"
 #include "platform/qt/Text.h"
 
@@ -13,6 +13,8 @@ namespace kestrel::imaging {
 
 namespace {
 
+using filters::kMaxLevel;
+using filters::Level;
 using qt::ToText;
 
 constexpr int kPageStep = 5;

@@ -5,6 +5,7 @@
 #include "app/CommandDispatch.h"
 #include "i18n/MenuTable.h"
 #include "i18n/ToolbarTable.h"
+#include "imaging/filters/FilterTable.h"
 #include "tests/support/Recorders.h"
 
 namespace kestrel::app {
@@ -20,6 +21,12 @@ struct RecordingHandlers : CommandHandlers {
     void mnuRecent_Click(int slot) override { Note("Recent", slot); }
     void mnuExit_Click() override { calls += "Exit"; }
     void mnuEditOpts_Click(int index) override { Note("Edit", index); }
+    void mnuToolsOpts_Click(int index) override { Note("Tools", index); }
+    void mnuImage_Click() override { calls += "Image"; }
+    void mnuImageOpts_Click(int index) override { Note("Image", index); }
+    void mnuMirrorOpts_Click(int index) override { Note("Mirror", index); }
+    void mnuRotateOpts_Click(int index) override { Note("Rotate", index); }
+    void RunFilterCommand(std::string_view key) override { filters.emplace_back(key); }
     void mnuPaletteOpts_Click(int index) override { Note("Palette", index); }
     void ImgLoadPalette_Click() override { calls += "LoadPalette"; }
     void ImgSavePalette_Click() override { calls += "SavePalette"; }
@@ -29,6 +36,7 @@ struct RecordingHandlers : CommandHandlers {
     void mnuHelp_Click() override { calls += "Help"; }
     void mnuAbout_Click() override { calls += "About"; }
     std::string calls;
+    std::vector<std::string> filters;
 };
 
 TEST(CommandDispatch, EveryKeyCallsItsHandlerAlone) {
@@ -53,14 +61,26 @@ TEST(CommandDispatch, EveryKeyCallsItsHandlerAlone) {
               "mnuRecentFile3 Recent3, mnuRecentFile4 Recent4, mnuSave Save, mnuSaveAs SaveAs, "
               "mnuExit Exit, mnuEditOpts0 Edit0, mnuEditOpts1 Edit1, mnuEditOpts3 Edit3, "
               "mnuEditOpts4 Edit4, mnuEditOpts5 Edit5, mnuEditOpts6 Edit6, mnuEditOpts7 Edit7, "
-              "mnuEditOpts9 Edit9, mnuPaletteOpts0 Palette0, "
+              "mnuEditOpts9 Edit9, mnuToolsOpts1 Tools1, mnuPaletteOpts0 Palette0, "
               "mnuPaletteOpts1 Palette1, mnuPaletteOpts3 LoadPalette, "
               "mnuPaletteOpts4 SavePalette, mnuToolsOpts5 Sibling0, mnuToolsOpts6 Sibling1, "
-              "mnuToolsOpts7 Sibling2, mnuLanguageOpts0 Language0, mnuLanguageOpts1 Language1, "
+              "mnuToolsOpts7 Sibling2, mnuImage Image, mnuImageOpts0 Image0, "
+              "mnuImageOpts1 Image1, mnuImageOpts2 Image2, mnuImageOpts3 Image3, "
+              "mnuMirrorOpts0 Mirror0, mnuMirrorOpts1 Mirror1, mnuMirrorOpts2 Mirror2, "
+              "mnuMirrorOpts3 Mirror3, mnuRotateOpts0 Rotate0, mnuRotateOpts1 Rotate1, "
+              "mnuRotateOpts3 Rotate3, mnuRotateOpts4 Rotate4, mnuLanguageOpts0 Language0, "
+              "mnuLanguageOpts1 Language1, "
               "mnuHomePage HomePage, mnuHelp2 Help, mnuAbout About, ");
     EXPECT_EQ(callsOf(i18n::PopupMenuRows(), &CommandDispatch::SmartMenuXP2_Click),
               "mnuPopup2Opts0 Edit3, mnuPopup2Opts1 Edit4, mnuPopup2Opts2 Edit5, "
-              "mnuPopup2Opts3 Edit7, mnuPopup2Opts4 Edit9, ");
+              "mnuPopup2Opts3 Edit7, mnuPopup2Opts4 Edit9, mnuRotate2Opts0 Rotate0, "
+              "mnuRotate2Opts1 Rotate1, mnuFlip2Opts0 Rotate3, mnuFlip2Opts1 Rotate4, ");
+    // The filters, in the order of the menu.
+    std::vector<std::string> filters;
+    for (const auto& item : i18n::MenuBarRows())
+        if (filters::FindFilter(item.key) != nullptr) filters.emplace_back(item.key);
+    EXPECT_EQ(handlers.filters, filters);
+    EXPECT_EQ(filters.size(), filters::Filters().size());
     EXPECT_EQ(callsOf(i18n::ToolbarButtons(), &CommandDispatch::Toolbar1_ButtonClick),
               "New New, Open Open, Save Save, Undo Edit0, Redo Edit1, Cut Edit3, Copy Edit4, "
               "Paste Edit5, Delete Edit7, Help Help, ");

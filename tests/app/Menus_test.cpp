@@ -1,6 +1,7 @@
 #include <QTimer>
 
 #include "i18n/ToolbarTable.h"
+#include "imaging/filters/FilterTable.h"
 #include "tests/app/WindowTest.h"
 #include "tests/support/ListedTexts.h"
 
@@ -45,12 +46,20 @@ class MenusTest : public test::WindowTest {
 
 TEST_F(MenusTest, ItemsThatAreShownAndEnabledAreReached) {
     NoteClicks();
-    EXPECT_EQ(ChooseAll(Bar()),
-              (Keys{"mnuNew", "mnuOpen", "mnuSave", "mnuSaveAs", "mnuExit", "mnuEditOpts9",
-                    "mnuPaletteOpts0", "mnuPaletteOpts1", "mnuPaletteOpts3", "mnuPaletteOpts4",
-                    "mnuToolsOpts6", "mnuToolsOpts7", "mnuLanguageOpts0", "mnuLanguageOpts1",
-                    "mnuHomePage", "mnuHelp2", "mnuAbout"}));
-    EXPECT_EQ(ChooseAll(window_.EditingPopup()), Keys{"mnuPopup2Opts4"});
+    Keys chosen = ChooseAll(Bar());
+    EXPECT_EQ(std::erase_if(chosen, filters::FindFilter), filters::Filters().size());
+    EXPECT_EQ(chosen,
+              (Keys{"mnuNew",          "mnuOpen",          "mnuSave",          "mnuSaveAs",
+                    "mnuExit",         "mnuEditOpts9",     "mnuToolsOpts1",    "mnuPaletteOpts0",
+                    "mnuPaletteOpts1", "mnuPaletteOpts3",  "mnuPaletteOpts4",  "mnuToolsOpts6",
+                    "mnuToolsOpts7",   "mnuImageOpts0",    "mnuImageOpts1",    "mnuImageOpts2",
+                    "mnuImageOpts3",   "mnuMirrorOpts0",   "mnuMirrorOpts1",   "mnuMirrorOpts2",
+                    "mnuMirrorOpts3",  "mnuRotateOpts0",   "mnuRotateOpts1",   "mnuRotateOpts3",
+                    "mnuRotateOpts4",  "mnuLanguageOpts0", "mnuLanguageOpts1", "mnuHomePage",
+                    "mnuHelp2",        "mnuAbout"}));
+    EXPECT_EQ(ChooseAll(window_.EditingPopup()),
+              (Keys{"mnuPopup2Opts4", "mnuRotate2Opts0", "mnuRotate2Opts1", "mnuFlip2Opts0",
+                    "mnuFlip2Opts1"}));
     // A new item without a row would look usable and do nothing.
     for (const auto& [menu, widget, rows] :
          {std::tuple{&BarMenu(), static_cast<QWidget*>(Bar()), MenuBarCommands()},
@@ -60,8 +69,13 @@ TEST_F(MenusTest, ItemsThatAreShownAndEnabledAreReached) {
             menu->SetVisible(item.key, true);
         }
         Keys commands;
-        for (const CommandRow& row : rows)
-            commands.emplace_back(row.key);
+        for (const MenuItem& item : menu->Items()) {
+            if (menu->IsSubmenu(item.key) || item.kind == controls::ItemKind::Separator) continue;
+            commands.push_back(item.key);
+            EXPECT_TRUE(std::ranges::find(rows, item.key, &CommandRow::key) != rows.end() ||
+                        filters::FindFilter(item.key) != nullptr)
+                << item.key;
+        }
         EXPECT_EQ(ChooseAll(widget), commands);
     }
     for (const MenuItem& item : BarMenu().Items()) {

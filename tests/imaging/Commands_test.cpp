@@ -1,0 +1,237 @@
+#include <algorithm>
+#include <functional>
+
+#include "imaging/FilterCommands.h"
+#include "imaging/ImageCommands.h"
+#include "imaging/TransformCommands.h"
+#include "tests/support/EditorTest.h"
+
+namespace kestrel::imaging {
+namespace {
+
+using editing::Button;
+using test::At;
+
+// A user who answers what a test says; without an answer the dialog is cancelled.
+class ScriptedImagingDialogs : public ImagingDialogs {
+  public:
+    bool AdjustColors(ColorAdjustment& colors, const gdi::Surface& preview) override {
+        shown = preview;
+        if (adjust) adjust(colors);
+        return adjust && accepts;
+    }
+    std::optional<int> AskGamma() override { return gamma; }
+    std::optional<gdi::Surface> AskGradient() override { return gradient; }
+
+    gdi::Surface shown{0, 0};
+    std::function<void(ColorAdjustment& colors)> adjust;
+    bool accepts = true;
+    std::optional<int> gamma;
+    std::optional<gdi::Surface> gradient;
+};
+
+class EventsOfTest : public desktop::MessageLoop {
+  public:
+    void DoEvents() override {
+        if (const auto now = std::exchange(onEvents, nullptr)) now();
+    }
+    std::function<void()> onEvents;
+};
+
+enum class State { None, Marked, Floating };
+
+// An opaque block of 6 x 4 pixels at (8, 8), each of its own colour; the rest is transparent.
+class ImageCommandsTest : public test::EditorTest {
+  protected:
+    static constexpr gdi::Rect kBlock{8, 8, 6, 4};
+
+    ImageCommandsTest() {
+        for (int i = 0; i < 24; ++i)
+            Paint({8 + i % 6, 8 + i / 6}, 0x102030U * static_cast<unsigned>(i % 10 + 1));
+        editor_.History().PushUndoSnapshot();
+    }
+    void Put(State state) {
+        if (state == State::None) return;
+        editor_.Tools().SelectTool(editing::ToolId::Selection);
+        Stroke(Button::Left, {{80, 80}, {140, 120}});
+        if (state == State::Floating) Stroke(Button::Left, {{105, 105}, {105, 105}});
+    }
+    gdi::COLORREF Seen(At cell) { return editor_.Composited().PicImage.GetPixel(cell.x, cell.y); }
+
+    ScriptedImagingDialogs dialogs_;
+    EventsOfTest loop_;
+    system::RandomNumbers random_{1};
+    TransformCommands transforms_{editor_};
+    ImageCommands images_{editor_, dialogs_, loop_};
+    FilterCommands filters_{editor_, dialogs_, loop_, random_};
+};
+
+TEST_F(ImageCommandsTest, EachStateKeepsItsPathAndItsCountOfEntries) {
+    const struct {
+        const char* what;
+        std::function<void()> run;
+        // Entries that it records without, with a marked and with a floating selection.
+        std::array<std::size_t, 3> entries;
+        // Where the colour of the block's top left pixel goes, and what it becomes.
+        At to;
+        gdi::COLORREF color;
+        std::array<State, 3> after = {State::None, State::Marked, State::Floating};
+    } kCommands[] = {
+        {"flip", [&] { transforms_.mnuRotateOpts_Click(3); }, {1, 0, 0}, {13, 8}, 0x102030},
+        {"flip", [&] { transforms_.mnuRotateOpts_Click(4); }, {1, 0, 0}, {8, 11}, 0x102030},
+        {"mirror", [&] { transforms_.mnuMirrorOpts_Click(0); }, {1, 1, 1}, {13, 8}, 0x102030},
+        {"mirror", [&] { transforms_.mnuMirrorOpts_Click(2); }, {1, 1, 1}, {8, 11}, 0x102030},
+        {"rotate left",
+         [&] { transforms_.mnuRotateOpts_Click(0); },
+         {1, 0, 0},
+         {8, 13},
+         0x102030,
+         {State::None, State::Floating, State::Floating}},
+        {"rotate right",
+         [&] { transforms_.mnuRotateOpts_Click(1); },
+         {1, 0, 0},
+         {11, 8},
+         0x102030,
+         {State::None, State::Floating, State::Floating}},
+        {"negative", [&] { filters_.Run("mnuNegative"); }, {1, 1, 1}, {8, 8}, 0xEFDFCF},
+        {"invert", [&] { images_.mnuImageOpts_Click(3); }, {1, 0, 0}, {8, 8}, 0xEFDFCF},
+        // (222 x 0x30 + 707 x 0x20 + 71 x 0x10) / 1000 = 34.4
+        {"grayscale", [&] { images_.mnuImageOpts_Click(2); }, {1, 0, 0}, {8, 8}, 0x222222},
+        {"gamma cancelled", [&] { filters_.Run("mnuGamma"); }, {1, 1, 1}, {8, 8}, 0x102030},
+        {"no such command", [&] { images_.mnuImageOpts_Click(4); }, {0, 0, 0}, {8, 8}, 0x102030},
+        {"no such command", [&] { transforms_.mnuRotateOpts_Click(2); }, {}, {8, 8}, 0x102030},
+        {"no such command", [&] { transforms_.mnuMirrorOpts_Click(4); }, {}, {8, 8}, 0x102030},
+        {"no such command", [&] { filters_.Run("mnuFilters"); }, {}, {8, 8}, 0x102030},
+    };
+    const document::IconDocument original = icon_;
+    for (const auto& command : kCommands) {
+        for (const State state : {State::None, State::Marked, State::Floating}) {
+            SCOPED_TRACE(testing::Message() << command.what << " " << static_cast<int>(state));
+            editor_.ResetDocument();
+            icon_.PicImage = original.PicImage;
+            icon_.PicMask = original.PicMask;
+            editor_.Views().RedrawAll();
+            editor_.History().PushUndoSnapshot();
+            Put(state);
+            const auto index = static_cast<std::size_t>(state);
+            const std::size_t before = editor_.History().UndoCount();
+            icon_.Modified = false;
+            command.run();
+            EXPECT_EQ(editor_.History().UndoCount() - before, command.entries[index]);
+            const editing::Selection& selection = editor_.Selected();
+            EXPECT_EQ(selection.SelectionMarked(), command.after[index] == State::Marked);
+            EXPECT_EQ(selection.SelectionFloating(), command.after[index] == State::Floating);
+            const bool aboutItsBlock = state != State::None;
+            EXPECT_TRUE(!aboutItsBlock || Seen(command.to) == command.color);
+            EXPECT_EQ(icon_.Modified, std::string_view(command.what) != "no such command");
+            EXPECT_TRUE(test::ViewsAreFresh(editor_));
+        }
+    }
+}
+
+TEST_F(ImageCommandsTest, TheWholeIconTurnsAboutItsMiddle) {
+    transforms_.mnuRotateOpts_Click(0);
+    EXPECT_EQ(Seen({8, 23}), 0x102030U);
+    transforms_.mnuRotateOpts_Click(1);
+    transforms_.mnuRotateOpts_Click(1);
+    EXPECT_EQ(Seen({23, 8}), 0x102030U);
+    EXPECT_EQ(OpaquePixels(), 24);
+    transforms_.mnuMirrorOpts_Click(0);
+    EXPECT_EQ(OpaquePixels(), 0) << "the left half was transparent";
+}
+
+TEST_F(ImageCommandsTest, ARotatedSelectionKeepsItsCornerAndCanBeMovedAndUndone) {
+    Put(State::Marked);
+    transforms_.mnuRotateOpts_Click(1);
+    EXPECT_EQ(editor_.Selected().Marquee(), (editing::Corners{80, 80, 120, 140}));
+    EXPECT_EQ(OpaquePixels(), 0) << "lifted";
+    EXPECT_TRUE(transforms_.CanMirrorColumns());
+    editor_.Selected().MoveBy(-1, 2);
+    editor_.Selected().DropSelection();
+    EXPECT_EQ(Seen({10, 10}), 0x102030U);
+    editor_.PopUndoSnapshot();
+    EXPECT_EQ(Seen({8, 8}), 0x102030U);
+}
+
+TEST_F(ImageCommandsTest, HalvesAreMirroredWhereTheyAreEqual) {
+    EXPECT_TRUE(transforms_.CanMirrorColumns() && transforms_.CanMirrorRows());
+    editor_.Tools().SelectTool(editing::ToolId::Selection);
+    Stroke(Button::Left, {{80, 80}, {150, 120}});
+    EXPECT_FALSE(transforms_.CanMirrorColumns());
+    EXPECT_TRUE(transforms_.CanMirrorRows());
+}
+
+TEST_F(ImageCommandsTest, AFilterSparesTransparentPixelsAndWhatLiesUnderASelection) {
+    icon_.PicImage.SetPixel(0, 0, 0x123456);  // an inverted-screen pixel
+    Put(State::Floating);
+    const document::IconDocument under = icon_;
+    filters_.Run("mnuNegative");
+    EXPECT_TRUE(icon_.PicImage.SamePixels(under.PicImage) &&
+                icon_.PicMask.SamePixels(under.PicMask));
+    editor_.Selected().DropSelection();
+    filters_.Run("mnuNegative");
+    EXPECT_EQ(Seen({8, 8}), 0x102030U) << "twice";
+    EXPECT_EQ(Seen({0, 0}), 0x123456U);
+    EXPECT_EQ(Seen({1, 1}), gdi::kBlack);
+    EXPECT_EQ(OpaquePixels(), 24);
+}
+
+TEST_F(ImageCommandsTest, AFilterWithinAFilterOnlyLeavesItsEntry) {
+    loop_.onEvents = [this] { filters_.Run("mnuNegative"); };
+    filters_.Run("mnuSwapBank4");
+    EXPECT_EQ(Seen({8, 8}), 0x302010U);
+    EXPECT_EQ(editor_.History().UndoCount(), 4U);
+}
+
+TEST_F(ImageCommandsTest, GammaIsAskedFor) {
+    const gdi::COLORREF brighter = 0x405A6F;  // 255 x (v / 255) ^ 0.5 for 16, 32 and 48
+    for (const auto& [factor, color] :
+         {std::pair{0, 0x102030U}, {100, 0x102030U}, {200, brighter}}) {
+        dialogs_.gamma = factor;
+        filters_.Run("mnuGamma");
+        EXPECT_EQ(Seen({8, 8}), color) << factor;
+    }
+    EXPECT_EQ(editor_.History().UndoCount(), 5U);
+}
+
+TEST_F(ImageCommandsTest, ColorsAreAdjustedOnThePutDownIcon) {
+    Put(State::Floating);
+    dialogs_.adjust = [](ColorAdjustment& colors) {
+        colors.Change(AdjustmentBar::Red, 100);
+        colors.Change(AdjustmentBar::Green, -3);
+    };
+    dialogs_.accepts = false;
+    images_.mnuImageOpts_Click(0);
+    EXPECT_FALSE(editor_.Selected().Exists());
+    EXPECT_EQ(editor_.History().UndoCount(), 3U) << "of the selection alone";
+    EXPECT_EQ(Seen({8, 8}), 0x102030U);
+    EXPECT_TRUE(dialogs_.shown.SamePixels(editor_.Views().PicIcon));
+    dialogs_.accepts = true;
+    images_.mnuImageOpts_Click(0);
+    EXPECT_EQ(Seen({8, 8}), 0x101B35U);
+    EXPECT_EQ(OpaquePixels(), 24);
+    EXPECT_EQ(editor_.History().UndoCount(), 4U);
+    EXPECT_TRUE(test::ViewsAreFresh(editor_));
+}
+
+TEST_F(ImageCommandsTest, AGradientAndAButtonReplaceTheWholeIcon) {
+    Put(State::Floating);
+    images_.GradientBackground();
+    EXPECT_TRUE(editor_.Selected().SelectionFloating()) << "cancelled";
+    dialogs_.gradient = gdi::Surface(32, 32, 0xFFFFFF);
+    images_.GradientBackground();
+    EXPECT_FALSE(editor_.Selected().Exists());
+    EXPECT_EQ(OpaquePixels(), 1024);
+    EXPECT_EQ(Seen({31, 31}), 0xFFFFFFU);
+    EXPECT_EQ(editor_.History().UndoCount(), 4U);
+    editor_.SelectAll();
+    images_.mnuImageOpts_Click(1);
+    EXPECT_FALSE(editor_.Selected().Exists());
+    EXPECT_EQ(Seen({31, 0}), 0xBFBFBFU);
+    EXPECT_EQ(Seen({4, 4}), 0xFFFFFFU);
+    EXPECT_EQ(editor_.History().UndoCount(), 5U);
+    EXPECT_TRUE(test::ViewsAreFresh(editor_));
+}
+
+}  // namespace
+}  // namespace kestrel::imaging
