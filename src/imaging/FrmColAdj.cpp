@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <algorithm>
 
 #include "i18n/Captions.h"
 #include "imaging/FrmParts.h"
@@ -16,19 +17,28 @@ using qt::ToText;
 constexpr int kLimit = 255;
 constexpr int kStep = 5;
 constexpr int kBarHeight = 176;
-constexpr int kBetweenColumns = 18;
+constexpr int kBetweenColumns = 12;
 constexpr int kBetweenLabels = 6;
 
 // In the order of AdjustmentBar.
 constexpr std::array kNames{"Brightness", "Red", "Green", "Blue"};
 constexpr std::array kCaptions{i18n::kBrightness, i18n::kRed, i18n::kGreen, i18n::kBlue};
 
+// All of one width, so that the bars stand at even distances.
+QLabel* NewCaption(const i18n::Text& text) {
+    auto* caption = new QLabel(ToText(text.Now()));
+    caption->setAlignment(Qt::AlignCenter);
+    for (const i18n::Text& other : kCaptions) {
+        const int width = caption->fontMetrics().horizontalAdvance(ToText(other.Now()));
+        caption->setMinimumWidth(std::max(caption->minimumWidth(), width));
+    }
+    return caption;
+}
+
 QLabel* NewValueLabel(const char* name) {
     auto* value = new QLabel(QString::number(0));
     value->setObjectName(QStringLiteral("Lbl%1").arg(name));
     value->setAlignment(Qt::AlignCenter);
-    // The columns stand still whatever is shown.
-    value->setMinimumWidth(value->fontMetrics().horizontalAdvance(QString::number(-kLimit)));
     return value;
 }
 
@@ -53,8 +63,7 @@ FrmColAdj::FrmColAdj(QWidget* owner, ColorAdjustment& colors, const gdi::Surface
 
 QLayout* FrmColAdj::NewColumn(AdjustmentBar bar) {
     const auto index = static_cast<std::size_t>(bar);
-    auto* caption = new QLabel(ToText(kCaptions[index].Now()));
-    caption->setAlignment(Qt::AlignCenter);
+    QLabel* caption = NewCaption(kCaptions[index]);
     QLabel* value = NewValueLabel(kNames[index]);
     auto* vsb = new qt::ValueBar(Qt::Vertical);
     vsb->setObjectName(QStringLiteral("Vsb%1").arg(kNames[index]));

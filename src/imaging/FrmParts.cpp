@@ -10,6 +10,8 @@
 namespace kestrel::imaging {
 
 QVBoxLayout* NewRows(QDialog& dialog, const i18n::Text& title) {
+    dialog.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowCloseButtonHint);
     dialog.setWindowTitle(qt::ToText(title.Now()));
     qt::AddCloseKey(dialog, Qt::ALT | Qt::Key_F4);
     auto* rows = new QVBoxLayout(&dialog);

@@ -1,6 +1,6 @@
 #include "imaging/FrmShades.h"
 
-#include <QGroupBox>
+#include <QFrame>
 #include <QIcon>
 
 #include "i18n/Captions.h"
@@ -19,6 +19,8 @@ using qt::ToText;
 
 constexpr int kPageStep = 5;
 constexpr int kBarWidth = 128;
+// Left and right of a box's text together.
+constexpr int kBoxEdges = 16;
 constexpr int kSwatchHeight = 22;
 constexpr int kGroupMargin = 10;
 constexpr int kBetweenControls = 8;
@@ -47,7 +49,7 @@ qt::DigitBox* NewLevelBox(std::size_t index, int value) {
     auto* box = new qt::DigitBox(qt::DigitBox::Backspace::Taken);
     box->setObjectName(QStringLiteral("TxtColor%1").arg(index));
     box->setText(QString::number(value));
-    box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + 16);
+    box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + kBoxEdges);
     return box;
 }
 
@@ -73,7 +75,8 @@ FrmShades::FrmShades(QWidget* owner)
 }
 
 QWidget* FrmShades::NewColorGroup(End end) {
-    auto* group = new QGroupBox;
+    auto* group = new QFrame;
+    group->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     auto* grid = new QGridLayout(group);
     grid->setContentsMargins(kGroupMargin, kGroupMargin, kGroupMargin, kGroupMargin);
     grid->setSpacing(kBetweenControls);

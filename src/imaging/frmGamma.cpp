@@ -11,9 +11,9 @@ namespace kestrel::imaging {
 namespace {
 
 constexpr int kDigits = 4;
-constexpr int kBetweenPromptAndBox = 6;
-// Room for the title.
-constexpr int kWidth = 300;
+constexpr int kBoxWidth = 80;
+// Room for the title too.
+constexpr int kRowWidth = 300;
 
 }  // namespace
 
@@ -21,15 +21,15 @@ frmGamma::frmGamma(QWidget* owner)
     : QDialog(owner), txtGamma_(new qt::DigitBox(qt::DigitBox::Backspace::Discarded)) {
     txtGamma_->setObjectName("txtGamma");
     txtGamma_->setMaxLength(kDigits);
-    txtGamma_->setMinimumWidth(kWidth);
+    txtGamma_->setFixedWidth(kBoxWidth);
     auto* lblGamma = new QLabel(qt::ToText(i18n::kGammaPrompt.Now()));
     lblGamma->setObjectName("lblGamma");
     lblGamma->setBuddy(txtGamma_);
-    auto* question = new QVBoxLayout;
-    question->setSpacing(kBetweenPromptAndBox);
-    question->addWidget(lblGamma);
+    auto* question = new QHBoxLayout;
+    question->addWidget(lblGamma, 1);
     question->addWidget(txtGamma_);
     QVBoxLayout* rows = NewRows(*this, i18n::kGammaTitle);
+    rows->addStrut(kRowWidth);
     rows->addLayout(question);
     rows->addLayout(NewButtons(*this, i18n::kGammaOk, i18n::kGammaCancel));
     PlaceDialog(*this);

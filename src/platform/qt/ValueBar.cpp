@@ -36,8 +36,9 @@ void ValueBar::paintEvent(QPaintEvent* event) {
     QScrollBar::paintEvent(event);
     if (!hasFocus()) return;
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    // Filled: a line may leave out a side where a unit is no whole number of pixels.
+    for (const QRect& side : QRegion(rect()) - rect().adjusted(1, 1, -1, -1))
+        painter.fillRect(side, palette().color(QPalette::Highlight));
 }
 
 // Away from the user raises the value, whatever the other controls do.
