@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include "document/IconDocument.h"
 
@@ -35,7 +36,7 @@ class ColorAdjustment {
     void Draw(gdi::Surface& picture) const;
 
   private:
-    using Records = std::array<ColorRecord, document::kIconSize * document::kIconSize>;
+    using Records = std::array<ColorRecord, std::size_t{document::kIconSize} * document::kIconSize>;
 
     void Step(AdjustmentBar bar, int step);
 

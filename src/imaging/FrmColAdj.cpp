@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <algorithm>
+#include <utility>
 
 #include "i18n/Captions.h"
 #include "imaging/FrmParts.h"
@@ -44,10 +45,10 @@ QLabel* NewValueLabel(const char* name) {
 
 }  // namespace
 
-FrmColAdj::FrmColAdj(QWidget* owner, ColorAdjustment& colors, const gdi::Surface& preview)
+FrmColAdj::FrmColAdj(QWidget* owner, ColorAdjustment& colors, gdi::Surface preview)
     : QDialog(owner),
       colors_(colors),
-      picture_(preview),
+      picture_(std::move(preview)),
       PicShade_(new qt::SurfaceWidget(picture_, this)) {
     PicShade_->setObjectName("PicShade");
     QVBoxLayout* rows = NewRows(*this, i18n::kColorAdjustmentTitle);

@@ -13,7 +13,7 @@ namespace kestrel::imaging {
 class FrmColAdj : public QDialog {
   public:
     // `preview` is the icon in actual size before any change.
-    FrmColAdj(QWidget* owner, ColorAdjustment& colors, const gdi::Surface& preview);
+    FrmColAdj(QWidget* owner, ColorAdjustment& colors, gdi::Surface preview);
 
   private:
     QLayout* NewColumn(AdjustmentBar bar);

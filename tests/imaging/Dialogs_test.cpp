@@ -33,9 +33,6 @@ QScrollBar* Bar(const QWidget& dialog, const char* name) {
 std::string LabelOf(const QWidget& dialog, const char* name) {
     return Find<QLabel>(dialog, name)->text().toStdString();
 }
-void Click(const QWidget& dialog, const char* name) {
-    QTest::mouseClick(Find<QPushButton>(dialog, name), Qt::LeftButton);
-}
 void Show(QWidget& dialog) {
     dialog.show();
     QApplication::setActiveWindow(&dialog);
@@ -44,6 +41,10 @@ void Show(QWidget& dialog) {
 // What the window shows at a pixel of a picture.
 gdi::COLORREF Shown(const QWidget& dialog, const char* picture, int x, int y) {
     return qt::ToColorRef(Find<QWidget>(dialog, picture)->grab().toImage().pixelColor(x, y));
+}
+void Type(QWidget* box, const char* keys) {
+    for (; *keys != 0; ++keys)
+        *keys == '\b' ? QTest::keyClick(box, Qt::Key_Backspace) : QTest::keyClick(box, *keys);
 }
 // Does this in the dialog that comes up next.
 void Then(const std::function<void(QWidget& dialog)>& act) {
@@ -54,22 +55,19 @@ void Then(const std::function<void(QWidget& dialog)>& act) {
     });
 }
 
-// An icon whose only opaque pixel is the one at (1, 0).
-document::IconDocument OnePixel(gdi::COLORREF color) {
-    document::IconDocument icon;
-    icon.PicMask.SetPixel(1, 0, gdi::kBlack);
-    icon.PicImage.SetPixel(1, 0, color);
-    return icon;
-}
-
 class FrmColAdjTest : public testing::Test {
   protected:
-    FrmColAdjTest() { Show(dialog_); }
+    FrmColAdjTest() {
+        icon_.PicMask.SetPixel(1, 0, gdi::kBlack);  // all others are transparent
+        icon_.PicImage.SetPixel(1, 0, gdi::Rgb(252, 100, 3));
+        colors_ = ColorAdjustment(icon_);
+        Show(dialog_);
+    }
     gdi::COLORREF Pixel() { return Shown(dialog_, "PicShade", 1, 0); }
 
-    ColorAdjustment colors_{OnePixel(gdi::Rgb(252, 100, 3))};
-    gdi::Surface preview_{32, 32, kGround};
-    FrmColAdj dialog_{nullptr, colors_, preview_};
+    document::IconDocument icon_;
+    ColorAdjustment colors_{icon_};
+    FrmColAdj dialog_{nullptr, colors_, gdi::Surface(32, 32, kGround)};
     QScrollBar* red_ = Bar(dialog_, "VsbRed");
 };
 
@@ -88,36 +86,26 @@ TEST_F(FrmColAdjTest, ADragIsOneStepAndTheLabelFollowsIt) {
 }
 
 TEST_F(FrmColAdjTest, EveryControlRaisesTowardsTheTop) {
-    const QPoint x(red_->width() / 2, 0);
-    const QPoint top = x + QPoint(0, 4), bottom = x + QPoint(0, red_->height() - 5);
     const auto wheel = [&](int angle) {
-        QWheelEvent event(top, red_->mapToGlobal(top), {}, {0, angle}, Qt::NoButton, {},
+        QWheelEvent event({5, 5}, red_->mapToGlobal(QPointF(5, 5)), {}, {0, angle}, {}, {},
                           Qt::NoScrollPhase, false);
         QApplication::sendEvent(red_, &event);
     };
-    struct {
-        const char* what;
-        std::function<void()> act;
-        int value;
-    } const cases[] = {
-        {"Up", [&] { QTest::keyClick(red_, Qt::Key_Up); }, 5},
-        {"Right", [&] { QTest::keyClick(red_, Qt::Key_Right); }, 5},
-        {"PageUp", [&] { QTest::keyClick(red_, Qt::Key_PageUp); }, 5},
-        {"Down", [&] { QTest::keyClick(red_, Qt::Key_Down); }, -5},
-        {"Home", [&] { QTest::keyClick(red_, Qt::Key_Home); }, 255},
-        {"End", [&] { QTest::keyClick(red_, Qt::Key_End); }, -255},
-        {"upper arrow", [&] { QTest::mouseClick(red_, Qt::LeftButton, {}, top); }, 5},
-        {"lower arrow", [&] { QTest::mouseClick(red_, Qt::LeftButton, {}, bottom); }, -5},
-        {"above the thumb",
-         [&] { QTest::mouseClick(red_, Qt::LeftButton, {}, top + QPoint(0, 20)); }, 5},
-        {"wheel up", [&] { wheel(120); }, 5},
-        {"wheel down", [&] { wheel(-120); }, -5},
-    };
-    for (const auto& c : cases) {
+    const auto after = [&](const auto& act, auto what) {
         red_->setValue(0);
-        c.act();
-        EXPECT_EQ(red_->value(), c.value) << c.what;
-    }
+        act(what);
+        return red_->value();
+    };
+    const auto key = [&](Qt::Key pressed) { QTest::keyClick(red_, pressed); };
+    const auto click = [&](int y) { QTest::mouseClick(red_, Qt::LeftButton, {}, {5, y}); };
+    EXPECT_EQ(after(key, Qt::Key_Up), 5);
+    EXPECT_EQ(after(key, Qt::Key_Right), 5);
+    EXPECT_EQ(after(key, Qt::Key_PageDown), -5);
+    EXPECT_EQ(after(key, Qt::Key_Home), 255);
+    EXPECT_EQ(after(click, 4), 5);  // an arrow
+    EXPECT_EQ(after(click, red_->height() - 5), -5);
+    EXPECT_EQ(after(click, 24), 5);  // above the thumb
+    EXPECT_EQ(after(wheel, 120), 5);
 }
 
 TEST_F(FrmColAdjTest, RestoresWhatWentTooFarAndLeavesTransparentPixels) {
@@ -129,7 +117,7 @@ TEST_F(FrmColAdjTest, RestoresWhatWentTooFarAndLeavesTransparentPixels) {
     Bar(dialog_, "VsbBrightness")->setValue(-255);
     EXPECT_EQ(Pixel(), gdi::Rgb(247, 95, 3));
     red_->setValue(-10);
-    Click(dialog_, "CmdReset");
+    Find<QPushButton>(dialog_, "CmdReset")->click();
     EXPECT_EQ(Pixel(), gdi::Rgb(252, 100, 3));
     EXPECT_EQ(LabelOf(dialog_, "LblRed") + LabelOf(dialog_, "LblBrightness"), "00");
     EXPECT_EQ(red_->value(), 0);
@@ -140,187 +128,127 @@ TEST_F(FrmColAdjTest, RestoresWhatWentTooFarAndLeavesTransparentPixels) {
 }
 
 TEST(FrmGammaTest, TakesDigitsAlone) {
-    struct {
-        const char* what;
-        std::function<void(QWidget*)> type;
-        const char* text;
-    } const cases[] = {
-        {"digits, up to four", [](auto* box) { QTest::keyClicks(box, "12034"); }, "1203"},
-        {"others", [](auto* box) { QTest::keyClicks(box, "-1a.2 +:/"); }, "12"},
-        {"Backspace",
-         [](auto* box) {
-             QTest::keyClicks(box, "12");
-             QTest::keyClick(box, Qt::Key_Backspace);
-         },
-         "12"},
-        {"Delete",
-         [](auto* box) {
-             QTest::keyClicks(box, "123");
-             QTest::keyClick(box, Qt::Key_Home);
-             QTest::sendKeyEvent(QTest::Click, box, Qt::Key_Delete, "\x7f", {});
-         },
-         "23"},
-        {"Ctrl+V",
-         [](auto* box) {
-             QApplication::clipboard()->setText("77");
-             QTest::sendKeyEvent(QTest::Click, box, Qt::Key_V, "\x16", Qt::ControlModifier);
-         },
-         ""},
-        {"pasted",
-         [](auto* box) {
-             QApplication::clipboard()->setText("-7");
-             static_cast<QLineEdit*>(box)->paste();
-         },
-         ""},
-    };
-    for (const auto& c : cases) {
-        frmGamma dialog(nullptr);
-        Show(dialog);
-        auto* box = Find<QLineEdit>(dialog, "txtGamma");
-        c.type(box);
-        EXPECT_EQ(box->text().toStdString(), c.text) << c.what;
+    frmGamma dialog(nullptr);
+    Show(dialog);
+    auto* box = Find<QLineEdit>(dialog, "txtGamma");
+    Type(box, "-1a.2\b +:/035");
+    EXPECT_EQ(box->text(), "1203");
+    QTest::keyClick(box, Qt::Key_Home);
+    QTest::sendKeyEvent(QTest::Click, box, Qt::Key_Delete, "\x7f", {});
+    EXPECT_EQ(box->text(), "203");
+    for (const char* text : {"7", "-"}) {
+        QApplication::clipboard()->setText(text);
+        QTest::sendKeyEvent(QTest::Click, box, Qt::Key_V, "\x16", Qt::ControlModifier);
     }
+    box->paste();
+    EXPECT_EQ(box->text(), "203");
 }
 
-class FrmShadesTest : public testing::Test {
-  protected:
-    FrmShadesTest() { Show(dialog_); }
-    QLineEdit* Box(const char* name) { return Find<QLineEdit>(dialog_, name); }
-    FrmShades dialog_{nullptr};
-};
-
-TEST_F(FrmShadesTest, BarFollowsTheTextAndTheTextTheBar) {
+TEST(FrmShadesTest, BarFollowsTheTextAndTheTextTheBar) {
+    FrmShades dialog(nullptr);
+    Show(dialog);
     struct {
         const char *typed, *text, *selected;
         int bar;
-        const char* left;  // what is there after editing
     } const cases[] = {
-        {"255", "255", "", 255, "255"}, {"300", "30", "30", 30, "30"},
-        {"2550", "25", "25", 25, "25"}, {"007", "007", "", 7, "7"},
-        {"-1x2", "12", "", 12, "12"},   {"3007", "7", "", 7, "7"},
-        {"12\b", "1", "", 1, "1"},      {"1\b", "", "", 0, "0"},
+        {"255", "255", "", 255}, {"300", "30", "30", 30}, {"2550", "25", "25", 25},
+        {"007", "007", "", 7},   {"-1x2", "12", "", 12},  {"3007", "7", "", 7},
+        {"12\b", "1", "", 1},    {"1\b", "", "", 0},
     };
-    QLineEdit* box = Box("TxtColor1");
+    auto* box = Find<QLineEdit>(dialog, "TxtColor1");
+    QScrollBar* bar = Bar(dialog, "Hsb1");
     for (const auto& c : cases) {
         box->setFocus();
         box->selectAll();
-        for (const char* key = c.typed; *key != 0; ++key)
-            *key == '\b' ? QTest::keyClick(box, Qt::Key_Backspace) : QTest::keyClick(box, *key);
-        EXPECT_EQ(box->text().toStdString(), c.text) << c.typed;
-        EXPECT_EQ(box->selectedText().toStdString(), c.selected) << c.typed;
-        EXPECT_EQ(Bar(dialog_, "Hsb1")->value(), c.bar) << c.typed;
+        Type(box, c.typed);
+        EXPECT_EQ(box->text(), c.text) << c.typed;
+        EXPECT_EQ(box->selectedText(), c.selected) << c.typed;
+        EXPECT_EQ(bar->value(), c.bar) << c.typed;
         QTest::keyClick(box, Qt::Key_Tab);
-        EXPECT_EQ(box->text().toStdString(), c.left) << c.typed;
+        EXPECT_EQ(box->text(), QString::number(c.bar)) << c.typed;
     }
-    QTest::keyClick(Bar(dialog_, "Hsb1"), Qt::Key_Right);
+    QTest::keyClick(bar, Qt::Key_Right);
     EXPECT_EQ(box->text(), "1");
     box->setText("99999999999");
-    EXPECT_EQ(Bar(dialog_, "Hsb1")->value(), 99);
+    EXPECT_EQ(bar->value(), 99);
 }
 
-TEST_F(FrmShadesTest, ShowsTheGradientOfItsBars) {
-    EXPECT_EQ(Shown(dialog_, "PicSml", 31, 0), gdi::Rgb(247, 247, 247));
-    QScrollBar* degrees = Bar(dialog_, "VsbDegrees");
-    for (int turn = 1; turn <= 3; ++turn) {
-        QTest::keyClick(degrees, Qt::Key_Up);
-        EXPECT_EQ(LabelOf(dialog_, "LblDegrees"), std::to_string(turn * 45));
+TEST(FrmShadesTest, ShowsTheGradientOfItsBars) {
+    const FrmShades dialog(nullptr);
+    EXPECT_EQ(Shown(dialog, "PicSml", 31, 0), gdi::Rgb(247, 247, 247));
+    for (const char* angle : {"45", "90", "135"}) {
+        QTest::keyClick(Bar(dialog, "VsbDegrees"), Qt::Key_Up);
+        EXPECT_EQ(LabelOf(dialog, "LblDegrees"), angle);
     }
-    Bar(dialog_, "Hsb0")->setValue(64);
-    Bar(dialog_, "Hsb3")->setValue(0);
-    Bar(dialog_, "Hsb5")->setValue(128);
+    Bar(dialog, "Hsb0")->setValue(64);
+    Bar(dialog, "Hsb3")->setValue(0);
+    Bar(dialog, "Hsb5")->setValue(128);
     // 62 of 64 steps from the upper right: red 64 - 62, green 255 * 62 / 64, blue 2 * 62.
-    EXPECT_EQ(Shown(dialog_, "PicSml", 0, 31), gdi::Rgb(2, 247, 124));
-    EXPECT_EQ(Shown(dialog_, "PicSml", 31, 0), gdi::Rgb(63, 4, 2));
+    EXPECT_EQ(Shown(dialog, "PicSml", 0, 31), gdi::Rgb(2, 247, 124));
+    EXPECT_EQ(Shown(dialog, "PicSml", 31, 0), gdi::Rgb(63, 4, 2));
 }
 
 // The three dialogs as the commands ask for them.
 class ImagingDialogsTest : public testing::Test {
   protected:
     void TearDown() override { i18n::SetUiLanguage(i18n::kEnglish); }
-    bool Adjust() { return dialogs_.AdjustColors(colors_, preview_); }
+    bool Adjust() { return dialogs_.AdjustColors(colors_, gdi::Surface(32, 32)); }
 
     QWidget owner_;
     FrmImagingDialogs dialogs_{owner_};
-    ColorAdjustment colors_{OnePixel(gdi::kBlack)};
-    gdi::Surface preview_{32, 32, kGround};
+    ColorAdjustment colors_{document::IconDocument()};
 };
 
 TEST_F(ImagingDialogsTest, GivesTheAnswerOrNone) {
-    const auto press = [](const char* button) {
-        return [button](QWidget& dialog) { Click(dialog, button); };
+    const auto type = [](const char* box, const char* keys) {
+        Then([=](auto& dialog) { Type(Find<QWidget>(dialog, box), keys); });
     };
-    const auto key = [](Qt::Key pressed, const char* typed, const char* box) {
-        return [=](QWidget& dialog) {
-            QTest::keyClicks(Find<QWidget>(dialog, box), typed);
-            QTest::keyClick(Find<QWidget>(dialog, box), pressed);
-        };
-    };
-    Then(press("cmdOK"));
+    type("cmdOK", " ");
     EXPECT_TRUE(Adjust());
-    Then(press("cmdCancel"));
+    type("cmdCancel", " ");
     EXPECT_FALSE(Adjust());
-    Then(key(Qt::Key_Return, "220", "txtGamma"));
+    type("txtGamma", "220\r");
     EXPECT_EQ(dialogs_.AskGamma(), 220);
-    Then(press("cmdOK"));
+    type("cmdOK", " ");
     EXPECT_EQ(dialogs_.AskGamma(), 0);
-    Then(key(Qt::Key_Escape, "220", "txtGamma"));
+    type("txtGamma", "220\x1b");
     EXPECT_EQ(dialogs_.AskGamma(), std::nullopt);
-    Then(key(Qt::Key_Return, "4", "TxtColor2"));
-    const auto picture = dialogs_.AskGradient();
-    ASSERT_TRUE(picture.has_value());
-    EXPECT_EQ(picture->GetPixel(0, 31), gdi::Rgb(0, 0, 4));
-    Then(key(Qt::Key_Escape, "", "TxtColor2"));
+    type("TxtColor2", "4\r");
+    EXPECT_EQ(dialogs_.AskGradient().value().GetPixel(0, 31), gdi::Rgb(0, 0, 4));
+    type("TxtColor2", "\x1b");
     EXPECT_FALSE(dialogs_.AskGradient().has_value());
 }
 
 TEST_F(ImagingDialogsTest, SpeaksBothLanguages) {
-    struct {
-        std::string_view language;
-        std::function<void()> ask;
-        const char* title;
-        QStringList texts;
-    } const cases[] = {
-        {i18n::kEnglish,
-         [&] { Adjust(); },
-         "KestrelIconEditor - Color Adjustment",
-         {"Brightness:", "Red(R):", "Green(G):", "Blue(B):", "OK", "Cancel", "Reset"}},
-        {i18n::kChinese,
-         [&] { Adjust(); },
-         "KestrelIconEditor - 颜色调整",
-         {"亮度:", "红(R):", "绿(G):", "蓝(B):", "确定", "取消", "复位"}},
-        {i18n::kEnglish,
-         [&] { dialogs_.AskGamma(); },
-         "KestrelIconEditor - Gamma Correction",
-         {"Input Gamma Factor * 100", "&OK", "&Cancel"}},
-        {i18n::kChinese,
-         [&] { dialogs_.AskGamma(); },
-         "KestrelIconEditor - 伽马校正",
-         {"输入伽马要素 * 100", "确定", "取消"}},
-        {i18n::kEnglish,
-         [&] { dialogs_.AskGradient(); },
-         "KestrelIconEditor - Gradient Background",
-         {"  (R):", "  (G):", "  (B):", "Degrees:", "OK", "Cancel"}},
-        {i18n::kChinese,
-         [&] { dialogs_.AskGradient(); },
-         "KestrelIconEditor - 填充渐变色",
-         {"红(R):", "绿(G):", "蓝(B):", " 角度:", "确定", "取消"}},
+    QStringList texts;
+    const auto read = [&](QWidget& dialog) {
+        texts << dialog.windowTitle();
+        for (const auto* label : dialog.findChildren<QLabel*>())
+            if (label->buddy() != nullptr) texts << label->text();
+        for (const auto* button : dialog.findChildren<QPushButton*>())
+            texts << button->text();
+        QTest::keyClick(&dialog, Qt::Key_F4, Qt::AltModifier);
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.title);
-        i18n::SetUiLanguage(c.language);
-        Then([&](QWidget& dialog) {
-            EXPECT_EQ(dialog.windowTitle().toStdString(), c.title);
-            QSet<QString> texts;
-            for (const auto* label : dialog.findChildren<QLabel*>())
-                if (bool number = false; label->text().toInt(&number) == 0 && !number)
-                    texts << label->text();
-            for (const auto* button : dialog.findChildren<QPushButton*>())
-                texts << button->text();
-            EXPECT_EQ(texts, QSet<QString>(c.texts.begin(), c.texts.end()));
-            QTest::keyClick(&dialog, Qt::Key_F4, Qt::AltModifier);
-        });
-        c.ask();
-    }
+    const auto textsIn = [&](std::string_view language) {
+        i18n::SetUiLanguage(language);
+        texts.clear();
+        Then(read);
+        EXPECT_FALSE(Adjust());
+        Then(read);
+        EXPECT_EQ(dialogs_.AskGamma(), std::nullopt);
+        Then(read);
+        EXPECT_FALSE(dialogs_.AskGradient().has_value());
+        return texts.join('|').toStdString();
+    };
+    EXPECT_EQ(textsIn(i18n::kEnglish),
+              "KestrelIconEditor - Color Adjustment|Brightness:|Red(R):|Green(G):|Blue(B):|Reset|"
+              "OK|Cancel|KestrelIconEditor - Gamma Correction|Input Gamma Factor * 100|&OK|&Cancel|"
+              "KestrelIconEditor - Gradient Background|  (R):|  (G):|  (B):|Degrees:|"
+              "  (R):|  (G):|  (B):|OK|Cancel");
+    EXPECT_EQ(textsIn(i18n::kChinese),
+              "KestrelIconEditor - 颜色调整|亮度:|红(R):|绿(G):|蓝(B):|复位|确定|取消|"
+              "KestrelIconEditor - 伽马校正|输入伽马要素 * 100|确定|取消|KestrelIconEditor - "
+              "填充渐变色|红(R):|绿(G):|蓝(B):| 角度:|红(R):|绿(G):|蓝(B):|确定|取消");
 }
 
 }  // namespace
