@@ -48,7 +48,7 @@ QWidget* NewFrame(qt::SurfaceWidget* picture) {
 
 void PlaceDialog(QDialog& dialog) {
     dialog.layout()->activate();
-    qt::PlaceOnScreen(dialog, dialog.size());
+    qt::CentreOnScreen(dialog, dialog.size());
 }
 
 }  // namespace kestrel::imaging

@@ -28,6 +28,7 @@ bool DigitBox::Takes(const QKeyEvent& event) const {
         case Qt::Key_Delete:
         case Qt::Key_Escape:
         case Qt::Key_Tab:
+        case Qt::Key_Backtab:
             return true;
         case Qt::Key_Backspace:
             return backspace_ == Backspace::Taken;

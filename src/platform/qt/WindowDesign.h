@@ -23,4 +23,11 @@ inline void PlaceOnScreen(QWidget& window, QSize size) {
                 area.y() + (area.height() - size.height()) / 3);
 }
 
+// The same in the middle of the screen.
+inline void CentreOnScreen(QWidget& window, QSize size) {
+    const QRect area = window.screen()->geometry();
+    window.move(area.x() + (area.width() - size.width()) / 2,
+                area.y() + (area.height() - size.height()) / 2);
+}
+
 }  // namespace kestrel::qt
