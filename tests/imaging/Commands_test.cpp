@@ -43,8 +43,6 @@ enum class State { None, Marked, Floating };
 // An opaque block of 6 x 4 pixels at (8, 8), each of its own colour; the rest is transparent.
 class ImageCommandsTest : public test::EditorTest {
   protected:
-    static constexpr gdi::Rect kBlock{8, 8, 6, 4};
-
     ImageCommandsTest() {
         for (int i = 0; i < 24; ++i)
             Paint({8 + i % 6, 8 + i / 6}, 0x102030U * static_cast<unsigned>(i % 10 + 1));

@@ -11,6 +11,7 @@ namespace {
 // Rows that an error reaches, and columns to either side.
 constexpr int kRows = 3;
 constexpr int kReach = 2;
+constexpr std::size_t kMargins = 2 * kReach;
 
 // How the error of a pixel is shared out: weights by row from its own, columns from -2 to 2.
 struct Kernel {
@@ -28,10 +29,10 @@ class ErrorRows {
   public:
     explicit ErrorRows(int width) {
         for (auto& row : rows_)
-            row.resize(static_cast<std::size_t>(width + 2 * kReach));
+            row.resize(static_cast<std::size_t>(width) + kMargins);
     }
 
-    int At(int x) const { return rows_[0][static_cast<std::size_t>(x + kReach)]; }
+    int At(int x) const { return rows_[0].data()[x + kReach]; }
 
     template <const Kernel& kernel>
     void Share(int x, int error) {
@@ -44,7 +45,7 @@ class ErrorRows {
 
     void NextRow() {
         std::ranges::fill(rows_[0], 0);
-        std::ranges::rotate(rows_, rows_.begin() + 1);
+        std::rotate(rows_.begin(), rows_.begin() + 1, rows_.end());
     }
 
   private:

@@ -81,7 +81,7 @@ class Neighbourhood {
   public:
     Neighbourhood(const ThreeRows& rows, int x) : rows_{rows[0] + x, rows[1] + x, rows[2] + x} {}
 
-    int operator()(int dx, int dy) const { return rows_[static_cast<std::size_t>(dy + 1)][dx]; }
+    int operator()(int dx, int dy) const { return rows_.data()[dy + 1][dx]; }
     int Centre() const { return rows_[1][0]; }
     int SumOfNeighbours() const {
         const auto& [above, here, below] = rows_;
