@@ -10,8 +10,7 @@ namespace {
 
 // Rows that an error reaches, and columns to either side.
 constexpr int kRows = 3;
-constexpr int kReach = 2;
-constexpr std::size_t kMargins = 2 * kReach;
+constexpr std::size_t kReach = 2;
 
 // How the error of a pixel is shared out: weights by row from its own, columns from -2 to 2.
 struct Kernel {
@@ -29,16 +28,16 @@ class ErrorRows {
   public:
     explicit ErrorRows(int width) {
         for (auto& row : rows_)
-            row.resize(static_cast<std::size_t>(width) + kMargins);
+            row.resize(static_cast<std::size_t>(width) + 2 * kReach);
     }
 
-    int At(int x) const { return rows_[0].data()[x + kReach]; }
+    int At(int x) const { return rows_[0][static_cast<std::size_t>(x) + kReach]; }
 
     template <const Kernel& kernel>
     void Share(int x, int error) {
         for (std::size_t row = 0; row < kRows; ++row) {
             int* to = rows_[row].data() + x;
-            for (int i = 0; i <= 2 * kReach; ++i)
+            for (std::size_t i = 0; i <= 2 * kReach; ++i)
                 to[i] += error * kernel.weights[row][i] / kernel.divisor;
         }
     }

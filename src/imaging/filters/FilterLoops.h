@@ -81,7 +81,7 @@ class Neighbourhood {
   public:
     Neighbourhood(const ThreeRows& rows, int x) : rows_{rows[0] + x, rows[1] + x, rows[2] + x} {}
 
-    int operator()(int dx, int dy) const { return rows_.data()[dy + 1][dx]; }
+    int operator()(int dx, int dy) const { return Row(dy)[dx]; }
     int Centre() const { return rows_[1][0]; }
     int SumOfNeighbours() const {
         const auto& [above, here, below] = rows_;
@@ -97,6 +97,11 @@ class Neighbourhood {
     }
 
   private:
+    const std::uint8_t* Row(int dy) const {
+        const auto& [above, here, below] = rows_;
+        return dy < 0 ? above : dy > 0 ? below : here;
+    }
+
     template <typename Choose>
     std::uint8_t Fold(const Choose& choose) const {
         std::uint8_t chosen = rows_[1][0];
