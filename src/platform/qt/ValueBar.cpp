@@ -6,13 +6,15 @@ namespace kestrel::qt {
 
 ValueBar::ValueBar(Qt::Orientation orientation) : QScrollBar(orientation) {
     setFocusPolicy(Qt::StrongFocus);
+    // It would speak of scrolling.
+    setContextMenuPolicy(Qt::NoContextMenu);
     const bool vertical = orientation == Qt::Vertical;
     setInvertedAppearance(vertical);
     setInvertedControls(vertical);
     if (vertical) connect(this, &QScrollBar::actionTriggered, this, &ValueBar::TurnOver);
 }
 
-// Arrows, groove, menu and inverted keys all take the top for the minimum, wherever that is shown.
+// Arrows, groove and inverted keys all take the top for the minimum, wherever that is shown.
 void ValueBar::TurnOver(int action) {
     switch (action) {
         case SliderSingleStepAdd:
