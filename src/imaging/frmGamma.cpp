@@ -13,7 +13,7 @@ namespace {
 constexpr int kDigits = 4;
 constexpr int kBoxWidth = 80;
 // Room for the title too.
-constexpr int kRowWidth = 300;
+constexpr int kRowWidth = 340;
 
 }  // namespace
 
