@@ -114,9 +114,7 @@ void Canvas::ShowEmptyIcon() {
 }
 
 void Canvas::ReadIconIntoDocument(const icons::IconImage& icon) {
-    using icons::DrawPart;
-    icons::DrawIcon(document_.PicMask, icon, kIconSize, kIconSize, DrawPart::Mask);
-    icons::DrawIcon(document_.PicImage, icon, kIconSize, kIconSize, DrawPart::Image);
+    document_.TakeIcon(icon);
     PreviewIcon();
     RebuildGrid();
 }

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/gdi/Surface.h"
+#include "platform/icons/IconImage.h"
 
 namespace kestrel::document {
 
@@ -33,6 +34,9 @@ struct IconDocument {
 
     // An empty, untitled, unmodified icon.
     void Reset();
+
+    // Makes `icon` the content of both planes, fitted to 32 x 32 by repeating or dropping pixels.
+    void TakeIcon(const icons::IconImage& icon);
 };
 
 }  // namespace kestrel::document

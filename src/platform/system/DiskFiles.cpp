@@ -50,12 +50,16 @@ Result<std::string> FollowLinks(std::filesystem::path path) {
 
 }  // namespace
 
-DiskFiles::DiskFiles() : calls_(systemCalls_) {}
+DiskFiles::DiskFiles(PathNames names) : calls_(systemCalls_), names_(names) {}
 
 DiskFiles::DiskFiles(FileCalls& calls) : calls_(calls) {}
 
+std::string DiskFiles::Find(const std::string& path) const {
+    return names_ == PathNames::AnyCase ? ResolvePath(path) : path;
+}
+
 Result<std::vector<std::uint8_t>> DiskFiles::ReadFile(const std::string& path, std::size_t limit) {
-    const std::string found = ResolvePath(path);
+    const std::string found = Find(path);
     // Looked at before it is opened too: opening alone can move a device or wake a pipe's writer.
     struct stat status {};
     if (stat(found.c_str(), &status) < 0) return SystemFailure(errno);
@@ -94,7 +98,7 @@ Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t li
 
 Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
     if (path.empty()) return SystemFailure(ENOENT);
-    const Result<std::string> target = FollowLinks(ResolvePath(path));
+    const Result<std::string> target = FollowLinks(Find(path));
     if (!target) return tl::unexpected(target.error());
     struct stat old {};
     const bool exists = stat(target->c_str(), &old) == 0;
@@ -117,11 +121,11 @@ Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std
 
 bool DiskFiles::FileExists(const std::string& path) {
     struct stat status {};
-    return stat(ResolvePath(path).c_str(), &status) == 0 && RefusalOf(status) == 0;
+    return stat(Find(path).c_str(), &status) == 0 && RefusalOf(status) == 0;
 }
 
 Result<void> DiskFiles::RemoveFile(const std::string& path) {
-    if (calls_.Unlink(ResolvePath(path)) < 0) return SystemFailure(errno);
+    if (calls_.Unlink(Find(path)) < 0) return SystemFailure(errno);
     return {};
 }
 

@@ -5,10 +5,13 @@
 
 namespace kestrel::system {
 
+// How a path names a file: as FileSystem says, or byte for byte, as everywhere else on the system.
+enum class PathNames { AnyCase, AsWritten };
+
 // The files of the running system.
 class DiskFiles : public FileSystem {
   public:
-    DiskFiles();
+    explicit DiskFiles(PathNames names = PathNames::AnyCase);
     // `calls` must outlive this object.
     explicit DiskFiles(FileCalls& calls);
     DiskFiles(const DiskFiles&) = delete;
@@ -23,10 +26,12 @@ class DiskFiles : public FileSystem {
     Result<void> RemoveFile(const std::string& path) override;
 
   private:
+    std::string Find(const std::string& path) const;
     Result<std::vector<std::uint8_t>> ReadOpened(int file, std::size_t limit);
 
     FileCalls systemCalls_;
     FileCalls& calls_;
+    PathNames names_ = PathNames::AnyCase;
 };
 
 }  // namespace kestrel::system

@@ -1,0 +1,81 @@
+#include "cli/Actions.h"
+
+#include <cerrno>
+
+#include "cli/IconCommands.h"
+#include "cli/IconInput.h"
+#include "cli/IconOutput.h"
+#include "cli/Numbers.h"
+#include "cli/Streams.h"
+#include "editing/PaletteFile.h"
+#include "imaging/Shades.h"
+#include "platform/gdi/Blit.h"
+#include "platform/icons/IconFile.h"
+#include "resources/DefaultPalette.h"
+
+namespace kestrel::cli {
+
+namespace {
+
+std::string Line(std::size_t number, const icons::ImageInfo& info) {
+    std::string line = std::to_string(number) + ": " + std::to_string(info.width) + " x ";
+    line += std::to_string(info.height) + ", " + std::to_string(info.bitsPerPixel);
+    line += info.bitsPerPixel == 1 ? " bit, " : " bits, ";
+    return line + (info.png ? "PNG" : "uncompressed") + "\n";
+}
+
+}  // namespace
+
+Result<void> Info(const Arguments& arguments) {
+    const auto bytes = ReadInput(arguments.in);
+    if (!bytes) return tl::unexpected(bytes.error());
+    const auto images = icons::ListImages(*bytes);
+    if (!images) return UnreadableInput(arguments.in, images.error());
+    std::string lines;
+    std::size_t number = 0;
+    for (const icons::ImageEntry& image : *images)
+        lines += Line(++number, image.info);
+    return WriteText(std::string(kStandardStream), lines);
+}
+
+Result<void> Apply(const Arguments& arguments) {
+    const IconTarget target{arguments.out, arguments.format};
+    if (Result<void> checked = CheckTarget(target); !checked) return checked;
+    const auto commands = ReadCommands(arguments.commands);
+    if (!commands) return tl::unexpected(commands.error());
+    auto icon = ReadIcon(arguments.in, arguments.Fit());
+    if (!icon) return tl::unexpected(icon.error());
+    RunCommands(*commands, arguments.seed, *icon);
+    return WriteIcon(target, *icon);
+}
+
+Result<void> Gradient(const Arguments& arguments) {
+    const IconTarget target{arguments.out, arguments.format};
+    if (Result<void> checked = CheckTarget(target); !checked) return checked;
+    const auto from = ColorIn(arguments.from);
+    const auto to = ColorIn(arguments.to);
+    constexpr int kFullTurn = imaging::kDegreesPerStep * imaging::kDirections;
+    const auto angle = NumberIn(arguments.angle, 0, kFullTurn);
+    if (!from || !to)
+        return Fail(EINVAL, "--from and --to want a colour as R,G,B, each from 0 to 255");
+    if (!angle || *angle % imaging::kDegreesPerStep != 0)
+        return Fail(EINVAL, "--angle wants 0 to 360 in steps of 45");
+    document::IconDocument icon;
+    gdi::PatBlt(icon.PicMask, icon.PicMask.Bounds(), gdi::kBlack);
+    icon.PicImage = imaging::DrawShade({*from, *to, *angle});
+    return WriteIcon(target, icon);
+}
+
+Result<void> Palette(const Arguments& arguments) {
+    return WriteText(arguments.out, editing::PaletteText(resources::kDefaultPalette));
+}
+
+Result<void> Convert(const Arguments& arguments) {
+    const IconTarget target{arguments.out, arguments.format};
+    if (Result<void> checked = CheckTarget(target); !checked) return checked;
+    const auto icon = ReadIcon(arguments.in, arguments.Fit());
+    if (!icon) return tl::unexpected(icon.error());
+    return WriteIcon(target, *icon);
+}
+
+}  // namespace kestrel::cli

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "editing/PasteFit.h"
+#include "platform/Result.h"
+
+namespace kestrel::cli {
+
+// What was typed, as it was typed.
+struct Arguments {
+    std::string in;
+    std::string out;
+    std::string format;
+    bool keepAspect = false;
+    std::string commands;
+    std::optional<std::uint32_t> seed;
+    std::string from;
+    std::string to;
+    std::string angle = "0";
+
+    editing::PasteFit Fit() const {
+        return keepAspect ? editing::PasteFit::KeepAspect : editing::PasteFit::Shrink;
+    }
+};
+
+// One function a subcommand.
+Result<void> Info(const Arguments& arguments);
+Result<void> Apply(const Arguments& arguments);
+Result<void> Gradient(const Arguments& arguments);
+Result<void> Palette(const Arguments& arguments);
+Result<void> Convert(const Arguments& arguments);
+
+}  // namespace kestrel::cli

@@ -1,0 +1,154 @@
+#include "cli/IconCommands.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <random>
+
+#include "cli/Numbers.h"
+#include "imaging/FilterPipeline.h"
+#include "imaging/Recoloring.h"
+#include "imaging/Transforms.h"
+#include "imaging/filters/mFilterG.h"
+
+namespace kestrel::cli {
+
+namespace {
+
+using document::IconDocument;
+
+constexpr int kLeastGamma = 1;
+constexpr int kMostGamma = 9999;
+
+// Nothing waits for events here.
+class NoEvents : public desktop::MessageLoop {
+  public:
+    void DoEvents() override {}
+};
+
+template <imaging::Turn kTurn>
+void Turned(IconDocument& icon) {
+    icon.PicImage = imaging::Rotated(icon.PicImage, kTurn);
+    icon.PicMask = imaging::Rotated(icon.PicMask, kTurn);
+}
+
+template <imaging::FlipAxis kAxis>
+void Flipped(IconDocument& icon) {
+    imaging::Flip(icon.PicImage, kAxis);
+    imaging::Flip(icon.PicMask, kAxis);
+}
+
+template <imaging::Reflection kReflection>
+void Mirrored(IconDocument& icon) {
+    imaging::Mirror(icon.PicImage, kReflection);
+    imaging::Mirror(icon.PicMask, kReflection);
+}
+
+void Buttonized(IconDocument& icon) {
+    NoEvents loop;
+    imaging::Buttonize(icon, loop);
+}
+void Greyed(IconDocument& icon) {
+    imaging::Grayscale(icon.PicImage, icon.PicMask);
+}
+void Inverted(IconDocument& icon) {
+    imaging::Invert(icon.PicImage, icon.PicMask);
+}
+
+struct Change {
+    std::string_view key;
+    void (*change)(IconDocument& icon);
+};
+constexpr Change kChanges[] = {
+    {"mnuRotateOpts0", Turned<imaging::Turn::Left>},
+    {"mnuRotateOpts1", Turned<imaging::Turn::Right>},
+    {"mnuRotateOpts3", Flipped<imaging::FlipAxis::Horizontal>},
+    {"mnuRotateOpts4", Flipped<imaging::FlipAxis::Vertical>},
+    {"mnuMirrorOpts0", Mirrored<imaging::Reflection::LeftIntoRight>},
+    {"mnuMirrorOpts1", Mirrored<imaging::Reflection::RightIntoLeft>},
+    {"mnuMirrorOpts2", Mirrored<imaging::Reflection::TopIntoBottom>},
+    {"mnuMirrorOpts3", Mirrored<imaging::Reflection::BottomIntoTop>},
+    {"mnuImageOpts1", Buttonized},
+    {"mnuImageOpts2", Greyed},
+    {"mnuImageOpts3", Inverted},
+};
+
+tl::unexpected<Error> BadCommand(std::string_view what, std::string_view why) {
+    return Fail(EINVAL, std::string(what).append(": ").append(why));
+}
+
+std::optional<IconCommand> FindCommand(std::string_view key) {
+    if (const filters::FilterRow* filter = filters::FindFilter(key))
+        return IconCommand{filter, filter->Param, nullptr};
+    const auto* row = std::find_if(std::begin(kChanges), std::end(kChanges),
+                                   [key](const Change& change) { return change.key == key; });
+    if (row == std::end(kChanges)) return std::nullopt;
+    return IconCommand{nullptr, 0, row->change};
+}
+
+Result<IconCommand> ReadCommand(std::string_view item) {
+    const std::size_t equals = item.find('=');
+    auto command = FindCommand(item.substr(0, equals));
+    if (!command) return BadCommand(item.substr(0, equals), "no such command");
+    if (command->filter != nullptr && command->filter->FilterId == filters::kGammaFilter) {
+        const auto value = equals == std::string_view::npos
+                               ? std::nullopt
+                               : NumberIn(item.substr(equals + 1), kLeastGamma, kMostGamma);
+        if (!value) return BadCommand(item, "needs a value from 1 to 9999, as in mnuGamma=200");
+        command->param = *value;
+    } else if (equals != std::string_view::npos) {
+        return BadCommand(item, "this command takes no value");
+    }
+    return *command;
+}
+
+void RunFilter(const IconCommand& command, system::RandomNumbers& random, IconDocument& icon) {
+    NoEvents loop;
+    gdi::Surface picture = imaging::PrepareFilterSource(icon.PicImage);
+    filters::mFilterG(loop, random).RunFilter(command.filter->FilterId, picture, command.param);
+    imaging::ApplyFilterResult(picture, icon.PicImage, icon.PicMask);
+}
+
+}  // namespace
+
+Result<std::vector<IconCommand>> ReadCommands(std::string_view list) {
+    std::vector<IconCommand> commands;
+    for (const std::string_view item : Split(list)) {
+        const auto command = ReadCommand(item);
+        if (!command) return tl::unexpected(command.error());
+        commands.push_back(*command);
+    }
+    return commands;
+}
+
+void RunCommands(const std::vector<IconCommand>& commands, std::optional<std::uint32_t> seed,
+                 IconDocument& icon) {
+    system::RandomNumbers random(seed ? *seed : std::random_device()());
+    for (const IconCommand& command : commands) {
+        if (command.filter != nullptr) {
+            RunFilter(command, random, icon);
+        } else {
+            command.change(icon);
+        }
+    }
+}
+
+std::string CommandKeys() {
+    constexpr std::size_t kLineLength = 76;
+    std::string lines = " ";
+    std::size_t length = lines.size();
+    const auto add = [&](std::string_view key) {
+        if (length + 1 + key.size() > kLineLength) {
+            lines += "\n ";
+            length = 1;
+        }
+        lines.append(" ").append(key);
+        length += 1 + key.size();
+    };
+    for (const filters::FilterRow& filter : filters::Filters())
+        add(filter.key);
+    for (const Change& change : kChanges)
+        add(change.key);
+    return lines;
+}
+
+}  // namespace kestrel::cli

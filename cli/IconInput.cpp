@@ -1,0 +1,85 @@
+#include "cli/IconInput.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "cli/Streams.h"
+#include "platform/gdi/Blit.h"
+#include "platform/icons/IconFile.h"
+#include "platform/icons/PngImage.h"
+#include "platform/system/DiskFiles.h"
+#include "platform/system/SystemError.h"
+
+namespace kestrel::cli {
+
+namespace {
+
+using document::IconDocument;
+using system::SystemFailure;
+using Content = Result<std::vector<std::uint8_t>>;
+
+constexpr std::size_t kLimit = icons::kMaxIconFileBytes;
+
+std::string InputName(const std::string& name) {
+    return name == kStandardStream ? "standard input" : name;
+}
+
+// Pipes and devices have no size and are read as they come.
+bool IsStream(const std::string& name) {
+    struct stat status {};
+    return stat(name.c_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
+}
+
+Content ReadNamedStream(const std::string& name) {
+    const int file =
+        system::Retry([&] { return open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY); });
+    if (file < 0) return SystemFailure(errno);
+    Content bytes = ReadStream(file, kLimit);
+    close(file);
+    return bytes;
+}
+
+Content ReadAnything(const std::string& name) {
+    if (name == kStandardStream) return ReadStream(STDIN_FILENO, kLimit);
+    if (IsStream(name)) return ReadNamedStream(name);
+    return system::DiskFiles(system::PathNames::AsWritten).ReadFile(name, kLimit);
+}
+
+void PastePng(IconDocument& icon, const icons::IconImage& png, editing::PasteFit fit) {
+    editing::PictureSize size{png.info.width, png.info.height};
+    if (!editing::FitsIcon(size)) size = editing::FittedSize(size, fit);
+    icons::DrawIcon(icon.PicMask, png, size.width, size.height, icons::DrawPart::Mask);
+    icons::DrawIcon(icon.PicImage, png, size.width, size.height, icons::DrawPart::Image);
+}
+
+}  // namespace
+
+Result<std::vector<std::uint8_t>> ReadInput(const std::string& name) {
+    Content bytes = ReadAnything(name);
+    if (!bytes) return FailureOf(InputName(name), bytes.error());
+    return bytes;
+}
+
+Result<IconDocument> ReadIcon(const std::string& name, editing::PasteFit fit) {
+    const auto bytes = ReadInput(name);
+    if (!bytes) return tl::unexpected(bytes.error());
+    const auto image = icons::ReadBestImage(*bytes);
+    if (!image) return UnreadableInput(name, image.error());
+    IconDocument icon;
+    if (icons::IsPng(*bytes)) {
+        PastePng(icon, *image, fit);
+    } else {
+        icon.TakeIcon(*image);
+    }
+    return icon;
+}
+
+tl::unexpected<Error> UnreadableInput(const std::string& name, const Error& error) {
+    if (error.number != kInvalidPicture) return FailureOf(InputName(name), error);
+    return FailureOf(InputName(name), {error.number, "no icon or PNG that can be read"});
+}
+
+}  // namespace kestrel::cli

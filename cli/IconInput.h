@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "document/IconDocument.h"
+#include "editing/PasteFit.h"
+#include "platform/Result.h"
+
+namespace kestrel::cli {
+
+// Every failure below begins with the file's name.
+
+// The bytes of a file of icons, of a pipe or of standard input ("-").
+Result<std::vector<std::uint8_t>> ReadInput(const std::string& name);
+
+// The icon in a file, as the editor opens it. A PNG, told by its content, is pasted at the top left
+// of an empty icon instead: a larger one is fitted, a smaller one leaves the rest transparent.
+Result<document::IconDocument> ReadIcon(const std::string& name, editing::PasteFit fit);
+
+// A reader's failure in words for this file.
+tl::unexpected<Error> UnreadableInput(const std::string& name, const Error& error);
+
+}  // namespace kestrel::cli

@@ -1,0 +1,111 @@
+#include "cli/IconOutput.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <vector>
+
+#include "cli/PngWriter.h"
+#include "cli/Streams.h"
+#include "document/IcoFile.h"
+#include "platform/system/DiskFiles.h"
+#include "platform/system/SystemError.h"
+
+namespace kestrel::cli {
+
+namespace {
+
+using document::IconDocument;
+using system::SystemFailure;
+using Bytes = std::vector<std::uint8_t>;
+
+Bytes IcoBytes(const IconDocument& icon) {
+    const document::IcoBytes bytes = document::EncodeIco(icon);
+    return {bytes.begin(), bytes.end()};
+}
+
+struct Format {
+    std::string_view name;
+    Bytes (*encode)(const IconDocument& icon);
+};
+constexpr Format kFormats[] = {{"ico", IcoBytes}, {"png", PngBytes}};
+constexpr const Format* kNoFormat = std::end(kFormats);
+
+enum class Way { Replace, StandardOutput, Stream };
+
+Way WayTo(const std::string& name) {
+    if (name == kStandardStream) return Way::StandardOutput;
+    struct stat status {};
+    if (stat(name.c_str(), &status) < 0 || S_ISDIR(status.st_mode)) return Way::Replace;
+    struct stat output {};
+    if (fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == status.st_dev &&
+        output.st_ino == status.st_ino) {
+        return Way::StandardOutput;
+    }
+    return S_ISREG(status.st_mode) ? Way::Replace : Way::Stream;
+}
+
+const Format* FindFormat(std::string_view name) {
+    const auto same = [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); };
+    return std::find_if(std::begin(kFormats), std::end(kFormats), [&](const Format& format) {
+        return std::ranges::equal(format.name, name, same);
+    });
+}
+
+const Format* FormatOf(const IconTarget& target) {
+    if (!target.format.empty()) return FindFormat(target.format);
+    const std::size_t dot = target.name.find_last_of("./");
+    if (dot != std::string::npos && target.name[dot] == '.') {
+        const Format* format = FindFormat(std::string_view(target.name).substr(dot + 1));
+        if (format != kNoFormat) return format;
+    }
+    return WayTo(target.name) == Way::Replace ? kNoFormat : kFormats;
+}
+
+Result<void> WriteNamedStream(const std::string& name, std::span<const std::uint8_t> bytes) {
+    const int file =
+        system::Retry([&] { return open(name.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY); });
+    if (file < 0) return SystemFailure(errno);
+    Result<void> written = WriteStream(file, bytes);
+    if (close(file) < 0 && written && errno != EINTR) written = SystemFailure(errno);
+    return written;
+}
+
+Result<void> WriteAnywhere(const std::string& name, std::span<const std::uint8_t> bytes) {
+    switch (WayTo(name)) {
+        case Way::StandardOutput:
+            return WriteStream(STDOUT_FILENO, bytes);
+        case Way::Stream:
+            return WriteNamedStream(name, bytes);
+        case Way::Replace:
+            break;
+    }
+    return system::DiskFiles(system::PathNames::AsWritten).ReplaceFile(name, bytes);
+}
+
+}  // namespace
+
+Result<void> CheckTarget(const IconTarget& target) {
+    if (FormatOf(target) != kNoFormat) return {};
+    if (!target.format.empty()) return Fail(EINVAL, "--format is ico or png");
+    return FailureOf(target.name, {EINVAL, "the name ends in neither .ico nor .png"});
+}
+
+Result<void> WriteIcon(const IconTarget& target, const IconDocument& icon) {
+    return WriteOutput(target.name, FormatOf(target)->encode(icon));
+}
+
+Result<void> WriteOutput(const std::string& name, std::span<const std::uint8_t> bytes) {
+    const Result<void> written = WriteAnywhere(name, bytes);
+    if (written) return {};
+    return FailureOf(name == kStandardStream ? "standard output" : name, written.error());
+}
+
+Result<void> WriteText(const std::string& name, std::string_view text) {
+    return WriteOutput(name, Bytes(text.begin(), text.end()));
+}
+
+}  // namespace kestrel::cli

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "document/IconDocument.h"
+#include "platform/Result.h"
+
+namespace kestrel::cli {
+
+// Where an icon goes to: a file's name or "-" for standard output, and "ico" or "png". Where no
+// format is asked for, the name's extension tells it; what is no file takes an icon file.
+struct IconTarget {
+    std::string name;
+    std::string format;
+};
+
+// Fails before anything is read or written when it cannot be told which format is wanted.
+Result<void> CheckTarget(const IconTarget& target);
+Result<void> WriteIcon(const IconTarget& target, const document::IconDocument& icon);
+
+// A file is replaced wholly or not at all. What exists and is no regular file, and what standard
+// output leads to, is written to as it stands. A failure begins with the file's name.
+Result<void> WriteOutput(const std::string& name, std::span<const std::uint8_t> bytes);
+Result<void> WriteText(const std::string& name, std::string_view text);
+
+}  // namespace kestrel::cli

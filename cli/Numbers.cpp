@@ -1,0 +1,41 @@
+#include "cli/Numbers.h"
+
+#include <charconv>
+#include <cstdint>
+
+namespace kestrel::cli {
+
+std::vector<std::string_view> Split(std::string_view list) {
+    std::vector<std::string_view> parts;
+    for (;;) {
+        const std::size_t comma = list.find(',');
+        parts.push_back(list.substr(0, comma));
+        if (comma == std::string_view::npos) return parts;
+        list.remove_prefix(comma + 1);
+    }
+}
+
+std::optional<int> NumberIn(std::string_view text, int least, int most) {
+    int number = 0;
+    const char* end = text.data() + text.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, number);
+    if (error != std::errc() || stopped != end || number < least || number > most)
+        return std::nullopt;
+    return number;
+}
+
+std::optional<gdi::COLORREF> ColorIn(std::string_view text) {
+    constexpr int kMostLevel = 255;
+    constexpr std::size_t kChannels = 3;
+    const std::vector<std::string_view> parts = Split(text);
+    if (parts.size() != kChannels) return std::nullopt;
+    gdi::COLORREF color = 0;
+    for (std::size_t channel = 0; channel < kChannels; ++channel) {
+        const auto level = NumberIn(parts[channel], 0, kMostLevel);
+        if (!level) return std::nullopt;
+        color |= static_cast<gdi::COLORREF>(*level) << (8 * channel);
+    }
+    return color;
+}
+
+}  // namespace kestrel::cli

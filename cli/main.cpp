@@ -1,0 +1,152 @@
+// kestrel-icon: the editor's commands on icon files, without a window.
+
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <csignal>
+#include <exception>
+#include <string>
+
+#include "cli/Actions.h"
+#include "cli/IconCommands.h"
+#include "cli/IconOutput.h"
+#include "cli/Streams.h"
+
+namespace {
+
+using namespace kestrel;
+using cli::Arguments;
+
+constexpr const char* kInHelp = "icon, cursor or PNG file to read; - is standard input";
+constexpr const char* kOutHelp = "file to write, .ico or .png; - is standard output";
+
+void AddIn(CLI::App& command, Arguments& arguments) {
+    command.add_option("IN", arguments.in, kInHelp)->required();
+    command.add_flag("--keep-aspect", arguments.keepAspect,
+                     "shrink a large PNG in proportion instead of to 32 x 32");
+}
+
+void AddOut(CLI::App& command, Arguments& arguments) {
+    command.add_option("OUT", arguments.out, kOutHelp)->required();
+    command.add_option("--format", arguments.format,
+                       "ico or png, whatever OUT ends in; standard output is ico otherwise");
+}
+
+void DeclareInfo(CLI::App& command, Arguments& arguments) {
+    command.add_option("FILE", arguments.in, kInHelp)->required();
+    command.footer("Example:\n  kestrel-icon info kestrel.ico");
+}
+
+void DeclareApply(CLI::App& command, Arguments& arguments) {
+    command
+        .add_option("COMMANDS", arguments.commands,
+                    "KEY[=VALUE][,KEY...], run in order on the whole icon")
+        ->required();
+    AddIn(command, arguments);
+    AddOut(command, arguments);
+    command.add_option("--seed", arguments.seed,
+                       "start of the random numbers, 0 to 4294967295, for the same noise every "
+                       "time");
+    command.footer([] {
+        return "Keys (mnuGamma takes the factor times 100, 1 to 9999):\n" + cli::CommandKeys() +
+               "\n\nExamples:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
+               "  kestrel-icon apply mnuGamma=200,mnuRotateOpts1 in.ico out.png\n"
+               "  kestrel-icon apply --seed 7 mnuAddNoise - - <in.ico >out.ico";
+    });
+}
+
+void DeclareGradient(CLI::App& command, Arguments& arguments) {
+    command.add_option("--from", arguments.from, "start colour, R,G,B from 0 to 255")->required();
+    command.add_option("--to", arguments.to, "end colour")->required();
+    command.add_option("--angle", arguments.angle,
+                       "where the start colour is: 0 left, 45 top left and so on clockwise, to "
+                       "360 (0 when left out)");
+    AddOut(command, arguments);
+    command.footer(
+        "Example:\n  kestrel-icon gradient --from 255,0,0 --to 0,0,255 --angle 45 out.ico");
+}
+
+void DeclarePalette(CLI::App& command, Arguments& arguments) {
+    command.add_option("OUT", arguments.out, "palette file to write; - is standard output")
+        ->required();
+    command.footer("Example:\n  kestrel-icon palette default.pal");
+}
+
+void DeclareConvert(CLI::App& command, Arguments& arguments) {
+    AddIn(command, arguments);
+    AddOut(command, arguments);
+    command.footer(
+        "Examples:\n  kestrel-icon convert in.ico out.png\n"
+        "  kestrel-icon convert --keep-aspect photo.png out.ico");
+}
+
+struct Subcommand {
+    const char* name;
+    const char* help;
+    void (*declare)(CLI::App& command, Arguments& arguments);
+    Result<void> (*run)(const Arguments& arguments);
+};
+constexpr Subcommand kSubcommands[] = {
+    {"info", "list the images of an icon file", DeclareInfo, cli::Info},
+    {"apply", "run menu commands on an icon", DeclareApply, cli::Apply},
+    {"gradient", "write an icon that is a gradient", DeclareGradient, cli::Gradient},
+    {"palette", "write the default palette", DeclarePalette, cli::Palette},
+    {"convert", "turn icons into PNG and PNG into icons", DeclareConvert, cli::Convert},
+};
+
+void Declare(CLI::App& app, Arguments& arguments) {
+    app.require_subcommand(1);
+    app.set_version_flag("--version", "kestrel-icon " KESTREL_VERSION);
+    app.footer(
+        "Example:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
+        "\"kestrel-icon COMMAND --help\" tells more.");
+    for (const Subcommand& subcommand : kSubcommands)
+        subcommand.declare(*app.add_subcommand(subcommand.name, subcommand.help), arguments);
+}
+
+Result<void> Run(int argc, char* argv[]) {
+    CLI::App app("Runs the commands of KestrelIconEditor on icon files.", "kestrel-icon");
+    Arguments arguments;
+    Declare(app, arguments);
+    const std::string output(cli::kStandardStream);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        return cli::WriteText(output, app.help());
+    } catch (const CLI::CallForVersion&) {
+        return cli::WriteText(output, app.version() + "\n");
+    } catch (const CLI::ParseError& error) {
+        return Fail(EINVAL, error.what());
+    }
+    const CLI::App* chosen = app.get_subcommands().front();
+    const auto* subcommand =
+        std::find_if(std::begin(kSubcommands), std::end(kSubcommands),
+                     [&](const Subcommand& each) { return chosen->get_name() == each.name; });
+    return subcommand->run(arguments);
+}
+
+// One line, whatever a file's name holds.
+void Complain(std::string message) {
+    std::ranges::replace_if(
+        message, [](char letter) { return letter == '\n' || letter == '\r'; }, ' ');
+    const std::string line = "kestrel-icon: " + message + "\n";
+    // When even this cannot be written, the exit code is left to tell.
+    (void)cli::WriteStream(STDERR_FILENO, std::vector<std::uint8_t>(line.begin(), line.end()));
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    // A closed pipe and a full quota are failures of a write like any other.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
+    try {
+        const Result<void> done = Run(argc, argv);
+        if (done) return 0;
+        Complain(done.error().description);
+    } catch (const std::exception& error) {
+        Complain(error.what());
+    }
+    return 1;
+}
