@@ -6,7 +6,10 @@
 #include <algorithm>
 #include <csignal>
 #include <exception>
+#include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "cli/Actions.h"
 #include "cli/IconCommands.h"
@@ -95,20 +98,24 @@ constexpr Subcommand kSubcommands[] = {
     {"convert", "turn icons into PNG and PNG into icons", DeclareConvert, cli::Convert},
 };
 
-void Declare(CLI::App& app, Arguments& arguments) {
+// Declaring options is most of the work, so only a subcommand that is named gets its own.
+void Declare(CLI::App& app, std::span<char*> words, Arguments& arguments) {
     app.require_subcommand(1);
     app.set_version_flag("--version", "kestrel-icon " KESTREL_VERSION);
     app.footer(
         "Example:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
-        "\"kestrel-icon COMMAND --help\" tells more.");
-    for (const Subcommand& subcommand : kSubcommands)
-        subcommand.declare(*app.add_subcommand(subcommand.name, subcommand.help), arguments);
+        "\"kestrel-icon SUBCOMMAND --help\" tells more.");
+    for (const Subcommand& subcommand : kSubcommands) {
+        CLI::App* command = app.add_subcommand(subcommand.name, subcommand.help);
+        if (std::ranges::find(words, std::string_view(subcommand.name)) != words.end())
+            subcommand.declare(*command, arguments);
+    }
 }
 
 Result<void> Run(int argc, char* argv[]) {
     CLI::App app("Runs the commands of KestrelIconEditor on icon files.", "kestrel-icon");
     Arguments arguments;
-    Declare(app, arguments);
+    Declare(app, {argv, static_cast<std::size_t>(argc)}, arguments);
     const std::string output(cli::kStandardStream);
     try {
         app.parse(argc, argv);
@@ -117,6 +124,8 @@ Result<void> Run(int argc, char* argv[]) {
     } catch (const CLI::CallForVersion&) {
         return cli::WriteText(output, app.version() + "\n");
     } catch (const CLI::ParseError& error) {
+        if (app.get_subcommands().empty() && argc > 1)
+            return Fail(EINVAL, std::string(argv[1]) + ": no such command or option");
         return Fail(EINVAL, error.what());
     }
     const CLI::App* chosen = app.get_subcommands().front();
