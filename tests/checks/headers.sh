@@ -13,5 +13,8 @@ CompileAlone() {
 }
 export -f CompileAlone
 
-find . -name '*.h' -printf '%P\0' | sort -z |
+{
+    find . -name '*.h' -printf '%P\0'
+    cd .. && find cli -name '*.h' -print0
+} | sort -z |
     xargs -0 -r -n 1 -P "$(nproc)" bash -c 'CompileAlone "$1"' bash

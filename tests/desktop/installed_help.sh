@@ -9,7 +9,7 @@ help=$scratch/usr/share/KestrelIconEditor/help
 for file in ENG/index.html CHS/index.html style.css; do
     [[ -s $help/$file ]] || Fail "$file is not installed"
 done
-[[ $(find "$help/pictures" -name '*.png' | wc -l) -eq 57 ]] || Fail 'pictures are missing'
+[[ $(find "$help/pictures" -name '*.png' | wc -l) -eq 98 ]] || Fail 'pictures are missing'
 # The shutter of the disk, picture 4, shines (FFFFFC) at its left.
 [[ $(convert "$help/pictures/04.png" -crop 1x1+4+2 -depth 8 rgb:- | od -An -tx1) == ' ff ff fc' ]] ||
     Fail 'picture 4 is not the disk'
