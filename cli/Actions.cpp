@@ -1,6 +1,9 @@
 #include "cli/Actions.h"
 
 #include <cerrno>
+#include <cstdint>
+#include <limits>
+#include <random>
 
 #include "cli/IconCommands.h"
 #include "cli/IconInput.h"
@@ -24,6 +27,15 @@ std::string Line(std::size_t number, const icons::ImageInfo& info) {
     return line + (info.png ? "PNG" : "uncompressed") + "\n";
 }
 
+// The number that was typed or, without one, another for every run.
+Result<std::uint32_t> ReadSeed(const std::optional<std::string>& text) {
+    if (!text) return std::random_device()();
+    constexpr auto kMost = std::numeric_limits<std::uint32_t>::max();
+    const auto seed = NumberIn(*text, 0, kMost);
+    if (!seed) return Fail(EINVAL, "--seed wants a number from 0 to " + std::to_string(kMost));
+    return static_cast<std::uint32_t>(*seed);
+}
+
 }  // namespace
 
 Result<void> Info(const Arguments& arguments) {
@@ -43,9 +55,11 @@ Result<void> Apply(const Arguments& arguments) {
     if (Result<void> checked = CheckTarget(target); !checked) return checked;
     const auto commands = ReadCommands(arguments.commands);
     if (!commands) return tl::unexpected(commands.error());
+    const auto seed = ReadSeed(arguments.seed);
+    if (!seed) return tl::unexpected(seed.error());
     auto icon = ReadIcon(arguments.in, arguments.Fit());
     if (!icon) return tl::unexpected(icon.error());
-    RunCommands(*commands, arguments.seed, *icon);
+    RunCommands(*commands, *seed, *icon);
     return WriteIcon(target, *icon);
 }
 
@@ -62,7 +76,7 @@ Result<void> Gradient(const Arguments& arguments) {
         return Fail(EINVAL, "--angle wants 0 to 360 in steps of 45");
     document::IconDocument icon;
     gdi::PatBlt(icon.PicMask, icon.PicMask.Bounds(), gdi::kBlack);
-    icon.PicImage = imaging::DrawShade({*from, *to, *angle});
+    icon.PicImage = imaging::DrawShade({*from, *to, static_cast<int>(*angle)});
     return WriteIcon(target, icon);
 }
 

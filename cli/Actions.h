@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -16,7 +15,7 @@ struct Arguments {
     std::string format;
     bool keepAspect = false;
     std::string commands;
-    std::optional<std::uint32_t> seed;
+    std::optional<std::string> seed;
     std::string from;
     std::string to;
     std::string angle = "0";

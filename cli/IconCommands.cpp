@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <random>
+#include <optional>
 
 #include "cli/Numbers.h"
 #include "imaging/FilterPipeline.h"
@@ -94,7 +94,7 @@ Result<IconCommand> ReadCommand(std::string_view item) {
                                ? std::nullopt
                                : NumberIn(item.substr(equals + 1), kLeastGamma, kMostGamma);
         if (!value) return BadCommand(item, "needs a value from 1 to 9999, as in mnuGamma=200");
-        command->param = *value;
+        command->param = static_cast<int>(*value);
     } else if (equals != std::string_view::npos) {
         return BadCommand(item, "this command takes no value");
     }
@@ -120,9 +120,8 @@ Result<std::vector<IconCommand>> ReadCommands(std::string_view list) {
     return commands;
 }
 
-void RunCommands(const std::vector<IconCommand>& commands, std::optional<std::uint32_t> seed,
-                 IconDocument& icon) {
-    system::RandomNumbers random(seed ? *seed : std::random_device()());
+void RunCommands(const std::vector<IconCommand>& commands, std::uint32_t seed, IconDocument& icon) {
+    system::RandomNumbers random(seed);
     for (const IconCommand& command : commands) {
         if (command.filter != nullptr) {
             RunFilter(command, random, icon);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,8 +21,8 @@ struct IconCommand {
 // Reads KEY[=VALUE][,KEY...]. Gamma alone takes a value, which it must have.
 Result<std::vector<IconCommand>> ReadCommands(std::string_view list);
 
-// Without a seed every run draws its own random numbers.
-void RunCommands(const std::vector<IconCommand>& commands, std::optional<std::uint32_t> seed,
+// The same seed brings the same noise.
+void RunCommands(const std::vector<IconCommand>& commands, std::uint32_t seed,
                  document::IconDocument& icon);
 
 // Every key, in lines for the help.

@@ -1,7 +1,6 @@
 #include "cli/Numbers.h"
 
 #include <charconv>
-#include <cstdint>
 
 namespace kestrel::cli {
 
@@ -15,8 +14,8 @@ std::vector<std::string_view> Split(std::string_view list) {
     }
 }
 
-std::optional<int> NumberIn(std::string_view text, int least, int most) {
-    int number = 0;
+std::optional<std::int64_t> NumberIn(std::string_view text, std::int64_t least, std::int64_t most) {
+    std::int64_t number = 0;
     const char* end = text.data() + text.size();
     const auto [stopped, error] = std::from_chars(text.data(), end, number);
     if (error != std::errc() || stopped != end || number < least || number > most)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -12,7 +13,7 @@ namespace kestrel::cli {
 std::vector<std::string_view> Split(std::string_view list);
 
 // A decimal integer that fills the text and lies within the limits.
-std::optional<int> NumberIn(std::string_view text, int least, int most);
+std::optional<std::int64_t> NumberIn(std::string_view text, std::int64_t least, std::int64_t most);
 
 // R,G,B, each from 0 to 255.
 std::optional<gdi::COLORREF> ColorIn(std::string_view text);
