@@ -1,0 +1,180 @@
+#include <cmath>
+#include <map>
+
+#include "tests/imaging/FilterTest.h"
+
+namespace kestrel::filters {
+namespace {
+
+using test::ComparePicture;
+
+int AverageOf(const gdi::Surface& picture) {
+    int sum = 0;
+    for (int y = 0; y < picture.Height(); ++y)
+        for (int x = 0; x < picture.Width(); ++x)
+            sum += GreyAt(picture, x, y);
+    return sum / (picture.Width() * picture.Height());
+}
+
+struct Share {
+    int dx, dy, weight;
+};
+
+// Error diffusion with every error kept in a map, also of pixels that are not there.
+gdi::Surface Diffused(const gdi::Surface& picture, std::initializer_list<Share> shares,
+                      int divisor) {
+    const int threshold = AverageOf(picture);
+    std::map<std::pair<int, int>, int> errors;
+    gdi::Surface made = picture;
+    for (int y = 0; y < picture.Height(); ++y) {
+        for (int x = 0; x < picture.Width(); ++x) {
+            const int level = std::clamp(GreyAt(picture, x, y) + errors[{x, y}] * 10 / 15, 0, 255);
+            const int out = level < threshold ? 0 : 255;
+            made.SetPixel(x, y, GreyColor(out));
+            for (const auto& [dx, dy, weight] : shares)
+                errors[{x + dx, y + dy}] += (level - out) * weight / divisor;
+        }
+    }
+    return made;
+}
+
+TEST(Dithering, ErrorsAreSharedOutByTheKernel) {
+    for (const auto& [w, h] : {std::pair{1, 1}, {2, 3}, {17, 9}, {32, 32}}) {
+        for (std::uint32_t seed = 0; seed < 5; ++seed) {
+            const gdi::Surface noise = Noise(w, h, seed);
+            EXPECT_TRUE(
+                ComparePicture(Filtered(noise, "mnuBW4"),
+                               Diffused(noise, {{1, 0, 7}, {-1, 1, 3}, {0, 1, 5}, {1, 1, 1}}, 16)));
+            EXPECT_TRUE(ComparePicture(
+                Filtered(noise, "mnuBW5"),
+                Diffused(
+                    noise,
+                    {{1, 0, 8}, {2, 0, 4}, {-2, 1, 2}, {-1, 1, 4}, {0, 1, 8}, {1, 1, 4}, {2, 1, 2}},
+                    32)));
+            EXPECT_TRUE(ComparePicture(Filtered(noise, "mnuBW6"), Diffused(noise,
+                                                                           {{1, 0, 8},
+                                                                            {2, 0, 4},
+                                                                            {-2, 1, 2},
+                                                                            {-1, 1, 4},
+                                                                            {0, 1, 8},
+                                                                            {1, 1, 4},
+                                                                            {2, 1, 2},
+                                                                            {-2, 2, 1},
+                                                                            {-1, 2, 2},
+                                                                            {0, 2, 4},
+                                                                            {1, 2, 2},
+                                                                            {2, 2, 1}},
+                                                                           42)));
+        }
+    }
+}
+
+TEST(Dithering, EnhancedDiffusionSharpensAndCarriesAQuarterOn) {
+    for (std::uint32_t seed = 0; seed < 8; ++seed) {
+        const gdi::Surface noise = Noise(9, 6, seed);
+        const int threshold = AverageOf(noise);
+        int carry = 0;
+        gdi::Surface expected = noise;
+        for (int i = 0; i < 54; ++i) {
+            const int x = i % 9, y = i / 9;
+            Channels taken = ChannelsAt(noise, x, y);
+            if (x > 0 && y > 0 && x < 8 && y < 5) {
+                for (std::size_t k = 0; k < 3; ++k) {
+                    int sum = 11 * taken[k];
+                    for (int n = 0; n < 9; ++n)
+                        sum -= ChannelsAt(noise, x + n % 3 - 1, y + n / 3 - 1)[k];
+                    taken[k] = std::clamp(sum / 2, 0, 255);
+                }
+            }
+            const int level = std::clamp((taken[0] + taken[1] + taken[2]) / 3 + carry, 0, 255);
+            const int out = level < threshold ? 0 : 255;
+            carry = (level - out) / 4;
+            expected.SetPixel(x, y, GreyColor(out));
+        }
+        EXPECT_TRUE(ComparePicture(Filtered(noise, "mnuBW2"), expected)) << seed;
+    }
+}
+
+TEST(Dithering, OrderedAndAllBlack) {
+    const test::Inks inks{{'o', gdi::kWhite}, {'.', gdi::kBlack}};
+    EXPECT_PICTURE(Filtered(gdi::Surface(5, 5, GreyColor(128)), "mnuBW3"), inks, R"(
+        o . o . o
+        o o . o o
+        o . o . o
+        . o . o .
+        o . o . o )");
+    for (const char* key : {"mnuBW2", "mnuBW4", "mnuBW5", "mnuBW6"})
+        EXPECT_TRUE(ComparePicture(Filtered(gdi::Surface(3, 3, gdi::kBlack), key),
+                                   gdi::Surface(3, 3, gdi::kWhite)))
+            << key;
+}
+
+TEST(SpatialFilters, PixelizeAndAquaByDefinition) {
+    const auto average = [](const gdi::Surface& from, int x, int y, std::size_t k) {
+        int sum = 0, count = 0;
+        for (int i = 0; i < 9; ++i) {
+            const int bx = x / 3 * 3 + i % 3, by = y / 3 * 3 + i / 3;
+            if (!from.Contains(bx, by)) continue;
+            sum += ChannelsAt(from, bx, by)[k];
+            ++count;
+        }
+        return sum / count;
+    };
+    const auto calmest = [](const gdi::Surface& from, int x, int y, std::size_t k) {
+        if (x < 2 || y < 2 || x >= from.Width() - 2 || y >= from.Height() - 2)
+            return ChannelsAt(from, x, y)[k];
+        int least = 99999, chosen = 0;
+        for (const auto& [left, top] : {std::pair{x - 2, y - 2}, {x, y - 2}, {x - 2, y}, {x, y}}) {
+            int sum = 0, spread = 0;
+            for (int i = 0; i < 9; ++i)
+                sum += ChannelsAt(from, left + i % 3, top + i / 3)[k];
+            for (int i = 0; i < 9; ++i)
+                spread += std::abs(ChannelsAt(from, left + i % 3, top + i / 3)[k] - sum / 9);
+            if (spread < least) {
+                least = spread;
+                chosen = sum / 9;
+            }
+        }
+        return chosen;
+    };
+    for (std::uint32_t seed = 0; seed < 4; ++seed) {
+        for (const auto& [w, h] : {std::pair{2, 2}, {8, 5}, {32, 32}}) {
+            // Few levels, so that spreads are often equal.
+            gdi::Surface noise = Noise(w, h, seed);
+            if (seed % 2 == 0)
+                noise = Each(noise, [](const gdi::Surface& from, int x, int y, std::size_t k) {
+                    return ChannelsAt(from, x, y)[k] / 128 * 100;
+                });
+            EXPECT_TRUE(ComparePicture(Filtered(noise, "mnuPixelize"), Each(noise, average)));
+            EXPECT_TRUE(ComparePicture(Filtered(noise, "mnuAqua"), Each(noise, calmest)));
+        }
+    }
+}
+
+TEST(SpatialFilters, RandomNumbersAreDrawnInTheirOrder) {
+    const gdi::Surface noise = Noise(20, 11, 9);
+    system::RandomNumbers random(kSeed);
+    EXPECT_TRUE(
+        ComparePicture(Filtered(noise, "mnuAddNoise"),
+                       Each(noise, [&](const gdi::Surface& from, int x, int y, std::size_t k) {
+                           return ChannelsAt(from, x, y)[k] +
+                                  static_cast<int>(std::nearbyint(random.Next() * 100 - 50));
+                       })));
+    for (const auto& [key, reach] : {std::pair{"mnuDiffuse", 6}, {"mnuDiffuseMore", 12}}) {
+        random = system::RandomNumbers(kSeed);
+        gdi::Surface expected = noise;
+        for (int y = 0; y < 11; ++y) {
+            for (int x = 0; x < 20; ++x) {
+                int dx = static_cast<int>(std::nearbyint(random.Next() * reach - reach / 2));
+                int dy = static_cast<int>(std::nearbyint(random.Next() * reach - reach / 2));
+                if (x + dx < 0 || x + dx > 19) dx = 0;
+                if (y + dy < 0 || y + dy > 10) dy = 0;
+                expected.SetPixel(x, y, expected.GetPixel(x + dx, y + dy));
+            }
+        }
+        EXPECT_TRUE(ComparePicture(Filtered(noise, key), expected)) << key;
+    }
+}
+
+}  // namespace
+}  // namespace kestrel::filters
