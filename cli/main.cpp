@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <csignal>
 #include <exception>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -99,24 +98,25 @@ constexpr Subcommand kSubcommands[] = {
     {"convert", "turn icons into PNG and PNG into icons", DeclareConvert, cli::Convert},
 };
 
-// Declaring options is most of the work, so only a subcommand that is named gets its own.
-void Declare(CLI::App& app, std::span<char*> words, Arguments& arguments) {
+// Declaring is most of the work: where a subcommand comes first, that one alone is declared.
+void Declare(CLI::App& app, std::string_view firstWord, Arguments& arguments) {
     app.require_subcommand(1);
     app.set_version_flag("--version", "kestrel-icon " KESTREL_VERSION);
     app.footer(
         "Example:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
         "\"kestrel-icon SUBCOMMAND --help\" tells more.");
+    const auto isFirst = [firstWord](const Subcommand& each) { return firstWord == each.name; };
+    const bool onlyFirst = std::ranges::any_of(kSubcommands, isFirst);
     for (const Subcommand& subcommand : kSubcommands) {
-        CLI::App* command = app.add_subcommand(subcommand.name, subcommand.help);
-        if (std::ranges::find(words, std::string_view(subcommand.name)) != words.end())
-            subcommand.declare(*command, arguments);
+        if (onlyFirst && !isFirst(subcommand)) continue;
+        subcommand.declare(*app.add_subcommand(subcommand.name, subcommand.help), arguments);
     }
 }
 
 Result<void> Run(int argc, char* argv[]) {
     CLI::App app("Runs the commands of KestrelIconEditor on icon files.", "kestrel-icon");
     Arguments arguments;
-    Declare(app, {argv, static_cast<std::size_t>(argc)}, arguments);
+    Declare(app, argc > 1 ? argv[1] : "", arguments);
     const std::string output(cli::kStandardStream);
     try {
         app.parse(argc, argv);
