@@ -32,7 +32,7 @@ for page in ENG CHS; do
         [[ -f $page/$file ]] || Fault "$page: no file $file"
     done < <(Page $page | grep -oP 'href="\K[^"#:]+(?=")')
     while IFS= read -r image; do
-        [[ $image =~ src=\"\.\./pictures/$pictures\.png\" ]] || Fault "$page: $image"
+        [[ $image =~ src=\"([a-z]+\.png)\" && -f $page/${BASH_REMATCH[1]} ]] || [[ $image =~ src=\"\.\./pictures/$pictures\.png\" ]] || Fault "$page: $image"
     done < <(Page $page | grep -oP '<img[^>]*>')
     while IFS= read -r caption; do
         grep -qxF -- "$caption" <<<"$captions" || Fault "$page: no caption \"$caption\""

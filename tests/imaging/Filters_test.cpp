@@ -195,8 +195,8 @@ TEST(ToneFilters, ContrastFoldsWhatLeavesTheRange) {
         {-10, GreyColor(110), GreyColor(90), GreyColor(109)},
         // With the mean 100: 265, 100, 100.
         {10, gdi::Rgb(250, 100, 100), GreyColor(50), gdi::Rgb(255, 105, 105)},
-        // 100, 400, -20; then 90, 390, 0; then 157, 255, 67.
-        {100, gdi::Rgb(100, 250, 40), GreyColor(70), gdi::Rgb(157, 255, 67)},
+        // The mean is 101: 99, 399, -21; then 89, 389, 0; then 156, 255, 67.
+        {100, gdi::Rgb(100, 250, 40), GreyColor(72), gdi::Rgb(156, 255, 67)},
         // 250, 300, 300 ends above the range in every channel.
         {100, gdi::Rgb(175, 200, 200), GreyColor(9), gdi::kWhite},
         {100, GreyColor(9), gdi::Rgb(175, 200, 200), gdi::kBlack},
@@ -205,6 +205,8 @@ TEST(ToneFilters, ContrastFoldsWhatLeavesTheRange) {
         EXPECT_EQ(Filtered(PictureOf(2, {first, second}), 17, Param).GetPixel(0, 0), made)
             << std::hex << first;
     }
+    for (const auto& [key, made] : {std::pair{"mnuContrast1", 111}, {"mnuContrast2", 109}})
+        EXPECT_EQ(Filtered(GreyPicture(2, {110, 90}), key).GetPixel(0, 0), GreyColor(made));
 }
 
 TEST(ToneFilters, GammaIsThePowerOfEveryLevel) {

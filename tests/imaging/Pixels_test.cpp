@@ -61,6 +61,7 @@ TEST(Recoloring, ChangesOpaquePixels) {
         gdi::COLORREF from, grey;
     } kCases[] = {{gdi::Rgb(255, 0, 0), 57},
                   {gdi::Rgb(0, 255, 0), 180},
+                  {gdi::Rgb(0, 250, 0), 177},
                   {gdi::Rgb(0, 0, 255), 18},
                   // 222 x 2 + 707 x 1 + 71 x 19 = 2500
                   {gdi::Rgb(2, 1, 19), 2}};
