@@ -42,7 +42,6 @@ void Mirror(gdi::Surface& plane, Reflection reflection) {
 
 gdi::Surface Rotated(const gdi::Surface& plane, Turn turn) {
     gdi::Surface rotated(plane.Height(), plane.Width(), plane.BackColor());
-    rotated.state = plane.state;
     for (int y = 0; y < plane.Height(); ++y) {
         for (int x = 0; x < plane.Width(); ++x) {
             const gdi::COLORREF color = plane.GetPixel(x, y);
