@@ -88,6 +88,7 @@ std::optional<IconCommand> FindCommand(std::string_view key) {
 Result<IconCommand> ReadCommand(std::string_view item) {
     const std::size_t equals = item.find('=');
     auto command = FindCommand(item.substr(0, equals));
+    if (item.empty()) return BadCommand("COMMANDS", "a key is missing");
     if (!command) return BadCommand(item.substr(0, equals), "no such command");
     if (command->filter != nullptr && command->filter->FilterId == filters::kGammaFilter) {
         const auto value = equals == std::string_view::npos

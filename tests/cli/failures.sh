@@ -36,7 +36,7 @@ Refused 'out.gif: the name ends in neither' convert in.ico out.gif
 Refused 'ico: the name ends in neither' convert in.ico ico
 Refused '--format' convert --format gif in.ico out.ico
 Refused 'mnuNone: no such command' apply mnuNegative,mnuNone in.ico out.ico
-Refused ': no such command' apply mnuNegative, in.ico out.ico
+Refused 'COMMANDS: a key is missing' apply mnuNegative, in.ico out.ico
 Refused 'mnunegative: no such command' apply mnunegative in.ico out.ico
 Refused 'mnuRotateOpts2: no such command' apply mnuRotateOpts2 in.ico out.ico
 Refused 'takes no value' apply mnuBlur=2 in.ico out.ico
