@@ -17,6 +17,8 @@ namespace kestrel::imaging {
 class FrmShades : public QDialog {
   public:
     explicit FrmShades(QWidget* owner);
+    // The text box with the focus tells its loss while there is still a window to tell.
+    ~FrmShades() override { hide(); }
 
     // The gradient's pixels; none when the dialog is closed without OK.
     std::optional<gdi::Surface> Ask();
