@@ -15,7 +15,7 @@ PaletteOf() {
 # OpenPaletteItem <letter>: an item of Tools, Palette by keyboard.
 OpenPaletteItem() {
     OpenMenu t
-    Press Return "$1"
+    Press Down Return "$1"
 }
 
 # ExpectColor <x> <y> <RRGGBB>: waits until this client point shows the colour.
