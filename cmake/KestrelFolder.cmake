@@ -7,7 +7,10 @@ target_compile_options(kestrel_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused -Werror
   # g++ 12 warns of overlapping copies inside std::string's own operator+ (GCC bug 105329).
-  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
+  $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+  # A product that is fused with an addition is not rounded: halves would fall to the other side on
+  # processors that can do so.
+  -ffp-contract=off)
 if(KESTREL_SANITIZE)
   target_compile_options(kestrel_settings INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
