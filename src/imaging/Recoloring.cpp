@@ -1,6 +1,7 @@
 #include "imaging/Recoloring.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "imaging/OpaquePixels.h"
 #include "imaging/filters/Levels.h"
@@ -11,21 +12,20 @@ namespace {
 
 using document::kIconSize;
 
-void DarkenPixel(document::IconDocument& icon, int x, int y, int darkening) {
-    if (icon.PicMask.GetPixel(x, y) != gdi::kBlack) return;
-    icon.PicImage.SetPixel(x, y, DisplayResults(icon.PicImage.GetPixel(x, y), darkening));
-}
-
 // The ring that lies `d` pixels inside the icon's edge.
-void DarkenRing(document::IconDocument& icon, int d, int darkening) {
+void DarkenRing(gdi::Surface& image, const gdi::Surface& mask, int d, int darkening) {
+    const auto darken = [&](int x, int y) {
+        if (mask.GetPixel(x, y) != gdi::kBlack) return;
+        image.SetPixel(x, y, DisplayResults(image.GetPixel(x, y), darkening));
+    };
     const int far = kIconSize - 1 - d;
     for (int x = d; x <= far; ++x) {
-        DarkenPixel(icon, x, d, darkening);
-        DarkenPixel(icon, x, far, darkening);
+        darken(x, d);
+        darken(x, far);
     }
     for (int y = d + 1; y < far; ++y) {
-        DarkenPixel(icon, d, y, darkening);
-        DarkenPixel(icon, far, y, darkening);
+        darken(d, y);
+        darken(far, y);
     }
 }
 
@@ -46,12 +46,15 @@ void Invert(gdi::Surface& image, const gdi::Surface& mask) {
 
 void Buttonize(document::IconDocument& icon, desktop::MessageLoop& loop) {
     constexpr int kInnermost = 3;
+    // What runs in the meantime sees the icon before the command, not a part of it.
+    gdi::Surface image = icon.PicImage;
     int darkening = 8;
     for (int d = kInnermost; d >= 0; --d) {
         loop.DoEvents();
-        DarkenRing(icon, d, darkening);
+        DarkenRing(image, icon.PicMask, d, darkening);
         darkening *= 2;
     }
+    icon.PicImage = std::move(image);
 }
 
 gdi::COLORREF DisplayResults(gdi::COLORREF color, int darkening) {

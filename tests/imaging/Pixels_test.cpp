@@ -86,6 +86,7 @@ TEST(Recoloring, AButtonHasFourRings) {
     icon.PicImage.SetPixel(6, 0, gdi::kBlack);
     icon.PicMask.SetPixel(2, 9, gdi::kWhite);
     filters::CountingLoop loop;
+    loop.onEvents = [&] { EXPECT_EQ(icon.PicImage.GetPixel(4, 3), gdi::kWhite) << "half-done"; };
     Buttonize(icon, loop);
     EXPECT_EQ(loop.count, 4);
     for (int y = 0; y < 32; ++y) {
@@ -102,8 +103,8 @@ TEST(Recoloring, AButtonHasFourRings) {
     EXPECT_EQ(icon.PicImage.GetPixel(6, 0), gdi::kBlack);
 }
 
-// The diagonal ones as they are described: lines from the top to the left side that leave out their
-// end, then the left column from its neighbour, then reflected.
+// The diagonal ones drawn with a pen: lines from the top to the left side that leave out their end,
+// then the left column from its neighbour, then reflected.
 gdi::Surface DrawnWithLines(const Shades& shades) {
     gdi::Surface base(32, 32);
     for (int i = 0; i < 64; ++i)
