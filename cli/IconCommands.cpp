@@ -102,7 +102,7 @@ Result<IconCommand> ReadCommand(std::string_view item) {
     return *command;
 }
 
-void RunFilter(const IconCommand& command, system::RandomNumbers& random, IconDocument& icon) {
+void ApplyFilter(const IconCommand& command, system::RandomNumbers& random, IconDocument& icon) {
     NoEvents loop;
     gdi::Surface picture = imaging::PrepareFilterSource(icon.PicImage);
     filters::mFilterG(loop, random).RunFilter(command.filter->FilterId, picture, command.param);
@@ -125,7 +125,7 @@ void RunCommands(const std::vector<IconCommand>& commands, std::uint32_t seed, I
     system::RandomNumbers random(seed);
     for (const IconCommand& command : commands) {
         if (command.filter != nullptr) {
-            RunFilter(command, random, icon);
+            ApplyFilter(command, random, icon);
         } else {
             command.change(icon);
         }

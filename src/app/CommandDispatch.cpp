@@ -8,8 +8,9 @@ namespace kestrel::app {
 
 void CommandDispatch::SmartMenuXP1_Click(std::string_view key) {
     // The filters stand in a table of their own.
-    if (filters::FindFilter(key) != nullptr) handlers_.RunFilterCommand(key);
-    Run(MenuBarCommands(), key);
+    if (filters::FindFilter(key) == nullptr) return Run(MenuBarCommands(), key);
+    handlers_.RunFilterCommand(key);
+    window_.RefreshEditCommands();
 }
 
 void CommandDispatch::SmartMenuXP2_Click(std::string_view key) {

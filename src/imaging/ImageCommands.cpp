@@ -40,7 +40,7 @@ template <typename Recolor>
 void ImageCommands::Change(const Recolor& recolor) {
     recolor(target_.Image(), target_.Mask());
     target_.Show();
-    target_.RecordIcon();
+    target_.RecordUnlessSelection();
 }
 
 void ImageCommands::GradientBackground() {

@@ -27,7 +27,7 @@ void ImageTarget::Record() const {
     editor_.History().PushUndoSnapshot();
 }
 
-void ImageTarget::RecordIcon() const {
+void ImageTarget::RecordUnlessSelection() const {
     if (!IsSelection()) Record();
 }
 

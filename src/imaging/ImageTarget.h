@@ -17,8 +17,8 @@ class ImageTarget {
     void Show() const;
     // The icon as it is becomes an entry of the history, and nothing can be redone.
     void Record() const;
-    // For commands of which a selection leaves no entry.
-    void RecordIcon() const;
+    // The same for commands that leave no entry of what they do to a selection.
+    void RecordUnlessSelection() const;
 
   private:
     editing::Editor& editor_;

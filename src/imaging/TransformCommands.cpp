@@ -45,7 +45,7 @@ void TransformCommands::FlipPlanes(FlipAxis axis) {
     Flip(target_.Image(), axis);
     Flip(target_.Mask(), axis);
     target_.Show();
-    target_.RecordIcon();
+    target_.RecordUnlessSelection();
 }
 
 }  // namespace kestrel::imaging

@@ -7,7 +7,7 @@ namespace kestrel::imaging {
 
 namespace {
 
-// Lets exchange(row, its mirror image) meet each pair of rows once, from the outside in.
+// Calls meet(row, its mirror image) for each pair of rows once, from the outside in.
 template <typename Meet>
 void ForEachPairOfRows(gdi::Surface& plane, const Meet& meet) {
     for (int y = 0; y < plane.Height() / 2; ++y)

@@ -137,7 +137,8 @@ void ForEachNeighbourhoodInPlace(const FilterRun& run, const Rule& rule) {
         const std::array rows{RowsAround(array, kBlue, y), RowsAround(array, kGreen, y),
                               RowsAround(array, kRed, y)};
         const std::array to{array.Row(kBlue, y), array.Row(kGreen, y), array.Row(kRed, y)};
-        // Channel by channel a value would wait for the one before it.
+        // A value needs the one to its left. With the channels side by side there is other work to
+        // do while it is on its way.
         for (int x = 1; x < end; ++x) {
             for (std::size_t k = 0; k < kChannels; ++k)
                 to[k][x] = rule(Neighbourhood(rows[k], x));

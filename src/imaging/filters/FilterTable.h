@@ -7,7 +7,8 @@
 
 namespace kestrel::filters {
 
-// A command of the filter menu: the number of its filter and the parameter that it gives it.
+// A command of the filter menu: the number of its filter and the parameter that it gives it. For
+// gamma the user is asked; the row's parameter is the factor that changes nothing.
 struct FilterRow {
     std::string_view key;
     int FilterId;
@@ -15,7 +16,7 @@ struct FilterRow {
     Filter filter;
 };
 
-// The number of gamma correction; its parameter is asked of the user.
+// The number of gamma correction.
 inline constexpr int kGammaFilter = 31;
 
 std::span<const FilterRow> Filters();

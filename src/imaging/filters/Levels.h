@@ -16,8 +16,8 @@ template <typename Value>
 using LevelTable = std::array<Value, kMaxLevel + 1>;
 
 // The nearest integer, halves to the even one, of a number that fits. Next to this addend doubles
-// are whole, so the addition rounds, and its last 32 bits are the integer. Other than lrint, this
-// can be done for several values at once.
+// are whole, so the addition rounds, and its last 32 bits are the integer. The compiler can do that
+// for several values at once, which it cannot with lrint.
 inline int Round(double value) {
     constexpr double kWhole = 0x1.8p52;
     return static_cast<int>(std::bit_cast<std::int64_t>(value + kWhole));

@@ -5,8 +5,8 @@
 // The filters; what each takes as Param stands in the table of commands.
 namespace kestrel::filters {
 
-// Of the neighbourhood. The four that work in place see what they have changed above and to the
-// left; all leave pixels without the neighbours they ask for as they are.
+// Filters that look at a pixel's neighbourhood. The four that work in place see what they have
+// changed above and to the left; all leave pixels without the neighbours they ask for as they are.
 void Sharpen(const FilterRun& run);
 void BlurMore(const FilterRun& run);
 void Blur(const FilterRun& run);
@@ -22,7 +22,7 @@ void Dilate(const FilterRun& run);
 void Erode(const FilterRun& run);
 void Aqua(const FilterRun& run);
 
-// Of the pixel alone, or of the whole picture's statistics.
+// Filters that look at the pixel alone, or at the whole picture's statistics.
 void Negative(const FilterRun& run);
 void GreyScale(const FilterRun& run);
 void Brightness(const FilterRun& run);
@@ -32,7 +32,7 @@ void ContrastStretch(const FilterRun& run);
 void Gamma(const FilterRun& run);
 void SwapColors(const FilterRun& run);
 
-// To black and white.
+// Filters that leave black and white.
 void NearestColor(const FilterRun& run);
 void EnhancedDiffusion(const FilterRun& run);
 void OrderedDither(const FilterRun& run);
@@ -40,7 +40,7 @@ void FloydSteinberg(const FilterRun& run);
 void Burke(const FilterRun& run);
 void Stucki(const FilterRun& run);
 
-// Of pixels that change places, blocks and noise.
+// Filters that move pixels, average blocks or add noise.
 void Diffuse(const FilterRun& run);
 void Pixelize(const FilterRun& run);
 void AddNoise(const FilterRun& run);
