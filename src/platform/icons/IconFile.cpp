@@ -8,6 +8,7 @@
 #include "platform/icons/BestImage.h"
 #include "platform/icons/ByteReader.h"
 #include "platform/icons/DibImage.h"
+#include "platform/icons/IconPixels.h"
 #include "platform/icons/PngImage.h"
 
 namespace kestrel::icons {
@@ -22,6 +23,9 @@ constexpr std::uint16_t kCursorType = 2;
 // about a second's worth. Real files stay far below it.
 constexpr std::size_t kTrialBudget = std::size_t{128} << 20;
 constexpr std::size_t kTrialOverhead = 4096;
+
+// A PNG that is no image of an icon may be a photograph.
+constexpr int kMaxPngSide = 8192;
 
 // One kind of file that holds icons, told by its content and never by its name.
 struct IconKind {
@@ -49,7 +53,8 @@ std::optional<ImageEntry> ReadEntry(const ByteReader& file, std::uint64_t entry)
     const Bytes image = file.Part(offset);
     if (offset < entry + kEntrySize || image.empty()) return std::nullopt;
     const auto start = static_cast<std::size_t>(offset);
-    if (const auto info = ReadPngInfo(image)) return ImageEntry{start, image.size(), *info};
+    if (const auto info = ReadPngInfo(image, kMaxImageSide))
+        return ImageEntry{start, image.size(), *info};
     const auto dib =
         ReadDibLayout(image, DirectorySide(file.U8(entry)), DirectorySide(file.U8(entry + 1)));
     if (!dib) return std::nullopt;
@@ -63,8 +68,9 @@ std::vector<ImageEntry> ListDirectory(Bytes file) {
     std::uint64_t end = std::min(reader.Size(), kDirectorySize + kEntrySize * reader.U16(4));
     std::vector<ImageEntry> entries;
     for (std::uint64_t at = kDirectorySize; at + kEntrySize <= end; at += kEntrySize) {
-        const auto entry = ReadEntry(reader, at);
+        auto entry = ReadEntry(reader, at);
         if (!entry) continue;
+        entry->place = static_cast<std::size_t>((at - kDirectorySize) / kEntrySize);
         entries.push_back(*entry);
         end = std::min<std::uint64_t>(end, entry->offset);
     }
@@ -72,7 +78,7 @@ std::vector<ImageEntry> ListDirectory(Bytes file) {
 }
 
 std::vector<ImageEntry> ListPng(Bytes file) {
-    const auto info = ReadPngInfo(file);
+    const auto info = ReadPngInfo(file, kMaxPngSide);
     if (!info) return {};
     return {ImageEntry{0, file.size(), *info}};
 }
@@ -109,7 +115,7 @@ Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEnt
     const Bytes image = ByteReader(file).Part(entry.offset, entry.size);
     std::optional<IconImage> icon;
     if (entry.info.png) {
-        icon = DecodePng(image);
+        icon = DecodePng(image, entry.info);
     } else if (const auto dib = ReadDibLayout(image, entry.info.width, entry.info.height)) {
         icon = DecodeDib(image, *dib);
     }

@@ -10,11 +10,13 @@
 
 namespace kestrel::icons {
 
-// Where one image of an icon file lies, in bytes from the file's start, and what its header says.
+// Where one image of an icon file lies, in bytes from the file's start, what its header says, and
+// which entry of the directory, counted from 0, leads to it.
 struct ImageEntry {
     std::size_t offset = 0;
     std::size_t size = 0;
     ImageInfo info;
+    std::size_t place = 0;
 };
 
 // No icon file that this program reads is larger; callers cap what they load by it.
@@ -23,7 +25,8 @@ inline constexpr std::size_t kMaxIconFileBytes = std::size_t{32} << 20;
 // Lists the images of an icon or cursor file, or of a PNG that bears an icon's name, in the order
 // of the directory. Entries whose image header cannot be used are left out. Fails with
 // kInvalidPicture when the bytes are no such file or nothing is left.
-// Formats: the ICO/CUR directory with BITMAPINFOHEADER images (sizes 40..124), and PNG images.
+// Formats: the ICO/CUR directory with BITMAPINFOHEADER images (sizes 40..124), and PNG images. A
+// side is at most 1024 pixels, that of a PNG alone 8192.
 Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file);
 
 // Decodes one listed image, or fails with kInvalidPicture.

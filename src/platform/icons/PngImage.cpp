@@ -70,10 +70,11 @@ PngDecoder::PngDecoder(Bytes image) : unread(image) {
 
 // Everything in libpng that may jump, in the order it asks for. The image's size must be known and
 // its buffers must be there, so that nothing is allocated on our side of a jump.
-bool RunDecoder(PngDecoder& decoder) {
+bool RunDecoder(PngDecoder& decoder, const ImageInfo& size) {
     png_structp png = decoder.png;
     if (setjmp(png_jmpbuf(png)) != 0) return false;
-    png_set_user_limits(png, kMaxImageSide, kMaxImageSide);
+    png_set_user_limits(png, static_cast<png_uint_32>(size.width),
+                        static_cast<png_uint_32>(size.height));
     png_set_chunk_malloc_max(png, kMaxChunkMemory);
     png_set_keep_unknown_chunks(png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
     png_read_info(png, decoder.info);
@@ -97,7 +98,7 @@ bool IsPng(Bytes image) {
            std::equal(kSignature.begin(), kSignature.end(), image.begin());
 }
 
-std::optional<ImageInfo> ReadPngInfo(Bytes image) {
+std::optional<ImageInfo> ReadPngInfo(Bytes image, int longestSide) {
     const ByteReader reader(image);
     if (!IsPng(image) || !reader.Has(kHeader, kHeaderLength) ||
         reader.BigEndianU32(kFirstChunk) != kHeaderLength ||
@@ -107,8 +108,8 @@ std::optional<ImageInfo> ReadPngInfo(Bytes image) {
     const std::uint32_t height = reader.BigEndianU32(kHeader + 4);
     const unsigned depth = reader.U8(kHeader + 8);
     const unsigned type = reader.U8(kHeader + 9);
-    constexpr std::uint32_t kMost = kMaxImageSide;
-    if (width < 1 || width > kMost || height < 1 || height > kMost) return std::nullopt;
+    const auto most = static_cast<std::uint32_t>(longestSide);
+    if (width < 1 || width > most || height < 1 || height > most) return std::nullopt;
     if (type >= kColorTypes.size() || !std::has_single_bit(depth) ||
         (kColorTypes[type].depths & depth) == 0)
         return std::nullopt;
@@ -116,20 +117,18 @@ std::optional<ImageInfo> ReadPngInfo(Bytes image) {
                      static_cast<int>(kColorTypes[type].samples * depth), true};
 }
 
-std::optional<IconImage> DecodePng(Bytes image) {
-    const auto info = ReadPngInfo(image);
-    if (!info) return std::nullopt;
+std::optional<IconImage> DecodePng(Bytes image, const ImageInfo& info) {
     PngDecoder decoder(image);
     if (decoder.png == nullptr || decoder.info == nullptr) return std::nullopt;
-    const std::size_t stride = 4 * static_cast<std::size_t>(info->width);
-    decoder.pixels.resize(stride * static_cast<std::size_t>(info->height));
+    const std::size_t stride = 4 * static_cast<std::size_t>(info.width);
+    decoder.pixels.resize(stride * static_cast<std::size_t>(info.height));
     for (std::size_t start = 0; start < decoder.pixels.size(); start += stride)
         decoder.rows.push_back(&decoder.pixels[start]);
-    if (!RunDecoder(decoder)) return std::nullopt;
+    if (!RunDecoder(decoder, info)) return std::nullopt;
 
-    IconImage icon = EmptyImage(*info);
+    IconImage icon = EmptyImage(info);
     const png_byte* pixel = decoder.pixels.data();
-    for (int y = 0; y < info->height; ++y) {
+    for (int y = 0; y < info.height; ++y) {
         for (gdi::COLORREF& out : icon.color.Row(y)) {
             out = gdi::Rgb(pixel[0], pixel[1], pixel[2]) | std::uint32_t{pixel[3]} << 24;
             pixel += 4;
