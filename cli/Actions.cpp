@@ -20,8 +20,9 @@ namespace kestrel::cli {
 
 namespace {
 
-std::string Line(std::size_t number, const icons::ImageInfo& info) {
-    std::string line = std::to_string(number) + ": " + std::to_string(info.width) + " x ";
+std::string Line(const icons::ImageEntry& image) {
+    const icons::ImageInfo& info = image.info;
+    std::string line = std::to_string(image.place + 1) + ": " + std::to_string(info.width) + " x ";
     line += std::to_string(info.height) + ", " + std::to_string(info.bitsPerPixel);
     line += info.bitsPerPixel == 1 ? " bit, " : " bits, ";
     return line + (info.png ? "PNG" : "uncompressed") + "\n";
@@ -44,9 +45,8 @@ Result<void> Info(const Arguments& arguments) {
     const auto images = icons::ListImages(*bytes);
     if (!images) return UnreadableInput(arguments.in, images.error());
     std::string lines;
-    std::size_t number = 0;
     for (const icons::ImageEntry& image : *images)
-        lines += Line(++number, image.info);
+        lines += Line(image);
     return WriteText(std::string(kStandardStream), lines);
 }
 

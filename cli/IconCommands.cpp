@@ -26,31 +26,31 @@ class NoEvents : public desktop::MessageLoop {
 };
 
 template <imaging::Turn kTurn>
-void Turned(IconDocument& icon) {
+void TurnIcon(IconDocument& icon) {
     icon.PicImage = imaging::Rotated(icon.PicImage, kTurn);
     icon.PicMask = imaging::Rotated(icon.PicMask, kTurn);
 }
 
 template <imaging::FlipAxis kAxis>
-void Flipped(IconDocument& icon) {
+void FlipIcon(IconDocument& icon) {
     imaging::Flip(icon.PicImage, kAxis);
     imaging::Flip(icon.PicMask, kAxis);
 }
 
 template <imaging::Reflection kReflection>
-void Mirrored(IconDocument& icon) {
+void MirrorIcon(IconDocument& icon) {
     imaging::Mirror(icon.PicImage, kReflection);
     imaging::Mirror(icon.PicMask, kReflection);
 }
 
-void Buttonized(IconDocument& icon) {
+void ButtonizeIcon(IconDocument& icon) {
     NoEvents loop;
     imaging::Buttonize(icon, loop);
 }
-void Greyed(IconDocument& icon) {
+void GreyIcon(IconDocument& icon) {
     imaging::Grayscale(icon.PicImage, icon.PicMask);
 }
-void Inverted(IconDocument& icon) {
+void InvertIcon(IconDocument& icon) {
     imaging::Invert(icon.PicImage, icon.PicMask);
 }
 
@@ -59,17 +59,17 @@ struct Change {
     void (*change)(IconDocument& icon);
 };
 constexpr Change kChanges[] = {
-    {"mnuRotateOpts0", Turned<imaging::Turn::Left>},
-    {"mnuRotateOpts1", Turned<imaging::Turn::Right>},
-    {"mnuRotateOpts3", Flipped<imaging::FlipAxis::Horizontal>},
-    {"mnuRotateOpts4", Flipped<imaging::FlipAxis::Vertical>},
-    {"mnuMirrorOpts0", Mirrored<imaging::Reflection::LeftIntoRight>},
-    {"mnuMirrorOpts1", Mirrored<imaging::Reflection::RightIntoLeft>},
-    {"mnuMirrorOpts2", Mirrored<imaging::Reflection::TopIntoBottom>},
-    {"mnuMirrorOpts3", Mirrored<imaging::Reflection::BottomIntoTop>},
-    {"mnuImageOpts1", Buttonized},
-    {"mnuImageOpts2", Greyed},
-    {"mnuImageOpts3", Inverted},
+    {"mnuRotateOpts0", TurnIcon<imaging::Turn::Left>},
+    {"mnuRotateOpts1", TurnIcon<imaging::Turn::Right>},
+    {"mnuRotateOpts3", FlipIcon<imaging::FlipAxis::Horizontal>},
+    {"mnuRotateOpts4", FlipIcon<imaging::FlipAxis::Vertical>},
+    {"mnuMirrorOpts0", MirrorIcon<imaging::Reflection::LeftIntoRight>},
+    {"mnuMirrorOpts1", MirrorIcon<imaging::Reflection::RightIntoLeft>},
+    {"mnuMirrorOpts2", MirrorIcon<imaging::Reflection::TopIntoBottom>},
+    {"mnuMirrorOpts3", MirrorIcon<imaging::Reflection::BottomIntoTop>},
+    {"mnuImageOpts1", ButtonizeIcon},
+    {"mnuImageOpts2", GreyIcon},
+    {"mnuImageOpts3", InvertIcon},
 };
 
 tl::unexpected<Error> BadCommand(std::string_view what, std::string_view why) {
@@ -87,9 +87,10 @@ std::optional<IconCommand> FindCommand(std::string_view key) {
 
 Result<IconCommand> ReadCommand(std::string_view item) {
     const std::size_t equals = item.find('=');
-    auto command = FindCommand(item.substr(0, equals));
-    if (item.empty()) return BadCommand("COMMANDS", "a key is missing");
-    if (!command) return BadCommand(item.substr(0, equals), "no such command");
+    const std::string_view key = item.substr(0, equals);
+    if (key.empty()) return BadCommand("COMMANDS", "a key is missing");
+    auto command = FindCommand(key);
+    if (!command) return BadCommand(key, "no such command");
     if (command->filter != nullptr && command->filter->FilterId == filters::kGammaFilter) {
         const auto value = equals == std::string_view::npos
                                ? std::nullopt

@@ -39,6 +39,7 @@ enum class Way { Replace, StandardOutput, Stream };
 Way WayTo(const std::string& name) {
     if (name == kStandardStream) return Way::StandardOutput;
     struct stat status {};
+    if (lstat(name.c_str(), &status) == 0 && S_ISREG(status.st_mode)) return Way::Replace;
     if (stat(name.c_str(), &status) < 0 || S_ISDIR(status.st_mode)) return Way::Replace;
     struct stat output {};
     if (fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == status.st_dev &&

@@ -21,8 +21,9 @@ struct IconTarget {
 Result<void> CheckTarget(const IconTarget& target);
 Result<void> WriteIcon(const IconTarget& target, const document::IconDocument& icon);
 
-// A file is replaced wholly or not at all. What exists and is no regular file, and what standard
-// output leads to, is written to as it stands. A failure begins with the file's name.
+// A file is replaced wholly or not at all. What exists and is no regular file is written to as it
+// stands, and so is a link, as /dev/stdout, to where standard output leads. A failure begins with
+// the file's name.
 Result<void> WriteOutput(const std::string& name, std::span<const std::uint8_t> bytes);
 Result<void> WriteText(const std::string& name, std::string_view text);
 

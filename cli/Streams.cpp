@@ -38,7 +38,8 @@ Result<void> WriteStream(int file, std::span<const std::uint8_t> bytes) {
 }
 
 tl::unexpected<Error> FailureOf(std::string_view name, const Error& error) {
-    return Fail(error.number, std::string(name).append(": ").append(error.description));
+    return Fail(error.number,
+                std::string(name.empty() ? "''" : name).append(": ").append(error.description));
 }
 
 }  // namespace kestrel::cli

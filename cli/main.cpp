@@ -51,12 +51,10 @@ void DeclareApply(CLI::App& command, Arguments& arguments) {
         "--seed", [&](const std::string& text) { arguments.seed = text; },
         "start of the random numbers, 0 to 4294967295, for the same noise every "
         "time");
-    command.footer([] {
-        return "Keys (mnuGamma takes the factor times 100, 1 to 9999):\n" + cli::CommandKeys() +
-               "\n\nExamples:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
-               "  kestrel-icon apply mnuGamma=200,mnuRotateOpts1 in.ico out.png\n"
-               "  kestrel-icon apply --seed 7 mnuAddNoise - - <in.ico >out.ico";
-    });
+    command.footer("Keys (mnuGamma takes the factor times 100, 1 to 9999):\n" + cli::CommandKeys() +
+                   "\n\nExamples:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
+                   "  kestrel-icon apply mnuGamma=200,mnuRotateOpts1 in.ico out.png\n"
+                   "  kestrel-icon apply --seed 7 mnuAddNoise - - <in.ico >out.ico");
 }
 
 void DeclareGradient(CLI::App& command, Arguments& arguments) {

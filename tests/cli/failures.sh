@@ -37,6 +37,7 @@ Refused 'ico: the name ends in neither' convert in.ico ico
 Refused '--format' convert --format gif in.ico out.ico
 Refused 'mnuNone: no such command' apply mnuNegative,mnuNone in.ico out.ico
 Refused 'COMMANDS: a key is missing' apply mnuNegative, in.ico out.ico
+Refused 'COMMANDS: a key is missing' apply =5 in.ico out.ico
 Refused 'mnunegative: no such command' apply mnunegative in.ico out.ico
 Refused 'mnuRotateOpts2: no such command' apply mnuRotateOpts2 in.ico out.ico
 Refused 'takes no value' apply mnuBlur=2 in.ico out.ico
@@ -57,6 +58,7 @@ Refused '--to is required' gradient --from 1,2,3 out.ico
 
 # What is read.
 Refused 'none.ico: No such file or directory' apply mnuNegative none.ico old.ico
+Refused "'': No such file or directory" info ''
 Refused 'folder: Is a directory' convert ../folder old.ico
 Refused 'folder: Is a directory' info ../folder
 Refused 'standard input: no icon or PNG' convert - old.ico </dev/null

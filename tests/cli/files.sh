@@ -26,9 +26,12 @@ Magick opaque.png -crop 16x16+4+4 +repage PNG24:small.png
 icotool -c -o small.ico small.png
 Icon convert small.ico out.png
 SamePixels 'a 16 x 16 icon' out.png small.png -sample 32x32
-Magick holed.png -sample 96x96 PNG32:large.png
-Icon convert large.png out.png
-SamePixels 'a 96 x 96 PNG' out.png holed.png
+for side in 96 2048; do
+    Magick holed.png -sample ${side}x$side PNG32:large.png
+    Icon convert large.png out.png
+    SamePixels "a PNG of $side x $side" out.png holed.png
+done
+[[ $(Icon info large.png) == '1: 2048 x 2048, 32 bits, PNG' ]] || Fail 'info: a photograph'
 Magick holed.png -crop 32x16+0+0 +repage -sample 128x64 PNG32:wide.png
 Icon convert --keep-aspect wide.png out.png
 SamePixels 'in proportion' out.png holed.png -crop 32x16+0+0 +repage -background none -extent 32x32
@@ -57,6 +60,9 @@ cmp "$sample" ./-dash.ico || Fail 'odd names'
 cp "$sample" case.ico
 Icon convert opaque.png CASE.ICO
 cmp "$sample" case.ico || Fail 'another file was replaced'
+cp "$sample" twice.ico
+Icon convert opaque.png twice.ico >>twice.ico
+cmp twice.ico CASE.ICO || Fail 'standard output is the same file: not replaced'
 # Links are followed and permissions kept.
 chmod 640 case.ico
 ln -s case.ico link.ico
@@ -71,5 +77,8 @@ for icon in "$data"/*.ico "$data"/*.cur; do
     cmp own.list other.list || Fail "info of $icon"
 done
 [[ $(Icon info "$data/several.ico" | sed -n 4p) == '4: 256 x 256, 8 bits, PNG' ]] || Fail 'info: PNG'
+cp "$data/several.ico" damaged.ico
+printf '\377\377\377\377' | dd of=damaged.ico bs=1 seek=18 conv=notrunc status=none
+cmp <(Icon info damaged.ico) <(Icon info "$data/several.ico" | tail -n +2) || Fail 'info: numbers'
 [[ $(Icon info - <"$data/bits1.ico") == '1: 32 x 32, 1 bit, uncompressed' ]] || Fail 'info: bit'
 [[ $(Icon info holed.png) == '1: 32 x 32, 32 bits, PNG' ]] || Fail 'info: a PNG by itself'
