@@ -7,7 +7,6 @@
 #include <QVBoxLayout>
 
 #include "i18n/Captions.h"
-#include "platform/qt/CloseKey.h"
 #include "platform/qt/Text.h"
 #include "platform/qt/WindowDesign.h"
 
@@ -33,14 +32,11 @@ constexpr int kMessageFontPixels = 11;
 }  // namespace
 
 FrmClipData::FrmClipData(QWidget* owner, editing::PictureSize picture) : QDialog(owner) {
-    setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                   Qt::WindowCloseButtonHint);
-    setWindowTitle(ToText(i18n::kPasteTitle.Now()));
+    qt::DressDialog(*this, ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
     setFont(qt::FontOf(*this, kFontPixels));
     setFixedSize(kClientSize);
     LayOutControls();
-    qt::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);
     qt::PlaceOnScreen(*this, kClientSize);
 }
 

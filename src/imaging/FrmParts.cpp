@@ -3,17 +3,13 @@
 #include <QFrame>
 #include <QPushButton>
 
-#include "platform/qt/CloseKey.h"
 #include "platform/qt/Text.h"
 #include "platform/qt/WindowDesign.h"
 
 namespace kestrel::imaging {
 
 QVBoxLayout* NewRows(QDialog& dialog, const i18n::Text& title) {
-    dialog.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
-                          Qt::WindowCloseButtonHint);
-    dialog.setWindowTitle(qt::ToText(title.Now()));
-    qt::AddCloseKey(dialog, Qt::ALT | Qt::Key_F4);
+    qt::DressDialog(dialog, qt::ToText(title.Now()));
     auto* rows = new QVBoxLayout(&dialog);
     rows->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     rows->setSpacing(kBetweenBlocks);
@@ -48,7 +44,7 @@ QWidget* NewFrame(qt::SurfaceWidget* picture) {
 
 void PlaceDialog(QDialog& dialog) {
     dialog.layout()->activate();
-    qt::CentreOnScreen(dialog, dialog.size());
+    qt::PlaceOnScreen(dialog, dialog.size(), 2);
 }
 
 }  // namespace kestrel::imaging

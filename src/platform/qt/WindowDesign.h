@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QDialog>
 #include <QFont>
 #include <QScreen>
-#include <QWidget>
+
+#include "platform/qt/CloseKey.h"
 
 namespace kestrel::qt {
 
@@ -16,18 +18,20 @@ inline QFont FontOf(const QWidget& widget, int pixels) {
     return font;
 }
 
-// Moves a window of this size to its first place on the screen: centred, and one third down.
-inline void PlaceOnScreen(QWidget& window, QSize size) {
+// Moves a window of this size to its first place on the screen: centred, and of the free height one
+// part of so many above it.
+inline void PlaceOnScreen(QWidget& window, QSize size, int parts = 3) {
     const QRect area = window.screen()->geometry();
     window.move(area.x() + (area.width() - size.width()) / 2,
-                area.y() + (area.height() - size.height()) / 3);
+                area.y() + (area.height() - size.height()) / parts);
 }
 
-// The same in the middle of the screen.
-inline void CentreOnScreen(QWidget& window, QSize size) {
-    const QRect area = window.screen()->geometry();
-    window.move(area.x() + (area.width() - size.width()) / 2,
-                area.y() + (area.height() - size.height()) / 2);
+// A dialog with a title bar that closes it, and no more.
+inline void DressDialog(QDialog& dialog, const QString& title) {
+    dialog.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                          Qt::WindowCloseButtonHint);
+    dialog.setWindowTitle(title);
+    AddCloseKey(dialog, Qt::ALT | Qt::Key_F4);
 }
 
 }  // namespace kestrel::qt
