@@ -38,8 +38,8 @@ inline constexpr Text kReset{"Reset", "复位"};
 inline constexpr Text kGammaTitle{"KestrelIconEditor - Gamma Correction",
                                   "KestrelIconEditor - 伽马校正"};
 inline constexpr Text kGammaPrompt{"Input Gamma Factor * 100", "输入伽马要素 * 100"};
-inline constexpr Text kGammaOk{"&OK", "确定"};
-inline constexpr Text kGammaCancel{"&Cancel", "取消"};
+inline constexpr Text kGammaOk{"&OK", "确定(&O)"};
+inline constexpr Text kGammaCancel{"&Cancel", "取消(&C)"};
 
 // The gradient background.
 inline constexpr Text kGradientTitle{"KestrelIconEditor - Gradient Background",

@@ -11,8 +11,6 @@ namespace {
 using document::kIconSize;
 using filters::Level;
 
-// How many levels a step shifts a channel.
-constexpr int kStep = 5;
 // In every channel of a transparent pixel: no colour has it.
 constexpr int kTransparent = 1000;
 
@@ -47,7 +45,7 @@ ColorAdjustment::ColorAdjustment(const document::IconDocument& icon) {
 
 void ColorAdjustment::Change(AdjustmentBar bar, int value) {
     const int before = std::exchange(previous_[static_cast<std::size_t>(bar)], value);
-    if (value != before) Step(bar, value > before ? kStep : -kStep);
+    if (value != before) Step(bar, value > before ? kAdjustmentStep : -kAdjustmentStep);
 }
 
 void ColorAdjustment::Step(AdjustmentBar bar, int step) {

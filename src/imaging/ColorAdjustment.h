@@ -10,6 +10,8 @@ namespace kestrel::imaging {
 // The scroll bars of the colour adjustment.
 enum class AdjustmentBar { Brightness, Red, Green, Blue };
 inline constexpr int kAdjustmentBars = 4;
+// How many levels a step of a bar shifts a channel.
+inline constexpr int kAdjustmentStep = 5;
 
 // A colour in the making: channels may lie outside 0..255.
 struct ColorRecord {
@@ -26,7 +28,7 @@ class ColorAdjustment {
     // Every bar stands at 0.
     explicit ColorAdjustment(const document::IconDocument& icon);
 
-    // A bar has come to `value`. However far it went, that is one step of 5 levels up or down;
+    // A bar has come to `value`. However far it went, that is one step up or down;
     // where it was already, nothing.
     void Change(AdjustmentBar bar, int value);
     // The colours as they were at first, and every bar at 0.

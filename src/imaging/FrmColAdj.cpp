@@ -7,6 +7,7 @@
 
 #include "i18n/Captions.h"
 #include "imaging/FrmParts.h"
+#include "imaging/filters/Levels.h"
 #include "platform/qt/Text.h"
 
 namespace kestrel::imaging {
@@ -15,8 +16,6 @@ namespace {
 
 using qt::ToText;
 
-constexpr int kLimit = 255;
-constexpr int kStep = 5;
 constexpr int kBarHeight = 176;
 constexpr int kBetweenColumns = 12;
 constexpr int kBetweenLabels = 6;
@@ -68,9 +67,9 @@ QLayout* FrmColAdj::NewColumn(AdjustmentBar bar) {
     QLabel* value = NewValueLabel(kNames[index]);
     auto* vsb = new qt::ValueBar(Qt::Vertical);
     vsb->setObjectName(QStringLiteral("Vsb%1").arg(kNames[index]));
-    vsb->setRange(-kLimit, kLimit);
-    vsb->setSingleStep(kStep);
-    vsb->setPageStep(kStep);
+    vsb->setRange(-filters::kMaxLevel, filters::kMaxLevel);
+    vsb->setSingleStep(kAdjustmentStep);
+    vsb->setPageStep(kAdjustmentStep);
     vsb->setFixedHeight(kBarHeight);
     // A drag is one change, however long it is.
     vsb->setTracking(false);

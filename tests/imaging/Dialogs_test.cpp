@@ -245,10 +245,11 @@ TEST_F(ImagingDialogsTest, SpeaksBothLanguages) {
               "OK|Cancel|KestrelIconEditor - Gamma Correction|Input Gamma Factor * 100|&OK|&Cancel|"
               "KestrelIconEditor - Gradient Background|  (R):|  (G):|  (B):|Degrees:|"
               "  (R):|  (G):|  (B):|OK|Cancel");
-    EXPECT_EQ(textsIn(i18n::kChinese),
-              "KestrelIconEditor - 颜色调整|亮度:|红(R):|绿(G):|蓝(B):|复位|确定|取消|"
-              "KestrelIconEditor - 伽马校正|输入伽马要素 * 100|确定|取消|KestrelIconEditor - "
-              "填充渐变色|红(R):|绿(G):|蓝(B):| 角度:|红(R):|绿(G):|蓝(B):|确定|取消");
+    EXPECT_EQ(
+        textsIn(i18n::kChinese),
+        "KestrelIconEditor - 颜色调整|亮度:|红(R):|绿(G):|蓝(B):|复位|确定|取消|"
+        "KestrelIconEditor - 伽马校正|输入伽马要素 * 100|确定(&O)|取消(&C)|KestrelIconEditor - "
+        "填充渐变色|红(R):|绿(G):|蓝(B):| 角度:|红(R):|绿(G):|蓝(B):|确定|取消");
 }
 
 }  // namespace
