@@ -165,8 +165,8 @@ TEST(SpatialFilters, RandomNumbersAreDrawnInTheirOrder) {
         gdi::Surface expected = noise;
         for (int y = 0; y < 11; ++y) {
             for (int x = 0; x < 20; ++x) {
-                int dx = static_cast<int>(std::nearbyint(random.Next() * reach - reach / 2));
-                int dy = static_cast<int>(std::nearbyint(random.Next() * reach - reach / 2));
+                int dx = static_cast<int>(std::nearbyint(random.Next() * reach - reach / 2.0));
+                int dy = static_cast<int>(std::nearbyint(random.Next() * reach - reach / 2.0));
                 if (x + dx < 0 || x + dx > 19) dx = 0;
                 if (y + dy < 0 || y + dy > 10) dy = 0;
                 expected.SetPixel(x, y, expected.GetPixel(x + dx, y + dy));

@@ -215,7 +215,7 @@ TEST(ToneFilters, GammaIsThePowerOfEveryLevel) {
         levels.SetPixel(v, 0, GreyColor(v));
     EXPECT_EQ(Filtered(levels, kGammaFilter, 200).GetPixel(64, 0), GreyColor(128));
     for (int factor = 1; factor < 10000; factor += factor < 300 ? 1 : 97) {
-        const float g = static_cast<float>(factor / 100.0);
+        const auto g = static_cast<float>(factor / 100.0);
         const gdi::Surface made = Filtered(levels, kGammaFilter, factor);
         for (int v = 0; v < 256; ++v)
             ASSERT_EQ(made.GetPixel(v, 0),

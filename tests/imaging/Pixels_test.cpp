@@ -25,8 +25,10 @@ TEST(Transforms, MovePixels) {
         const char* from;
         const char* to;
     } kCases[] = {
-        {"left", [](gdi::Surface p) { return Rotated(p, Turn::Left); }, "abc\ndef", "cf\nbe\nad"},
-        {"right", [](gdi::Surface p) { return Rotated(p, Turn::Right); }, "abc\ndef", "da\neb\nfc"},
+        {"left", [](gdi::Surface p) { return p = Rotated(p, Turn::Left); }, "abc\ndef",
+         "cf\nbe\nad"},
+        {"right", [](gdi::Surface p) { return p = Rotated(p, Turn::Right); }, "abc\ndef",
+         "da\neb\nfc"},
         {"across", [](gdi::Surface p) { return Flip(p, FlipAxis::Horizontal), p; }, "abc\ndef",
          "cba\nfed"},
         {"over", [](gdi::Surface p) { return Flip(p, FlipAxis::Vertical), p; }, "ab\ncd\nef",
