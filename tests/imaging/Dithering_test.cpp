@@ -16,13 +16,21 @@ int AverageOf(const gdi::Surface& picture) {
     return sum / (picture.Width() * picture.Height());
 }
 
-struct Share {
-    int dx, dy, weight;
+// What each pixel's error adds to those around it, two columns to either side, in this row and the
+// next two.
+struct Kernel {
+    const char* key;
+    int divisor;
+    int weights[3][5];
+};
+constexpr Kernel kKernels[] = {
+    {"mnuBW4", 16, {{0, 0, 0, 7, 0}, {0, 3, 5, 1, 0}}},
+    {"mnuBW5", 32, {{0, 0, 0, 8, 4}, {2, 4, 8, 4, 2}}},
+    {"mnuBW6", 42, {{0, 0, 0, 8, 4}, {2, 4, 8, 4, 2}, {1, 2, 4, 2, 1}}},
 };
 
-// Error diffusion with every error kept in a map, also of pixels that are not there.
-gdi::Surface Diffused(const gdi::Surface& picture, std::initializer_list<Share> shares,
-                      int divisor) {
+// Every error is kept in a map, also of pixels that are not there.
+gdi::Surface Diffused(const gdi::Surface& picture, const Kernel& kernel) {
     const int threshold = AverageOf(picture);
     std::map<std::pair<int, int>, int> errors;
     gdi::Surface made = picture;
@@ -31,8 +39,9 @@ gdi::Surface Diffused(const gdi::Surface& picture, std::initializer_list<Share> 
             const int level = std::clamp(GreyAt(picture, x, y) + errors[{x, y}] * 10 / 15, 0, 255);
             const int out = level < threshold ? 0 : 255;
             made.SetPixel(x, y, GreyColor(out));
-            for (const auto& [dx, dy, weight] : shares)
-                errors[{x + dx, y + dy}] += (level - out) * weight / divisor;
+            for (int i = 0; i < 15; ++i)
+                errors[{x + i % 5 - 2, y + i / 5}] +=
+                    (level - out) * kernel.weights[i / 5][i % 5] / kernel.divisor;
         }
     }
     return made;
@@ -42,29 +51,9 @@ TEST(Dithering, ErrorsAreSharedOutByTheKernel) {
     for (const auto& [w, h] : {std::pair{1, 1}, {2, 3}, {17, 9}, {32, 32}}) {
         for (std::uint32_t seed = 0; seed < 5; ++seed) {
             const gdi::Surface noise = Noise(w, h, seed);
-            EXPECT_TRUE(
-                ComparePicture(Filtered(noise, "mnuBW4"),
-                               Diffused(noise, {{1, 0, 7}, {-1, 1, 3}, {0, 1, 5}, {1, 1, 1}}, 16)));
-            EXPECT_TRUE(ComparePicture(
-                Filtered(noise, "mnuBW5"),
-                Diffused(
-                    noise,
-                    {{1, 0, 8}, {2, 0, 4}, {-2, 1, 2}, {-1, 1, 4}, {0, 1, 8}, {1, 1, 4}, {2, 1, 2}},
-                    32)));
-            EXPECT_TRUE(ComparePicture(Filtered(noise, "mnuBW6"), Diffused(noise,
-                                                                           {{1, 0, 8},
-                                                                            {2, 0, 4},
-                                                                            {-2, 1, 2},
-                                                                            {-1, 1, 4},
-                                                                            {0, 1, 8},
-                                                                            {1, 1, 4},
-                                                                            {2, 1, 2},
-                                                                            {-2, 2, 1},
-                                                                            {-1, 2, 2},
-                                                                            {0, 2, 4},
-                                                                            {1, 2, 2},
-                                                                            {2, 2, 1}},
-                                                                           42)));
+            for (const Kernel& kernel : kKernels)
+                EXPECT_TRUE(ComparePicture(Filtered(noise, kernel.key), Diffused(noise, kernel)))
+                    << kernel.key;
         }
     }
 }

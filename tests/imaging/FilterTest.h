@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <functional>
-#include <initializer_list>
+#include <vector>
 
 #include "imaging/filters/FilterTable.h"
 #include "imaging/filters/mFilterG.h"
@@ -41,23 +42,18 @@ inline gdi::COLORREF GreyColor(int level) {
     const auto value = static_cast<std::uint8_t>(level);
     return gdi::Rgb(value, value, value);
 }
-inline gdi::Surface PictureOf(int width, std::initializer_list<gdi::COLORREF> colors) {
+inline gdi::Surface PictureOf(int width, const std::vector<gdi::COLORREF>& colors) {
     gdi::Surface picture(width, static_cast<int>(colors.size()) / width);
-    int i = 0;
-    for (const gdi::COLORREF color : colors) {
+    for (int i = 0; const gdi::COLORREF color : colors) {
         picture.SetPixel(i % width, i / width, color);
         ++i;
     }
     return picture;
 }
-inline gdi::Surface GreyPicture(int width, std::initializer_list<int> levels) {
-    gdi::Surface picture(width, static_cast<int>(levels.size()) / width);
-    int i = 0;
-    for (const int level : levels) {
-        picture.SetPixel(i % width, i / width, GreyColor(level));
-        ++i;
-    }
-    return picture;
+inline gdi::Surface GreyPicture(int width, const std::vector<int>& levels) {
+    std::vector<gdi::COLORREF> colors(levels.size());
+    std::ranges::transform(levels, colors.begin(), GreyColor);
+    return PictureOf(width, colors);
 }
 inline gdi::Surface Noise(int width, int height, std::uint32_t seed) {
     system::RandomNumbers random(seed);
