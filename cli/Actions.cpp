@@ -22,7 +22,7 @@ namespace {
 
 std::string Line(const icons::ImageEntry& image) {
     const icons::ImageInfo& info = image.info;
-    std::string line = std::to_string(image.place + 1) + ": " + std::to_string(info.width) + " x ";
+    std::string line = std::to_string(image.index + 1) + ": " + std::to_string(info.width) + " x ";
     line += std::to_string(info.height) + ", " + std::to_string(info.bitsPerPixel);
     line += info.bitsPerPixel == 1 ? " bit, " : " bits, ";
     return line + (info.png ? "PNG" : "uncompressed") + "\n";

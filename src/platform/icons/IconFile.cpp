@@ -70,7 +70,7 @@ std::vector<ImageEntry> ListDirectory(Bytes file) {
     for (std::uint64_t at = kDirectorySize; at + kEntrySize <= end; at += kEntrySize) {
         auto entry = ReadEntry(reader, at);
         if (!entry) continue;
-        entry->place = static_cast<std::size_t>((at - kDirectorySize) / kEntrySize);
+        entry->index = static_cast<std::size_t>((at - kDirectorySize) / kEntrySize);
         entries.push_back(*entry);
         end = std::min<std::uint64_t>(end, entry->offset);
     }

@@ -16,7 +16,7 @@ struct ImageEntry {
     std::size_t offset = 0;
     std::size_t size = 0;
     ImageInfo info;
-    std::size_t place = 0;
+    std::size_t index = 0;
 };
 
 // No icon file that this program reads is larger; callers cap what they load by it.
