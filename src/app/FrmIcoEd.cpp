@@ -156,7 +156,8 @@ void FrmIcoEd::FollowDesktopColors() {
 }
 
 void FrmIcoEd::dragEnterEvent(QDragEnterEvent* event) {
-    if (!FirstLocalFile(*event->mimeData()).empty()) AcceptToRead(*event);
+    // While a command asks something, a file could not be opened.
+    if (!commandRunning_ && !FirstLocalFile(*event->mimeData()).empty()) AcceptToRead(*event);
 }
 
 void FrmIcoEd::dropEvent(QDropEvent* event) {
