@@ -49,8 +49,7 @@ void DeclareApply(CLI::App& command, Arguments& arguments) {
     AddOut(command, arguments);
     command.add_option_function<std::string>(
         "--seed", [&](const std::string& text) { arguments.seed = text; },
-        "start of the random numbers, 0 to 4294967295, for the same noise every "
-        "time");
+        "start of the random numbers, 0 to 4294967295, for the same noise every time");
     command.footer("Keys (mnuGamma takes the factor times 100, 1 to 9999):\n" + cli::CommandKeys() +
                    "\n\nExamples:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
                    "  kestrel-icon apply mnuGamma=200,mnuRotateOpts1 in.ico out.png\n"

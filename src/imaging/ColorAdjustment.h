@@ -28,8 +28,8 @@ class ColorAdjustment {
     // Every bar stands at 0.
     explicit ColorAdjustment(const document::IconDocument& icon);
 
-    // A bar has come to `value`. However far it went, that is one step up or down;
-    // where it was already, nothing.
+    // A bar has come to `value`. However far it went, that is one step up or down; where it was
+    // already, nothing.
     void Change(AdjustmentBar bar, int value);
     // The colours as they were at first, and every bar at 0.
     void Reset();
