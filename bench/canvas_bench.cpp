@@ -3,7 +3,7 @@
 #include "document/Canvas.h"
 #include "document/IcoFile.h"
 #include "editing/Editor.h"
-#include "platform/icons/IconFile.h"
+#include "formats/IconFile.h"
 #include "tests/support/EditorRecorder.h"
 
 namespace {

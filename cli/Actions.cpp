@@ -13,7 +13,7 @@
 #include "editing/PaletteFile.h"
 #include "imaging/Shades.h"
 #include "platform/gdi/Blit.h"
-#include "platform/icons/IconFile.h"
+#include "formats/IconFile.h"
 #include "resources/DefaultPalette.h"
 
 namespace kestrel::cli {

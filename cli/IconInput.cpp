@@ -8,8 +8,8 @@
 
 #include "cli/Streams.h"
 #include "platform/gdi/Blit.h"
-#include "platform/icons/IconFile.h"
-#include "platform/icons/PngImage.h"
+#include "formats/IconFile.h"
+#include "formats/PngImage.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/SystemError.h"
 

@@ -2,7 +2,7 @@
 #include <cstdint>
 #include <span>
 
-#include "platform/icons/IconFile.h"
+#include "formats/IconFile.h"
 
 using namespace kestrel;
 

@@ -3,7 +3,7 @@
 #include "app/ErrorBox.h"
 #include "document/IcoFile.h"
 #include "i18n/Messages.h"
-#include "platform/icons/IconFile.h"
+#include "formats/IconFile.h"
 #include "platform/system/PathText.h"
 
 namespace kestrel::app {

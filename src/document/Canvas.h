@@ -2,7 +2,7 @@
 
 #include "document/IconDocument.h"
 #include "platform/gdi/Surface.h"
-#include "platform/icons/IconImage.h"
+#include "formats/IconImage.h"
 
 namespace kestrel::document {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "platform/gdi/Surface.h"
-#include "platform/icons/IconImage.h"
+#include "formats/IconImage.h"
 
 namespace kestrel::document {
 

@@ -1,9 +1,9 @@
-#include "platform/icons/IconFile.h"
+#include "formats/IconFile.h"
 
 #include <string>
 #include <vector>
 
-#include "platform/icons/BestImage.h"
+#include "formats/BestImage.h"
 #include "tests/support/PictureText.h"
 
 namespace kestrel::icons {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/icons/IconFile.h"
+#include "formats/IconFile.h"
 
 namespace kestrel::icons {
 namespace {

@@ -1,7 +1,7 @@
-#include "platform/icons/IconImage.h"
+#include "formats/IconImage.h"
 
 #include "platform/gdi/Blit.h"
-#include "platform/icons/IconPixels.h"
+#include "formats/IconPixels.h"
 
 namespace kestrel::icons {
 

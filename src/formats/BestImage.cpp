@@ -1,4 +1,4 @@
-#include "platform/icons/BestImage.h"
+#include "formats/BestImage.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "platform/icons/IconFile.h"
+#include "formats/IconFile.h"
 
 namespace kestrel::icons {
 

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "platform/icons/ByteReader.h"
-#include "platform/icons/IconImage.h"
+#include "formats/ByteReader.h"
+#include "formats/IconImage.h"
 
 namespace kestrel::icons {
 

@@ -1,15 +1,15 @@
-#include "platform/icons/IconFile.h"
+#include "formats/IconFile.h"
 
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
 
-#include "platform/icons/BestImage.h"
-#include "platform/icons/ByteReader.h"
-#include "platform/icons/DibImage.h"
-#include "platform/icons/IconPixels.h"
-#include "platform/icons/PngImage.h"
+#include "formats/BestImage.h"
+#include "formats/ByteReader.h"
+#include "formats/DibImage.h"
+#include "formats/IconPixels.h"
+#include "formats/PngImage.h"
 
 namespace kestrel::icons {
 namespace {

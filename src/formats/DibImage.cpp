@@ -1,9 +1,9 @@
-#include "platform/icons/DibImage.h"
+#include "formats/DibImage.h"
 
 #include <algorithm>
 #include <bit>
 
-#include "platform/icons/IconPixels.h"
+#include "formats/IconPixels.h"
 
 namespace kestrel::icons {
 namespace {

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <bit>
 
-#include "platform/icons/DibImage.h"
-#include "platform/icons/IconPixels.h"
+#include "formats/DibImage.h"
+#include "formats/IconPixels.h"
 
 namespace kestrel::icons {
 namespace {

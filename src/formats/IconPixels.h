@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "platform/icons/IconImage.h"
+#include "formats/IconImage.h"
 
 namespace kestrel::icons {
 

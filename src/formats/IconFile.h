@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/Result.h"
-#include "platform/icons/IconImage.h"
+#include "formats/IconImage.h"
 
 namespace kestrel::icons {
 

@@ -1,4 +1,4 @@
-#include "platform/icons/PngImage.h"
+#include "formats/PngImage.h"
 
 #include <png.h>
 
@@ -8,7 +8,7 @@
 #include <csetjmp>
 #include <vector>
 
-#include "platform/icons/IconPixels.h"
+#include "formats/IconPixels.h"
 
 namespace kestrel::icons {
 namespace {
