@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/MessageLoop.h"
+#include "services/MessageLoop.h"
 
 namespace kestrel::app {
 

@@ -5,8 +5,8 @@
 #include "app/BusyWindow.h"
 #include "app/ModRecent.h"
 #include "editing/Editor.h"
-#include "platform/dialogs/Cdb.h"
-#include "platform/dialogs/MessageBoxes.h"
+#include "services/Cdb.h"
+#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 
 namespace kestrel::app {

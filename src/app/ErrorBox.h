@@ -3,7 +3,7 @@
 #include <string>
 
 #include "i18n/Messages.h"
-#include "platform/dialogs/MessageBoxes.h"
+#include "services/MessageBoxes.h"
 
 namespace kestrel::app {
 

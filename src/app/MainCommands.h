@@ -16,7 +16,7 @@
 #include "imaging/ImageCommands.h"
 #include "imaging/TransformCommands.h"
 #include "platform/controls/SmartMenuXP.h"
-#include "platform/dialogs/Cdb.h"
+#include "services/Cdb.h"
 
 namespace kestrel::app {
 

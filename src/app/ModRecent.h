@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/controls/SmartMenuXP.h"
-#include "platform/dialogs/MessageBoxes.h"
+#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Registry.h"
 

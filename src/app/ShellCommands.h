@@ -4,8 +4,8 @@
 
 #include "app/BusyWindow.h"
 #include "app/CommandHandlers.h"
-#include "platform/dialogs/HelpViewer.h"
-#include "platform/dialogs/MessageBoxes.h"
+#include "services/HelpViewer.h"
+#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Shell.h"
 

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "app/Settings.h"
-#include "platform/dialogs/MessageBoxes.h"
+#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Registry.h"
 

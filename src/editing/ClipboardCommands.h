@@ -4,7 +4,7 @@
 
 #include "editing/Editor.h"
 #include "editing/PasteFit.h"
-#include "platform/desktop/Clipboard.h"
+#include "services/Clipboard.h"
 
 namespace kestrel::editing {
 

@@ -2,7 +2,7 @@
 
 #include "editing/PaletteFile.h"
 #include "i18n/Messages.h"
-#include "platform/dialogs/GCommonDialog.h"
+#include "services/GCommonDialog.h"
 
 namespace kestrel::editing {
 

@@ -2,7 +2,7 @@
 
 #include "editing/ColorWells.h"
 #include "editing/Palette.h"
-#include "platform/dialogs/Cdb.h"
+#include "services/Cdb.h"
 #include "platform/system/FileSystem.h"
 
 namespace kestrel::editing {

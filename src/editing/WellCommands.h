@@ -1,7 +1,7 @@
 #pragma once
 
 #include "editing/ColorWells.h"
-#include "platform/dialogs/Cdb.h"
+#include "services/Cdb.h"
 
 namespace kestrel::editing {
 

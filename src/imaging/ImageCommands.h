@@ -2,7 +2,7 @@
 
 #include "imaging/ImageTarget.h"
 #include "imaging/ImagingDialogs.h"
-#include "platform/desktop/MessageLoop.h"
+#include "services/MessageLoop.h"
 
 namespace kestrel::imaging {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/IconDocument.h"
-#include "platform/desktop/MessageLoop.h"
+#include "services/MessageLoop.h"
 #include "platform/gdi/Surface.h"
 
 namespace kestrel::imaging {

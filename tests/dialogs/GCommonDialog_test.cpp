@@ -1,8 +1,8 @@
-#include "platform/dialogs/GCommonDialog.h"
+#include "services/GCommonDialog.h"
 
 #include <gtest/gtest.h>
 
-#include "platform/dialogs/Cdb.h"
+#include "services/Cdb.h"
 #include "tests/support/ScriptedDialogs.h"
 
 namespace kestrel::dialogs {

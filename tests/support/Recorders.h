@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "app/MainCommands.h"
-#include "platform/dialogs/MessageBoxes.h"
+#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "tests/support/EditorRecorder.h"
 #include "tests/support/ScriptedDialogs.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/dialogs/DesktopDialogs.h"
+#include "services/DesktopDialogs.h"
 
 namespace kestrel::test {
 

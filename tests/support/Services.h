@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/dialogs/HelpViewer.h"
+#include "services/HelpViewer.h"
 #include "platform/system/Registry.h"
 #include "platform/system/Shell.h"
 #include "tests/support/Recorders.h"

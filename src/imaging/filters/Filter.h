@@ -1,7 +1,7 @@
 #pragma once
 
 #include "imaging/filters/PixelArray.h"
-#include "platform/desktop/MessageLoop.h"
+#include "services/MessageLoop.h"
 #include "platform/system/RandomNumbers.h"
 
 namespace kestrel::filters {

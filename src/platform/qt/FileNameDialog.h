@@ -4,7 +4,7 @@
 #include <QFileDialog>
 #include <QMessageBox>
 
-#include "platform/dialogs/DesktopDialogs.h"
+#include "services/DesktopDialogs.h"
 
 namespace kestrel::qt {
 

@@ -7,7 +7,7 @@
 #include <future>
 #include <string>
 
-#include "platform/desktop/Clipboard.h"
+#include "services/Clipboard.h"
 
 namespace kestrel::qt {
 

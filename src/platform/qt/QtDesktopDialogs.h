@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dialogs/DesktopDialogs.h"
+#include "services/DesktopDialogs.h"
 #include "platform/qt/FileNameDialog.h"
 
 namespace kestrel::qt {

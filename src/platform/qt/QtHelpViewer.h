@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QTextBrowser>
 
-#include "platform/dialogs/HelpViewer.h"
+#include "services/HelpViewer.h"
 #include "platform/system/Shell.h"
 
 namespace kestrel::qt {

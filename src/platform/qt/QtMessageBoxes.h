@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "platform/dialogs/MessageBoxes.h"
+#include "services/MessageBoxes.h"
 
 namespace kestrel::qt {
 

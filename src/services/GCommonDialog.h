@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dialogs/DesktopDialogs.h"
+#include "services/DesktopDialogs.h"
 
 namespace kestrel::dialogs {
 

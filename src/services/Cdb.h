@@ -3,7 +3,7 @@
 #include <string>
 
 #include "platform/Result.h"
-#include "platform/dialogs/DesktopDialogs.h"
+#include "services/DesktopDialogs.h"
 
 namespace kestrel::dialogs {
 

@@ -1,4 +1,4 @@
-#include "platform/dialogs/GCommonDialog.h"
+#include "services/GCommonDialog.h"
 
 #include "platform/system/Characters.h"
 #include "platform/system/PathText.h"

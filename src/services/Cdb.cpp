@@ -1,4 +1,4 @@
-#include "platform/dialogs/Cdb.h"
+#include "services/Cdb.h"
 
 namespace kestrel::dialogs {
 

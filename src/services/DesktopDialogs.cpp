@@ -1,4 +1,4 @@
-#include "platform/dialogs/DesktopDialogs.h"
+#include "services/DesktopDialogs.h"
 
 #include <algorithm>
 
