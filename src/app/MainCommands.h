@@ -6,7 +6,7 @@
 #include "app/CommandHandlers.h"
 #include "app/DocumentCommands.h"
 #include "app/ModRecent.h"
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "app/ShellCommands.h"
 #include "editing/ClipboardCommands.h"
 #include "editing/Editor.h"

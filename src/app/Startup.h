@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Registry.h"

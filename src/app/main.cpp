@@ -4,7 +4,7 @@
 #include <csignal>
 
 #include "app/FrmIcoEd.h"
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "app/Startup.h"
 #include "i18n/DesktopTexts.h"
 #include "platform/qt/QtClipboard.h"

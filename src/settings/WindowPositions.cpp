@@ -1,4 +1,4 @@
-#include "app/WindowPositions.h"
+#include "settings/WindowPositions.h"
 
 #include <algorithm>
 #include <charconv>

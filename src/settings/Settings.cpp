@@ -1,4 +1,4 @@
-#include "app/Settings.h"
+#include "settings/Settings.h"
 
 #include "platform/system/Folders.h"
 #include "platform/system/Profile.h"
