@@ -4,7 +4,7 @@
 #include <QImage>
 #include <cstdio>
 
-#include "app/ApplicationIcon.h"
+#include "document/ApplicationIcon.h"
 #include "document/IcoFile.h"
 #include "platform/controls/ImageList.h"
 #include "platform/qt/Pictures.h"

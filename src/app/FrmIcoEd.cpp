@@ -7,7 +7,7 @@
 #include <QScopedValueRollback>
 #include <QUrl>
 
-#include "app/ApplicationIcon.h"
+#include "document/ApplicationIcon.h"
 #include "app/FrmClipData.h"
 #include "app/frmAbout.h"
 #include "i18n/Language.h"

@@ -3,7 +3,7 @@
 #include <array>
 #include <filesystem>
 
-#include "app/ApplicationIcon.h"
+#include "document/ApplicationIcon.h"
 #include "document/IcoFile.h"
 #include "i18n/Language.h"
 #include "i18n/Messages.h"

@@ -7,7 +7,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "app/ApplicationIcon.h"
+#include "document/ApplicationIcon.h"
 #include "i18n/Captions.h"
 #include "i18n/Messages.h"
 #include "platform/qt/CloseKey.h"

@@ -1,4 +1,4 @@
-#include "app/ApplicationIcon.h"
+#include "document/ApplicationIcon.h"
 
 #include "platform/gdi/PixelArt.h"
 #include "resources/KestrelIcon.h"
