@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "editing/PasteFit.h"
+#include "imaging/PasteFit.h"
 #include "platform/Result.h"
 
 namespace kestrel::cli {

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "document/IconDocument.h"
-#include "editing/PasteFit.h"
+#include "imaging/PasteFit.h"
 #include "platform/Result.h"
 
 namespace kestrel::cli {

@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "editing/PasteFit.h"
+#include "imaging/PasteFit.h"
 
 class QRadioButton;
 

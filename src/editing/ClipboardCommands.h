@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "editing/Editor.h"
-#include "editing/PasteFit.h"
+#include "imaging/PasteFit.h"
 #include "services/Clipboard.h"
 
 namespace kestrel::editing {

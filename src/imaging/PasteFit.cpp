@@ -1,4 +1,4 @@
-#include "editing/PasteFit.h"
+#include "imaging/PasteFit.h"
 
 #include <algorithm>
 #include <cmath>
