@@ -7,7 +7,7 @@
 #include "document/ApplicationIcon.h"
 #include "document/IcoFile.h"
 #include "platform/controls/ImageList.h"
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 #include "platform/system/DiskFiles.h"
 #include "resources/ImageList.h"
 #include "resources/ToolStrip.h"

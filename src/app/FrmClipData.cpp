@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 
 #include "i18n/Captions.h"
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 #include "platform/qt/WindowDesign.h"
 
 namespace kestrel::app {

@@ -11,7 +11,7 @@
 #include "app/FrmClipData.h"
 #include "app/frmAbout.h"
 #include "i18n/Language.h"
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
 

@@ -7,7 +7,7 @@
 #include "app/FrmMouseButtons.h"
 #include "i18n/Captions.h"
 #include "platform/gdi/PixelArt.h"
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 #include "resources/Cursors.h"
 
 namespace kestrel::app {

@@ -6,7 +6,7 @@
 
 #include "app/FrmIcoEd.h"
 #include "platform/qt/PictureIcon.h"
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 #include "platform/qt/WindowDesign.h"
 #include "resources/WellPictures.h"
 

@@ -7,7 +7,7 @@
 #include "i18n/Language.h"
 #include "i18n/ModLanguage.h"
 #include "i18n/ToolbarTable.h"
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 
 namespace kestrel::app {
 

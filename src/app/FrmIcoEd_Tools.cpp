@@ -10,8 +10,8 @@
 #include "i18n/Captions.h"
 #include "platform/qt/PictureBox.h"
 #include "platform/qt/PictureIcon.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Text.h"
+#include "desktop/Pictures.h"
+#include "desktop/Text.h"
 #include "resources/WellPictures.h"
 
 namespace kestrel::app {

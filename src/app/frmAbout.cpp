@@ -10,9 +10,9 @@
 #include "document/ApplicationIcon.h"
 #include "i18n/Captions.h"
 #include "i18n/Messages.h"
-#include "platform/qt/CloseKey.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Text.h"
+#include "desktop/CloseKey.h"
+#include "desktop/Pictures.h"
+#include "desktop/Text.h"
 
 namespace kestrel::app {
 

@@ -8,7 +8,7 @@
 #include "i18n/Captions.h"
 #include "imaging/FrmParts.h"
 #include "imaging/filters/Levels.h"
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 
 namespace kestrel::imaging {
 

@@ -3,7 +3,7 @@
 #include <QFrame>
 #include <QPushButton>
 
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 #include "platform/qt/WindowDesign.h"
 
 namespace kestrel::imaging {

@@ -6,8 +6,8 @@
 #include "i18n/Captions.h"
 #include "imaging/FrmParts.h"
 #include "imaging/filters/Levels.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/Text.h"
+#include "desktop/Pictures.h"
+#include "desktop/Text.h"
 
 namespace kestrel::imaging {
 

@@ -4,7 +4,7 @@
 
 #include "i18n/Captions.h"
 #include "imaging/FrmParts.h"
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 
 namespace kestrel::imaging {
 

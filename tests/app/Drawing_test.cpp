@@ -1,5 +1,5 @@
 #include "platform/gdi/Draw.h"
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 #include "tests/app/WindowTest.h"
 #include "tests/support/EditorTest.h"
 #include "tests/support/ListedTexts.h"

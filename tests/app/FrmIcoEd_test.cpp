@@ -1,6 +1,6 @@
 #include <QMimeData>
 
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 #include "tests/app/WindowTest.h"
 
 namespace kestrel::app {

@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/qt/Pictures.h"
-#include "platform/qt/QtDesktopDialogs.h"
+#include "desktop/Pictures.h"
+#include "desktop/QtDesktopDialogs.h"
 #include "tests/app/WindowTest.h"
 #include "tests/support/Typist.h"
 

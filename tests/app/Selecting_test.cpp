@@ -5,7 +5,7 @@
 #include <QTimer>
 
 #include "app/FrmClipData.h"
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 #include "tests/app/WindowTest.h"
 #include "tests/support/EditorTest.h"
 

@@ -14,7 +14,7 @@
 #include "imaging/FrmImagingDialogs.h"
 #include "imaging/FrmShades.h"
 #include "imaging/frmGamma.h"
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 
 namespace kestrel::imaging {
 namespace {

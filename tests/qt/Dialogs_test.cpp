@@ -13,8 +13,8 @@
 
 #include "i18n/DesktopTexts.h"
 #include "i18n/Language.h"
-#include "platform/qt/QtDesktopDialogs.h"
-#include "platform/qt/TableTranslator.h"
+#include "desktop/QtDesktopDialogs.h"
+#include "desktop/TableTranslator.h"
 #include "tests/support/Typist.h"
 
 namespace kestrel::qt {

@@ -5,9 +5,9 @@
 #include <QGuiApplication>
 #include <array>
 
-#include "platform/qt/PictureFile.h"
+#include "desktop/PictureFile.h"
 #include "platform/qt/PictureIcon.h"
-#include "platform/qt/QtClipboard.h"
+#include "desktop/QtClipboard.h"
 
 namespace kestrel::qt {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/qt/QtHelpViewer.h"
+#include "desktop/QtHelpViewer.h"
 
 #include <gtest/gtest.h>
 

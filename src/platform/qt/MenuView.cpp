@@ -4,7 +4,7 @@
 #include <QFontMetrics>
 
 #include "platform/qt/PictureIcon.h"
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 
 namespace kestrel::qt {
 

@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 
 namespace kestrel::qt {
 

@@ -1,6 +1,6 @@
 #include "platform/qt/StatusBar.h"
 
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 
 namespace kestrel::qt {
 

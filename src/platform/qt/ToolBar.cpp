@@ -5,7 +5,7 @@
 #include <QPainter>
 
 #include "platform/qt/PictureIcon.h"
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 
 namespace kestrel::qt {
 

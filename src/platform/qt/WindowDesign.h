@@ -4,7 +4,7 @@
 #include <QFont>
 #include <QScreen>
 
-#include "platform/qt/CloseKey.h"
+#include "desktop/CloseKey.h"
 
 namespace kestrel::qt {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/QtDesktopDialogs.h"
+#include "desktop/QtDesktopDialogs.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -7,7 +7,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 
 namespace kestrel::qt {
 

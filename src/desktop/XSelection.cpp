@@ -1,4 +1,4 @@
-#include "platform/qt/XSelection.h"
+#include "desktop/XSelection.h"
 
 #include <poll.h>
 

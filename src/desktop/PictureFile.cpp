@@ -1,11 +1,11 @@
-#include "platform/qt/PictureFile.h"
+#include "desktop/PictureFile.h"
 
 #include <QBuffer>
 #include <QImageReader>
 #include <QtEndian>
 #include <cstdlib>
 
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 
 namespace kestrel::qt {
 

@@ -1,10 +1,10 @@
-#include "platform/qt/QtHelpViewer.h"
+#include "desktop/QtHelpViewer.h"
 
 #include <QFileInfo>
 #include <QScreen>
 #include <QUrl>
 
-#include "platform/qt/CloseKey.h"
+#include "desktop/CloseKey.h"
 
 namespace kestrel::qt {
 

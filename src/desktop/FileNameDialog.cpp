@@ -1,4 +1,4 @@
-#include "platform/qt/FileNameDialog.h"
+#include "desktop/FileNameDialog.h"
 
 #include <QComboBox>
 #include <QFileInfo>

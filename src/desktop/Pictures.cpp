@@ -1,4 +1,4 @@
-#include "platform/qt/Pictures.h"
+#include "desktop/Pictures.h"
 
 namespace kestrel::qt {
 

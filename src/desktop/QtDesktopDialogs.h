@@ -1,7 +1,7 @@
 #pragma once
 
 #include "services/DesktopDialogs.h"
-#include "platform/qt/FileNameDialog.h"
+#include "desktop/FileNameDialog.h"
 
 namespace kestrel::qt {
 

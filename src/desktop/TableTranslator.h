@@ -4,7 +4,7 @@
 #include <functional>
 #include <string_view>
 
-#include "platform/qt/Text.h"
+#include "desktop/Text.h"
 
 namespace kestrel::qt {
 

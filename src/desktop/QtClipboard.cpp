@@ -1,4 +1,4 @@
-#include "platform/qt/QtClipboard.h"
+#include "desktop/QtClipboard.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -9,9 +9,9 @@
 #include <array>
 #include <new>
 
-#include "platform/qt/PictureFile.h"
-#include "platform/qt/Pictures.h"
-#include "platform/qt/XSelection.h"
+#include "desktop/PictureFile.h"
+#include "desktop/Pictures.h"
+#include "desktop/XSelection.h"
 
 namespace kestrel::qt {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/QtMessageBoxes.h"
+#include "desktop/QtMessageBoxes.h"
 
 #include <QGridLayout>
 #include <QMessageBox>
