@@ -8,10 +8,10 @@
 #include <functional>
 #include <map>
 
-#include "app/CommandDispatch.h"
-#include "app/MainCommands.h"
+#include "commands/CommandDispatch.h"
+#include "commands/MainCommands.h"
 #include "editing/Editor.h"
-#include "editing/WellCommands.h"
+#include "commands/WellCommands.h"
 #include "imaging/FrmImagingDialogs.h"
 #include "platform/controls/ImageList.h"
 #include "platform/qt/MenuView.h"

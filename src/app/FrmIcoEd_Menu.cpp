@@ -5,8 +5,8 @@
 
 #include "app/FrmIcoEd.h"
 #include "i18n/Language.h"
-#include "i18n/ModLanguage.h"
-#include "i18n/ToolbarTable.h"
+#include "commands/ModLanguage.h"
+#include "commands/ToolbarTable.h"
 #include "desktop/Text.h"
 
 namespace kestrel::app {

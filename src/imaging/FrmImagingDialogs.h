@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "imaging/ImagingDialogs.h"
+#include "commands/ImagingDialogs.h"
 
 namespace kestrel::imaging {
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "app/CommandDispatch.h"
-#include "i18n/MenuTable.h"
-#include "i18n/ToolbarTable.h"
+#include "commands/CommandDispatch.h"
+#include "commands/MenuTable.h"
+#include "commands/ToolbarTable.h"
 #include "imaging/filters/FilterTable.h"
 #include "tests/support/Recorders.h"
 

@@ -1,4 +1,4 @@
-#include "app/DocumentCommands.h"
+#include "commands/DocumentCommands.h"
 
 #include <gtest/gtest.h>
 

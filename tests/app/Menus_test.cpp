@@ -1,6 +1,6 @@
 #include <QTimer>
 
-#include "i18n/ToolbarTable.h"
+#include "commands/ToolbarTable.h"
 #include "imaging/filters/FilterTable.h"
 #include "tests/app/WindowTest.h"
 #include "tests/support/ListedTexts.h"

@@ -1,8 +1,8 @@
-#include "app/ModRecent.h"
+#include "commands/ModRecent.h"
 
 #include <gtest/gtest.h>
 
-#include "i18n/ModLanguage.h"
+#include "commands/ModLanguage.h"
 #include "platform/system/CodePage.h"
 #include "tests/support/Services.h"
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "editing/ClipboardCommands.h"
+#include "commands/ClipboardCommands.h"
 #include "tests/support/EditorTest.h"
 #include "tests/support/Recorders.h"
 

@@ -2,7 +2,7 @@
 
 #include <fstream>
 
-#include "editing/PaletteCommands.h"
+#include "commands/PaletteCommands.h"
 #include "editing/PaletteFile.h"
 #include "tests/support/Recorders.h"
 

@@ -4,8 +4,8 @@
 #include <functional>
 #include <random>
 
-#include "editing/ClipboardCommands.h"
-#include "editing/WellCommands.h"
+#include "commands/ClipboardCommands.h"
+#include "commands/WellCommands.h"
 #include "i18n/Language.h"
 #include "platform/gdi/Blit.h"
 #include "tests/support/EditorTest.h"

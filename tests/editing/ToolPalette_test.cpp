@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "editing/WellCommands.h"
+#include "commands/WellCommands.h"
 #include "i18n/Language.h"
 #include "tests/support/EditorTest.h"
 #include "tests/support/ListedTexts.h"

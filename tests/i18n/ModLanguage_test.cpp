@@ -1,4 +1,4 @@
-#include "i18n/ModLanguage.h"
+#include "commands/ModLanguage.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include <algorithm>
 #include <functional>
 
-#include "imaging/FilterCommands.h"
-#include "imaging/ImageCommands.h"
-#include "imaging/TransformCommands.h"
+#include "commands/FilterCommands.h"
+#include "commands/ImageCommands.h"
+#include "commands/TransformCommands.h"
 #include "tests/support/EditorTest.h"
 
 namespace kestrel::imaging {

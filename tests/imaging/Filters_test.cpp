@@ -2,7 +2,7 @@
 #include <map>
 #include <set>
 
-#include "i18n/MenuTable.h"
+#include "commands/MenuTable.h"
 #include "tests/imaging/FilterTest.h"
 
 namespace kestrel::filters {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "app/MainCommands.h"
+#include "commands/MainCommands.h"
 #include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "tests/support/EditorRecorder.h"

@@ -1,9 +1,9 @@
-#include "app/MainCommands.h"
+#include "commands/MainCommands.h"
 
 #include <array>
 #include <string>
 
-#include "app/ErrorBox.h"
+#include "commands/ErrorBox.h"
 #include "i18n/Language.h"
 
 namespace kestrel::app {

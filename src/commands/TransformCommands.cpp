@@ -1,4 +1,4 @@
-#include "imaging/TransformCommands.h"
+#include "commands/TransformCommands.h"
 
 namespace kestrel::imaging {
 

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string_view>
 
-#include "imaging/ImageTarget.h"
-#include "imaging/ImagingDialogs.h"
+#include "commands/ImageTarget.h"
+#include "commands/ImagingDialogs.h"
 #include "imaging/filters/FilterTable.h"
 #include "imaging/filters/mFilterG.h"
 

@@ -1,4 +1,4 @@
-#include "app/CommandTables.h"
+#include "commands/CommandTables.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "i18n/MenuTable.h"
+#include "commands/MenuTable.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "editing/PaletteCommands.h"
+#include "commands/PaletteCommands.h"
 
 #include "editing/PaletteFile.h"
 #include "i18n/Messages.h"

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "app/CommandTables.h"
+#include "commands/CommandTables.h"
 #include "editing/EditorWindow.h"
 
 namespace kestrel::app {

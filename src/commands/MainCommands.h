@@ -3,18 +3,18 @@
 #include <cstdint>
 #include <string_view>
 
-#include "app/CommandHandlers.h"
-#include "app/DocumentCommands.h"
-#include "app/ModRecent.h"
+#include "commands/CommandHandlers.h"
+#include "commands/DocumentCommands.h"
+#include "commands/ModRecent.h"
 #include "settings/Settings.h"
-#include "app/ShellCommands.h"
-#include "editing/ClipboardCommands.h"
+#include "commands/ShellCommands.h"
+#include "commands/ClipboardCommands.h"
 #include "editing/Editor.h"
-#include "editing/PaletteCommands.h"
-#include "i18n/ModLanguage.h"
-#include "imaging/FilterCommands.h"
-#include "imaging/ImageCommands.h"
-#include "imaging/TransformCommands.h"
+#include "commands/PaletteCommands.h"
+#include "commands/ModLanguage.h"
+#include "commands/FilterCommands.h"
+#include "commands/ImageCommands.h"
+#include "commands/TransformCommands.h"
 #include "platform/controls/SmartMenuXP.h"
 #include "services/Cdb.h"
 

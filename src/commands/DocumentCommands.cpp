@@ -1,6 +1,6 @@
-#include "app/DocumentCommands.h"
+#include "commands/DocumentCommands.h"
 
-#include "app/ErrorBox.h"
+#include "commands/ErrorBox.h"
 #include "document/IcoFile.h"
 #include "i18n/Messages.h"
 #include "formats/IconFile.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "imaging/ImageTarget.h"
+#include "commands/ImageTarget.h"
 #include "imaging/Transforms.h"
 
 namespace kestrel::imaging {

@@ -1,4 +1,4 @@
-#include "imaging/ImageTarget.h"
+#include "commands/ImageTarget.h"
 
 namespace kestrel::imaging {
 

@@ -1,12 +1,12 @@
-#include "i18n/ModLanguage.h"
+#include "commands/ModLanguage.h"
 
 #include <array>
 #include <span>
 #include <string>
 
 #include "i18n/Language.h"
-#include "i18n/MenuTable.h"
-#include "i18n/ToolbarTable.h"
+#include "commands/MenuTable.h"
+#include "commands/ToolbarTable.h"
 
 namespace kestrel::i18n {
 

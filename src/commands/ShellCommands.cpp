@@ -1,8 +1,8 @@
-#include "app/ShellCommands.h"
+#include "commands/ShellCommands.h"
 
 #include <utility>
 
-#include "app/ErrorBox.h"
+#include "commands/ErrorBox.h"
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
 

@@ -1,4 +1,4 @@
-#include "editing/ClipboardCommands.h"
+#include "commands/ClipboardCommands.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "imaging/FilterCommands.h"
+#include "commands/FilterCommands.h"
 
 #include "imaging/FilterPipeline.h"
 

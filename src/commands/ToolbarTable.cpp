@@ -1,4 +1,4 @@
-#include "i18n/ToolbarTable.h"
+#include "commands/ToolbarTable.h"
 
 #include <array>
 

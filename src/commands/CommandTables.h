@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "app/CommandHandlers.h"
+#include "commands/CommandHandlers.h"
 
 namespace kestrel::app {
 

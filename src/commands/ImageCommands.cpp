@@ -1,4 +1,4 @@
-#include "imaging/ImageCommands.h"
+#include "commands/ImageCommands.h"
 
 #include "imaging/Recoloring.h"
 #include "platform/gdi/Blit.h"

@@ -1,4 +1,4 @@
-#include "editing/WellCommands.h"
+#include "commands/WellCommands.h"
 
 namespace kestrel::editing {
 

@@ -1,8 +1,8 @@
-#include "app/ModRecent.h"
+#include "commands/ModRecent.h"
 
 #include <algorithm>
 
-#include "app/ErrorBox.h"
+#include "commands/ErrorBox.h"
 #include "platform/system/Characters.h"
 #include "platform/system/CodePage.h"
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "app/BusyWindow.h"
-#include "app/ModRecent.h"
+#include "commands/BusyWindow.h"
+#include "commands/ModRecent.h"
 #include "editing/Editor.h"
 #include "services/Cdb.h"
 #include "services/MessageBoxes.h"

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "app/BusyWindow.h"
-#include "app/CommandHandlers.h"
+#include "commands/BusyWindow.h"
+#include "commands/CommandHandlers.h"
 #include "services/HelpViewer.h"
 #include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"

@@ -1,4 +1,4 @@
-#include "app/CommandDispatch.h"
+#include "commands/CommandDispatch.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "imaging/ImageTarget.h"
-#include "imaging/ImagingDialogs.h"
+#include "commands/ImageTarget.h"
+#include "commands/ImagingDialogs.h"
 #include "services/MessageLoop.h"
 
 namespace kestrel::imaging {
