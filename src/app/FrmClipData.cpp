@@ -8,7 +8,7 @@
 
 #include "i18n/Captions.h"
 #include "desktop/Text.h"
-#include "platform/qt/WindowDesign.h"
+#include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::app {
 

@@ -14,11 +14,11 @@
 #include "commands/WellCommands.h"
 #include "imaging/FrmImagingDialogs.h"
 #include "platform/controls/ImageList.h"
-#include "platform/qt/MenuView.h"
-#include "platform/qt/PictureBox.h"
-#include "platform/qt/StatusBar.h"
-#include "platform/qt/SurfaceWidget.h"
-#include "platform/qt/ToolBar.h"
+#include "windows/widgets/MenuView.h"
+#include "windows/widgets/PictureBox.h"
+#include "windows/widgets/StatusBar.h"
+#include "windows/widgets/SurfaceWidget.h"
+#include "windows/widgets/ToolBar.h"
 
 namespace kestrel::app {
 

@@ -5,9 +5,9 @@
 #include <array>
 
 #include "app/FrmIcoEd.h"
-#include "platform/qt/PictureIcon.h"
+#include "windows/widgets/PictureIcon.h"
 #include "desktop/Text.h"
-#include "platform/qt/WindowDesign.h"
+#include "windows/widgets/WindowDesign.h"
 #include "resources/WellPictures.h"
 
 namespace kestrel::app {

@@ -3,8 +3,8 @@
 #include "app/FrmIcoEd.h"
 #include "app/FrmMouseButtons.h"
 #include "i18n/Captions.h"
-#include "platform/qt/PictureIcon.h"
-#include "platform/qt/WindowDesign.h"
+#include "windows/widgets/PictureIcon.h"
+#include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::app {
 

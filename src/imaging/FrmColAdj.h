@@ -4,8 +4,8 @@
 #include <array>
 
 #include "imaging/ColorAdjustment.h"
-#include "platform/qt/SurfaceWidget.h"
-#include "platform/qt/ValueBar.h"
+#include "windows/widgets/SurfaceWidget.h"
+#include "windows/widgets/ValueBar.h"
 
 namespace kestrel::imaging {
 

@@ -4,7 +4,7 @@
 #include <QPushButton>
 
 #include "desktop/Text.h"
-#include "platform/qt/WindowDesign.h"
+#include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::imaging {
 

@@ -4,7 +4,7 @@
 #include <QDialog>
 
 #include "i18n/Language.h"
-#include "platform/qt/SurfaceWidget.h"
+#include "windows/widgets/SurfaceWidget.h"
 
 namespace kestrel::imaging {
 

@@ -6,10 +6,10 @@
 #include <optional>
 
 #include "imaging/Shades.h"
-#include "platform/qt/DigitBox.h"
-#include "platform/qt/PictureBox.h"
-#include "platform/qt/SurfaceWidget.h"
-#include "platform/qt/ValueBar.h"
+#include "windows/widgets/DigitBox.h"
+#include "windows/widgets/PictureBox.h"
+#include "windows/widgets/SurfaceWidget.h"
+#include "windows/widgets/ValueBar.h"
 
 namespace kestrel::imaging {
 

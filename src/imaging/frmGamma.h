@@ -3,7 +3,7 @@
 #include <QDialog>
 #include <optional>
 
-#include "platform/qt/DigitBox.h"
+#include "windows/widgets/DigitBox.h"
 
 namespace kestrel::imaging {
 

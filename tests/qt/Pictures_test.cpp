@@ -6,7 +6,7 @@
 #include <array>
 
 #include "desktop/PictureFile.h"
-#include "platform/qt/PictureIcon.h"
+#include "windows/widgets/PictureIcon.h"
 #include "desktop/QtClipboard.h"
 
 namespace kestrel::qt {

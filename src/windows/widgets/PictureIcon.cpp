@@ -1,4 +1,4 @@
-#include "platform/qt/PictureIcon.h"
+#include "windows/widgets/PictureIcon.h"
 
 #include <QIconEngine>
 #include <QPainter>

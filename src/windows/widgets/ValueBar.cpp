@@ -1,4 +1,4 @@
-#include "platform/qt/ValueBar.h"
+#include "windows/widgets/ValueBar.h"
 
 #include <QPainter>
 

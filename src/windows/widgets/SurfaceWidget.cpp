@@ -1,4 +1,4 @@
-#include "platform/qt/SurfaceWidget.h"
+#include "windows/widgets/SurfaceWidget.h"
 
 #include <QPaintEvent>
 #include <QPainter>

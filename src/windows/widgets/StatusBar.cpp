@@ -1,4 +1,4 @@
-#include "platform/qt/StatusBar.h"
+#include "windows/widgets/StatusBar.h"
 
 #include "desktop/Text.h"
 

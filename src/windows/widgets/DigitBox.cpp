@@ -1,4 +1,4 @@
-#include "platform/qt/DigitBox.h"
+#include "windows/widgets/DigitBox.h"
 
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>

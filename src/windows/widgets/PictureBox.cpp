@@ -1,4 +1,4 @@
-#include "platform/qt/PictureBox.h"
+#include "windows/widgets/PictureBox.h"
 
 #include <qdrawutil.h>
 

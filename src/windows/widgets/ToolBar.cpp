@@ -1,10 +1,10 @@
-#include "platform/qt/ToolBar.h"
+#include "windows/widgets/ToolBar.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "platform/qt/PictureIcon.h"
+#include "windows/widgets/PictureIcon.h"
 #include "desktop/Text.h"
 
 namespace kestrel::qt {

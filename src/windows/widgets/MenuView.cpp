@@ -1,9 +1,9 @@
-#include "platform/qt/MenuView.h"
+#include "windows/widgets/MenuView.h"
 
 #include <QActionGroup>
 #include <QFontMetrics>
 
-#include "platform/qt/PictureIcon.h"
+#include "windows/widgets/PictureIcon.h"
 #include "desktop/Text.h"
 
 namespace kestrel::qt {
