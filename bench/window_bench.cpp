@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QtTest/QTest>
 
-#include "app/FrmIcoEd.h"
+#include "windows/FrmIcoEd.h"
 #include "tests/support/Services.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <csignal>
 
-#include "app/FrmIcoEd.h"
+#include "windows/FrmIcoEd.h"
 #include "settings/Settings.h"
 #include "app/Startup.h"
 #include "i18n/DesktopTexts.h"

@@ -4,7 +4,7 @@
 #include <QScreen>
 #include <QTimer>
 
-#include "app/FrmClipData.h"
+#include "windows/FrmClipData.h"
 #include "desktop/Text.h"
 #include "tests/app/WindowTest.h"
 #include "tests/support/EditorTest.h"

@@ -6,7 +6,7 @@
 #include <QMenuBar>
 #include <QtTest/QTest>
 
-#include "app/FrmIcoEd.h"
+#include "windows/FrmIcoEd.h"
 #include "document/IcoFile.h"
 #include "i18n/Language.h"
 #include "tests/support/Services.h"

@@ -10,10 +10,10 @@
 #include <QtTest/QTest>
 
 #include "i18n/Language.h"
-#include "imaging/FrmColAdj.h"
-#include "imaging/FrmImagingDialogs.h"
-#include "imaging/FrmShades.h"
-#include "imaging/frmGamma.h"
+#include "windows/FrmColAdj.h"
+#include "windows/FrmImagingDialogs.h"
+#include "windows/FrmShades.h"
+#include "windows/frmGamma.h"
 #include "desktop/Pictures.h"
 
 namespace kestrel::imaging {

@@ -1,8 +1,8 @@
-#include "imaging/FrmImagingDialogs.h"
+#include "windows/FrmImagingDialogs.h"
 
-#include "imaging/FrmColAdj.h"
-#include "imaging/FrmShades.h"
-#include "imaging/frmGamma.h"
+#include "windows/FrmColAdj.h"
+#include "windows/FrmShades.h"
+#include "windows/frmGamma.h"
 
 namespace kestrel::imaging {
 

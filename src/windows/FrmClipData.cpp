@@ -1,4 +1,4 @@
-#include "app/FrmClipData.h"
+#include "windows/FrmClipData.h"
 
 #include <QGroupBox>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "app/FrmIcoEd.h"
+#include "windows/FrmIcoEd.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -8,8 +8,8 @@
 #include <QUrl>
 
 #include "document/ApplicationIcon.h"
-#include "app/FrmClipData.h"
-#include "app/frmAbout.h"
+#include "windows/FrmClipData.h"
+#include "windows/frmAbout.h"
 #include "i18n/Language.h"
 #include "desktop/Pictures.h"
 #include "resources/ImageList.h"

@@ -12,7 +12,7 @@
 #include "commands/MainCommands.h"
 #include "editing/Editor.h"
 #include "commands/WellCommands.h"
-#include "imaging/FrmImagingDialogs.h"
+#include "windows/FrmImagingDialogs.h"
 #include "platform/controls/ImageList.h"
 #include "windows/widgets/MenuView.h"
 #include "windows/widgets/PictureBox.h"

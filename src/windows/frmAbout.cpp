@@ -1,4 +1,4 @@
-#include "app/frmAbout.h"
+#include "windows/frmAbout.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -1,9 +1,9 @@
-#include "imaging/frmGamma.h"
+#include "windows/frmGamma.h"
 
 #include <QLabel>
 
 #include "i18n/Captions.h"
-#include "imaging/FrmParts.h"
+#include "windows/FrmParts.h"
 #include "desktop/Text.h"
 
 namespace kestrel::imaging {

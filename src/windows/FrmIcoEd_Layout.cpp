@@ -4,7 +4,7 @@
 #include <QPainter>
 #include <array>
 
-#include "app/FrmIcoEd.h"
+#include "windows/FrmIcoEd.h"
 #include "windows/widgets/PictureIcon.h"
 #include "desktop/Text.h"
 #include "windows/widgets/WindowDesign.h"

@@ -1,7 +1,7 @@
 #include <array>
 
-#include "app/FrmIcoEd.h"
-#include "app/FrmMouseButtons.h"
+#include "windows/FrmIcoEd.h"
+#include "windows/FrmMouseButtons.h"
 #include "i18n/Captions.h"
 #include "windows/widgets/PictureIcon.h"
 #include "windows/widgets/WindowDesign.h"

@@ -1,4 +1,4 @@
-#include "imaging/FrmParts.h"
+#include "windows/FrmParts.h"
 
 #include <QFrame>
 #include <QPushButton>

@@ -3,8 +3,8 @@
 #include <QPixmap>
 #include <algorithm>
 
-#include "app/FrmIcoEd.h"
-#include "app/FrmMouseButtons.h"
+#include "windows/FrmIcoEd.h"
+#include "windows/FrmMouseButtons.h"
 #include "i18n/Captions.h"
 #include "platform/gdi/PixelArt.h"
 #include "desktop/Pictures.h"

@@ -5,8 +5,8 @@
 #include <QToolTip>
 #include <array>
 
-#include "app/FrmIcoEd.h"
-#include "app/FrmMouseButtons.h"
+#include "windows/FrmIcoEd.h"
+#include "windows/FrmMouseButtons.h"
 #include "i18n/Captions.h"
 #include "windows/widgets/PictureBox.h"
 #include "windows/widgets/PictureIcon.h"

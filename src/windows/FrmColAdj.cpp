@@ -1,4 +1,4 @@
-#include "imaging/FrmColAdj.h"
+#include "windows/FrmColAdj.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "i18n/Captions.h"
-#include "imaging/FrmParts.h"
+#include "windows/FrmParts.h"
 #include "imaging/filters/Levels.h"
 #include "desktop/Text.h"
 

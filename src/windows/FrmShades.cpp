@@ -1,10 +1,10 @@
-#include "imaging/FrmShades.h"
+#include "windows/FrmShades.h"
 
 #include <QFrame>
 #include <QIcon>
 
 #include "i18n/Captions.h"
-#include "imaging/FrmParts.h"
+#include "windows/FrmParts.h"
 #include "imaging/filters/Levels.h"
 #include "desktop/Pictures.h"
 #include "desktop/Text.h"

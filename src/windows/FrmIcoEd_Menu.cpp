@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 
-#include "app/FrmIcoEd.h"
+#include "windows/FrmIcoEd.h"
 #include "i18n/Language.h"
 #include "commands/ModLanguage.h"
 #include "commands/ToolbarTable.h"
