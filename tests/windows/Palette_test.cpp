@@ -5,7 +5,7 @@
 
 #include "desktop/Pictures.h"
 #include "desktop/QtDesktopDialogs.h"
-#include "tests/app/WindowTest.h"
+#include "tests/windows/WindowTest.h"
 #include "tests/support/Typist.h"
 
 namespace kestrel::app {

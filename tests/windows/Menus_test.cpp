@@ -2,7 +2,7 @@
 
 #include "commands/ToolbarTable.h"
 #include "imaging/filters/FilterTable.h"
-#include "tests/app/WindowTest.h"
+#include "tests/windows/WindowTest.h"
 #include "tests/support/ListedTexts.h"
 
 namespace kestrel::app {

@@ -1,7 +1,7 @@
 #include <QMimeData>
 
 #include "desktop/Pictures.h"
-#include "tests/app/WindowTest.h"
+#include "tests/windows/WindowTest.h"
 
 namespace kestrel::app {
 namespace {

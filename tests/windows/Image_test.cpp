@@ -1,7 +1,7 @@
 #include <QLineEdit>
 #include <QTimer>
 
-#include "tests/app/WindowTest.h"
+#include "tests/windows/WindowTest.h"
 
 namespace kestrel::app {
 namespace {

@@ -1,6 +1,6 @@
 #include "platform/gdi/Draw.h"
 #include "desktop/Pictures.h"
-#include "tests/app/WindowTest.h"
+#include "tests/windows/WindowTest.h"
 #include "tests/support/EditorTest.h"
 #include "tests/support/ListedTexts.h"
 

@@ -6,7 +6,7 @@
 
 #include "windows/FrmClipData.h"
 #include "desktop/Text.h"
-#include "tests/app/WindowTest.h"
+#include "tests/windows/WindowTest.h"
 #include "tests/support/EditorTest.h"
 
 namespace kestrel::app {
