@@ -71,7 +71,7 @@ BENCHMARK(WriteIcon);
 void ReadIcon(benchmark::State& state) {
     const document::IcoBytes bytes = document::EncodeIco(ColourfulIcon());
     for (auto _ : state)
-        benchmark::DoNotOptimize(icons::ReadBestImage(bytes));
+        benchmark::DoNotOptimize(formats::ReadBestImage(bytes));
 }
 BENCHMARK(ReadIcon);
 

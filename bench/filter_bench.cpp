@@ -12,7 +12,7 @@ namespace {
 
 using namespace kestrel;
 
-class NoEvents : public desktop::MessageLoop {
+class NoEvents : public services::MessageLoop {
   public:
     void DoEvents() override {}
 };

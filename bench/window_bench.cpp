@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QtTest/QTest>
 
-#include "windows/FrmIcoEd.h"
 #include "tests/support/Services.h"
+#include "windows/FrmIcoEd.h"
 
 namespace {
 
@@ -13,11 +13,11 @@ using namespace kestrel;
 // One cell of a pencil stroke in the real window: mouse event, planes, views and the repaint.
 void PencilCellWithRepaint(benchmark::State& state) {
     test::FakeServices services;
-    app::FrmIcoEd window(services.Given());
+    windows::FrmIcoEd window(services.Given());
     window.Form_Load("");
     window.show();
     QApplication::processEvents();
-    qt::SurfaceWidget* grid = &window.GridWidget();
+    widgets::SurfaceWidget* grid = &window.GridWidget();
     QTest::mousePress(grid, Qt::LeftButton, {}, QPoint(5, 5));
     int x = 0;
     for (auto _ : state) {

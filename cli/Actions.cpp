@@ -11,17 +11,17 @@
 #include "cli/Numbers.h"
 #include "cli/Streams.h"
 #include "editing/PaletteFile.h"
+#include "formats/IconFile.h"
 #include "imaging/Shades.h"
 #include "platform/gdi/Blit.h"
-#include "formats/IconFile.h"
 #include "resources/DefaultPalette.h"
 
 namespace kestrel::cli {
 
 namespace {
 
-std::string Line(const icons::ImageEntry& image) {
-    const icons::ImageInfo& info = image.info;
+std::string Line(const formats::ImageEntry& image) {
+    const formats::ImageInfo& info = image.info;
     std::string line = std::to_string(image.index + 1) + ": " + std::to_string(info.width) + " x ";
     line += std::to_string(info.height) + ", " + std::to_string(info.bitsPerPixel);
     line += info.bitsPerPixel == 1 ? " bit, " : " bits, ";
@@ -42,10 +42,10 @@ Result<std::uint32_t> ReadSeed(const std::optional<std::string>& text) {
 Result<void> Info(const Arguments& arguments) {
     const auto bytes = ReadInput(arguments.in);
     if (!bytes) return tl::unexpected(bytes.error());
-    const auto images = icons::ListImages(*bytes);
+    const auto images = formats::ListImages(*bytes);
     if (!images) return UnreadableInput(arguments.in, images.error());
     std::string lines;
-    for (const icons::ImageEntry& image : *images)
+    for (const formats::ImageEntry& image : *images)
         lines += Line(image);
     return WriteText(std::string(kStandardStream), lines);
 }

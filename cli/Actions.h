@@ -20,8 +20,8 @@ struct Arguments {
     std::string to;
     std::string angle = "0";
 
-    editing::PasteFit Fit() const {
-        return keepAspect ? editing::PasteFit::KeepAspect : editing::PasteFit::Shrink;
+    imaging::PasteFit Fit() const {
+        return keepAspect ? imaging::PasteFit::KeepAspect : imaging::PasteFit::Shrink;
     }
 };
 

@@ -20,7 +20,7 @@ constexpr int kLeastGamma = 1;
 constexpr int kMostGamma = 9999;
 
 // Nothing waits for events here.
-class NoEvents : public desktop::MessageLoop {
+class NoEvents : public services::MessageLoop {
   public:
     void DoEvents() override {}
 };

@@ -7,9 +7,9 @@
 #include <cerrno>
 
 #include "cli/Streams.h"
-#include "platform/gdi/Blit.h"
 #include "formats/IconFile.h"
 #include "formats/PngImage.h"
+#include "platform/gdi/Blit.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/SystemError.h"
 
@@ -21,7 +21,7 @@ using document::IconDocument;
 using system::SystemFailure;
 using Content = Result<std::vector<std::uint8_t>>;
 
-constexpr std::size_t kLimit = icons::kMaxIconFileBytes;
+constexpr std::size_t kLimit = formats::kMaxIconFileBytes;
 
 std::string InputName(const std::string& name) {
     return name == kStandardStream ? "standard input" : name;
@@ -48,11 +48,11 @@ Content ReadAnything(const std::string& name) {
     return system::DiskFiles(system::PathNames::AsWritten).ReadFile(name, kLimit);
 }
 
-void PastePng(IconDocument& icon, const icons::IconImage& png, editing::PasteFit fit) {
-    editing::PictureSize size{png.info.width, png.info.height};
-    if (!editing::FitsIcon(size)) size = editing::FittedSize(size, fit);
-    icons::DrawIcon(icon.PicMask, png, size.width, size.height, icons::DrawPart::Mask);
-    icons::DrawIcon(icon.PicImage, png, size.width, size.height, icons::DrawPart::Image);
+void PastePng(IconDocument& icon, const formats::IconImage& png, imaging::PasteFit fit) {
+    imaging::PictureSize size{png.info.width, png.info.height};
+    if (!imaging::FitsIcon(size)) size = imaging::FittedSize(size, fit);
+    formats::DrawIcon(icon.PicMask, png, size.width, size.height, formats::DrawPart::Mask);
+    formats::DrawIcon(icon.PicImage, png, size.width, size.height, formats::DrawPart::Image);
 }
 
 }  // namespace
@@ -63,13 +63,13 @@ Result<std::vector<std::uint8_t>> ReadInput(const std::string& name) {
     return bytes;
 }
 
-Result<IconDocument> ReadIcon(const std::string& name, editing::PasteFit fit) {
+Result<IconDocument> ReadIcon(const std::string& name, imaging::PasteFit fit) {
     const auto bytes = ReadInput(name);
     if (!bytes) return tl::unexpected(bytes.error());
-    const auto image = icons::ReadBestImage(*bytes);
+    const auto image = formats::ReadBestImage(*bytes);
     if (!image) return UnreadableInput(name, image.error());
     IconDocument icon;
-    if (icons::IsPng(*bytes)) {
+    if (formats::IsPng(*bytes)) {
         PastePng(icon, *image, fit);
     } else {
         icon.TakeIcon(*image);

@@ -9,17 +9,17 @@ using namespace kestrel;
 // Whatever the bytes are, reading them as an icon file ends, soon and without a fault.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::span<const std::uint8_t> file(data, size);
-    if (const auto entries = icons::ListImages(file)) {
+    if (const auto entries = formats::ListImages(file)) {
         // A directory may name one image many times; the first few of them tell enough.
         for (const auto& entry :
              std::span(*entries).first(std::min<std::size_t>(entries->size(), 16)))
-            static_cast<void>(icons::DecodeImage(file, entry).has_value());
+            static_cast<void>(formats::DecodeImage(file, entry).has_value());
     }
-    if (const auto best = icons::ReadBestImage(file)) {
+    if (const auto best = formats::ReadBestImage(file)) {
         gdi::Surface target(32, 32);
         for (const auto part :
-             {icons::DrawPart::Mask, icons::DrawPart::Image, icons::DrawPart::Normal})
-            icons::DrawIcon(target, *best, 32, 32, part);
+             {formats::DrawPart::Mask, formats::DrawPart::Image, formats::DrawPart::Normal})
+            formats::DrawIcon(target, *best, 32, 32, part);
     }
     return 0;
 }

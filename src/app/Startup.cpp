@@ -14,10 +14,10 @@ namespace kestrel::app {
 
 namespace {
 
-using dialogs::BoxButtons;
-using dialogs::BoxIcon;
+using services::BoxButtons;
+using services::BoxIcon;
 
-void Refuse(dialogs::MessageBoxes& boxes, BoxIcon icon, const i18n::Text& text,
+void Refuse(services::MessageBoxes& boxes, BoxIcon icon, const i18n::Text& text,
             const i18n::Text& title) {
     boxes.Show(icon, BoxButtons::Ok, std::string(text.Now()), std::string(title.Now()));
 }
@@ -26,7 +26,7 @@ void Refuse(dialogs::MessageBoxes& boxes, BoxIcon icon, const i18n::Text& text,
 void PrepareWindowsFolder(const std::string& folder, system::FileSystem& files) {
     const std::string trayIcon = folder + "/kestrel.ico";
     if (files.FileExists(trayIcon) || !system::MakeFolder(folder)) return;
-    static_cast<void>(document::WriteIcoCopy(files, ApplicationIcon(), trayIcon));
+    static_cast<void>(document::WriteIcoCopy(files, document::ApplicationIcon(), trayIcon));
 }
 
 char LowerAscii(char c) {
@@ -43,13 +43,13 @@ bool StartsWithoutCase(std::string_view text, std::string_view lowerPrefix) {
 
 }  // namespace
 
-bool CheckScreenSize(const StartupFacts& facts, dialogs::MessageBoxes& boxes) {
+bool CheckScreenSize(const StartupFacts& facts, services::MessageBoxes& boxes) {
     if (facts.screenHeight >= 480 && facts.screenWidth >= 640) return true;
     Refuse(boxes, BoxIcon::Critical, i18n::kScreenTooSmall, i18n::kErrorTitle);
     return false;
 }
 
-bool CheckColorDepth(const StartupFacts& facts, dialogs::MessageBoxes& boxes) {
+bool CheckColorDepth(const StartupFacts& facts, services::MessageBoxes& boxes) {
     if (facts.bitsPerPixel >= 9) return true;
     Refuse(boxes, BoxIcon::Critical, i18n::kTooFewColors, i18n::kErrorTitle);
     return false;
@@ -85,7 +85,7 @@ std::optional<ProcessValues> PrepareStart(const StartupFacts& facts,
     RegisterIcoAssociation(services.registry, facts.applicationFolder);
     values.WindowsFolder = facts.windowsDirectory;
     PrepareWindowsFolder(values.WindowsFolder, services.files);
-    i18n::SetUiLanguage(ReadSavedLanguage(services.settings));
+    i18n::SetUiLanguage(settings::ReadSavedLanguage(services.settings));
     return values;
 }
 

@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-#include "settings/Settings.h"
-#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Registry.h"
+#include "services/MessageBoxes.h"
+#include "settings/Settings.h"
 
 namespace kestrel::app {
 
@@ -25,10 +25,10 @@ struct StartupFacts {
 };
 
 struct StartupServices {
-    dialogs::MessageBoxes& boxes;
+    services::MessageBoxes& boxes;
     system::Registry& registry;
     system::FileSystem& files;
-    Settings& settings;
+    settings::Settings& settings;
 };
 
 // What start-up learned, for the life of the process.
@@ -44,8 +44,8 @@ std::optional<ProcessValues> PrepareStart(const StartupFacts& facts,
                                           const StartupServices& services);
 
 // At least 640 x 480 pixels; at least 9 bits per pixel. Say so themselves where it is not.
-bool CheckScreenSize(const StartupFacts& facts, dialogs::MessageBoxes& boxes);
-bool CheckColorDepth(const StartupFacts& facts, dialogs::MessageBoxes& boxes);
+bool CheckScreenSize(const StartupFacts& facts, services::MessageBoxes& boxes);
+bool CheckColorDepth(const StartupFacts& facts, services::MessageBoxes& boxes);
 
 // Makes the program the opener of .ico files. A key that cannot be written is skipped.
 void RegisterIcoAssociation(system::Registry& registry, const std::string& applicationFolder);

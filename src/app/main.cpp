@@ -3,21 +3,21 @@
 #include <chrono>
 #include <csignal>
 
-#include "windows/FrmIcoEd.h"
-#include "settings/Settings.h"
 #include "app/Startup.h"
-#include "i18n/DesktopTexts.h"
 #include "desktop/QtClipboard.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/QtHelpViewer.h"
 #include "desktop/QtMessageBoxes.h"
 #include "desktop/TableTranslator.h"
+#include "i18n/DesktopTexts.h"
 #include "platform/system/DesktopShell.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
 #include "platform/system/Folders.h"
 #include "platform/system/InstanceLock.h"
 #include "platform/system/Locale.h"
+#include "settings/Settings.h"
+#include "windows/FrmIcoEd.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ int main(int argc, char* argv[]) {
     // A write beyond the file size limit is a failed save, not the end of the program.
     std::signal(SIGXFSZ, SIG_IGN);
     const QApplication application(argc, argv);
-    qt::TableTranslator translator(i18n::DesktopText);
+    desktop::TableTranslator translator(i18n::DesktopText);
     QApplication::installTranslator(&translator);
     QApplication::setApplicationName(QStringLiteral("KestrelIconEditor"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
@@ -65,21 +65,21 @@ int main(int argc, char* argv[]) {
                                                  system::CurrentDisplay());
     system::DiskFiles files;
     system::FileRegistry registry(files, system::ConfigFolder() + "/registry.txt");
-    app::Settings settings(files);
-    qt::QtMessageBoxes boxes;
+    settings::Settings settings(files);
+    desktop::QtMessageBoxes boxes;
     const app::StartupFacts facts = FactsOf(QGuiApplication::primaryScreen(), !lock);
     const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
     if (!values) return 0;
 
-    qt::QtDesktopDialogs dialogs;
-    qt::QtClipboard clipboard;
+    desktop::QtDesktopDialogs dialogs;
+    desktop::QtClipboard clipboard;
     system::DesktopShell shell;
-    qt::QtHelpViewer help(shell);
-    const app::ProgramFolders folders{.application = facts.applicationFolder,
-                                      .windows = values->WindowsFolder};
+    desktop::QtHelpViewer help(shell);
+    const commands::ProgramFolders folders{.application = facts.applicationFolder,
+                                           .windows = values->WindowsFolder};
     system::RandomNumbers random(SeedOfClock());
-    app::FrmIcoEd window({dialogs, clipboard, boxes, help, files, registry, shell, random, settings,
-                          folders, facts.systemLcid});
+    windows::FrmIcoEd window({dialogs, clipboard, boxes, help, files, registry, shell, random,
+                              settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv)));
     window.show();

@@ -2,14 +2,14 @@
 
 #include <utility>
 
-namespace kestrel::editing {
+namespace kestrel::commands {
 
 namespace {
 
 constexpr gdi::COLORREF kOpaque = 0xFF000000;
 
 // The selection over white, with alpha where it covers the white.
-gdi::Surface PictureOf(const Selection& selection) {
+gdi::Surface PictureOf(const editing::Selection& selection) {
     const gdi::Surface& mask = selection.PicSelMask;
     const gdi::Surface& image = selection.PicSelImage;
     gdi::Surface picture(mask.Width(), mask.Height(), gdi::kWhite);
@@ -26,7 +26,7 @@ gdi::Surface PictureOf(const Selection& selection) {
 }  // namespace
 
 void ClipboardCommands::Copy() {
-    const Selection& selection = editor_.Selected();
+    const editing::Selection& selection = editor_.Selected();
     if (selection.Exists()) clipboard_.SetImage(PictureOf(selection));
 }
 
@@ -35,18 +35,18 @@ void ClipboardCommands::Cut() {
     editor_.Selected().Delete();
 }
 
-Result<void> ClipboardCommands::Paste(PasteMode mode) {
+Result<void> ClipboardCommands::Paste(imaging::PasteMode mode) {
     const Result<gdi::Surface> picture = clipboard_.GetImage();
     if (!picture) return tl::unexpected(picture.error());
-    PictureSize size{picture->Width(), picture->Height()};
-    if (!FitsIcon(size)) {
+    imaging::PictureSize size{picture->Width(), picture->Height()};
+    if (!imaging::FitsIcon(size)) {
         const auto fit = dialog_.AskFit(size);
         if (!fit) return Fail(kDialogCancelled, "Cancel was selected");
-        size = FittedSize(size, *fit);
+        size = imaging::FittedSize(size, *fit);
     }
-    PastedPlanes planes = PlanesOf(*picture, size, mode);
+    imaging::PastedPlanes planes = imaging::PlanesOf(*picture, size, mode);
     editor_.FloatSelection(std::move(planes.mask), std::move(planes.image));
     return {};
 }
 
-}  // namespace kestrel::editing
+}  // namespace kestrel::commands

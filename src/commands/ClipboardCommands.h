@@ -6,19 +6,19 @@
 #include "imaging/PasteFit.h"
 #include "services/Clipboard.h"
 
-namespace kestrel::editing {
+namespace kestrel::commands {
 
 // Asks how a picture on the clipboard is made to fit the icon; none: not at all.
 class PasteDialog {
   public:
     virtual ~PasteDialog() = default;
-    virtual std::optional<PasteFit> AskFit(PictureSize picture) = 0;
+    virtual std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) = 0;
 };
 
 // The selection to the clipboard and back. Transparent pixels travel as white ones without alpha.
 class ClipboardCommands {
   public:
-    ClipboardCommands(Editor& editor, desktop::Clipboard& clipboard, PasteDialog& dialog)
+    ClipboardCommands(editing::Editor& editor, services::Clipboard& clipboard, PasteDialog& dialog)
         : editor_(editor), clipboard_(clipboard), dialog_(dialog) {}
 
     bool CanPaste() const { return clipboard_.HasImage(); }
@@ -28,12 +28,12 @@ class ClipboardCommands {
     void Cut();
     // The picture becomes a floating selection. Fails with nothing changed when the clipboard has
     // none that can be read, and with kDialogCancelled when the user does not want it.
-    Result<void> Paste(PasteMode mode);
+    Result<void> Paste(imaging::PasteMode mode);
 
   private:
-    Editor& editor_;
-    desktop::Clipboard& clipboard_;
+    editing::Editor& editor_;
+    services::Clipboard& clipboard_;
     PasteDialog& dialog_;
 };
 
-}  // namespace kestrel::editing
+}  // namespace kestrel::commands

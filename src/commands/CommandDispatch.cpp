@@ -4,7 +4,7 @@
 
 #include "imaging/filters/FilterTable.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 void CommandDispatch::SmartMenuXP1_Click(std::string_view key) {
     // The filters stand in a table of their own.
@@ -28,4 +28,4 @@ void CommandDispatch::Run(std::span<const CommandRow> commands, std::string_view
     window_.RefreshEditCommands();
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

@@ -5,7 +5,7 @@
 #include "commands/CommandTables.h"
 #include "editing/EditorWindow.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 // Turns the key of a menu item or toolbar button into a call of its handler.
 class CommandDispatch {
@@ -26,4 +26,4 @@ class CommandDispatch {
     editing::EditorWindow& window_;
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

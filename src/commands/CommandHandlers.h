@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 // Programs of the same maker that the Tools menu starts.
 enum class Sibling { ScreenCapture, IconBrowser, ClipboardViewer };
@@ -42,4 +42,4 @@ class CommandHandlers {
     virtual void mnuAbout_Click() = 0;
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

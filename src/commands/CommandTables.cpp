@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 namespace {
 
@@ -111,4 +111,4 @@ std::span<const CommandRow> ToolbarCommands() {
     return kToolbar;
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

@@ -5,7 +5,7 @@
 
 #include "commands/CommandHandlers.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 // What the item or button of a key does; null while the program lacks the command.
 struct CommandRow {
@@ -19,4 +19,4 @@ std::span<const CommandRow> MenuBarCommands();
 std::span<const CommandRow> PopupCommands();
 std::span<const CommandRow> ToolbarCommands();
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

@@ -2,20 +2,20 @@
 
 #include "commands/ErrorBox.h"
 #include "document/IcoFile.h"
-#include "i18n/Messages.h"
 #include "formats/IconFile.h"
+#include "i18n/Messages.h"
 #include "platform/system/PathText.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 namespace {
 
-using dialogs::Answer;
-using dialogs::BoxButtons;
-using dialogs::BoxIcon;
+using services::Answer;
+using services::BoxButtons;
+using services::BoxIcon;
 
-dialogs::FileRequest IconRequest(std::string_view title) {
-    dialogs::FileRequest request;
+services::FileRequest IconRequest(std::string_view title) {
+    services::FileRequest request;
     request.title = title;
     request.filter = i18n::kIconFilter;
     request.defaultExtension = ".ico";
@@ -31,8 +31,8 @@ std::string ProposedName(const document::IconDocument& document) {
 }  // namespace
 
 DocumentCommands::DocumentCommands(editing::Editor& editor, DocumentWindow& window,
-                                   ModRecent& recent, dialogs::Cdb& cdb,
-                                   dialogs::MessageBoxes& boxes, system::FileSystem& files)
+                                   ModRecent& recent, services::Cdb& cdb,
+                                   services::MessageBoxes& boxes, system::FileSystem& files)
     : editor_(editor),
       document_(editor.Document()),
       window_(window),
@@ -68,9 +68,9 @@ void DocumentCommands::mnuOpen_Click() {
 }
 
 void DocumentCommands::OpenChosenFile() {
-    dialogs::FileRequest request = IconRequest(i18n::kOpenTitle.Now());
-    request.flags = dialogs::kFileMustExist | dialogs::kHideReadOnly;
-    const Result<dialogs::ChosenFile> chosen = cdb_.ShowOpen(request);
+    services::FileRequest request = IconRequest(i18n::kOpenTitle.Now());
+    request.flags = services::kFileMustExist | services::kHideReadOnly;
+    const Result<services::ChosenFile> chosen = cdb_.ShowOpen(request);
     if (!chosen) {
         window_.EnableGrid(true);
         return;
@@ -91,10 +91,10 @@ void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
 }
 
 // False, with nothing changed, when the file is no icon.
-bool DocumentCommands::OpenFile(const dialogs::ChosenFile& file) {
-    const auto bytes = files_.ReadFile(file.path, icons::kMaxIconFileBytes);
+bool DocumentCommands::OpenFile(const services::ChosenFile& file) {
+    const auto bytes = files_.ReadFile(file.path, formats::kMaxIconFileBytes);
     if (!bytes) return false;
-    const Result<icons::IconImage> icon = icons::ReadBestImage(*bytes);
+    const Result<formats::IconImage> icon = formats::ReadBestImage(*bytes);
     if (!icon) return false;
 
     editor_.ResetDocument();
@@ -125,10 +125,10 @@ void DocumentCommands::SaveDocument(SaveMode mode) {
 }
 
 void DocumentCommands::SaveUnderNewName() {
-    dialogs::FileRequest request = IconRequest(i18n::kSaveAsTitle.Now());
+    services::FileRequest request = IconRequest(i18n::kSaveAsTitle.Now());
     request.fileName = ProposedName(document_);
-    request.flags = dialogs::kOverwritePrompt | dialogs::kHideReadOnly | dialogs::kPathMustExist;
-    const Result<dialogs::ChosenFile> chosen = cdb_.ShowSave(request);
+    request.flags = services::kOverwritePrompt | services::kHideReadOnly | services::kPathMustExist;
+    const Result<services::ChosenFile> chosen = cdb_.ShowSave(request);
     if (!chosen) {
         document_.SaveSucceeded = false;
         return;
@@ -172,4 +172,4 @@ void DocumentCommands::mnuExit_Click() {
     window_.Unload();
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

@@ -5,11 +5,11 @@
 #include "commands/BusyWindow.h"
 #include "commands/ModRecent.h"
 #include "editing/Editor.h"
+#include "platform/system/FileSystem.h"
 #include "services/Cdb.h"
 #include "services/MessageBoxes.h"
-#include "platform/system/FileSystem.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 // What the document commands need of the main window.
 class DocumentWindow : public BusyWindow {
@@ -29,7 +29,7 @@ enum class SaveMode { Save, SaveAs };
 class DocumentCommands {
   public:
     DocumentCommands(editing::Editor& editor, DocumentWindow& window, ModRecent& recent,
-                     dialogs::Cdb& cdb, dialogs::MessageBoxes& boxes, system::FileSystem& files);
+                     services::Cdb& cdb, services::MessageBoxes& boxes, system::FileSystem& files);
 
     void mnuNew_Click();
     // Asks for the file with the open dialog.
@@ -46,7 +46,7 @@ class DocumentCommands {
 
   private:
     void OpenChosenFile();
-    bool OpenFile(const dialogs::ChosenFile& file);
+    bool OpenFile(const services::ChosenFile& file);
     void SaveUnderNewName();
     void SaveInPlace();
     void WriteIcoFile(const std::string& path);
@@ -55,9 +55,9 @@ class DocumentCommands {
     document::IconDocument& document_;
     DocumentWindow& window_;
     ModRecent& recent_;
-    dialogs::Cdb& cdb_;
-    dialogs::MessageBoxes& boxes_;
+    services::Cdb& cdb_;
+    services::MessageBoxes& boxes_;
     system::FileSystem& files_;
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

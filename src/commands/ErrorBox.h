@@ -5,12 +5,12 @@
 #include "i18n/Messages.h"
 #include "services/MessageBoxes.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 // Tells that a command failed.
-inline void ShowError(dialogs::MessageBoxes& boxes, const std::string& text,
+inline void ShowError(services::MessageBoxes& boxes, const std::string& text,
                       std::string_view title = i18n::kErrorTitle.Now()) {
-    boxes.Show(dialogs::BoxIcon::Exclamation, dialogs::BoxButtons::Ok, text, std::string(title));
+    boxes.Show(services::BoxIcon::Exclamation, services::BoxButtons::Ok, text, std::string(title));
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

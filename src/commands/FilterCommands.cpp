@@ -2,16 +2,16 @@
 
 #include "imaging/FilterPipeline.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 void FilterCommands::Run(std::string_view key) {
     const filters::FilterRow* row = filters::FindFilter(key);
     if (row == nullptr) return;
-    gdi::Surface Picture1 = PrepareFilterSource(target_.Image());
+    gdi::Surface Picture1 = imaging::PrepareFilterSource(target_.Image());
     const std::optional<int> Param = ParamOf(*row);
     if (Param) filters_.RunFilter(row->FilterId, Picture1, *Param);
     // Cancelled, or with a filter under way, the command still leaves its entry.
-    ApplyFilterResult(Picture1, target_.Image(), target_.Mask());
+    imaging::ApplyFilterResult(Picture1, target_.Image(), target_.Mask());
     target_.Show();
     target_.Record();
 }
@@ -23,4 +23,4 @@ std::optional<int> FilterCommands::ParamOf(const filters::FilterRow& row) {
     return gamma == 0 ? std::nullopt : gamma;
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

@@ -8,12 +8,12 @@
 #include "imaging/filters/FilterTable.h"
 #include "imaging/filters/mFilterG.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 // The commands of the filter menu, on the selection or the whole icon.
 class FilterCommands {
   public:
-    FilterCommands(editing::Editor& editor, ImagingDialogs& dialogs, desktop::MessageLoop& loop,
+    FilterCommands(editing::Editor& editor, ImagingDialogs& dialogs, services::MessageLoop& loop,
                    system::RandomNumbers& random)
         : target_(editor), dialogs_(dialogs), filters_(loop, random) {}
 
@@ -29,4 +29,4 @@ class FilterCommands {
     filters::mFilterG filters_;
 };
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

@@ -3,7 +3,7 @@
 #include "imaging/Recoloring.h"
 #include "platform/gdi/Blit.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 void ImageCommands::mnuImageOpts_Click(int index) {
     switch (index) {
@@ -12,9 +12,9 @@ void ImageCommands::mnuImageOpts_Click(int index) {
         case 1:
             return MakeButton();
         case 2:
-            return Change(Grayscale);
+            return Change(imaging::Grayscale);
         case 3:
-            return Change(Invert);
+            return Change(imaging::Invert);
         default:
             return;
     }
@@ -22,7 +22,7 @@ void ImageCommands::mnuImageOpts_Click(int index) {
 
 void ImageCommands::AdjustColors() {
     editor_.Selected().DropSelection();
-    ColorAdjustment colors(editor_.Document());
+    imaging::ColorAdjustment colors(editor_.Document());
     if (!dialogs_.AdjustColors(colors, editor_.Views().PicIcon)) return;
     colors.Draw(editor_.Document().PicImage);
     target_.Show();
@@ -31,7 +31,7 @@ void ImageCommands::AdjustColors() {
 
 void ImageCommands::MakeButton() {
     editor_.Selected().DropSelection();
-    Buttonize(editor_.Document(), loop_);
+    imaging::Buttonize(editor_.Document(), loop_);
     target_.Show();
     target_.Record();
 }
@@ -55,4 +55,4 @@ void ImageCommands::GradientBackground() {
     target_.Record();
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

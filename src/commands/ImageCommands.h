@@ -4,12 +4,12 @@
 #include "commands/ImagingDialogs.h"
 #include "services/MessageLoop.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 // The commands of the Image menu that change colours, and the gradient of the Tools menu.
 class ImageCommands {
   public:
-    ImageCommands(editing::Editor& editor, ImagingDialogs& dialogs, desktop::MessageLoop& loop)
+    ImageCommands(editing::Editor& editor, ImagingDialogs& dialogs, services::MessageLoop& loop)
         : editor_(editor), target_(editor), dialogs_(dialogs), loop_(loop) {}
 
     // 0 to 3: colour adjustment, Buttonize, Grayscale, Invert; others are none.
@@ -27,7 +27,7 @@ class ImageCommands {
     editing::Editor& editor_;
     ImageTarget target_;
     ImagingDialogs& dialogs_;
-    desktop::MessageLoop& loop_;
+    services::MessageLoop& loop_;
 };
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

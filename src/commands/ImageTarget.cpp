@@ -1,6 +1,6 @@
 #include "commands/ImageTarget.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 gdi::Surface& ImageTarget::Image() const {
     return IsSelection() ? editor_.Selected().PicSelImage : editor_.Document().PicImage;
@@ -31,4 +31,4 @@ void ImageTarget::RecordUnlessSelection() const {
     if (!IsSelection()) Record();
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

@@ -2,7 +2,7 @@
 
 #include "editing/Editor.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 // What a command changes: the pixels of the selection where there is one, else the whole icon.
 class ImageTarget {
@@ -24,4 +24,4 @@ class ImageTarget {
     editing::Editor& editor_;
 };
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

@@ -5,7 +5,7 @@
 #include "imaging/ColorAdjustment.h"
 #include "platform/gdi/Surface.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 // What the image commands ask the user, each in a modal dialog.
 class ImagingDialogs {
@@ -13,11 +13,11 @@ class ImagingDialogs {
     virtual ~ImagingDialogs() = default;
     // Lets the user adjust the colours; `preview` is the icon in actual size before that. False
     // when the dialog was cancelled.
-    virtual bool AdjustColors(ColorAdjustment& colors, const gdi::Surface& preview) = 0;
+    virtual bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) = 0;
     // The gamma factor times 100, 0 to 9999; none when cancelled.
     virtual std::optional<int> AskGamma() = 0;
     // The pixels of the gradient; none when cancelled.
     virtual std::optional<gdi::Surface> AskGradient() = 0;
 };
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

@@ -6,10 +6,10 @@
 #include "commands/ErrorBox.h"
 #include "i18n/Language.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
-                           dialogs::Cdb& cdb, imaging::ImagingDialogs& imagingDialogs,
+                           services::Cdb& cdb, ImagingDialogs& imagingDialogs,
                            const MainServices& services)
     : editor_(editor),
       window_(window),
@@ -67,9 +67,9 @@ void MainCommands::mnuEditOpts_Click(int index) {
         case 4:
             return clipboard_.Copy();
         case 5:
-            return Paste(editing::PasteMode::Transparent);
+            return Paste(imaging::PasteMode::Transparent);
         case 6:
-            return Paste(editing::PasteMode::Opaque);
+            return Paste(imaging::PasteMode::Opaque);
         case 7:
             return editor_.Selected().Delete();
         case 9:
@@ -79,7 +79,7 @@ void MainCommands::mnuEditOpts_Click(int index) {
     }
 }
 
-void MainCommands::Paste(editing::PasteMode mode) {
+void MainCommands::Paste(imaging::PasteMode mode) {
     const Result<void> pasted = clipboard_.Paste(mode);
     if (!pasted && pasted.error().number != kDialogCancelled) {
         ShowError(boxes_, std::string(i18n::kCannotPaste.Now()));
@@ -112,12 +112,12 @@ void MainCommands::mnuLanguageOpts_Click(int index) {
     constexpr std::array kCodes{i18n::kChinese, i18n::kEnglish};
     if (index < 0 || index >= static_cast<int>(kCodes.size())) return;
     const std::string_view code = kCodes[static_cast<std::size_t>(index)];
-    i18n::ApplyMainCaptions(code, window_);
-    i18n::ApplyMenuCaptions(code, menus_.SmartMenuXP1, menus_.SmartMenuXP2);
+    ApplyMainCaptions(code, window_);
+    ApplyMenuCaptions(code, menus_.SmartMenuXP1, menus_.SmartMenuXP2);
     i18n::SetUiLanguage(code);
-    SaveLanguage(settings_, code);
+    settings::SaveLanguage(settings_, code);
     shell_.FollowLanguage();
     window_.LanguageChanged();
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

@@ -3,28 +3,28 @@
 #include <cstdint>
 #include <string_view>
 
+#include "commands/ClipboardCommands.h"
 #include "commands/CommandHandlers.h"
 #include "commands/DocumentCommands.h"
-#include "commands/ModRecent.h"
-#include "settings/Settings.h"
-#include "commands/ShellCommands.h"
-#include "commands/ClipboardCommands.h"
-#include "editing/Editor.h"
-#include "commands/PaletteCommands.h"
-#include "commands/ModLanguage.h"
 #include "commands/FilterCommands.h"
 #include "commands/ImageCommands.h"
+#include "commands/ModLanguage.h"
+#include "commands/ModRecent.h"
+#include "commands/PaletteCommands.h"
+#include "commands/ShellCommands.h"
 #include "commands/TransformCommands.h"
+#include "editing/Editor.h"
 #include "platform/controls/SmartMenuXP.h"
 #include "services/Cdb.h"
+#include "settings/Settings.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 // What the commands need of the main window.
 class MainWindow : public DocumentWindow,
-                   public i18n::CaptionedWindow,
-                   public dialogs::OwnerWindow,
-                   public editing::PasteDialog {
+                   public CaptionedWindow,
+                   public services::OwnerWindow,
+                   public PasteDialog {
   public:
     // A button of the toolbar, by its key.
     virtual void EnableButton(std::string_view key, bool enabled) = 0;
@@ -35,15 +35,15 @@ class MainWindow : public DocumentWindow,
 
 // What the main window is given; all of it outlives the window.
 struct MainServices {
-    dialogs::DesktopDialogs& dialogs;
-    desktop::Clipboard& clipboard;
-    dialogs::MessageBoxes& boxes;
-    dialogs::HelpViewer& help;
+    services::DesktopDialogs& dialogs;
+    services::Clipboard& clipboard;
+    services::MessageBoxes& boxes;
+    services::HelpViewer& help;
     system::FileSystem& files;
     system::Registry& registry;
     system::Shell& shell;
     system::RandomNumbers& random;
-    Settings& settings;
+    settings::Settings& settings;
     ProgramFolders folders;
     std::uint32_t systemLcid = 0;
 };
@@ -57,12 +57,12 @@ struct MainMenus {
 // The handlers of all commands, each handed to the object whose business it is.
 class MainCommands : public CommandHandlers {
   public:
-    MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus, dialogs::Cdb& cdb,
-                 imaging::ImagingDialogs& imagingDialogs, const MainServices& services);
+    MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus, services::Cdb& cdb,
+                 ImagingDialogs& imagingDialogs, const MainServices& services);
 
     DocumentCommands& Documents() { return documents_; }
     ModRecent& Recent() { return recent_; }
-    editing::PaletteCommands& PaletteHandlers() { return palette_; }
+    PaletteCommands& PaletteHandlers() { return palette_; }
     // Enables the Edit commands that can do something now.
     void mnuEdit_Click();
 
@@ -91,21 +91,21 @@ class MainCommands : public CommandHandlers {
     void mnuAbout_Click() override { window_.ShowAbout(); }
 
   private:
-    void Paste(editing::PasteMode mode);
+    void Paste(imaging::PasteMode mode);
 
     editing::Editor& editor_;
     MainWindow& window_;
     MainMenus& menus_;
-    Settings& settings_;
-    dialogs::MessageBoxes& boxes_;
-    editing::PaletteCommands palette_;
-    editing::ClipboardCommands clipboard_;
-    imaging::TransformCommands transforms_;
-    imaging::ImageCommands images_;
-    imaging::FilterCommands filters_;
+    settings::Settings& settings_;
+    services::MessageBoxes& boxes_;
+    PaletteCommands palette_;
+    ClipboardCommands clipboard_;
+    TransformCommands transforms_;
+    ImageCommands images_;
+    FilterCommands filters_;
     ModRecent recent_;
     DocumentCommands documents_;
     ShellCommands shell_;
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace kestrel::i18n {
+namespace kestrel::commands {
 
 namespace {
 
@@ -169,4 +169,4 @@ std::span<const MenuRow> PopupMenuRows() {
     return kPopupMenu;
 }
 
-}  // namespace kestrel::i18n
+}  // namespace kestrel::commands

@@ -6,7 +6,7 @@
 #include "i18n/Language.h"
 #include "platform/controls/SmartMenuXP.h"
 
-namespace kestrel::i18n {
+namespace kestrel::commands {
 
 // How an item looks at start.
 enum class ItemFlag { None, Hidden, Checked };
@@ -17,7 +17,7 @@ struct MenuRow {
     std::string_view key;
     std::string_view parent;
     controls::ItemKind kind = controls::ItemKind::Item;
-    Text caption = {};
+    i18n::Text caption = {};
     std::string_view shortcut = {};
     int picture = 0;
     ItemFlag flag = ItemFlag::None;
@@ -28,4 +28,4 @@ std::span<const MenuRow> MenuBarRows();
 // The editing pop-up menu over the grid; its items are below the one root "mnuEdit".
 std::span<const MenuRow> PopupMenuRows();
 
-}  // namespace kestrel::i18n
+}  // namespace kestrel::commands

@@ -4,11 +4,11 @@
 #include <span>
 #include <string>
 
-#include "i18n/Language.h"
 #include "commands/MenuTable.h"
 #include "commands/ToolbarTable.h"
+#include "i18n/Language.h"
 
-namespace kestrel::i18n {
+namespace kestrel::commands {
 
 namespace {
 
@@ -17,7 +17,7 @@ enum class Property { Caption, ToolTip };
 struct ControlText {
     std::string_view control;
     Property property;
-    Text text;
+    i18n::Text text;
 };
 
 using enum Property;
@@ -38,7 +38,7 @@ constexpr auto kControlTexts = std::to_array<ControlText>({
 constexpr int kMenuFontPoints = 9;
 
 bool IsLanguage(std::string_view code) {
-    return code == kChinese || code == kEnglish;
+    return code == i18n::kChinese || code == i18n::kEnglish;
 }
 
 void Build(controls::SmartMenuXP& menu, std::span<const MenuRow> rows) {
@@ -90,8 +90,8 @@ void ApplyMenuCaptions(std::string_view code, controls::SmartMenuXP& bar,
     if (!IsLanguage(code)) return;
     ApplyCaptions(code, bar, MenuBarRows());
     ApplyCaptions(code, popup, PopupMenuRows());
-    bar.SetChecked("mnuLanguageOpts0", code == kChinese);
-    bar.SetChecked("mnuLanguageOpts1", code == kEnglish);
+    bar.SetChecked("mnuLanguageOpts0", code == i18n::kChinese);
+    bar.SetChecked("mnuLanguageOpts1", code == i18n::kEnglish);
 }
 
-}  // namespace kestrel::i18n
+}  // namespace kestrel::commands

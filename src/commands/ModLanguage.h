@@ -4,7 +4,7 @@
 
 #include "platform/controls/SmartMenuXP.h"
 
-namespace kestrel::i18n {
+namespace kestrel::commands {
 
 // A window whose controls get their texts by name. A name it does not have changes nothing.
 class CaptionedWindow {
@@ -30,4 +30,4 @@ void BuildMenuBar(controls::SmartMenuXP& bar, controls::SmartMenuXP& popup);
 void ApplyMenuCaptions(std::string_view code, controls::SmartMenuXP& bar,
                        controls::SmartMenuXP& popup);
 
-}  // namespace kestrel::i18n
+}  // namespace kestrel::commands

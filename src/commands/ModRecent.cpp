@@ -6,7 +6,7 @@
 #include "platform/system/Characters.h"
 #include "platform/system/CodePage.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 namespace {
 
@@ -56,7 +56,7 @@ std::string CaptionOf(const std::string& path, std::uint32_t systemLcid) {
 }  // namespace
 
 ModRecent::ModRecent(controls::SmartMenuXP& menu, system::Registry& registry,
-                     system::FileSystem& files, dialogs::MessageBoxes& boxes,
+                     system::FileSystem& files, services::MessageBoxes& boxes,
                      std::uint32_t systemLcid)
     : menu_(menu), registry_(registry), files_(files), boxes_(boxes), systemLcid_(systemLcid) {}
 
@@ -106,4 +106,4 @@ void ModRecent::ShowInMenu() {
     }
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

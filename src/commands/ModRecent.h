@@ -5,11 +5,11 @@
 #include <vector>
 
 #include "platform/controls/SmartMenuXP.h"
-#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Registry.h"
+#include "services/MessageBoxes.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 // The icon files used last, in the File menu, the latest first. The registry keeps them between
 // runs; its failures are silent. Slots count from 1 and have no gaps; paths are compared exactly.
@@ -19,7 +19,7 @@ class ModRecent {
 
     // `systemLcid` is the locale whose code page tells how wide a caption is.
     ModRecent(controls::SmartMenuXP& menu, system::Registry& registry, system::FileSystem& files,
-              dialogs::MessageBoxes& boxes, std::uint32_t systemLcid);
+              services::MessageBoxes& boxes, std::uint32_t systemLcid);
 
     // Takes the list out of the registry.
     void LoadRecentFiles();
@@ -37,10 +37,10 @@ class ModRecent {
     controls::SmartMenuXP& menu_;
     system::Registry& registry_;
     system::FileSystem& files_;
-    dialogs::MessageBoxes& boxes_;
+    services::MessageBoxes& boxes_;
     std::uint32_t systemLcid_;
     // Slot k is entry k - 1.
     std::vector<std::string> RecentFiles;
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

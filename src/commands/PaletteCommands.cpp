@@ -4,7 +4,7 @@
 #include "i18n/Messages.h"
 #include "services/GCommonDialog.h"
 
-namespace kestrel::editing {
+namespace kestrel::commands {
 
 namespace {
 
@@ -21,10 +21,10 @@ struct FileChoice {
 
 }  // namespace
 
-void PaletteCommands::PicPal_MouseUp(Button button, int x, int y) {
-    cell_ = button == Button::None ? std::nullopt : Palette::CellAt(x, y);
+void PaletteCommands::PicPal_MouseUp(editing::Button button, int x, int y) {
+    cell_ = button == editing::Button::None ? std::nullopt : editing::Palette::CellAt(x, y);
     button_ = button;
-    if (button == Button::None) return;
+    if (button == editing::Button::None) return;
     parts_.wells.SetOpaque(button);
     if (!cell_) return;
     parts_.wells.SetPenColor(button, palette_.Colors()[*cell_]);
@@ -41,7 +41,7 @@ void PaletteCommands::PicPal_DblClick() {
 
 void PaletteCommands::mnuPaletteOpts_Click(int index) {
     if (index == 0) {
-        palette_.DrawPalette(PaletteReload::Yes);
+        palette_.DrawPalette(editing::PaletteReload::Yes);
     } else if (index == 1) {
         palette_.Randomize(parts_.random);
     } else {
@@ -51,7 +51,7 @@ void PaletteCommands::mnuPaletteOpts_Click(int index) {
 }
 
 Result<void> PaletteCommands::ImgLoadPalette_Click() {
-    dialogs::GCommonDialog dialog(parts_.desktop);
+    services::GCommonDialog dialog(parts_.desktop);
     FileChoice file{.filter = std::string(i18n::kLoadPaletteFilter)};
     constexpr bool kMustExist = true;
     constexpr bool kSeveral = false;
@@ -62,20 +62,20 @@ Result<void> PaletteCommands::ImgLoadPalette_Click() {
                                   kDefaultExtension, parts_.owner.hWnd(), file.flags)) {
         return {};
     }
-    return ReadPaletteFile(parts_.files, palette_, file.path);
+    return editing::ReadPaletteFile(parts_.files, palette_, file.path);
 }
 
 Result<void> PaletteCommands::ImgSavePalette_Click() {
-    dialogs::GCommonDialog dialog(parts_.desktop);
+    services::GCommonDialog dialog(parts_.desktop);
     FileChoice file{.filter = std::string(i18n::kSavePaletteFilter),
-                    .flags = dialogs::kPathMustExist};
+                    .flags = services::kPathMustExist};
     constexpr bool kAskBeforeReplacing = true;
     if (!dialog.VBGetSaveFileName(file.path, file.title, kAskBeforeReplacing, file.filter,
                                   file.filterIndex, {}, {}, kDefaultExtension, parts_.owner.hWnd(),
                                   file.flags)) {
         return {};
     }
-    return WritePaletteFile(parts_.files, palette_, file.path);
+    return editing::WritePaletteFile(parts_.files, palette_, file.path);
 }
 
-}  // namespace kestrel::editing
+}  // namespace kestrel::commands

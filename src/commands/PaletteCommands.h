@@ -2,17 +2,17 @@
 
 #include "editing/ColorWells.h"
 #include "editing/Palette.h"
-#include "services/Cdb.h"
 #include "platform/system/FileSystem.h"
+#include "services/Cdb.h"
 
-namespace kestrel::editing {
+namespace kestrel::commands {
 
 // What the palette commands work with, besides the palette itself.
 struct PaletteParts {
-    ColorWells& wells;
-    dialogs::Cdb& cdb;
-    dialogs::DesktopDialogs& desktop;
-    const dialogs::OwnerWindow& owner;
+    editing::ColorWells& wells;
+    services::Cdb& cdb;
+    services::DesktopDialogs& desktop;
+    const services::OwnerWindow& owner;
     system::FileSystem& files;
     system::RandomNumbers& random;
 };
@@ -20,12 +20,12 @@ struct PaletteParts {
 // What the mouse does on the palette, its menu and its two buttons.
 class PaletteCommands {
   public:
-    PaletteCommands(Palette& palette, const PaletteParts& parts)
+    PaletteCommands(editing::Palette& palette, const PaletteParts& parts)
         : palette_(palette), parts_(parts) {}
 
     // A button came up at a point in pixels of PicPal, which may lie outside: its well takes the
     // cell's colour. While ChkPal is ticked the cell is changed, too.
-    void PicPal_MouseUp(Button button, int x, int y);
+    void PicPal_MouseUp(editing::Button button, int x, int y);
     // The user chooses the colour of the cell where the button came up last.
     void PicPal_DblClick();
     // 0 is the default palette, 1 a random one; others are none.
@@ -35,11 +35,11 @@ class PaletteCommands {
     Result<void> ImgSavePalette_Click();
 
   private:
-    Palette& palette_;
+    editing::Palette& palette_;
     PaletteParts parts_;
     // The cell and the button of the last click; none outside the cells.
     std::optional<std::size_t> cell_;
-    Button button_ = Button::None;
+    editing::Button button_ = editing::Button::None;
 };
 
-}  // namespace kestrel::editing
+}  // namespace kestrel::commands

@@ -6,7 +6,7 @@
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 namespace {
 
@@ -66,4 +66,4 @@ void ShellCommands::StartSibling(Sibling program) {
     }
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

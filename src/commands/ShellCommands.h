@@ -4,12 +4,12 @@
 
 #include "commands/BusyWindow.h"
 #include "commands/CommandHandlers.h"
-#include "services/HelpViewer.h"
-#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Shell.h"
+#include "services/HelpViewer.h"
+#include "services/MessageBoxes.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 
 // Where the files beside the program lie.
 struct ProgramFolders {
@@ -18,8 +18,8 @@ struct ProgramFolders {
 };
 
 struct ShellServices {
-    dialogs::MessageBoxes& boxes;
-    dialogs::HelpViewer& help;
+    services::MessageBoxes& boxes;
+    services::HelpViewer& help;
     system::FileSystem& files;
     system::Shell& shell;
 };
@@ -45,4 +45,4 @@ class ShellCommands {
     ProgramFolders folders_;
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

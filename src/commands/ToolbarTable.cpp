@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace kestrel::i18n {
+namespace kestrel::commands {
 
 namespace {
 
@@ -31,4 +31,4 @@ std::span<const ToolbarButton> ToolbarButtons() {
     return kButtons;
 }
 
-}  // namespace kestrel::i18n
+}  // namespace kestrel::commands

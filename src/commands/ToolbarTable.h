@@ -5,18 +5,18 @@
 
 #include "i18n/Language.h"
 
-namespace kestrel::i18n {
+namespace kestrel::commands {
 
 // One button of the toolbar, from the left.
 struct ToolbarButton {
     std::string_view key;
     // The hint in the status bar while the pointer is over it.
-    Text status;
-    Text toolTip;
+    i18n::Text status;
+    i18n::Text toolTip;
     // Number of its picture in the image list.
     int picture;
 };
 
 std::span<const ToolbarButton> ToolbarButtons();
 
-}  // namespace kestrel::i18n
+}  // namespace kestrel::commands

@@ -1,12 +1,12 @@
 #include "commands/TransformCommands.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 void TransformCommands::mnuMirrorOpts_Click(int index) {
-    if (index < 0 || index > static_cast<int>(Reflection::BottomIntoTop)) return;
-    const auto reflection = static_cast<Reflection>(index);
-    Mirror(target_.Image(), reflection);
-    Mirror(target_.Mask(), reflection);
+    if (index < 0 || index > static_cast<int>(imaging::Reflection::BottomIntoTop)) return;
+    const auto reflection = static_cast<imaging::Reflection>(index);
+    imaging::Mirror(target_.Image(), reflection);
+    imaging::Mirror(target_.Mask(), reflection);
     target_.Show();
     target_.Record();
 }
@@ -14,38 +14,38 @@ void TransformCommands::mnuMirrorOpts_Click(int index) {
 void TransformCommands::mnuRotateOpts_Click(int index) {
     switch (index) {
         case 0:
-            return Rotate(Turn::Left);
+            return Rotate(imaging::Turn::Left);
         case 1:
-            return Rotate(Turn::Right);
+            return Rotate(imaging::Turn::Right);
         case 3:
-            return FlipPlanes(FlipAxis::Horizontal);
+            return FlipPlanes(imaging::FlipAxis::Horizontal);
         case 4:
-            return FlipPlanes(FlipAxis::Vertical);
+            return FlipPlanes(imaging::FlipAxis::Vertical);
         default:
             return;
     }
 }
 
-void TransformCommands::Rotate(Turn turn) {
+void TransformCommands::Rotate(imaging::Turn turn) {
     editing::Selection& selection = editor_.Selected();
     if (!selection.Exists()) {
         document::IconDocument& icon = editor_.Document();
-        icon.PicMask = Rotated(icon.PicMask, turn);
-        icon.PicImage = Rotated(icon.PicImage, turn);
+        icon.PicMask = imaging::Rotated(icon.PicMask, turn);
+        icon.PicImage = imaging::Rotated(icon.PicImage, turn);
         target_.Show();
         return target_.Record();
     }
     // It may come to lie over other cells than those it was marked in.
     if (selection.SelectionMarked()) selection.LiftSelection();
-    selection.ReplacePlanes(Rotated(selection.PicSelMask, turn),
-                            Rotated(selection.PicSelImage, turn));
+    selection.ReplacePlanes(imaging::Rotated(selection.PicSelMask, turn),
+                            imaging::Rotated(selection.PicSelImage, turn));
 }
 
-void TransformCommands::FlipPlanes(FlipAxis axis) {
-    Flip(target_.Image(), axis);
-    Flip(target_.Mask(), axis);
+void TransformCommands::FlipPlanes(imaging::FlipAxis axis) {
+    imaging::Flip(target_.Image(), axis);
+    imaging::Flip(target_.Mask(), axis);
     target_.Show();
     target_.RecordUnlessSelection();
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

@@ -3,7 +3,7 @@
 #include "commands/ImageTarget.h"
 #include "imaging/Transforms.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 
 // The mirror, rotate and flip commands of the Image menu, on the selection or the whole icon.
 class TransformCommands {
@@ -20,11 +20,11 @@ class TransformCommands {
     bool CanMirrorRows() const { return target_.Mask().Height() % 2 == 0; }
 
   private:
-    void Rotate(Turn turn);
-    void FlipPlanes(FlipAxis axis);
+    void Rotate(imaging::Turn turn);
+    void FlipPlanes(imaging::FlipAxis axis);
 
     editing::Editor& editor_;
     ImageTarget target_;
 };
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

@@ -3,32 +3,32 @@
 #include "editing/ColorWells.h"
 #include "services/Cdb.h"
 
-namespace kestrel::editing {
+namespace kestrel::commands {
 
 // What the mouse buttons do on the colour wells and the buttons beside them, when they come up.
 // Button::None stands for every button that does not draw.
 class WellCommands {
   public:
-    WellCommands(ColorWells& wells, EditorWindow& window, dialogs::Cdb& cdb)
+    WellCommands(editing::ColorWells& wells, editing::EditorWindow& window, services::Cdb& cdb)
         : wells_(wells), window_(window), cdb_(cdb) {}
 
     // Left: black and white, neither transparent.
-    void ImgDefaultColor_MouseUp(Button button);
+    void ImgDefaultColor_MouseUp(editing::Button button);
     // Left exchanges the wells, any other button only which one is transparent.
-    void ImgInterchangeColor_MouseUp(Button button);
+    void ImgInterchangeColor_MouseUp(editing::Button button);
     // Makes the well of the button transparent.
-    void ImgTransparent_MouseUp(Button button);
+    void ImgTransparent_MouseUp(editing::Button button);
     // Left: the user chooses the well's colour. Also when that is cancelled, the well is not
     // transparent any more.
-    void PicForeColor_MouseUp(Button button);
-    void PicBackColor_MouseUp(Button button);
+    void PicForeColor_MouseUp(editing::Button button);
+    void PicBackColor_MouseUp(editing::Button button);
 
   private:
-    void ChooseColor(Button well);
+    void ChooseColor(editing::Button well);
 
-    ColorWells& wells_;
-    EditorWindow& window_;
-    dialogs::Cdb& cdb_;
+    editing::ColorWells& wells_;
+    editing::EditorWindow& window_;
+    services::Cdb& cdb_;
 };
 
-}  // namespace kestrel::editing
+}  // namespace kestrel::commands

@@ -3,11 +3,11 @@
 #include <QShortcut>
 #include <QWidget>
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 // A key that closes the window, also where the window manager does not know it.
 inline void AddCloseKey(QWidget& window, const QKeySequence& key) {
     QObject::connect(new QShortcut(key, &window), &QShortcut::activated, &window, &QWidget::close);
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -13,11 +13,11 @@
 #include "platform/system/Characters.h"
 #include "platform/system/PathText.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 namespace {
 
-using dialogs::FileRecord;
+using services::FileRecord;
 
 // Each description with its patterns behind it, which the dialog does not show.
 QStringList NameFilters(const std::string& filter) {
@@ -70,7 +70,7 @@ FileNameDialog::FileNameDialog(AcceptMode mode, const FileRecord& record, QWidge
     setOption(QFileDialog::DontConfirmOverwrite);
     setOption(QFileDialog::HideNameFilterDetails);
     setAcceptMode(mode);
-    setFileMode(Asks(dialogs::kMultiSelect) ? QFileDialog::ExistingFiles : QFileDialog::AnyFile);
+    setFileMode(Asks(services::kMultiSelect) ? QFileDialog::ExistingFiles : QFileDialog::AnyFile);
     setNameFilters(NameFilters(record.filter));
     selectNameFilter(nameFilters().value(record.filterIndex - 1));
     if (!record.initialFolder.empty())
@@ -81,9 +81,9 @@ FileNameDialog::FileNameDialog(AcceptMode mode, const FileRecord& record, QWidge
         selectFile(isPath ? Resolved(name) : name);
     }
     ShowColumnsWhole(*this);
-    if (mode == AcceptOpen && !Asks(dialogs::kHideReadOnly)) {
+    if (mode == AcceptOpen && !Asks(services::kHideReadOnly)) {
         readOnly_ = new QCheckBox(tr("Open as &read-only"), this);
-        readOnly_->setChecked(Asks(dialogs::kReadOnly));
+        readOnly_->setChecked(Asks(services::kReadOnly));
         layout()->addWidget(readOnly_);
     }
 }
@@ -95,8 +95,8 @@ void FileNameDialog::AnswerIn(FileRecord& record) const {
     if (const auto* filters = findChild<QComboBox*>(QStringLiteral("fileTypeCombo")))
         record.filterIndex = filters->currentIndex() + 1;
     if (readOnly_ == nullptr) return;
-    record.flags &= ~dialogs::kReadOnly;
-    if (readOnly_->isChecked()) record.flags |= dialogs::kReadOnly;
+    record.flags &= ~services::kReadOnly;
+    if (readOnly_->isChecked()) record.flags |= services::kReadOnly;
 }
 
 std::string FileNameDialog::ChosenFolder() const {
@@ -139,7 +139,7 @@ void FileNameDialog::accept() {
 }
 
 bool FileNameDialog::MayOpen(const QFileInfo& chosen) {
-    if (!Asks(dialogs::kFileMustExist) || chosen.exists()) return true;
+    if (!Asks(services::kFileMustExist) || chosen.exists()) return true;
     Tell(tr("%1\nFile not found.\nPlease verify the correct file name was given."),
          chosen.fileName());
     return false;
@@ -157,12 +157,12 @@ bool FileNameDialog::IsName(const QFileInfo& chosen) {
 }
 
 bool FileNameDialog::MaySaveAs(const QFileInfo& chosen) {
-    if (Asks(dialogs::kPathMustExist) && !chosen.absoluteDir().exists()) {
+    if (Asks(services::kPathMustExist) && !chosen.absoluteDir().exists()) {
         Tell(tr("%1\nDirectory not found.\nPlease verify the correct directory name was given."),
              chosen.absolutePath());
         return false;
     }
-    return !Asks(dialogs::kOverwritePrompt) || !chosen.exists() ||
+    return !Asks(services::kOverwritePrompt) || !chosen.exists() ||
            Tell(tr("%1 already exists.\nDo you want to replace it?"), chosen.fileName(),
                 QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }
@@ -184,4 +184,4 @@ int FileNameDialog::Tell(const QString& sentence, const QString& name,
     return box.exec();
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

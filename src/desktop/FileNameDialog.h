@@ -6,16 +6,16 @@
 
 #include "services/DesktopDialogs.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 // Qt's own file dialog on every desktop: it asks about names by the rules of this program, where
 // names in other letter case are known to be the same file, and it speaks the program's language.
 class FileNameDialog : public QFileDialog {
   public:
-    FileNameDialog(AcceptMode mode, const dialogs::FileRecord& record, QWidget* owner);
+    FileNameDialog(AcceptMode mode, const services::FileRecord& record, QWidget* owner);
 
     // What the user chose, once the dialog is accepted. Names are spelled as on the disk.
-    void AnswerIn(dialogs::FileRecord& record) const;
+    void AnswerIn(services::FileRecord& record) const;
     std::string ChosenFolder() const;
 
   protected:
@@ -32,10 +32,10 @@ class FileNameDialog : public QFileDialog {
     int Tell(const QString& sentence, const QString& name,
              QMessageBox::StandardButtons buttons = QMessageBox::Ok);
 
-    const dialogs::FileRecord record_;
+    const services::FileRecord record_;
     QCheckBox* readOnly_ = nullptr;
     // What the user chose last, spelled as on the disk and with its extension.
     QStringList chosen_;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -7,7 +7,7 @@
 
 #include "desktop/Pictures.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 namespace {
 
@@ -74,4 +74,4 @@ Result<gdi::Surface> ReadPicture(const QByteArray& file) {
     return ToSurface(image);
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -1,6 +1,6 @@
 #include "desktop/Pictures.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 namespace {
 
@@ -66,4 +66,4 @@ gdi::COLORREF ToColorRef(const QColor& color) {
                     static_cast<std::uint8_t>(color.blue()));
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -7,7 +7,7 @@
 
 #include "platform/gdi/Surface.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 // Part of a surface as a picture of the desktop; `area` must lie inside.
 QImage ToImage(const gdi::Surface& surface, gdi::Rect area);
@@ -23,4 +23,4 @@ gdi::Surface ToSurface(const QImage& image);
 QColor ToColor(gdi::COLORREF color);
 gdi::COLORREF ToColorRef(const QColor& color);
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -13,7 +13,7 @@
 #include "desktop/Pictures.h"
 #include "desktop/XSelection.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 namespace {
 
@@ -178,4 +178,4 @@ void QtClipboard::SetImage(const gdi::Surface& pixels) {
     System().setMimeData(data);
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

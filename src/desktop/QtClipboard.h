@@ -9,11 +9,11 @@
 
 #include "services/Clipboard.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 // The clipboard of the desktop library; what other programs own is fetched aside, so that none of
 // them can hold up the window. Outlives every window that shows whether it holds an image.
-class QtClipboard : public QObject, public desktop::Clipboard {
+class QtClipboard : public QObject, public services::Clipboard {
   public:
     QtClipboard();
     QtClipboard(const QtClipboard&) = delete;
@@ -45,4 +45,4 @@ class QtClipboard : public QObject, public desktop::Clipboard {
     QThreadPool aside_;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -9,20 +9,20 @@
 
 #include "desktop/Pictures.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 namespace {
 
-using dialogs::ColorRecord;
-using dialogs::CustomColors;
-using dialogs::FileRecord;
-using dialogs::PrinterRecord;
-using dialogs::WindowHandle;
+using services::ColorRecord;
+using services::CustomColors;
+using services::FileRecord;
+using services::PrinterRecord;
+using services::WindowHandle;
 
 constexpr std::int32_t kCancelled = 0;
 
 QWidget* WindowOf(WindowHandle owner) {
-    return owner == dialogs::kNoOwner ? nullptr : QWidget::find(static_cast<WId>(owner));
+    return owner == services::kNoOwner ? nullptr : QWidget::find(static_cast<WId>(owner));
 }
 
 // The library has one row of custom colours for all programs and keeps it in a file; while this
@@ -103,7 +103,7 @@ std::int32_t QtDesktopDialogs::ChooseFile(FileNameDialog::AcceptMode mode, FileR
     if (!Ask(dialog)) return kCancelled;
     dialog.AnswerIn(record);
     lastFolder_ = dialog.ChosenFolder();
-    return dialogs::kConfirmed;
+    return services::kConfirmed;
 }
 
 std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
@@ -112,12 +112,12 @@ std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
     const LibrarysCustomColors row(record.customColors);
     // The desktop's own dialog speaks the desktop's language.
     dialog.setOption(QColorDialog::DontUseNativeDialog);
-    const bool preset = (record.flags & dialogs::kInitialColor) != 0;
+    const bool preset = (record.flags & services::kInitialColor) != 0;
     dialog.setCurrentColor(ToColor(preset ? record.color : gdi::kBlack));
     if (!Ask(dialog)) return kCancelled;
     record.color = ToColorRef(dialog.selectedColor());
     record.customColors = LibrarysCustomColors::Now();
-    return dialogs::kConfirmed;
+    return services::kConfirmed;
 }
 
 std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
@@ -133,7 +133,7 @@ std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
     name = printer.printerName().toStdString();
     file = printer.outputFileName().toStdString();
     copies = printer.copyCount();
-    return dialogs::kConfirmed;
+    return services::kConfirmed;
 }
 
 gdi::COLORREF QtDesktopDialogs::GetSysColor(int role) const {
@@ -157,4 +157,4 @@ gdi::COLORREF QtDesktopDialogs::GetSysColor(int role) const {
     return known ? ToColorRef(QGuiApplication::palette().color(kRoles[role])) : gdi::kBlack;
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -6,7 +6,7 @@
 
 #include "desktop/CloseKey.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 namespace {
 
@@ -73,4 +73,4 @@ void QtHelpViewer::Follow(const QUrl& link) {
     }
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -3,13 +3,13 @@
 #include <QPointer>
 #include <QTextBrowser>
 
-#include "services/HelpViewer.h"
 #include "platform/system/Shell.h"
+#include "services/HelpViewer.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 // Help in a window of its own; links to the web go to the shell.
-class QtHelpViewer final : public dialogs::HelpViewer {
+class QtHelpViewer final : public services::HelpViewer {
   public:
     // `shell` must outlive the viewer.
     explicit QtHelpViewer(system::Shell& shell) : shell_(shell) {}
@@ -33,4 +33,4 @@ class QtHelpViewer final : public dialogs::HelpViewer {
     QPointer<QTextBrowser> window_;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

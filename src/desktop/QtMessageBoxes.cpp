@@ -3,13 +3,13 @@
 #include <QGridLayout>
 #include <QMessageBox>
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 namespace {
 
-using dialogs::Answer;
-using dialogs::BoxButtons;
-using dialogs::BoxIcon;
+using services::Answer;
+using services::BoxButtons;
+using services::BoxIcon;
 
 QMessageBox::Icon ToIcon(BoxIcon icon) {
     switch (icon) {
@@ -74,4 +74,4 @@ Answer QtMessageBoxes::Show(BoxIcon icon, BoxButtons buttons, const std::string&
     return ToAnswer(box.exec(), buttons);
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -4,13 +4,13 @@
 
 #include "services/MessageBoxes.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 // Message boxes of the desktop.
-class QtMessageBoxes : public dialogs::MessageBoxes {
+class QtMessageBoxes : public services::MessageBoxes {
   public:
-    dialogs::Answer Show(dialogs::BoxIcon icon, dialogs::BoxButtons buttons,
-                         const std::string& text, const std::string& title) override;
+    services::Answer Show(services::BoxIcon icon, services::BoxButtons buttons,
+                          const std::string& text, const std::string& title) override;
 
     // Boxes are modal to this window from now on.
     void SetOwner(QWidget* owner) { owner_ = owner; }
@@ -19,4 +19,4 @@ class QtMessageBoxes : public dialogs::MessageBoxes {
     QWidget* owner_ = nullptr;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

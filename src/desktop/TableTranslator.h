@@ -6,7 +6,7 @@
 
 #include "desktop/Text.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 // Gives the desktop's own texts (buttons, file dialogs) in the language of the program. `lookUp`
 // gets the English text and answers with the one to show, empty to leave it.
@@ -26,4 +26,4 @@ class TableTranslator : public QTranslator {
     LookUp lookUp_;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 namespace {
 
@@ -117,4 +117,4 @@ xcb_atom_t XSelection::Atom(std::string_view name) {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

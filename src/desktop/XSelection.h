@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 
 // Reads the clipboard of an X display on a connection of its own. The desktop library would wait
 // for its owner as long as that likes and take as much as it sends; here both have a limit. Not for
@@ -60,4 +60,4 @@ class XSelection {
     xcb_atom_t property_ = XCB_ATOM_NONE;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

@@ -3,14 +3,14 @@
 #include "platform/gdi/PixelArt.h"
 #include "resources/KestrelIcon.h"
 
-namespace kestrel::app {
+namespace kestrel::document {
 
-document::IconDocument ApplicationIcon() {
+IconDocument ApplicationIcon() {
     using namespace resources;
-    document::IconDocument icon;
+    IconDocument icon;
     icon.PicImage = gdi::ReadPixelArt(kKestrelIcon, kKestrelInks, gdi::kBlack);
     icon.PicMask = gdi::ReadPixelArt(kKestrelIcon, {{'.', gdi::kWhite}}, gdi::kBlack);
     return icon;
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::document

@@ -2,9 +2,9 @@
 
 #include "document/IconDocument.h"
 
-namespace kestrel::app {
+namespace kestrel::document {
 
 // The program's own icon, as an untitled document: its window and tray picture and the sample.
-document::IconDocument ApplicationIcon();
+IconDocument ApplicationIcon();
 
-}  // namespace kestrel::app
+}  // namespace kestrel::document

@@ -113,7 +113,7 @@ void Canvas::ShowEmptyIcon() {
     OverlayGrid();
 }
 
-void Canvas::ReadIconIntoDocument(const icons::IconImage& icon) {
+void Canvas::ReadIconIntoDocument(const formats::IconImage& icon) {
     document_.TakeIcon(icon);
     PreviewIcon();
     RebuildGrid();

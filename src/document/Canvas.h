@@ -1,8 +1,8 @@
 #pragma once
 
 #include "document/IconDocument.h"
-#include "platform/gdi/Surface.h"
 #include "formats/IconImage.h"
+#include "platform/gdi/Surface.h"
 
 namespace kestrel::document {
 
@@ -67,7 +67,7 @@ class Canvas {
 
     // Makes `icon` the content of the planes and views, fitted to 32 x 32. Both planes are empty
     // before. Modified stays as it is.
-    void ReadIconIntoDocument(const icons::IconImage& icon);
+    void ReadIconIntoDocument(const formats::IconImage& icon);
 
     // Paints one icon pixel, given in icon coordinates, in planes and views without touching the
     // others. Outside the icon nothing happens.

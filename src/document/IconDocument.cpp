@@ -12,10 +12,10 @@ void IconDocument::Reset() {
     PicMask.Clear();
 }
 
-void IconDocument::TakeIcon(const icons::IconImage& icon) {
-    using icons::DrawPart;
-    icons::DrawIcon(PicMask, icon, kIconSize, kIconSize, DrawPart::Mask);
-    icons::DrawIcon(PicImage, icon, kIconSize, kIconSize, DrawPart::Image);
+void IconDocument::TakeIcon(const formats::IconImage& icon) {
+    using formats::DrawPart;
+    formats::DrawIcon(PicMask, icon, kIconSize, kIconSize, DrawPart::Mask);
+    formats::DrawIcon(PicImage, icon, kIconSize, kIconSize, DrawPart::Image);
 }
 
 }  // namespace kestrel::document

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/gdi/Surface.h"
 #include "formats/IconImage.h"
+#include "platform/gdi/Surface.h"
 
 namespace kestrel::document {
 
@@ -36,7 +36,7 @@ struct IconDocument {
     void Reset();
 
     // Makes `icon` the content of both planes, fitted to 32 x 32 by repeating or dropping pixels.
-    void TakeIcon(const icons::IconImage& icon);
+    void TakeIcon(const formats::IconImage& icon);
 };
 
 }  // namespace kestrel::document

@@ -37,7 +37,7 @@ void Editor::ResetDocument() {
     history_.PushUndoSnapshot();
 }
 
-void Editor::ShowOpenedIcon(const icons::IconImage& icon) {
+void Editor::ShowOpenedIcon(const formats::IconImage& icon) {
     canvas_.ReadIconIntoDocument(icon);
     history_.ClearUndoHistory();
     history_.PushUndoSnapshot();

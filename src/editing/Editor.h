@@ -34,7 +34,7 @@ class Editor {
     // A new, empty icon, with tools, colours, palette and history as at start-up.
     void ResetDocument();
     // Makes `icon` the content of the document just reset, and its oldest state.
-    void ShowOpenedIcon(const icons::IconImage& icon);
+    void ShowOpenedIcon(const formats::IconImage& icon);
 
     // Mouse events of the editing grid; points in grid units, also outside while captured. A
     // gesture belongs to the button that began it; others are ignored until it ends.

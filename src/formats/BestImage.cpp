@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <tuple>
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 namespace {
 
 constexpr int kWantedSide = 32;
@@ -45,4 +45,4 @@ std::vector<ImageEntry> BestFirst(std::vector<ImageEntry> entries) {
     return best;
 }
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

@@ -4,11 +4,11 @@
 
 #include "formats/IconFile.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 
 // The entries in the order in which they suit a 32 x 32 icon, best first: 32 x 32 before all
 // others, with the most bits per pixel; then by the smallest max(|w - 32|, |h - 32|), the larger
 // area, the deeper, the first. Entries that repeat another's bytes are left out.
 std::vector<ImageEntry> BestFirst(std::vector<ImageEntry> entries);
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 
 using Bytes = std::span<const std::uint8_t>;
 
@@ -52,4 +52,4 @@ class ByteReader {
     Bytes bytes_;
 };
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

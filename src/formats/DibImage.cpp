@@ -5,7 +5,7 @@
 
 #include "formats/IconPixels.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 namespace {
 
 using gdi::COLORREF;
@@ -133,4 +133,4 @@ std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout) {
     return icon;
 }
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

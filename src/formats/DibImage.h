@@ -7,7 +7,7 @@
 #include "formats/ByteReader.h"
 #include "formats/IconImage.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 
 // Where the parts of an icon's bitmap lie, in bytes from its header, and how its pixels are stored.
 // Made only of header fields: the parts need not be inside the data.
@@ -34,4 +34,4 @@ std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int dire
 // Decodes the image; nothing when the colour data is cut. A cut mask counts as opaque.
 std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout);
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

@@ -4,7 +4,7 @@
 #include "formats/DibImage.h"
 #include "formats/IconPixels.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 namespace {
 
 // Offsets of the fields in BITMAPINFOHEADER; the masks follow it or are its continuation in V4.
@@ -119,4 +119,4 @@ std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int dire
     return layout;
 }
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

@@ -11,7 +11,7 @@
 #include "formats/IconPixels.h"
 #include "formats/PngImage.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 namespace {
 
 constexpr std::uint64_t kDirectorySize = 6;
@@ -135,4 +135,4 @@ Result<IconImage> ReadBestImage(std::span<const std::uint8_t> file) {
     return NoPicture();
 }
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

@@ -5,10 +5,10 @@
 #include <span>
 #include <vector>
 
-#include "platform/Result.h"
 #include "formats/IconImage.h"
+#include "platform/Result.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 
 // Where one image of an icon file lies, in bytes from the file's start, what its header says, and
 // which entry of the directory, counted from 0, leads to it.
@@ -37,4 +37,4 @@ Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEnt
 // skipped and the next best taken; fails with kInvalidPicture when none can be read.
 Result<IconImage> ReadBestImage(std::span<const std::uint8_t> file);
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

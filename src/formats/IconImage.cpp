@@ -1,9 +1,9 @@
 #include "formats/IconImage.h"
 
-#include "platform/gdi/Blit.h"
 #include "formats/IconPixels.h"
+#include "platform/gdi/Blit.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 
 IconImage EmptyImage(const ImageInfo& info) {
     return {info, gdi::Surface(info.width, info.height, gdi::kWhite),
@@ -35,4 +35,4 @@ void DrawIcon(gdi::Surface& target, const IconImage& icon, int width, int height
     }
 }
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

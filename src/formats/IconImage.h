@@ -2,7 +2,7 @@
 
 #include "platform/gdi/Surface.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 
 // What an image's own header says of it.
 struct ImageInfo {
@@ -30,4 +30,4 @@ enum class DrawPart { Mask, Image, Normal };
 // (AND with the mask, then XOR with the image).
 void DrawIcon(gdi::Surface& target, const IconImage& icon, int width, int height, DrawPart part);
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

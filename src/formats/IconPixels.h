@@ -4,7 +4,7 @@
 
 #include "formats/IconImage.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 
 // Larger images are refused before anything is allocated for them; 256 is the usual most.
 inline constexpr int kMaxImageSide = 1024;
@@ -18,4 +18,4 @@ IconImage EmptyImage(const ImageInfo& info);
 // their 24-bit colour, the others turn transparent and black.
 void SplitAlpha(IconImage& image);
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

@@ -10,7 +10,7 @@
 
 #include "formats/IconPixels.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 namespace {
 
 constexpr std::array<std::uint8_t, 8> kSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
@@ -138,4 +138,4 @@ std::optional<IconImage> DecodePng(Bytes image, const ImageInfo& info) {
     return icon;
 }
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

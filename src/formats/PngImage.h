@@ -5,7 +5,7 @@
 #include "formats/ByteReader.h"
 #include "formats/IconImage.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 
 // Whether the bytes begin with the eight bytes of every PNG.
 bool IsPng(Bytes image);
@@ -19,4 +19,4 @@ std::optional<ImageInfo> ReadPngInfo(Bytes image, int longestSide);
 // ReadPngInfo told.
 std::optional<IconImage> DecodePng(Bytes image, const ImageInfo& info);
 
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

@@ -7,7 +7,7 @@
 #include "document/IconDocument.h"
 #include "platform/gdi/Blit.h"
 
-namespace kestrel::editing {
+namespace kestrel::imaging {
 
 namespace {
 
@@ -79,4 +79,4 @@ PastedPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode m
     return planes;
 }
 
-}  // namespace kestrel::editing
+}  // namespace kestrel::imaging

@@ -2,7 +2,7 @@
 
 #include "platform/gdi/Surface.h"
 
-namespace kestrel::editing {
+namespace kestrel::imaging {
 
 // How a picture larger than the icon is shrunk: to the icon's size, or in proportion.
 enum class PasteFit { Shrink, KeepAspect };
@@ -31,4 +31,4 @@ struct PastedPlanes {
 // A picture of 0xAABBGGRR pixels as planes of another size, by repeating or dropping pixels.
 PastedPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode);
 
-}  // namespace kestrel::editing
+}  // namespace kestrel::imaging

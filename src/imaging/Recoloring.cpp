@@ -44,7 +44,7 @@ void Invert(gdi::Surface& image, const gdi::Surface& mask) {
                        [](int, int, gdi::COLORREF color) { return color ^ gdi::kWhite; });
 }
 
-void Buttonize(document::IconDocument& icon, desktop::MessageLoop& loop) {
+void Buttonize(document::IconDocument& icon, services::MessageLoop& loop) {
     constexpr int kInnermost = 3;
     // What runs in the meantime sees the icon before the command, not a part of it.
     gdi::Surface image = icon.PicImage;

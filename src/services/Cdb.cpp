@@ -1,6 +1,6 @@
 #include "services/Cdb.h"
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 
 Cdb::Cdb(DesktopDialogs& desktop, const OwnerWindow& owner) : desktop_(desktop), owner_(owner) {
     customColors_.fill(gdi::kWhite);
@@ -56,4 +56,4 @@ tl::unexpected<Error> Cdb::Unconfirmed() const {
     return Fail(kDialogCancelled, "Cancel was selected");
 }
 
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

@@ -5,7 +5,7 @@
 #include "platform/Result.h"
 #include "services/DesktopDialogs.h"
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 
 // What a file dialog is asked with. The filter is a list of descriptions and patterns joined by
 // '|', as in "Icon Files (*.ico)|*.ico"; its index counts from 1.
@@ -48,4 +48,4 @@ class Cdb {
     ChosenPrinter printer_;
 };
 
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

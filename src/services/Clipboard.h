@@ -5,7 +5,7 @@
 #include "platform/Result.h"
 #include "platform/gdi/Surface.h"
 
-namespace kestrel::desktop {
+namespace kestrel::services {
 
 // The clipboard of the desktop, for images. Their pixels are 0xAABBGGRR: alpha from 0 (transparent)
 // to 255 in the top byte, and a colour that is not multiplied by it.
@@ -26,4 +26,4 @@ class Clipboard {
     std::function<void()> onChanged;
 };
 
-}  // namespace kestrel::desktop
+}  // namespace kestrel::services

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 
 std::string FilterOf(std::string list, std::string_view separators) {
     for (const char separator : separators)
@@ -10,4 +10,4 @@ std::string FilterOf(std::string list, std::string_view separators) {
     return list.append(2, '\0');
 }
 
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

@@ -8,7 +8,7 @@
 
 #include "platform/gdi/Color.h"
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 
 // The desktop's name for a window that dialogs are modal to.
 using WindowHandle = std::intptr_t;
@@ -110,4 +110,4 @@ class OwnerWindow {
     virtual WindowHandle hWnd() const = 0;
 };
 
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

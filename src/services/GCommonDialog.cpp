@@ -3,7 +3,7 @@
 #include "platform/system/Characters.h"
 #include "platform/system/PathText.h"
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 
 namespace {
 
@@ -148,4 +148,4 @@ void GCommonDialog::FillCustomColors() {
         color = desktop_.GetSysColor(role++);
 }
 
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

@@ -2,7 +2,7 @@
 
 #include "services/DesktopDialogs.h"
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 
 // One caller's use of the desktop's dialogs. The functions return whether the user confirmed;
 // `APIReturn` and `ExtendedError` tell more. A filter is a list of descriptions and patterns joined
@@ -62,4 +62,4 @@ class GCommonDialog {
     bool customColorsFilled_ = false;
 };
 
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 
 // The program that shows help files, in a window of its own beside the editor's.
 class HelpViewer {
@@ -17,4 +17,4 @@ class HelpViewer {
     virtual void Close() = 0;
 };
 
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 
 enum class BoxIcon { Question, Information, Exclamation, Critical };
 enum class BoxButtons { Ok, OkCancel, YesNoCancel };
@@ -17,4 +17,4 @@ class MessageBoxes {
                         const std::string& title) = 0;
 };
 
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace kestrel::desktop {
+namespace kestrel::services {
 
 // The loop that hands events to the windows of the program.
 class MessageLoop {
@@ -10,4 +10,4 @@ class MessageLoop {
     virtual void DoEvents() = 0;
 };
 
-}  // namespace kestrel::desktop
+}  // namespace kestrel::services

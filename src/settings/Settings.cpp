@@ -3,7 +3,7 @@
 #include "platform/system/Folders.h"
 #include "platform/system/Profile.h"
 
-namespace kestrel::app {
+namespace kestrel::settings {
 
 namespace {
 
@@ -41,4 +41,4 @@ void SaveLanguage(Settings& settings, std::string_view code) {
     settings.WriteSetting(kLanguageSection, kLanguageKey, code);
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::settings

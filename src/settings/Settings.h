@@ -5,7 +5,7 @@
 
 #include "platform/system/FileSystem.h"
 
-namespace kestrel::app {
+namespace kestrel::settings {
 
 // The settings file: named after the executable, in the application folder or, where that cannot
 // be written, in the user's configuration folder. The path is worked out on first use. Another
@@ -30,4 +30,4 @@ class Settings {
 std::string ReadSavedLanguage(Settings& settings);
 void SaveLanguage(Settings& settings, std::string_view code);
 
-}  // namespace kestrel::app
+}  // namespace kestrel::settings

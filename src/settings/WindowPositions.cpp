@@ -8,7 +8,7 @@
 #include "platform/system/Characters.h"
 #include "platform/system/LetterCase.h"
 
-namespace kestrel::app {
+namespace kestrel::settings {
 
 namespace {
 
@@ -93,4 +93,4 @@ void RestoreWindowPosition(Settings& settings, PositionedWindow& window, const s
     if (maximised) window.Maximise();
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::settings

@@ -4,7 +4,7 @@
 
 #include "settings/Settings.h"
 
-namespace kestrel::app {
+namespace kestrel::settings {
 
 enum class WindowState { Normal, Minimised, Maximised };
 
@@ -42,4 +42,4 @@ void SaveWindowPosition(Settings& settings, const PositionedWindow& window,
 void RestoreWindowPosition(Settings& settings, PositionedWindow& window,
                            const std::string& file = {});
 
-}  // namespace kestrel::app
+}  // namespace kestrel::settings

@@ -6,15 +6,15 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "i18n/Captions.h"
 #include "desktop/Text.h"
+#include "i18n/Captions.h"
 #include "windows/widgets/WindowDesign.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 namespace {
 
-using qt::ToText;
+using desktop::ToText;
 
 constexpr QSize kClientSize(268, 168);
 // Where the two lines of text have their top left corners.
@@ -31,13 +31,13 @@ constexpr int kMessageFontPixels = 11;
 
 }  // namespace
 
-FrmClipData::FrmClipData(QWidget* owner, editing::PictureSize picture) : QDialog(owner) {
-    qt::DressDialog(*this, ToText(i18n::kPasteTitle.Now()));
+FrmClipData::FrmClipData(QWidget* owner, imaging::PictureSize picture) : QDialog(owner) {
+    widgets::DressDialog(*this, ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
-    setFont(qt::FontOf(*this, kFontPixels));
+    setFont(widgets::FontOf(*this, kFontPixels));
     setFixedSize(kClientSize);
     LayOutControls();
-    qt::PlaceOnScreen(*this, kClientSize);
+    widgets::PlaceOnScreen(*this, kClientSize);
 }
 
 void FrmClipData::LayOutControls() {
@@ -63,14 +63,14 @@ void FrmClipData::LayOutControls() {
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-std::optional<editing::PasteFit> FrmClipData::Ask() {
+std::optional<imaging::PasteFit> FrmClipData::Ask() {
     if (exec() != QDialog::Accepted) return std::nullopt;
-    return opt_[0]->isChecked() ? editing::PasteFit::Shrink : editing::PasteFit::KeepAspect;
+    return opt_[0]->isChecked() ? imaging::PasteFit::Shrink : imaging::PasteFit::KeepAspect;
 }
 
 void FrmClipData::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setFont(qt::FontOf(*this, kMessageFontPixels));
+    painter.setFont(widgets::FontOf(*this, kMessageFontPixels));
     const auto print = [&](QPoint at, const QString& text) {
         painter.drawText(at + QPoint(0, painter.fontMetrics().ascent()), text);
     };
@@ -78,4 +78,4 @@ void FrmClipData::paintEvent(QPaintEvent* /*event*/) {
     print(kSize, sizeText_);
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -8,15 +8,15 @@
 
 class QRadioButton;
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 // Asks how a picture from the clipboard that is larger than the icon shall be shrunk. Modal.
 class FrmClipData : public QDialog {
   public:
-    FrmClipData(QWidget* owner, editing::PictureSize picture);
+    FrmClipData(QWidget* owner, imaging::PictureSize picture);
 
     // Shows the dialog; none when it is closed without OK.
-    std::optional<editing::PasteFit> Ask();
+    std::optional<imaging::PasteFit> Ask();
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -29,4 +29,4 @@ class FrmClipData : public QDialog {
     std::array<QRadioButton*, 2> opt_{};
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

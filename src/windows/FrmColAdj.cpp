@@ -5,16 +5,16 @@
 #include <algorithm>
 #include <utility>
 
-#include "i18n/Captions.h"
-#include "windows/FrmParts.h"
-#include "imaging/filters/Levels.h"
 #include "desktop/Text.h"
+#include "i18n/Captions.h"
+#include "imaging/filters/Levels.h"
+#include "windows/FrmParts.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
 namespace {
 
-using qt::ToText;
+using desktop::ToText;
 
 constexpr int kBarHeight = 176;
 constexpr int kBetweenColumns = 12;
@@ -44,32 +44,32 @@ QLabel* NewValueLabel(const char* name) {
 
 }  // namespace
 
-FrmColAdj::FrmColAdj(QWidget* owner, ColorAdjustment& colors, gdi::Surface preview)
+FrmColAdj::FrmColAdj(QWidget* owner, imaging::ColorAdjustment& colors, gdi::Surface preview)
     : QDialog(owner),
       colors_(colors),
       picture_(std::move(preview)),
-      PicShade_(new qt::SurfaceWidget(picture_, this)) {
+      PicShade_(new widgets::SurfaceWidget(picture_, this)) {
     PicShade_->setObjectName("PicShade");
     QVBoxLayout* rows = NewRows(*this, i18n::kColorAdjustmentTitle);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(kBetweenColumns);
-    for (int bar = 0; bar < kAdjustmentBars; ++bar)
-        columns->addLayout(NewColumn(static_cast<AdjustmentBar>(bar)));
+    for (int bar = 0; bar < imaging::kAdjustmentBars; ++bar)
+        columns->addLayout(NewColumn(static_cast<imaging::AdjustmentBar>(bar)));
     columns->addWidget(NewFrame(PicShade_));
     rows->addLayout(columns);
     rows->addLayout(NewCommands());
     PlaceDialog(*this);
 }
 
-QLayout* FrmColAdj::NewColumn(AdjustmentBar bar) {
+QLayout* FrmColAdj::NewColumn(imaging::AdjustmentBar bar) {
     const auto index = static_cast<std::size_t>(bar);
     QLabel* caption = NewCaption(kCaptions[index]);
     QLabel* value = NewValueLabel(kNames[index]);
-    auto* vsb = new qt::ValueBar(Qt::Vertical);
+    auto* vsb = new widgets::ValueBar(Qt::Vertical);
     vsb->setObjectName(QStringLiteral("Vsb%1").arg(kNames[index]));
     vsb->setRange(-filters::kMaxLevel, filters::kMaxLevel);
-    vsb->setSingleStep(kAdjustmentStep);
-    vsb->setPageStep(kAdjustmentStep);
+    vsb->setSingleStep(imaging::kAdjustmentStep);
+    vsb->setPageStep(imaging::kAdjustmentStep);
     vsb->setFixedHeight(kBarHeight);
     // A drag is one change, however long it is.
     vsb->setTracking(false);
@@ -96,7 +96,7 @@ QLayout* FrmColAdj::NewCommands() {
     return row;
 }
 
-void FrmColAdj::VsbChange(AdjustmentBar bar, int value) {
+void FrmColAdj::VsbChange(imaging::AdjustmentBar bar, int value) {
     colors_.Change(bar, value);
     ShowColors();
 }
@@ -105,7 +105,7 @@ void FrmColAdj::CmdReset_Click() {
     colors_.Reset();
     ShowColors();
     // The colours know every bar at 0 already, so that none of these is a step.
-    for (qt::ValueBar* vsb : vsb_)
+    for (widgets::ValueBar* vsb : vsb_)
         vsb->setValue(0);
 }
 
@@ -114,4 +114,4 @@ void FrmColAdj::ShowColors() {
     PicShade_->update();
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

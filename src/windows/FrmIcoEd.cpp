@@ -7,15 +7,15 @@
 #include <QScopedValueRollback>
 #include <QUrl>
 
-#include "document/ApplicationIcon.h"
-#include "windows/FrmClipData.h"
-#include "windows/frmAbout.h"
-#include "i18n/Language.h"
 #include "desktop/Pictures.h"
+#include "document/ApplicationIcon.h"
+#include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
+#include "windows/FrmClipData.h"
+#include "windows/frmAbout.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 namespace {
 
@@ -24,7 +24,8 @@ constexpr gdi::COLORREF kGreyForWhite = 0xF0F0F0;
 constexpr int kGuardAfterOpen = 250;  // milliseconds
 
 gdi::COLORREF WindowColor() {
-    const gdi::COLORREF color = qt::ToColorRef(QApplication::palette().color(QPalette::Window));
+    const gdi::COLORREF color =
+        desktop::ToColorRef(QApplication::palette().color(QPalette::Window));
     return color == gdi::kWhite ? kGreyForWhite : color;
 }
 
@@ -54,13 +55,13 @@ std::string FirstLocalFile(const QMimeData& dragged) {
 }
 
 QIcon ProgramIcon() {
-    const document::IconDocument icon = ApplicationIcon();
-    return QIcon(QPixmap::fromImage(qt::ToImage(icon.PicMask, icon.PicImage)));
+    const document::IconDocument icon = document::ApplicationIcon();
+    return QIcon(QPixmap::fromImage(desktop::ToImage(icon.PicMask, icon.PicImage)));
 }
 
 }  // namespace
 
-FrmIcoEd::FrmIcoEd(const MainServices& services)
+FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
     : help_(services.help),
       clipboard_(services.clipboard),
       pictures_(resources::kImageList, resources::kImageListInks),
@@ -94,7 +95,7 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     BuildToolbar();
     LayOutPalette();
     ShowTextControls(false);
-    i18n::ApplyMainCaptions(i18n::UiLanguage(), *this);
+    commands::ApplyMainCaptions(i18n::UiLanguage(), *this);
     BuildMenus();
     DisableMissingCommands();
     ConnectGrid();
@@ -146,10 +147,10 @@ bool FrmIcoEd::event(QEvent* event) {
 // The window and the preview's ground share one colour.
 void FrmIcoEd::FollowDesktopColors() {
     const gdi::COLORREF color = WindowColor();
-    if (palette().color(QPalette::Window) != qt::ToColor(color)) {
+    if (palette().color(QPalette::Window) != desktop::ToColor(color)) {
         // Only this role: the others go on following the desktop.
         QPalette own;
-        own.setColor(QPalette::Window, qt::ToColor(color));
+        own.setColor(QPalette::Window, desktop::ToColor(color));
         setPalette(own);
     }
     editor_.SetWindowColor(color);
@@ -201,8 +202,8 @@ void FrmIcoEd::DoEvents() {
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-dialogs::WindowHandle FrmIcoEd::hWnd() const {
-    return static_cast<dialogs::WindowHandle>(winId());
+services::WindowHandle FrmIcoEd::hWnd() const {
+    return static_cast<services::WindowHandle>(winId());
 }
 
 void FrmIcoEd::Unload() {
@@ -210,7 +211,7 @@ void FrmIcoEd::Unload() {
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
-std::optional<editing::PasteFit> FrmIcoEd::AskFit(editing::PictureSize picture) {
+std::optional<imaging::PasteFit> FrmIcoEd::AskFit(imaging::PictureSize picture) {
     return FrmClipData(this, picture).Ask();
 }
 
@@ -224,4 +225,4 @@ void FrmIcoEd::LanguageChanged() {
     FitMenuBar();
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -10,23 +10,23 @@
 
 #include "commands/CommandDispatch.h"
 #include "commands/MainCommands.h"
-#include "editing/Editor.h"
 #include "commands/WellCommands.h"
-#include "windows/FrmImagingDialogs.h"
+#include "editing/Editor.h"
 #include "platform/controls/ImageList.h"
+#include "windows/FrmImagingDialogs.h"
 #include "windows/widgets/MenuView.h"
 #include "windows/widgets/PictureBox.h"
 #include "windows/widgets/StatusBar.h"
 #include "windows/widgets/SurfaceWidget.h"
 #include "windows/widgets/ToolBar.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 // The main window: lays out, paints and forwards events. Positions are in pixels of the client
 // area, which never changes its size.
-class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWindow {
+class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands::MainWindow {
   public:
-    explicit FrmIcoEd(const MainServices& services);
+    explicit FrmIcoEd(const commands::MainServices& services);
     FrmIcoEd(const FrmIcoEd&) = delete;
     FrmIcoEd& operator=(const FrmIcoEd&) = delete;
     ~FrmIcoEd() override;
@@ -37,11 +37,11 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
 
     editing::Editor& OpenEditor() { return editor_; }
     std::string StatusText(editing::StatusPanel panel) const;
-    qt::SurfaceWidget& GridWidget() { return *picMain_; }
-    qt::SurfaceWidget& PicTools() { return *picTools_; }
-    qt::SurfaceWidget& PicPal() { return *picPal_; }
-    qt::ToolBar& Toolbar1() { return *toolbar1_; }
-    MainMenus& Menus() { return menus_; }
+    widgets::SurfaceWidget& GridWidget() { return *picMain_; }
+    widgets::SurfaceWidget& PicTools() { return *picTools_; }
+    widgets::SurfaceWidget& PicPal() { return *picPal_; }
+    widgets::ToolBar& Toolbar1() { return *toolbar1_; }
+    commands::MainMenus& Menus() { return menus_; }
     // The menus as they are shown: what stands for an item of the bar, and the editing pop-up.
     QAction* BarAction(std::string_view key) const { return barView_.ActionOf(key); }
     QMenu* EditingPopup();
@@ -74,7 +74,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     // FrmIcoEd_Tools.cpp
     void LayOutTools();
     // A box at `place` that shows `hint` on the status bar while the pointer is over it.
-    void AddBox(const char* name, const QRect& place, qt::PictureBox::Edge edge,
+    void AddBox(const char* name, const QRect& place, widgets::PictureBox::Edge edge,
                 const QIcon& picture, const i18n::Text& hint);
     void ConnectTools();
     void PaintIndicators(QPainter& painter);
@@ -105,7 +105,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void Beep() override;
     void RefreshEditCommands() override;
 
-    dialogs::WindowHandle hWnd() const override;
+    services::WindowHandle hWnd() const override;
     void EnableGrid(bool enabled) override;
     void StartTmr() override;
     void ShowHourglass(bool shown) override;
@@ -115,37 +115,37 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private MainWind
     void SetControlToolTip(std::string_view control, std::string_view text) override;
     void EnableButton(std::string_view key, bool enabled) override;
     void SetButtonToolTip(std::string_view key, std::string_view text) override;
-    std::optional<editing::PasteFit> AskFit(editing::PictureSize picture) override;
+    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override;
     void ShowAbout() override;
     void LanguageChanged() override;
 
     QMenuBar* menuBar_ = nullptr;
-    qt::ToolBar* toolbar1_ = nullptr;
-    qt::SurfaceWidget* picMain_ = nullptr;
-    qt::SurfaceWidget* picIcon_ = nullptr;
-    qt::SurfaceWidget* picTools_ = nullptr;
-    qt::SurfaceWidget* picPal_ = nullptr;
+    widgets::ToolBar* toolbar1_ = nullptr;
+    widgets::SurfaceWidget* picMain_ = nullptr;
+    widgets::SurfaceWidget* picIcon_ = nullptr;
+    widgets::SurfaceWidget* picTools_ = nullptr;
+    widgets::SurfaceWidget* picPal_ = nullptr;
     QCheckBox* chkPal_ = nullptr;
     QLabel* label1_ = nullptr;
-    qt::StatusBar* statusBar_ = nullptr;
+    widgets::StatusBar* statusBar_ = nullptr;
     QTimer* tmr_ = nullptr;
     std::map<editing::StatusPanel, QString> readouts_;
     bool commandRunning_ = false;
 
-    dialogs::HelpViewer& help_;
-    desktop::Clipboard& clipboard_;
+    services::HelpViewer& help_;
+    services::Clipboard& clipboard_;
     controls::ImageList pictures_;
     controls::ImageList wellPictures_;
-    MainMenus menus_;
-    qt::MenuView barView_;
-    qt::MenuView popupView_;
+    commands::MainMenus menus_;
+    widgets::MenuView barView_;
+    widgets::MenuView popupView_;
     // After the widgets: they call back into the window from their first moment.
     editing::Editor editor_;
-    dialogs::Cdb cdb_;
-    editing::WellCommands wellCommands_;
-    imaging::FrmImagingDialogs imagingDialogs_;
-    MainCommands commands_;
-    CommandDispatch dispatch_;
+    services::Cdb cdb_;
+    commands::WellCommands wellCommands_;
+    FrmImagingDialogs imagingDialogs_;
+    commands::MainCommands commands_;
+    commands::CommandDispatch dispatch_;
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

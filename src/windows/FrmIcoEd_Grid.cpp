@@ -3,14 +3,14 @@
 #include <QPixmap>
 #include <algorithm>
 
-#include "windows/FrmIcoEd.h"
-#include "windows/FrmMouseButtons.h"
+#include "desktop/Pictures.h"
 #include "i18n/Captions.h"
 #include "platform/gdi/PixelArt.h"
-#include "desktop/Pictures.h"
 #include "resources/Cursors.h"
+#include "windows/FrmIcoEd.h"
+#include "windows/FrmMouseButtons.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 namespace {
 
@@ -21,7 +21,7 @@ QCursor ReadCursor(std::string_view art, int hotX, int hotY) {
     const gdi::Surface mask = gdi::ReadPixelArt(art, {{'.', gdi::kWhite}}, gdi::kBlack);
     const gdi::Surface color =
         gdi::ReadPixelArt(art, {{'k', gdi::kBlack}, {'w', gdi::kWhite}}, gdi::kBlack);
-    return QCursor(QPixmap::fromImage(qt::ToImage(mask, color)), hotX, hotY);
+    return QCursor(QPixmap::fromImage(desktop::ToImage(mask, color)), hotX, hotY);
 }
 
 QCursor ToCursor(GridCursor cursor) {
@@ -61,7 +61,7 @@ void FrmIcoEd::ConnectGrid() {
 }
 
 void FrmIcoEd::RepaintView(document::View view, gdi::Rect area) {
-    qt::SurfaceWidget* widget = view == document::View::Grid ? picMain_ : picIcon_;
+    widgets::SurfaceWidget* widget = view == document::View::Grid ? picMain_ : picIcon_;
     // While the editor is being built there is no widget yet.
     if (widget != nullptr) widget->Repaint(area);
 }
@@ -112,4 +112,4 @@ bool FrmIcoEd::MoveSelectionByKey(const QKeyEvent& event) {
     return true;
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

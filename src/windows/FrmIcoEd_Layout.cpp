@@ -4,13 +4,13 @@
 #include <QPainter>
 #include <array>
 
+#include "desktop/Text.h"
+#include "resources/WellPictures.h"
 #include "windows/FrmIcoEd.h"
 #include "windows/widgets/PictureIcon.h"
-#include "desktop/Text.h"
 #include "windows/widgets/WindowDesign.h"
-#include "resources/WellPictures.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 namespace {
 
@@ -59,27 +59,27 @@ void FrmIcoEd::LayOutControls() {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setFixedSize(kClientSize);
-    setFont(qt::FontOf(*this, kFontPixels));
+    setFont(widgets::FontOf(*this, kFontPixels));
 
     menuBar_ = new QMenuBar(this);
     menuBar_->setNativeMenuBar(false);
 
-    toolbar1_ = new qt::ToolBar(pictures_, kToolbarButton, this);
+    toolbar1_ = new widgets::ToolBar(pictures_, kToolbarButton, this);
     toolbar1_->move(kToolbar);
 
-    picMain_ = new qt::SurfaceWidget(editor_.Views().PicMain, this);
+    picMain_ = new widgets::SurfaceWidget(editor_.Views().PicMain, this);
     picMain_->move(kPicMain);
-    picIcon_ = new qt::SurfaceWidget(editor_.Views().PicIcon, this);
+    picIcon_ = new widgets::SurfaceWidget(editor_.Views().PicIcon, this);
     picIcon_->move(kPicIcon);
 
     label1_ = new QLabel(this);
     label1_->setObjectName("Label1");
     label1_->setGeometry(kLabel1);
-    label1_->setFont(qt::FontOf(*this, qt::kSmallFontPixels));
+    label1_->setFont(widgets::FontOf(*this, widgets::kSmallFontPixels));
     label1_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
 
-    statusBar_ = new qt::StatusBar(kPanelWidths, this);
-    statusBar_->setFont(qt::FontOf(*this, qt::kSmallFontPixels));
+    statusBar_ = new widgets::StatusBar(kPanelWidths, this);
+    statusBar_->setFont(widgets::FontOf(*this, widgets::kSmallFontPixels));
     statusBar_->setGeometry(kStatusBar);
 }
 
@@ -104,7 +104,7 @@ void FrmIcoEd::showEvent(QShowEvent* /*event*/) {
 }
 
 void FrmIcoEd::PlaceOnScreen() {
-    qt::PlaceOnScreen(*this, kWindowSize);
+    widgets::PlaceOnScreen(*this, kWindowSize);
 }
 
 void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
@@ -119,20 +119,20 @@ void FrmIcoEd::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void FrmIcoEd::PaintReadouts(QPainter& painter) {
-    painter.setFont(qt::FontOf(*this, qt::kSmallFontPixels));
+    painter.setFont(widgets::FontOf(*this, widgets::kSmallFontPixels));
     for (const Readout& readout : kReadouts) {
-        qt::PictureIcon(wellPictures_, readout.picture).paint(&painter, readout.pictogram);
+        widgets::PictureIcon(wellPictures_, readout.picture).paint(&painter, readout.pictogram);
         painter.drawText(readout.text, Qt::AlignLeft | Qt::AlignVCenter, readouts_[readout.panel]);
     }
 }
 
 void FrmIcoEd::PrintReadout(editing::StatusPanel panel, std::string_view text) {
     QString& printed = readouts_[panel];
-    if (printed == qt::ToText(text)) return;
-    printed = qt::ToText(text);
+    if (printed == desktop::ToText(text)) return;
+    printed = desktop::ToText(text);
     for (const Readout& readout : kReadouts) {
         if (readout.panel == panel) update(readout.text);
     }
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

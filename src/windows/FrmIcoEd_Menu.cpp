@@ -3,22 +3,22 @@
 #include <QKeyEvent>
 #include <QMenu>
 
-#include "windows/FrmIcoEd.h"
-#include "i18n/Language.h"
 #include "commands/ModLanguage.h"
 #include "commands/ToolbarTable.h"
 #include "desktop/Text.h"
+#include "i18n/Language.h"
+#include "windows/FrmIcoEd.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 namespace {
 
-using qt::ToText;
+using desktop::ToText;
 
 constexpr std::string_view kPopupRoot = "mnuEdit";
 
-void DisableMissing(std::span<const CommandRow> commands, controls::SmartMenuXP& menu) {
-    for (const CommandRow& command : commands) {
+void DisableMissing(std::span<const commands::CommandRow> commands, controls::SmartMenuXP& menu) {
+    for (const commands::CommandRow& command : commands) {
         if (command.run == nullptr) menu.SetEnabled(command.key, false);
     }
 }
@@ -27,8 +27,8 @@ void DisableMissing(std::span<const CommandRow> commands, controls::SmartMenuXP&
 
 void FrmIcoEd::BuildMenus() {
     auto& [bar, popup] = menus_;
-    i18n::BuildMenuBar(bar, popup);
-    i18n::ApplyMenuCaptions(i18n::UiLanguage(), bar, popup);
+    commands::BuildMenuBar(bar, popup);
+    commands::ApplyMenuCaptions(i18n::UiLanguage(), bar, popup);
     bar.onClick = [this](std::string_view key) {
         RunCommand([&] { dispatch_.SmartMenuXP1_Click(key); });
     };
@@ -39,7 +39,7 @@ void FrmIcoEd::BuildMenus() {
 }
 
 void FrmIcoEd::BuildToolbar() {
-    for (const i18n::ToolbarButton& button : i18n::ToolbarButtons())
+    for (const commands::ToolbarButton& button : commands::ToolbarButtons())
         toolbar1_->AddButton(button.key, button.picture);
     toolbar1_->onClick = [this](std::string_view key) {
         RunCommand([&] { dispatch_.Toolbar1_ButtonClick(key); });
@@ -49,14 +49,14 @@ void FrmIcoEd::BuildToolbar() {
 }
 
 void FrmIcoEd::DisableMissingCommands() {
-    DisableMissing(MenuBarCommands(), menus_.SmartMenuXP1);
-    DisableMissing(PopupCommands(), menus_.SmartMenuXP2);
-    for (const CommandRow& command : ToolbarCommands())
+    DisableMissing(commands::MenuBarCommands(), menus_.SmartMenuXP1);
+    DisableMissing(commands::PopupCommands(), menus_.SmartMenuXP2);
+    for (const commands::CommandRow& command : commands::ToolbarCommands())
         toolbar1_->SetEnabled(command.key, command.run != nullptr);
 }
 
 void FrmIcoEd::Toolbar1_MouseMove(int x) {
-    const auto buttons = i18n::ToolbarButtons();
+    const auto buttons = commands::ToolbarButtons();
     const auto index = static_cast<std::size_t>(x / toolbar1_->ButtonWidth()) % buttons.size();
     SetStatusPanel(editing::StatusPanel::Hint, buttons[index].status.Now());
 }
@@ -124,4 +124,4 @@ void FrmIcoEd::RefreshEditCommands() {
     commands_.mnuEdit_Click();
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -1,12 +1,12 @@
 #include <array>
 
+#include "i18n/Captions.h"
 #include "windows/FrmIcoEd.h"
 #include "windows/FrmMouseButtons.h"
-#include "i18n/Captions.h"
 #include "windows/widgets/PictureIcon.h"
 #include "windows/widgets/WindowDesign.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 namespace {
 
@@ -20,31 +20,31 @@ struct PaletteButton {
     // In the image list, as in the palette's menu.
     int picture = 0;
     i18n::Text hint;
-    void (MainCommands::*mouseUp)(){};
+    void (commands::MainCommands::*mouseUp)(){};
 };
 
 constexpr std::array kButtons{
     PaletteButton{"ImgLoadPalette", QRect(510, 157, 18, 18), 22, i18n::kLoadPalette,
-                  &MainCommands::ImgLoadPalette_Click},
+                  &commands::MainCommands::ImgLoadPalette_Click},
     PaletteButton{"ImgSavePalette", QRect(530, 157, 18, 18), 23, i18n::kSavePalette,
-                  &MainCommands::ImgSavePalette_Click},
+                  &commands::MainCommands::ImgSavePalette_Click},
 };
 
 }  // namespace
 
 void FrmIcoEd::LayOutPalette() {
-    picPal_ = new qt::SurfaceWidget(editor_.ColorPalette().PicPal(), this);
+    picPal_ = new widgets::SurfaceWidget(editor_.ColorPalette().PicPal(), this);
     picPal_->setObjectName("PicPal");
     picPal_->move(kPicPal);
     chkPal_ = new QCheckBox(this);
     chkPal_->setObjectName("ChkPal");
-    chkPal_->setFont(qt::FontOf(*this, qt::kSmallFontPixels));
+    chkPal_->setFont(widgets::FontOf(*this, widgets::kSmallFontPixels));
     chkPal_->setGeometry(kChkPal);
     // A click leaves the keyboard with the window, whose keys move the selection.
     chkPal_->setFocusPolicy(Qt::TabFocus);
     for (const PaletteButton& button : kButtons) {
-        AddBox(button.name, button.place, qt::PictureBox::Edge::Button,
-               qt::PictureIcon(pictures_, button.picture), button.hint);
+        AddBox(button.name, button.place, widgets::PictureBox::Edge::Button,
+               widgets::PictureIcon(pictures_, button.picture), button.hint);
     }
 }
 
@@ -62,7 +62,7 @@ void FrmIcoEd::ConnectPalette() {
     connect(chkPal_, &QCheckBox::toggled, this,
             [this](bool ticked) { editor_.ColorPalette().SetChkPal(ticked); });
     for (const PaletteButton& button : kButtons) {
-        auto* box = findChild<qt::PictureBox*>(button.name);
+        auto* box = findChild<widgets::PictureBox*>(button.name);
         box->onMouseUp = [this, &button](Qt::MouseButton pressed) {
             if (pressed == Qt::LeftButton) RunCommand([&] { (commands_.*button.mouseUp)(); });
         };
@@ -80,4 +80,4 @@ void FrmIcoEd::PaletteChanged() {
     menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts1", palette.Kind() == PaletteKind::Random);
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -5,22 +5,22 @@
 #include <QToolTip>
 #include <array>
 
-#include "windows/FrmIcoEd.h"
-#include "windows/FrmMouseButtons.h"
-#include "i18n/Captions.h"
-#include "windows/widgets/PictureBox.h"
-#include "windows/widgets/PictureIcon.h"
 #include "desktop/Pictures.h"
 #include "desktop/Text.h"
+#include "i18n/Captions.h"
 #include "resources/WellPictures.h"
+#include "windows/FrmIcoEd.h"
+#include "windows/FrmMouseButtons.h"
+#include "windows/widgets/PictureBox.h"
+#include "windows/widgets/PictureIcon.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 namespace {
 
+using commands::WellCommands;
 using editing::Button;
-using editing::WellCommands;
-using qt::PictureBox;
+using widgets::PictureBox;
 
 constexpr QPoint kPicTools(458, 69);
 constexpr QRect kPicForeColor(383, 158, 22, 16);
@@ -59,11 +59,11 @@ constexpr std::array kWellControls{
 }  // namespace
 
 void FrmIcoEd::LayOutTools() {
-    picTools_ = new qt::SurfaceWidget(editor_.Tools().PicTools(), this);
+    picTools_ = new widgets::SurfaceWidget(editor_.Tools().PicTools(), this);
     picTools_->move(kPicTools);
     for (const WellControl& control : kWellControls) {
         AddBox(control.name, control.place, control.edge,
-               qt::PictureIcon(wellPictures_, control.picture), control.hint);
+               widgets::PictureIcon(wellPictures_, control.picture), control.hint);
     }
 }
 
@@ -101,7 +101,7 @@ void FrmIcoEd::RepaintTools() {
 }
 
 void FrmIcoEd::SetToolTipOfTools(std::string_view text) {
-    const QString toolTip = qt::ToText(text);
+    const QString toolTip = desktop::ToText(text);
     if (toolTip == picTools_->toolTip()) return;
     picTools_->setToolTip(toolTip);
     // What is shown belongs to another tool.
@@ -113,9 +113,10 @@ void FrmIcoEd::RepaintWells() {
         auto* box = findChild<PictureBox*>(name);
         if (box == nullptr) return;
         if (editor_.Wells().IsTransparent(button)) {
-            box->Show({}, qt::PictureIcon(wellPictures_, resources::kTransparentMarkerPicture));
+            box->Show({},
+                      widgets::PictureIcon(wellPictures_, resources::kTransparentMarkerPicture));
         } else {
-            box->Show(qt::ToColor(editor_.Wells().PenColor(button)), {});
+            box->Show(desktop::ToColor(editor_.Wells().PenColor(button)), {});
         }
     };
     show("PicForeColor", Button::Left);
@@ -126,7 +127,7 @@ void FrmIcoEd::RepaintWells() {
 
 void FrmIcoEd::PaintIndicators(QPainter& painter) {
     const auto paint = [&](const QRect& place, Button button) {
-        painter.fillRect(place, qt::ToColor(editor_.Wells().PenColor(button)));
+        painter.fillRect(place, desktop::ToColor(editor_.Wells().PenColor(button)));
         // Around it, so that a box in the window's colour is seen too.
         qDrawShadePanel(&painter, place.adjusted(-1, -1, 1, 1), palette(), true, 1);
     };
@@ -138,4 +139,4 @@ void FrmIcoEd::Beep() {
     QApplication::beep();
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -4,9 +4,10 @@
 #include "windows/FrmShades.h"
 #include "windows/frmGamma.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
-bool FrmImagingDialogs::AdjustColors(ColorAdjustment& colors, const gdi::Surface& preview) {
+bool FrmImagingDialogs::AdjustColors(imaging::ColorAdjustment& colors,
+                                     const gdi::Surface& preview) {
     return FrmColAdj(&owner_, colors, preview).exec() == QDialog::Accepted;
 }
 
@@ -18,4 +19,4 @@ std::optional<gdi::Surface> FrmImagingDialogs::AskGradient() {
     return FrmShades(&owner_).Ask();
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

@@ -4,14 +4,14 @@
 
 #include "commands/ImagingDialogs.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
 // The dialogs on the desktop, above the window that owns them.
-class FrmImagingDialogs : public ImagingDialogs {
+class FrmImagingDialogs : public commands::ImagingDialogs {
   public:
     explicit FrmImagingDialogs(QWidget& owner) : owner_(owner) {}
 
-    bool AdjustColors(ColorAdjustment& colors, const gdi::Surface& preview) override;
+    bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override;
     std::optional<int> AskGamma() override;
     std::optional<gdi::Surface> AskGradient() override;
 
@@ -19,4 +19,4 @@ class FrmImagingDialogs : public ImagingDialogs {
     QWidget& owner_;
 };
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

@@ -4,7 +4,7 @@
 
 #include "editing/Mouse.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 inline editing::Button ToButton(Qt::MouseButton button) {
     if (button == Qt::LeftButton) return editing::Button::Left;
@@ -15,4 +15,4 @@ inline editing::HeldButtons ToHeldButtons(Qt::MouseButtons held) {
     return {held.testFlag(Qt::LeftButton), held.testFlag(Qt::RightButton)};
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

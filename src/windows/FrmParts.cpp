@@ -6,10 +6,10 @@
 #include "desktop/Text.h"
 #include "windows/widgets/WindowDesign.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
 QVBoxLayout* NewRows(QDialog& dialog, const i18n::Text& title) {
-    qt::DressDialog(dialog, qt::ToText(title.Now()));
+    widgets::DressDialog(dialog, desktop::ToText(title.Now()));
     auto* rows = new QVBoxLayout(&dialog);
     rows->setContentsMargins(kDialogMargin, kDialogMargin, kDialogMargin, kDialogMargin);
     rows->setSpacing(kBetweenBlocks);
@@ -18,11 +18,11 @@ QVBoxLayout* NewRows(QDialog& dialog, const i18n::Text& title) {
 }
 
 QHBoxLayout* NewButtons(QDialog& dialog, const i18n::Text& ok, const i18n::Text& cancel) {
-    auto* cmdOk = new QPushButton(qt::ToText(ok.Now()));
+    auto* cmdOk = new QPushButton(desktop::ToText(ok.Now()));
     cmdOk->setObjectName("cmdOK");
     cmdOk->setDefault(true);
     QObject::connect(cmdOk, &QPushButton::clicked, &dialog, &QDialog::accept);
-    auto* cmdCancel = new QPushButton(qt::ToText(cancel.Now()));
+    auto* cmdCancel = new QPushButton(desktop::ToText(cancel.Now()));
     cmdCancel->setObjectName("cmdCancel");
     QObject::connect(cmdCancel, &QPushButton::clicked, &dialog, &QDialog::reject);
     auto* row = new QHBoxLayout;
@@ -32,7 +32,7 @@ QHBoxLayout* NewButtons(QDialog& dialog, const i18n::Text& ok, const i18n::Text&
     return row;
 }
 
-QWidget* NewFrame(qt::SurfaceWidget* picture) {
+QWidget* NewFrame(widgets::SurfaceWidget* picture) {
     auto* frame = new QFrame;
     frame->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     auto* inside = new QVBoxLayout(frame);
@@ -44,7 +44,7 @@ QWidget* NewFrame(qt::SurfaceWidget* picture) {
 
 void PlaceDialog(QDialog& dialog) {
     dialog.layout()->activate();
-    qt::PlaceOnScreen(dialog, dialog.size(), 2);
+    widgets::PlaceOnScreen(dialog, dialog.size(), 2);
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

@@ -6,7 +6,7 @@
 #include "i18n/Language.h"
 #include "windows/widgets/SurfaceWidget.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
 inline constexpr int kDialogMargin = 14;
 inline constexpr int kBetweenBlocks = 14;
@@ -18,9 +18,9 @@ QVBoxLayout* NewRows(QDialog& dialog, const i18n::Text& title);
 QHBoxLayout* NewButtons(QDialog& dialog, const i18n::Text& ok, const i18n::Text& cancel);
 
 // A picture in a sunken frame.
-QWidget* NewFrame(qt::SurfaceWidget* picture);
+QWidget* NewFrame(widgets::SurfaceWidget* picture);
 
 // The dialog's controls are complete: gives it its size and its place on the screen.
 void PlaceDialog(QDialog& dialog);
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

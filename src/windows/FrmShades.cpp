@@ -3,19 +3,19 @@
 #include <QFrame>
 #include <QIcon>
 
-#include "i18n/Captions.h"
-#include "windows/FrmParts.h"
-#include "imaging/filters/Levels.h"
 #include "desktop/Pictures.h"
 #include "desktop/Text.h"
+#include "i18n/Captions.h"
+#include "imaging/filters/Levels.h"
+#include "windows/FrmParts.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
 namespace {
 
+using desktop::ToText;
 using filters::kMaxLevel;
 using filters::Level;
-using qt::ToText;
 
 constexpr int kPageStep = 5;
 constexpr int kBarWidth = 128;
@@ -35,8 +35,8 @@ std::optional<int> LevelOf(const QString& text) {
     return fits && number <= kMaxLevel ? std::optional(number) : std::nullopt;
 }
 
-qt::ValueBar* NewLevelBar(std::size_t index, int value) {
-    auto* bar = new qt::ValueBar(Qt::Horizontal);
+widgets::ValueBar* NewLevelBar(std::size_t index, int value) {
+    auto* bar = new widgets::ValueBar(Qt::Horizontal);
     bar->setObjectName(QStringLiteral("Hsb%1").arg(index));
     bar->setRange(0, kMaxLevel);
     bar->setPageStep(kPageStep);
@@ -45,8 +45,8 @@ qt::ValueBar* NewLevelBar(std::size_t index, int value) {
     return bar;
 }
 
-qt::DigitBox* NewLevelBox(std::size_t index, int value) {
-    auto* box = new qt::DigitBox(qt::DigitBox::Backspace::Taken);
+widgets::DigitBox* NewLevelBox(std::size_t index, int value) {
+    auto* box = new widgets::DigitBox(widgets::DigitBox::Backspace::Taken);
     box->setObjectName(QStringLiteral("TxtColor%1").arg(index));
     box->setText(QString::number(value));
     box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + kBoxEdges);
@@ -57,9 +57,9 @@ qt::DigitBox* NewLevelBox(std::size_t index, int value) {
 
 FrmShades::FrmShades(QWidget* owner)
     : QDialog(owner),
-      picture_(DrawShade(shades_)),
-      PicSml_(new qt::SurfaceWidget(picture_, this)),
-      VsbDegrees_(new qt::ValueBar(Qt::Vertical)),
+      picture_(imaging::DrawShade(shades_)),
+      PicSml_(new widgets::SurfaceWidget(picture_, this)),
+      VsbDegrees_(new widgets::ValueBar(Qt::Vertical)),
       LblDegrees_(new QLabel) {
     PicSml_->setObjectName("PicSml");
     auto* columns = new QHBoxLayout;
@@ -80,7 +80,7 @@ QWidget* FrmShades::NewColorGroup(End end) {
     auto* grid = new QGridLayout(group);
     grid->setContentsMargins(kGroupMargin, kGroupMargin, kGroupMargin, kGroupMargin);
     grid->setSpacing(kBetweenControls);
-    auto* swatch = new qt::PictureBox(qt::PictureBox::Edge::Sunken, group);
+    auto* swatch = new widgets::PictureBox(widgets::PictureBox::Edge::Sunken, group);
     swatch->setFixedHeight(kSwatchHeight);
     swatch_[static_cast<std::size_t>(end)] = swatch;
     grid->addWidget(swatch, 0, 0, 1, 3);
@@ -113,7 +113,7 @@ QLayout* FrmShades::NewDirection() {
     LblDegrees_->setObjectName("LblDegrees");
     LblDegrees_->setAlignment(Qt::AlignCenter);
     VsbDegrees_->setObjectName("VsbDegrees");
-    VsbDegrees_->setRange(0, kDirections);
+    VsbDegrees_->setRange(0, imaging::kDirections);
     VsbDegrees_->setPageStep(1);
     connect(VsbDegrees_, &QScrollBar::valueChanged, this, &FrmShades::ShowShade);
     auto* caption = new QLabel(ToText(i18n::kDegrees.Now()));
@@ -144,7 +144,7 @@ void FrmShades::Hsb_Change(std::size_t index, int value) {
 }
 
 void FrmShades::TxtColor_Change(std::size_t index) {
-    qt::DigitBox* box = TxtColor_[index];
+    widgets::DigitBox* box = TxtColor_[index];
     if (const auto level = LevelOf(box->text())) return Hsb_[index]->setValue(*level);
     constexpr int kDigitsKept = 2;
     box->setText(box->text().left(kDigitsKept));
@@ -159,12 +159,13 @@ gdi::COLORREF FrmShades::ColorAt(End end) const {
 }
 
 void FrmShades::ShowShade() {
-    shades_ = {ColorAt(End::Start), ColorAt(End::End), VsbDegrees_->value() * kDegreesPerStep};
+    shades_ = {ColorAt(End::Start), ColorAt(End::End),
+               VsbDegrees_->value() * imaging::kDegreesPerStep};
     LblDegrees_->setText(QString::number(shades_.degrees));
-    swatch_[0]->Show(qt::ToColor(shades_.start), {});
-    swatch_[1]->Show(qt::ToColor(shades_.end), {});
-    picture_ = DrawShade(shades_);
+    swatch_[0]->Show(desktop::ToColor(shades_.start), {});
+    swatch_[1]->Show(desktop::ToColor(shades_.end), {});
+    picture_ = imaging::DrawShade(shades_);
     PicSml_->update();
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

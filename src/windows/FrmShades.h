@@ -11,7 +11,7 @@
 #include "windows/widgets/SurfaceWidget.h"
 #include "windows/widgets/ValueBar.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
 // Lets the user choose the two colours and the direction of a gradient, and shows it. Modal.
 class FrmShades : public QDialog {
@@ -37,15 +37,15 @@ class FrmShades : public QDialog {
     void TxtColor_Change(std::size_t index);
     void ShowShade();
 
-    Shades shades_;
+    imaging::Shades shades_;
     gdi::Surface picture_;
-    qt::SurfaceWidget* PicSml_;
-    qt::ValueBar* VsbDegrees_;
+    widgets::SurfaceWidget* PicSml_;
+    widgets::ValueBar* VsbDegrees_;
     QLabel* LblDegrees_;
-    std::array<qt::ValueBar*, kLevels> Hsb_{};
-    std::array<qt::DigitBox*, kLevels> TxtColor_{};
+    std::array<widgets::ValueBar*, kLevels> Hsb_{};
+    std::array<widgets::DigitBox*, kLevels> TxtColor_{};
     // In the order of End.
-    std::array<qt::PictureBox*, 2> swatch_{};
+    std::array<widgets::PictureBox*, 2> swatch_{};
 };
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

@@ -7,18 +7,18 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "document/ApplicationIcon.h"
-#include "i18n/Captions.h"
-#include "i18n/Messages.h"
 #include "desktop/CloseKey.h"
 #include "desktop/Pictures.h"
 #include "desktop/Text.h"
+#include "document/ApplicationIcon.h"
+#include "i18n/Captions.h"
+#include "i18n/Messages.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 namespace {
 
-using qt::ToText;
+using desktop::ToText;
 
 constexpr int kMargin = 20;
 constexpr int kBetweenBlocks = 18;
@@ -42,8 +42,8 @@ QLabel* NewHeading(const QString& text) {
 }
 
 QLabel* NewPicture() {
-    const document::IconDocument icon = ApplicationIcon();
-    const QImage picture = qt::ToImage(icon.PicMask, icon.PicImage);
+    const document::IconDocument icon = document::ApplicationIcon();
+    const QImage picture = desktop::ToImage(icon.PicMask, icon.PicImage);
     auto* label = new QLabel;
     label->setPixmap(QPixmap::fromImage(picture.scaled(picture.size() * kPictureTimes)));
     label->setAlignment(Qt::AlignTop);
@@ -63,7 +63,7 @@ frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
     rows->setSpacing(kBetweenBlocks);
     rows->addLayout(facts);
     rows->addWidget(NewButtons());
-    qt::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);
+    desktop::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);
     rows->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -92,4 +92,4 @@ QWidget* frmAbout::NewButtons() {
     return buttons;
 }
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

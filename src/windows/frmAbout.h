@@ -2,7 +2,7 @@
 
 #include <QDialog>
 
-namespace kestrel::app {
+namespace kestrel::windows {
 
 // What the program is, which version, and under which licence. Modal; closes with OK or Escape.
 class frmAbout : public QDialog {
@@ -14,4 +14,4 @@ class frmAbout : public QDialog {
     QWidget* NewButtons();
 };
 
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -2,11 +2,11 @@
 
 #include <QLabel>
 
+#include "desktop/Text.h"
 #include "i18n/Captions.h"
 #include "windows/FrmParts.h"
-#include "desktop/Text.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
 namespace {
 
@@ -18,11 +18,11 @@ constexpr int kRowWidth = 340;
 }  // namespace
 
 frmGamma::frmGamma(QWidget* owner)
-    : QDialog(owner), txtGamma_(new qt::DigitBox(qt::DigitBox::Backspace::Discarded)) {
+    : QDialog(owner), txtGamma_(new widgets::DigitBox(widgets::DigitBox::Backspace::Discarded)) {
     txtGamma_->setObjectName("txtGamma");
     txtGamma_->setMaxLength(kDigits);
     txtGamma_->setFixedWidth(kBoxWidth);
-    auto* lblGamma = new QLabel(qt::ToText(i18n::kGammaPrompt.Now()));
+    auto* lblGamma = new QLabel(desktop::ToText(i18n::kGammaPrompt.Now()));
     lblGamma->setObjectName("lblGamma");
     lblGamma->setBuddy(txtGamma_);
     auto* question = new QHBoxLayout;
@@ -40,4 +40,4 @@ std::optional<int> frmGamma::Ask() {
     return txtGamma_->text().toInt();
 }
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

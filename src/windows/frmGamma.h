@@ -5,7 +5,7 @@
 
 #include "windows/widgets/DigitBox.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 
 // Asks for a gamma factor. Modal.
 class frmGamma : public QDialog {
@@ -16,7 +16,7 @@ class frmGamma : public QDialog {
     std::optional<int> Ask();
 
   private:
-    qt::DigitBox* txtGamma_;
+    widgets::DigitBox* txtGamma_;
 };
 
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

@@ -31,7 +31,7 @@ TEST_F(StartupTest, ChoosesTheLanguageByLocaleUnlessAnotherWasChosen) {
         EXPECT_EQ(i18n::UiLanguage(), language);
     }
     EXPECT_TRUE(given_.boxes.shown.empty());
-    SaveLanguage(given_.settings, i18n::kChinese);
+    settings::SaveLanguage(given_.settings, i18n::kChinese);
     EXPECT_TRUE(PrepareStart(facts_, services_));
     EXPECT_EQ(i18n::UiLanguage(), "CHS");
     facts_.anotherInstanceRuns = true;
@@ -58,7 +58,7 @@ TEST_F(StartupTest, FailedChecksEndTheStartWithTheirMessage) {
         EXPECT_FALSE(PrepareStart(facts, services_));
         ASSERT_EQ(given_.boxes.shown.size(), 1U) << box;
         const auto& shown = given_.boxes.shown[0];
-        EXPECT_EQ(shown.icon, dialogs::BoxIcon::Critical);
+        EXPECT_EQ(shown.icon, services::BoxIcon::Critical);
         EXPECT_EQ(shown.title + "|" + shown.text, box);
     }
     EXPECT_TRUE(given_.registry.values.empty());

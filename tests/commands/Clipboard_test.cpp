@@ -4,7 +4,7 @@
 #include "tests/support/EditorTest.h"
 #include "tests/support/Recorders.h"
 
-namespace kestrel::editing {
+namespace kestrel::commands {
 namespace {
 
 using gdi::COLORREF;
@@ -13,26 +13,26 @@ constexpr COLORREF kOpaque = 0xFF000000;
 // Sizes by hand; that of 33 x 64 by another program that rounds every step to 32 bits.
 TEST(PasteFit, LargePicturesAreShrunkToTheNearestPixelsAboveLeft) {
     const struct {
-        PictureSize picture;
-        PasteFit fit{};
-        PictureSize size;
+        imaging::PictureSize picture;
+        imaging::PasteFit fit{};
+        imaging::PictureSize size;
         // Target pixel, and the source pixel in its place.
         test::At target, source;
     } cases[] = {
-        {{64, 32}, PasteFit::KeepAspect, {32, 16}, {31, 15}, {62, 30}},
-        {{64, 32}, PasteFit::Shrink, {32, 32}, {5, 31}, {10, 31}},
-        {{33, 10}, PasteFit::KeepAspect, {32, 10}, {31, 9}, {31, 9}},
-        {{33, 10}, PasteFit::Shrink, {32, 32}, {16, 31}, {16, 9}},
-        {{1, 4000}, PasteFit::KeepAspect, {1, 32}, {0, 31}, {0, 3875}},
-        {{20000, 32}, PasteFit::KeepAspect, {32, 1}, {31, 0}, {19375, 0}},
-        {{100, 99}, PasteFit::KeepAspect, {32, 32}, {9, 11}, {28, 34}},
-        {{100, 99}, PasteFit::Shrink, {32, 32}, {31, 31}, {96, 95}},
-        {{33, 64}, PasteFit::KeepAspect, {17, 32}, {16, 31}, {31, 62}},
+        {{64, 32}, imaging::PasteFit::KeepAspect, {32, 16}, {31, 15}, {62, 30}},
+        {{64, 32}, imaging::PasteFit::Shrink, {32, 32}, {5, 31}, {10, 31}},
+        {{33, 10}, imaging::PasteFit::KeepAspect, {32, 10}, {31, 9}, {31, 9}},
+        {{33, 10}, imaging::PasteFit::Shrink, {32, 32}, {16, 31}, {16, 9}},
+        {{1, 4000}, imaging::PasteFit::KeepAspect, {1, 32}, {0, 31}, {0, 3875}},
+        {{20000, 32}, imaging::PasteFit::KeepAspect, {32, 1}, {31, 0}, {19375, 0}},
+        {{100, 99}, imaging::PasteFit::KeepAspect, {32, 32}, {9, 11}, {28, 34}},
+        {{100, 99}, imaging::PasteFit::Shrink, {32, 32}, {31, 31}, {96, 95}},
+        {{33, 64}, imaging::PasteFit::KeepAspect, {17, 32}, {16, 31}, {31, 62}},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(testing::Message() << c.picture.width << " x " << c.picture.height);
-        EXPECT_FALSE(FitsIcon(c.picture));
-        ASSERT_EQ(FittedSize(c.picture, c.fit), c.size);
+        EXPECT_FALSE(imaging::FitsIcon(c.picture));
+        ASSERT_EQ(imaging::FittedSize(c.picture, c.fit), c.size);
         // Each pixel bears its own number.
         gdi::Surface picture(c.picture.width, c.picture.height);
         COLORREF number = kOpaque;
@@ -40,11 +40,12 @@ TEST(PasteFit, LargePicturesAreShrunkToTheNearestPixelsAboveLeft) {
             for (COLORREF& pixel : picture.Row(y))
                 pixel = number++;
         }
-        const PastedPlanes planes = PlanesOf(picture, c.size, PasteMode::Transparent);
+        const imaging::PastedPlanes planes =
+            imaging::PlanesOf(picture, c.size, imaging::PasteMode::Transparent);
         EXPECT_EQ(planes.image.GetPixel(c.target.x, c.target.y),
                   static_cast<COLORREF>(c.source.y * c.picture.width + c.source.x));
     }
-    EXPECT_TRUE(FitsIcon({32, 32}));
+    EXPECT_TRUE(imaging::FitsIcon({32, 32}));
 }
 
 TEST(PasteFit, WhiteAndHalfTransparentPixelsAreSeeThroughUnlessOpaque) {
@@ -61,10 +62,12 @@ TEST(PasteFit, WhiteAndHalfTransparentPixelsAreSeeThroughUnlessOpaque) {
         SCOPED_TRACE(testing::Message() << std::hex << c.pixel);
         gdi::Surface picture(1, 1);
         picture.Row(0)[0] = c.pixel;
-        const PastedPlanes planes = PlanesOf(picture, {1, 1}, PasteMode::Transparent);
+        const imaging::PastedPlanes planes =
+            imaging::PlanesOf(picture, {1, 1}, imaging::PasteMode::Transparent);
         EXPECT_EQ(planes.mask.GetPixel(0, 0), c.transparent ? gdi::kWhite : gdi::kBlack);
         EXPECT_EQ(planes.image.GetPixel(0, 0), c.image);
-        const PastedPlanes opaque = PlanesOf(picture, {1, 1}, PasteMode::Opaque);
+        const imaging::PastedPlanes opaque =
+            imaging::PlanesOf(picture, {1, 1}, imaging::PasteMode::Opaque);
         EXPECT_EQ(opaque.mask.GetPixel(0, 0), gdi::kBlack);
         EXPECT_EQ(opaque.image.GetPixel(0, 0), c.opaqueImage);
     }
@@ -82,18 +85,19 @@ TEST_F(ClipboardTest, CutAndPasteMoveToTheTopLeftCorner) {
     Paint({11, 10}, gdi::kWhite);
     icon_.PicImage.SetPixel(12, 11, 0x123456);
     editor_.History().PushUndoSnapshot();
-    editor_.Tools().SelectTool(ToolId::Selection);
-    Stroke(Button::Left, {{100, 100}, {130, 120}});
+    editor_.Tools().SelectTool(editing::ToolId::Selection);
+    Stroke(editing::Button::Left, {{100, 100}, {130, 120}});
     commands.Cut();
     EXPECT_EQ(OpaquePixels(), 0);
     EXPECT_EQ(editor_.History().UndoCount(), 3U);
     EXPECT_EQ(clipboard.image->Row(1)[2], 0xEDCBA9U) << "inverted white";
-    editor_.Tools().SelectTool(ToolId::Pencil);
-    for (const PasteMode mode : {PasteMode::Transparent, PasteMode::Opaque}) {
+    editor_.Tools().SelectTool(editing::ToolId::Pencil);
+    for (const imaging::PasteMode mode :
+         {imaging::PasteMode::Transparent, imaging::PasteMode::Opaque}) {
         icon_.Modified = false;
         ASSERT_TRUE(commands.Paste(mode));
-        EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::Selection);
-        EXPECT_EQ(editor_.Selected().Marquee(), (Corners{0, 0, 30, 20}));
+        EXPECT_EQ(editor_.Tools().CurrentTool(), editing::ToolId::Selection);
+        EXPECT_EQ(editor_.Selected().Marquee(), (editing::Corners{0, 0, 30, 20}));
         EXPECT_TRUE(icon_.Modified);
     }
     EXPECT_EQ(editor_.History().UndoCount(), 4U) << "the first was put down";
@@ -104,4 +108,4 @@ TEST_F(ClipboardTest, CutAndPasteMoveToTheTopLeftCorner) {
 }
 
 }  // namespace
-}  // namespace kestrel::editing
+}  // namespace kestrel::commands

@@ -8,7 +8,7 @@
 #include "imaging/filters/FilterTable.h"
 #include "tests/support/Recorders.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 namespace {
 
 // Writes down the handlers that are called, with their argument.
@@ -56,7 +56,7 @@ TEST(CommandDispatch, EveryKeyCallsItsHandlerAlone) {
         }
         return calls;
     };
-    EXPECT_EQ(callsOf(i18n::MenuBarRows(), &CommandDispatch::SmartMenuXP1_Click),
+    EXPECT_EQ(callsOf(MenuBarRows(), &CommandDispatch::SmartMenuXP1_Click),
               "mnuNew New, mnuOpen Open, mnuRecentFile1 Recent1, mnuRecentFile2 Recent2, "
               "mnuRecentFile3 Recent3, mnuRecentFile4 Recent4, mnuSave Save, mnuSaveAs SaveAs, "
               "mnuExit Exit, mnuEditOpts0 Edit0, mnuEditOpts1 Edit1, mnuEditOpts3 Edit3, "
@@ -71,20 +71,20 @@ TEST(CommandDispatch, EveryKeyCallsItsHandlerAlone) {
               "mnuRotateOpts3 Rotate3, mnuRotateOpts4 Rotate4, mnuLanguageOpts0 Language0, "
               "mnuLanguageOpts1 Language1, "
               "mnuHomePage HomePage, mnuHelp2 Help, mnuAbout About, ");
-    EXPECT_EQ(callsOf(i18n::PopupMenuRows(), &CommandDispatch::SmartMenuXP2_Click),
+    EXPECT_EQ(callsOf(PopupMenuRows(), &CommandDispatch::SmartMenuXP2_Click),
               "mnuPopup2Opts0 Edit3, mnuPopup2Opts1 Edit4, mnuPopup2Opts2 Edit5, "
               "mnuPopup2Opts3 Edit7, mnuPopup2Opts4 Edit9, mnuRotate2Opts0 Rotate0, "
               "mnuRotate2Opts1 Rotate1, mnuFlip2Opts0 Rotate3, mnuFlip2Opts1 Rotate4, ");
     // The filters, in the order of the menu.
     std::vector<std::string> filters;
-    for (const auto& item : i18n::MenuBarRows())
+    for (const auto& item : MenuBarRows())
         if (filters::FindFilter(item.key) != nullptr) filters.emplace_back(item.key);
     EXPECT_EQ(handlers.filters, filters);
     EXPECT_EQ(filters.size(), filters::Filters().size());
-    EXPECT_EQ(callsOf(i18n::ToolbarButtons(), &CommandDispatch::Toolbar1_ButtonClick),
+    EXPECT_EQ(callsOf(ToolbarButtons(), &CommandDispatch::Toolbar1_ButtonClick),
               "New New, Open Open, Save Save, Undo Edit0, Redo Edit1, Cut Edit3, Copy Edit4, "
               "Paste Edit5, Delete Edit7, Help Help, ");
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

@@ -9,12 +9,12 @@
 #include "platform/system/DiskFiles.h"
 #include "tests/support/Services.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 namespace {
 
-using dialogs::Answer;
-using dialogs::BoxButtons;
-using dialogs::BoxIcon;
+using services::Answer;
+using services::BoxButtons;
+using services::BoxIcon;
 
 class DocumentCommandsTest : public testing::Test {
   protected:
@@ -55,7 +55,7 @@ class DocumentCommandsTest : public testing::Test {
     ModRecent recent_{menu_, given_.registry, given_.files, given_.boxes, 1033};
     editing::Editor editor_{window_, 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
-    dialogs::Cdb cdb_{given_.desktop, window_};
+    services::Cdb cdb_{given_.desktop, window_};
     DocumentCommands commands_{editor_, window_, recent_, cdb_, given_.boxes, given_.files};
 };
 
@@ -77,7 +77,7 @@ TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
     EXPECT_FALSE(icon_.Modified);
     EXPECT_FALSE(window_.gridEnabled) << "until the timer's tick";
     EXPECT_TRUE(window_.tmrStarted);
-    const dialogs::FileRecord& asked = given_.desktop.opens.at(0);
+    const services::FileRecord& asked = given_.desktop.opens.at(0);
     EXPECT_EQ(asked.title, "KestrelIconEditor - Open");
     EXPECT_STREQ(asked.filter.c_str(), "Icon Files (*.ico)");
     EXPECT_EQ(asked.flags, 0x1004U);
@@ -188,4 +188,4 @@ TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

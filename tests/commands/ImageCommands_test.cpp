@@ -6,7 +6,7 @@
 #include "commands/TransformCommands.h"
 #include "tests/support/EditorTest.h"
 
-namespace kestrel::imaging {
+namespace kestrel::commands {
 namespace {
 
 using editing::Button;
@@ -15,7 +15,7 @@ using test::At;
 // A user who answers what a test says; without an answer the dialog is cancelled.
 class ScriptedImagingDialogs : public ImagingDialogs {
   public:
-    bool AdjustColors(ColorAdjustment& colors, const gdi::Surface& preview) override {
+    bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override {
         shown = preview;
         if (adjust) adjust(colors);
         return adjust && accepts;
@@ -24,13 +24,13 @@ class ScriptedImagingDialogs : public ImagingDialogs {
     std::optional<gdi::Surface> AskGradient() override { return gradient; }
 
     gdi::Surface shown{0, 0};
-    std::function<void(ColorAdjustment& colors)> adjust;
+    std::function<void(imaging::ColorAdjustment& colors)> adjust;
     bool accepts = true;
     std::optional<int> gamma;
     std::optional<gdi::Surface> gradient;
 };
 
-class EventsOfTest : public desktop::MessageLoop {
+class EventsOfTest : public services::MessageLoop {
   public:
     void DoEvents() override {
         if (const auto now = std::exchange(onEvents, nullptr)) now();
@@ -194,9 +194,9 @@ TEST_F(ImageCommandsTest, GammaIsAskedFor) {
 
 TEST_F(ImageCommandsTest, ColorsAreAdjustedOnThePutDownIcon) {
     Put(State::Floating);
-    dialogs_.adjust = [](ColorAdjustment& colors) {
-        colors.Change(AdjustmentBar::Red, 100);
-        colors.Change(AdjustmentBar::Green, -3);
+    dialogs_.adjust = [](imaging::ColorAdjustment& colors) {
+        colors.Change(imaging::AdjustmentBar::Red, 100);
+        colors.Change(imaging::AdjustmentBar::Green, -3);
     };
     dialogs_.accepts = false;
     images_.mnuImageOpts_Click(0);
@@ -232,4 +232,4 @@ TEST_F(ImageCommandsTest, AGradientAndAButtonReplaceTheWholeIcon) {
 }
 
 }  // namespace
-}  // namespace kestrel::imaging
+}  // namespace kestrel::commands

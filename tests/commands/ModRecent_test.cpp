@@ -6,7 +6,7 @@
 #include "platform/system/CodePage.h"
 #include "tests/support/Services.h"
 
-namespace kestrel::app {
+namespace kestrel::commands {
 namespace {
 
 using Paths = std::vector<std::string>;
@@ -14,7 +14,7 @@ using Values = test::MemoryRegistry::Values;
 
 class ModRecentTest : public testing::Test {
   protected:
-    ModRecentTest() { i18n::BuildMenuBar(menu_, popup_); }
+    ModRecentTest() { BuildMenuBar(menu_, popup_); }
     // A list of the next start, with what the one before left in the registry.
     ModRecent NewList(std::uint32_t lcid = 1033) {
         ModRecent list(menu_, given_.registry, given_.files, given_.boxes, lcid);
@@ -94,4 +94,4 @@ TEST_F(ModRecentTest, CaptionsArePaddedForWideCharacters) {
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::commands

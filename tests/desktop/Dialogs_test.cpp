@@ -11,18 +11,18 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 
-#include "i18n/DesktopTexts.h"
-#include "i18n/Language.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/TableTranslator.h"
+#include "i18n/DesktopTexts.h"
+#include "i18n/Language.h"
 #include "tests/support/Typist.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 namespace {
 
 using namespace std::string_literals;
-using dialogs::FileRecord;
-using dialogs::kConfirmed;
+using services::FileRecord;
+using services::kConfirmed;
 using test::Typist;
 
 // Dialogs in a folder with these empty files.
@@ -158,10 +158,10 @@ bool IsEnglish(const QString& text) {
 }
 
 TEST(ColorDialog, GivesColourAndCustomColoursUnlessCancelled) {
-    dialogs::ColorRecord asked;
+    services::ColorRecord asked;
     asked.color = 0x123456;
     asked.customColors[1] = 0x0A0B0C;
-    asked.flags = dialogs::kInitialColor;
+    asked.flags = services::kInitialColor;
     QColorDialog::setCustomColor(15, Qt::blue);
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
         QTimer::singleShot(0, [key] {
@@ -173,7 +173,7 @@ TEST(ColorDialog, GivesColourAndCustomColoursUnlessCancelled) {
             dialog->setCurrentColor(QColor(1, 2, 3));
             QTest::keyClick(dialog, key);
         });
-        dialogs::ColorRecord record = asked;
+        services::ColorRecord record = asked;
         const bool chosen = QtDesktopDialogs().ChooseColor(record) == kConfirmed;
         EXPECT_EQ(chosen, key == Qt::Key_Return);
         EXPECT_EQ(record.color, chosen ? 0x030201U : 0x123456U);
@@ -188,7 +188,7 @@ TEST(ColorDialog, GivesColourAndCustomColoursUnlessCancelled) {
 TEST(PrinterDialog, GivesTheFileAndTheCopies) {
     const QTemporaryDir folder;
     for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-        dialogs::PrinterRecord record;
+        services::PrinterRecord record;
         record.choice.file = folder.filePath("page.pdf").toStdString();
         record.choice.copies = 2;
         QTimer::singleShot(0, [key] {
@@ -213,8 +213,8 @@ TEST(Dialogs, SpeakChinese) {
     i18n::SetUiLanguage(i18n::kChinese);
     QtDesktopDialogs dialogs;
     FileRecord file;
-    dialogs::ColorRecord color;
-    dialogs::PrinterRecord printer;
+    services::ColorRecord color;
+    services::PrinterRecord printer;
     const std::function<std::int32_t()> shows[] = {[&] { return dialogs.GetOpenFileName(file); },
                                                    [&] { return dialogs.GetSaveFileName(file); },
                                                    [&] { return dialogs.ChooseColor(color); },
@@ -239,4 +239,4 @@ TEST(Dialogs, SpeakChinese) {
 }
 
 }  // namespace
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

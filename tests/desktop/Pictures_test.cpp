@@ -6,10 +6,10 @@
 #include <array>
 
 #include "desktop/PictureFile.h"
-#include "windows/widgets/PictureIcon.h"
 #include "desktop/QtClipboard.h"
+#include "windows/widgets/PictureIcon.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 namespace {
 
 TEST(PictureIcon, DrawsInWholeStepsInTheMiddleAndGreyWhenDisabled) {
@@ -17,7 +17,7 @@ TEST(PictureIcon, DrawsInWholeStepsInTheMiddleAndGreyWhenDisabled) {
         {{'r', gdi::Rgb(255, 0, 0)}, {'b', gdi::Rgb(0, 0, 255)}}};
     constexpr std::array<std::string_view, 2> kPictures = {"bb\nbb", "rb\nb."};
     const controls::ImageList list(kPictures, kInks);
-    const QIcon icon = PictureIcon(list, 2);
+    const QIcon icon = widgets::PictureIcon(list, 2);
     QImage picture(2, 2, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::blue);
     picture.setPixelColor(0, 0, Qt::red);
@@ -83,4 +83,4 @@ TEST(QtClipboard, TellsWhetherItHoldsAPicture) {
 }
 
 }  // namespace
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

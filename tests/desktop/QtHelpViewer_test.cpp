@@ -9,7 +9,7 @@
 
 #include "tests/support/Services.h"
 
-namespace kestrel::qt {
+namespace kestrel::desktop {
 namespace {
 
 class QtHelpViewerTest : public testing::Test {
@@ -50,4 +50,4 @@ TEST_F(QtHelpViewerTest, FollowsLinksAndChangesLanguageInOneWindow) {
 }
 
 }  // namespace
-}  // namespace kestrel::qt
+}  // namespace kestrel::desktop

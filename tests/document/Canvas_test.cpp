@@ -41,7 +41,7 @@ TEST(Canvas, CellsShowHatchColourAndInvertedScreen) {
     EXPECT_TRUE(document.Modified);
 
     // An icon of another size is fitted by repeating pixels.
-    icons::IconImage icon{{2, 2, 24, false}, gdi::Surface(2, 2), gdi::Surface(2, 2, gdi::kBlack)};
+    formats::IconImage icon{{2, 2, 24, false}, gdi::Surface(2, 2), gdi::Surface(2, 2, gdi::kBlack)};
     icon.mask.SetPixel(1, 0, gdi::kBlack);
     icon.color.SetPixel(1, 0, kRed);
     canvas.ReadIconIntoDocument(icon);

@@ -48,10 +48,11 @@ class ColorPaletteTest : public testing::Test {
     test::MemoryFiles files_;
     test::ScriptedDialogs desktop_;
     system::RandomNumbers random_{std::mt19937::default_seed};
-    dialogs::Cdb cdb_{desktop_, window_};
+    services::Cdb cdb_{desktop_, window_};
     ColorWells wells_{window_};
     Palette palette_{window_};
-    PaletteCommands commands_{palette_, {wells_, cdb_, desktop_, window_, files_, random_}};
+    commands::PaletteCommands commands_{palette_,
+                                        {wells_, cdb_, desktop_, window_, files_, random_}};
 };
 
 TEST_F(ColorPaletteTest, PicturesOfTheDefaultAndARandomPalette) {
@@ -183,13 +184,13 @@ TEST_F(ColorPaletteTest, AreLoadedAndSavedThroughTheDialogs) {
     EXPECT_EQ(palette_.Kind(), PaletteKind::Own);
     EXPECT_TRUE(PictureIsFresh());
 
-    const dialogs::FileRecord& save = desktop_.saves.at(0);
-    const dialogs::FileRecord& load = desktop_.opens.at(0);
+    const services::FileRecord& save = desktop_.saves.at(0);
+    const services::FileRecord& load = desktop_.opens.at(0);
     EXPECT_EQ(save.filter, "Palette Files (*.PAL)\0*.PAL\0All FIles (*.*)\0*.*\0\0"s);
     EXPECT_EQ(load.filter, "Palette Files (*.PAL)\0*.PAL\0All Files (*.*)\0*.*\0\0"s);
     EXPECT_EQ(save.flags, 0x806U);
     EXPECT_EQ(load.flags, 0x1004U);
-    for (const dialogs::FileRecord* asked : {&save, &load}) {
+    for (const services::FileRecord* asked : {&save, &load}) {
         EXPECT_EQ(asked->owner, test::RecordingWindow::kHandle);
         EXPECT_EQ(asked->filterIndex, 1);
         EXPECT_EQ(asked->defaultExtension, "PAL");

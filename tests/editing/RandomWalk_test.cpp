@@ -75,8 +75,9 @@ class RandomWalkTest : public test::EditorTest {
                     pixel = Below(3) == 0 ? gdi::kWhite : static_cast<gdi::COLORREF>(random_());
             }
         }
-        dialog_.fit = Below(2) == 0 ? PasteFit::Shrink : PasteFit::KeepAspect;
-        const auto mode = Below(2) == 0 ? PasteMode::Opaque : PasteMode::Transparent;
+        dialog_.fit = Below(2) == 0 ? imaging::PasteFit::Shrink : imaging::PasteFit::KeepAspect;
+        const auto mode =
+            Below(2) == 0 ? imaging::PasteMode::Opaque : imaging::PasteMode::Transparent;
         EXPECT_EQ(commands_.Paste(mode).has_value(), clipboard_.HasImage());
     }
     // Lifts what is marked, and puts it down where it was.
@@ -117,14 +118,14 @@ class RandomWalkTest : public test::EditorTest {
     std::mt19937 random_{4711};
     test::RecordingWindow dialog_;
     test::ScriptedDialogs desktop_;
-    dialogs::Cdb cdb_{desktop_, dialog_};
-    WellCommands wells_{editor_.Wells(), window_, cdb_};
+    services::Cdb cdb_{desktop_, dialog_};
+    commands::WellCommands wells_{editor_.Wells(), window_, cdb_};
     test::MemoryClipboard clipboard_;
-    ClipboardCommands commands_{editor_, clipboard_, dialog_};
+    commands::ClipboardCommands commands_{editor_, clipboard_, dialog_};
 };
 
 TEST_F(RandomWalkTest, LeavesNothingBehind) {
-    icons::IconImage opened{{32, 32, 24, false}, icon_.PicMask, icon_.PicImage};
+    formats::IconImage opened{{32, 32, 24, false}, icon_.PicMask, icon_.PicImage};
     for (int i = 0; i < 200; ++i) {
         opened.color.SetPixel(i % 32, i / 6, random_() & gdi::kWhite);
         if (i % 2 == 0) opened.mask.SetPixel(i % 32, i / 6, gdi::kBlack);

@@ -118,19 +118,19 @@ class WellsTest : public testing::Test {
 
     test::RecordingWindow window_;
     test::ScriptedDialogs desktop_;
-    dialogs::Cdb cdb_{desktop_, window_};
+    services::Cdb cdb_{desktop_, window_};
     ColorWells wells_{window_};
-    WellCommands commands_{wells_, window_, cdb_};
+    commands::WellCommands commands_{wells_, window_, cdb_};
 };
 
 TEST_F(WellsTest, ButtonsDoWhatTheySay) {
     using enum Button;
-    using Event = void (WellCommands::*)(Button);
-    constexpr Event kClear = &WellCommands::ImgTransparent_MouseUp;
-    constexpr Event kSwap = &WellCommands::ImgInterchangeColor_MouseUp;
-    constexpr Event kReset = &WellCommands::ImgDefaultColor_MouseUp;
-    constexpr Event kFore = &WellCommands::PicForeColor_MouseUp;
-    constexpr Event kBack = &WellCommands::PicBackColor_MouseUp;
+    using Event = void (commands::WellCommands::*)(Button);
+    constexpr Event kClear = &commands::WellCommands::ImgTransparent_MouseUp;
+    constexpr Event kSwap = &commands::WellCommands::ImgInterchangeColor_MouseUp;
+    constexpr Event kReset = &commands::WellCommands::ImgDefaultColor_MouseUp;
+    constexpr Event kFore = &commands::WellCommands::PicForeColor_MouseUp;
+    constexpr Event kBack = &commands::WellCommands::PicBackColor_MouseUp;
     const struct {
         Event event{};
         Button button{};

@@ -6,7 +6,7 @@
 #include "formats/BestImage.h"
 #include "tests/support/PictureText.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 namespace {
 
 using test::Inks;
@@ -176,4 +176,4 @@ TEST(BestImage, DamagedImagesGiveWayToTheNextBest) {
 }
 
 }  // namespace
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

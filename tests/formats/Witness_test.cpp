@@ -10,7 +10,7 @@
 
 #include "formats/IconFile.h"
 
-namespace kestrel::icons {
+namespace kestrel::formats {
 namespace {
 
 using ByteList = std::vector<std::uint8_t>;
@@ -92,4 +92,4 @@ TEST(BadInput, TruncationsAndChangedBytesAreRefusedOrRead) {
 }
 
 }  // namespace
-}  // namespace kestrel::icons
+}  // namespace kestrel::formats

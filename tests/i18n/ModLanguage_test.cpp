@@ -15,7 +15,7 @@ namespace {
 using controls::ItemKind;
 using namespace test;
 
-struct TextsByName : CaptionedWindow {
+struct TextsByName : commands::CaptionedWindow {
     void SetControlCaption(std::string_view control, std::string_view text) override {
         texts[std::string(control) + " caption"] = text;
     }
@@ -34,7 +34,7 @@ TEST(ModLanguage, TheMenusAreAsListedInBothLanguages) {
                                                    {"option", ItemKind::Option},
                                                    {"separator", ItemKind::Separator}};
     controls::SmartMenuXP bar, popup;
-    BuildMenuBar(bar, popup);
+    commands::BuildMenuBar(bar, popup);
     for (const auto& [what, menu] : {std::pair{"bar", &bar}, {"popup", &popup}}) {
         const std::vector<Row> rows = ListedTexts(what);
         ASSERT_EQ(menu->Items().size(), rows.size());
@@ -49,7 +49,7 @@ TEST(ModLanguage, TheMenusAreAsListedInBothLanguages) {
             EXPECT_EQ(item.checked, row[Flag] == "checked") << item.key;
         }
         for (const std::string_view code : {"ENG", "CHS", "ENG", "CHS", "FRA"}) {
-            ApplyMenuCaptions(code, bar, popup);
+            commands::ApplyMenuCaptions(code, bar, popup);
             for (const Row& row : rows)
                 EXPECT_EQ(menu->Find(row[Key])->caption, row[code == "ENG" ? English : Chinese]);
             EXPECT_EQ(bar.Find("mnuLanguageOpts0")->checked, code != "ENG");
@@ -61,7 +61,7 @@ TEST(ModLanguage, TheMenusAreAsListedInBothLanguages) {
 TEST(ModLanguage, TheTextsOfTheWindowAreAsListedInBothLanguages) {
     TextsByName window;
     for (const std::string_view code : {"ENG", "CHS", "ENG", "CHS", "FRA"}) {
-        ApplyMainCaptions(code, window);
+        commands::ApplyMainCaptions(code, window);
         const Column column = code == "ENG" ? English : Chinese;
         for (const char* what : {"control", "toolbar"}) {
             for (const Row& row : ListedTexts(what)) {

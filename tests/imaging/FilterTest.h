@@ -13,7 +13,7 @@
 
 namespace kestrel::filters {
 
-class CountingLoop : public desktop::MessageLoop {
+class CountingLoop : public services::MessageLoop {
   public:
     void DoEvents() override {
         ++count;
@@ -29,11 +29,11 @@ inline constexpr std::uint32_t kSeed = 5;
 inline gdi::Surface Filtered(gdi::Surface picture, int FilterId, int Param) {
     CountingLoop loop;
     system::RandomNumbers random(kSeed);
-    mFilterG(loop, random).RunFilter(FilterId, picture, Param);
+    filters::mFilterG(loop, random).RunFilter(FilterId, picture, Param);
     return picture;
 }
 inline gdi::Surface Filtered(const gdi::Surface& picture, std::string_view key) {
-    const FilterRow* row = FindFilter(key);
+    const filters::FilterRow* row = filters::FindFilter(key);
     EXPECT_NE(row, nullptr) << key;
     return Filtered(picture, row->FilterId, row->Param);
 }

@@ -11,28 +11,28 @@ namespace {
 using test::ComparePicture;
 
 TEST(FilterTable, HasARowForEveryItemOfTheMenu) {
-    std::map<int, Filter> byNumber;
-    for (const FilterRow& row : Filters()) {
+    std::map<int, filters::Filter> byNumber;
+    for (const filters::FilterRow& row : filters::Filters()) {
         EXPECT_EQ(byNumber.emplace(row.FilterId, row.filter).first->second, row.filter) << row.key;
-        EXPECT_EQ(FindFilter(row.key), &row) << "twice";
+        EXPECT_EQ(filters::FindFilter(row.key), &row) << "twice";
     }
     EXPECT_EQ(byNumber.size(), 31U);
     EXPECT_EQ(byNumber.rbegin()->first, 31);
     std::set<std::string_view> menus{"mnuFilters"};
-    for (const i18n::MenuRow& item : i18n::MenuBarRows()) {
+    for (const commands::MenuRow& item : commands::MenuBarRows()) {
         if (menus.contains(item.parent)) menus.insert(item.key);
     }
-    for (const i18n::MenuRow& item : i18n::MenuBarRows())
+    for (const commands::MenuRow& item : commands::MenuBarRows())
         menus.erase(item.parent);
     EXPECT_EQ(menus.size(), 40U);
     for (const std::string_view key : menus)
-        EXPECT_NE(FindFilter(key), nullptr) << key;
+        EXPECT_NE(filters::FindFilter(key), nullptr) << key;
 }
 
 TEST(RunFilter, YieldsAfterEachRowAndRunsAlone) {
     CountingLoop loop;
     system::RandomNumbers random(1);
-    mFilterG filters(loop, random);
+    filters::mFilterG filters(loop, random);
     for (const auto& [height, yields] : {std::pair{0, 1}, {1, 2}, {7, 8}}) {
         loop.count = 0;
         gdi::Surface picture = Noise(5, height, 1);
@@ -47,7 +47,7 @@ TEST(RunFilter, YieldsAfterEachRowAndRunsAlone) {
     EXPECT_TRUE(ComparePicture(Filtered(first, 2, 0), Noise(4, 4, 3)));
     for (const int unknown : {-1, 0, 32})
         EXPECT_TRUE(ComparePicture(Filtered(second, unknown, 1), second)) << unknown;
-    for (const FilterRow& row : Filters()) {
+    for (const filters::FilterRow& row : filters::Filters()) {
         for (const auto& [w, h] : {std::pair{0, 0}, {1, 1}, {2, 2}, {3, 2}, {1, 9}, {5, 5}}) {
             const gdi::Surface made = Filtered(Noise(w, h, 1), row.FilterId, row.Param);
             EXPECT_EQ(made.Width() * made.Height(), w * h) << row.key;
@@ -213,10 +213,10 @@ TEST(ToneFilters, GammaIsThePowerOfEveryLevel) {
     gdi::Surface levels(256, 1);
     for (int v = 0; v < 256; ++v)
         levels.SetPixel(v, 0, GreyColor(v));
-    EXPECT_EQ(Filtered(levels, kGammaFilter, 200).GetPixel(64, 0), GreyColor(128));
+    EXPECT_EQ(Filtered(levels, filters::kGammaFilter, 200).GetPixel(64, 0), GreyColor(128));
     for (int factor = 1; factor < 10000; factor += factor < 300 ? 1 : 97) {
         const auto g = static_cast<float>(factor / 100.0);
-        const gdi::Surface made = Filtered(levels, kGammaFilter, factor);
+        const gdi::Surface made = Filtered(levels, filters::kGammaFilter, factor);
         for (int v = 0; v < 256; ++v)
             ASSERT_EQ(made.GetPixel(v, 0),
                       GreyColor(static_cast<int>(std::lrint(255 * std::pow(v / 255.0, 1.0 / g)))))

@@ -5,7 +5,7 @@
 #include "services/Cdb.h"
 #include "tests/support/ScriptedDialogs.h"
 
-namespace kestrel::dialogs {
+namespace kestrel::services {
 namespace {
 
 using namespace std::string_literals;
@@ -175,4 +175,4 @@ TEST(Cdb, TellsCancelFromFailureAndRemembersColoursAndPrinter) {
 }
 
 }  // namespace
-}  // namespace kestrel::dialogs
+}  // namespace kestrel::services

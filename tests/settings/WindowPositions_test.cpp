@@ -4,7 +4,7 @@
 
 #include "tests/support/Services.h"
 
-namespace kestrel::app {
+namespace kestrel::settings {
 namespace {
 
 constexpr WindowBounds kDesigned{3000, 2000, 4500, 3000};
@@ -63,4 +63,4 @@ TEST(WindowPositions, SavesBoundsOrKeepsThoseOfBefore) {
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::settings

@@ -9,15 +9,15 @@
 #include <vector>
 
 #include "commands/MainCommands.h"
-#include "services/MessageBoxes.h"
 #include "platform/system/FileSystem.h"
+#include "services/MessageBoxes.h"
 #include "tests/support/EditorRecorder.h"
 #include "tests/support/ScriptedDialogs.h"
 
 namespace kestrel::test {
 
 // A main window without a screen: remembers what it was told last.
-class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
+class RecordingWindow : public RecordingEditorWindow, public commands::MainWindow {
   public:
     void EnableGrid(bool enabled) override { gridEnabled = enabled; }
     void StartTmr() override { tmrStarted = true; }
@@ -34,15 +34,15 @@ class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
     void EnableButton(std::string_view key, bool enabled) override {
         buttons[std::string(key)] = enabled;
     }
-    std::optional<editing::PasteFit> AskFit(editing::PictureSize picture) override {
+    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override {
         asked.push_back(picture);
         return fit;
     }
-    dialogs::WindowHandle hWnd() const override { return kHandle; }
+    services::WindowHandle hWnd() const override { return kHandle; }
     void ShowAbout() override { aboutShown = true; }
     void LanguageChanged() override { languageChanged = true; }
 
-    static constexpr dialogs::WindowHandle kHandle = 77;
+    static constexpr services::WindowHandle kHandle = 77;
     bool gridEnabled = true;
     bool tmrStarted = false;
     std::string hourglasses;
@@ -50,40 +50,40 @@ class RecordingWindow : public RecordingEditorWindow, public app::MainWindow {
     std::map<std::string, std::string> captions;
     std::map<std::string, bool> buttons;
     // How a large picture is pasted; none cancels.
-    std::optional<editing::PasteFit> fit;
-    std::vector<editing::PictureSize> asked;
+    std::optional<imaging::PasteFit> fit;
+    std::vector<imaging::PictureSize> asked;
     bool aboutShown = false;
     bool languageChanged = false;
 };
 
 // Message boxes that a test answers beforehand; unexpected ones are answered Cancel.
-class ScriptedBoxes : public dialogs::MessageBoxes {
+class ScriptedBoxes : public services::MessageBoxes {
   public:
     struct Shown {
-        dialogs::BoxIcon icon;
-        dialogs::BoxButtons buttons;
+        services::BoxIcon icon;
+        services::BoxButtons buttons;
         std::string text;
         std::string title;
     };
 
-    dialogs::Answer Show(dialogs::BoxIcon icon, dialogs::BoxButtons buttons,
-                         const std::string& text, const std::string& title) override {
+    services::Answer Show(services::BoxIcon icon, services::BoxButtons buttons,
+                          const std::string& text, const std::string& title) override {
         shown.push_back({icon, buttons, text, title});
         if (whileShown) whileShown();
-        if (answers.empty()) return dialogs::Answer::Cancel;
-        const dialogs::Answer answer = answers.front();
+        if (answers.empty()) return services::Answer::Cancel;
+        const services::Answer answer = answers.front();
         answers.pop_front();
         return answer;
     }
 
-    std::deque<dialogs::Answer> answers;
+    std::deque<services::Answer> answers;
     // What happens while a box waits.
     std::function<void()> whileShown;
     std::vector<Shown> shown;
 };
 
 // A clipboard of this program alone; holding nothing it fails.
-class MemoryClipboard : public desktop::Clipboard {
+class MemoryClipboard : public services::Clipboard {
   public:
     bool HasImage() const override { return image.has_value(); }
     Result<gdi::Surface> GetImage() override {

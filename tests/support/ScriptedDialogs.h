@@ -11,29 +11,29 @@ namespace kestrel::test {
 
 // A desktop on which the user chooses the file `choice` and the colour `color`; what is empty is
 // cancelled, or fails for the reason `error`.
-class ScriptedDialogs : public dialogs::DesktopDialogs {
+class ScriptedDialogs : public services::DesktopDialogs {
   public:
-    std::int32_t GetOpenFileName(dialogs::FileRecord& record) override {
+    std::int32_t GetOpenFileName(services::FileRecord& record) override {
         opens.push_back(record);
         return ChooseFile(record);
     }
-    std::int32_t GetSaveFileName(dialogs::FileRecord& record) override {
+    std::int32_t GetSaveFileName(services::FileRecord& record) override {
         saves.push_back(record);
         return ChooseFile(record);
     }
-    std::int32_t ChooseColor(dialogs::ColorRecord& record) override {
+    std::int32_t ChooseColor(services::ColorRecord& record) override {
         colors.push_back(record);
         if (!color) return 0;
         record.color = *color;
         record.customColors[3] = *color;
-        return dialogs::kConfirmed;
+        return services::kConfirmed;
     }
-    std::int32_t ChoosePrinter(dialogs::PrinterRecord& record) override {
+    std::int32_t ChoosePrinter(services::PrinterRecord& record) override {
         printers.push_back(record);
         if (choice.empty()) return 0;
         record.choice.file = choice;
         record.choice.copies += 2;
-        return dialogs::kConfirmed;
+        return services::kConfirmed;
     }
     std::int32_t CommDlgExtendedError() const override { return error; }
     gdi::COLORREF GetSysColor(int role) const override {
@@ -44,20 +44,20 @@ class ScriptedDialogs : public dialogs::DesktopDialogs {
     std::optional<gdi::COLORREF> color;
     std::int32_t error = 0;
     // What the desktop changes in a confirmed file record beyond the name.
-    std::function<void(dialogs::FileRecord& record)> alsoChanges;
+    std::function<void(services::FileRecord& record)> alsoChanges;
     // What was asked for.
-    std::vector<dialogs::FileRecord> opens;
-    std::vector<dialogs::FileRecord> saves;
-    std::vector<dialogs::ColorRecord> colors;
-    std::vector<dialogs::PrinterRecord> printers;
+    std::vector<services::FileRecord> opens;
+    std::vector<services::FileRecord> saves;
+    std::vector<services::ColorRecord> colors;
+    std::vector<services::PrinterRecord> printers;
 
   private:
-    std::int32_t ChooseFile(dialogs::FileRecord& record) const {
+    std::int32_t ChooseFile(services::FileRecord& record) const {
         if (choice.empty()) return 0;
         record.file = choice;
         record.fileTitle = choice.substr(choice.find_last_of('/') + 1);
         if (alsoChanges) alsoChanges(record);
-        return dialogs::kConfirmed;
+        return services::kConfirmed;
     }
 };
 

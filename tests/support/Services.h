@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "services/HelpViewer.h"
 #include "platform/system/Registry.h"
 #include "platform/system/Shell.h"
+#include "services/HelpViewer.h"
 #include "tests/support/Recorders.h"
 
 namespace kestrel::test {
@@ -79,7 +79,7 @@ class RecordingShell : public system::Shell {
 };
 
 // Shows the help files that `known` has.
-class RecordingHelp : public dialogs::HelpViewer {
+class RecordingHelp : public services::HelpViewer {
   public:
     bool ShowHelp(const std::string& file, const std::string& title) override {
         shown = file;
@@ -100,8 +100,8 @@ class RecordingHelp : public dialogs::HelpViewer {
 
 // All that a main window is given.
 struct FakeServices {
-    app::MainServices Given() { return Given(desktop); }
-    app::MainServices Given(dialogs::DesktopDialogs& dialogs) {
+    commands::MainServices Given() { return Given(desktop); }
+    commands::MainServices Given(services::DesktopDialogs& dialogs) {
         return {dialogs,  clipboard, boxes,  help,     files,
                 registry, shell,     random, settings, {"/program", "/windows"},
                 1033};
@@ -116,7 +116,7 @@ struct FakeServices {
     RecordingShell shell;
     // The seed whose numbers the C++ standard tells.
     system::RandomNumbers random{std::mt19937::default_seed};
-    app::Settings settings{files};
+    settings::Settings settings{files};
 };
 
 }  // namespace kestrel::test

@@ -1,10 +1,10 @@
-#include "platform/gdi/Draw.h"
 #include "desktop/Pictures.h"
-#include "tests/windows/WindowTest.h"
+#include "platform/gdi/Draw.h"
 #include "tests/support/EditorTest.h"
 #include "tests/support/ListedTexts.h"
+#include "tests/windows/WindowTest.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 namespace {
 
 using editing::ToolId;
@@ -79,7 +79,7 @@ TEST_F(DrawingTest, ToolsAreChosenByMouse) {
 TEST_F(DrawingTest, WellsAreUsedByMouse) {
     const auto shown = [this](QPoint at) {
         EXPECT_TRUE(ScreenIsFresh());
-        return qt::ToColorRef(window_.grab().toImage().pixelColor(at));
+        return desktop::ToColorRef(window_.grab().toImage().pixelColor(at));
     };
     const QPoint fore = Control("PicForeColor")->geometry().center();
     const QPoint back = Control("PicBackColor")->geometry().center();
@@ -114,4 +114,4 @@ TEST_F(DrawingTest, WellsAreUsedByMouse) {
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -3,7 +3,7 @@
 #include "desktop/Pictures.h"
 #include "tests/windows/WindowTest.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 namespace {
 
 using editing::StatusPanel;
@@ -62,7 +62,7 @@ TEST_F(FrmIcoEdTest, ClosingEndsTheStrokeAndAsksAboutIt) {
     EXPECT_TRUE(window_.isVisible()) << "Cancel keeps the window";
     EXPECT_TRUE(Icon().IsUntitled());
     EXPECT_EQ(Editor().History().UndoCount(), 2U);
-    given_.boxes.answers = {dialogs::Answer::No};
+    given_.boxes.answers = {services::Answer::No};
     window_.close();
     EXPECT_FALSE(window_.isVisible());
 }
@@ -72,12 +72,12 @@ TEST_F(FrmIcoEdTest, WindowAndPreviewFollowTheDesktopsColours) {
                                        {0xFFFFFFU, 0xF0F0F0U},  // white pixels would be lost on it
                                        {0x102030U, 0x102030U}}) {
         QPalette colors;
-        colors.setColor(QPalette::Window, qt::ToColor(desktop));
+        colors.setColor(QPalette::Window, desktop::ToColor(desktop));
         QApplication::setPalette(colors);
         QApplication::processEvents();
         EXPECT_EQ(Editor().Views().PicIcon.GetPixel(0, 0), own);
         EXPECT_EQ(Editor().Tools().PicTools().GetPixel(91, 65), own);
-        EXPECT_EQ(window_.palette().color(QPalette::Window), qt::ToColor(own));
+        EXPECT_EQ(window_.palette().color(QPalette::Window), desktop::ToColor(own));
     }
     QApplication::setPalette(QPalette());
 }
@@ -91,10 +91,10 @@ TEST_F(FrmIcoEdTest, ADropOpensTheFirstFileAndGuardsTheGridForAMoment) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return Grid()->isEnabled(); }, 2000));
     QTest::mouseClick(Grid(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_TRUE(Item("mnuEditOpts0")->isEnabled());
-    given_.boxes.answers = {dialogs::Answer::No};
+    given_.boxes.answers = {services::Answer::No};
     EXPECT_TRUE(Drop());
     EXPECT_FALSE(Item("mnuEditOpts0")->isEnabled()) << "nothing to undo in a new file";
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -3,7 +3,7 @@
 
 #include "tests/windows/WindowTest.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 namespace {
 
 class ImageMenuTest : public test::WindowTest {
@@ -77,4 +77,4 @@ TEST_F(ImageMenuTest, ThePopupTurnsTheSelection) {
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -9,14 +9,14 @@
 #include <QTimer>
 #include <QtTest/QTest>
 
+#include "desktop/Pictures.h"
 #include "i18n/Language.h"
 #include "windows/FrmColAdj.h"
 #include "windows/FrmImagingDialogs.h"
 #include "windows/FrmShades.h"
 #include "windows/frmGamma.h"
-#include "desktop/Pictures.h"
 
-namespace kestrel::imaging {
+namespace kestrel::windows {
 namespace {
 
 constexpr gdi::COLORREF kGround = 0xF0F0F0;
@@ -40,7 +40,7 @@ void Show(QWidget& dialog) {
 }
 // What the window shows at a pixel of a picture.
 gdi::COLORREF Shown(const QWidget& dialog, const char* picture, int x, int y) {
-    return qt::ToColorRef(Find<QWidget>(dialog, picture)->grab().toImage().pixelColor(x, y));
+    return desktop::ToColorRef(Find<QWidget>(dialog, picture)->grab().toImage().pixelColor(x, y));
 }
 void Type(QWidget* box, const char* keys) {
     for (; *keys != 0; ++keys)
@@ -60,13 +60,13 @@ class FrmColAdjTest : public testing::Test {
     FrmColAdjTest() {
         icon_.PicMask.SetPixel(1, 0, gdi::kBlack);  // all others are transparent
         icon_.PicImage.SetPixel(1, 0, gdi::Rgb(252, 100, 3));
-        colors_ = ColorAdjustment(icon_);
+        colors_ = imaging::ColorAdjustment(icon_);
         Show(dialog_);
     }
     gdi::COLORREF Pixel() { return Shown(dialog_, "PicShade", 1, 0); }
 
     document::IconDocument icon_;
-    ColorAdjustment colors_{icon_};
+    imaging::ColorAdjustment colors_{icon_};
     FrmColAdj dialog_{nullptr, colors_, gdi::Surface(32, 32, kGround)};
     QScrollBar* red_ = Bar(dialog_, "VsbRed");
 };
@@ -196,7 +196,7 @@ class ImagingDialogsTest : public testing::Test {
 
     QWidget owner_;
     FrmImagingDialogs dialogs_{owner_};
-    ColorAdjustment colors_{document::IconDocument()};
+    imaging::ColorAdjustment colors_{document::IconDocument()};
 };
 
 TEST_F(ImagingDialogsTest, GivesTheAnswerOrNone) {
@@ -253,4 +253,4 @@ TEST_F(ImagingDialogsTest, SpeaksBothLanguages) {
 }
 
 }  // namespace
-}  // namespace kestrel::imaging
+}  // namespace kestrel::windows

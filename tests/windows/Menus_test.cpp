@@ -2,10 +2,10 @@
 
 #include "commands/ToolbarTable.h"
 #include "imaging/filters/FilterTable.h"
-#include "tests/windows/WindowTest.h"
 #include "tests/support/ListedTexts.h"
+#include "tests/windows/WindowTest.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 namespace {
 
 using controls::MenuItem;
@@ -62,8 +62,8 @@ TEST_F(MenusTest, ItemsThatAreShownAndEnabledAreReached) {
                     "mnuFlip2Opts1"}));
     // A new item without a row would look usable and do nothing.
     for (const auto& [menu, widget, rows] :
-         {std::tuple{&BarMenu(), static_cast<QWidget*>(Bar()), MenuBarCommands()},
-          {&PopupMenu(), window_.EditingPopup(), PopupCommands()}}) {
+         {std::tuple{&BarMenu(), static_cast<QWidget*>(Bar()), commands::MenuBarCommands()},
+          {&PopupMenu(), window_.EditingPopup(), commands::PopupCommands()}}) {
         for (const MenuItem& item : menu->Items()) {
             menu->SetEnabled(item.key, true);
             menu->SetVisible(item.key, true);
@@ -72,7 +72,8 @@ TEST_F(MenusTest, ItemsThatAreShownAndEnabledAreReached) {
         for (const MenuItem& item : menu->Items()) {
             if (menu->IsSubmenu(item.key) || item.kind == controls::ItemKind::Separator) continue;
             commands.push_back(item.key);
-            EXPECT_TRUE(std::ranges::find(rows, item.key, &CommandRow::key) != rows.end() ||
+            EXPECT_TRUE(std::ranges::find(rows, item.key, &commands::CommandRow::key) !=
+                            rows.end() ||
                         filters::FindFilter(item.key) != nullptr)
                 << item.key;
         }
@@ -98,7 +99,7 @@ TEST_F(MenusTest, MenusOpenByKey) {
     for (const auto& [code, letter, menu] : {std::tuple{"ENG", Qt::Key_I, "mnuImage"},
                                              {"CHS", Qt::Key_F, "mnuFile"},
                                              {"CHS", Qt::Key_L, "mnuFilters"}}) {
-        i18n::ApplyMenuCaptions(code, BarMenu(), PopupMenu());
+        commands::ApplyMenuCaptions(code, BarMenu(), PopupMenu());
         QTest::keyClick(&window_, letter, Qt::AltModifier);
         EXPECT_TRUE(opens(Item(menu)->menu())) << code << " " << menu;
         QTest::keyClick(Bar(), Qt::Key_Escape);
@@ -135,7 +136,7 @@ TEST_F(MenusTest, SwitchingLanguageChangesWhatIsShownAndIsKept) {
         QTest::mouseMove(Button("New"));
         Item(item)->trigger();
         EXPECT_EQ(Hint(), "") << "a hint in the old language";
-        return QStringList{ReadSavedLanguage(given_.settings).c_str(),
+        return QStringList{settings::ReadSavedLanguage(given_.settings).c_str(),
                            window_.windowTitle(),
                            Control("Label1")->property("text").toString(),
                            Button("Save")->toolTip(),
@@ -201,7 +202,7 @@ TEST_F(MenusTest, TheToolbarRunsItsCommandsAndHintsAtThem) {
     EXPECT_EQ(Hint(), "");
     Keys pressed;
     window_.Toolbar1().onClick = [&](std::string_view key) { pressed.emplace_back(key); };
-    for (const auto& button : i18n::ToolbarButtons())
+    for (const auto& button : commands::ToolbarButtons())
         QTest::mouseClick(Button(button.key), Qt::LeftButton);
     EXPECT_EQ(QApplication::focusWidget(), &window_) << "clicks leave the keyboard alone";
     for (const Qt::Key key :
@@ -233,4 +234,4 @@ TEST_F(MenusTest, AboutIsModalAndClosesByKeyboard) {
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

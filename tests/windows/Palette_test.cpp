@@ -5,10 +5,10 @@
 
 #include "desktop/Pictures.h"
 #include "desktop/QtDesktopDialogs.h"
-#include "tests/windows/WindowTest.h"
 #include "tests/support/Typist.h"
+#include "tests/windows/WindowTest.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 namespace {
 
 using test::Typist;
@@ -109,7 +109,7 @@ TEST(PaletteDialogs, AreUsedByKeyboard) {
     ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
     existing.close();
     test::FakeServices given;
-    qt::QtDesktopDialogs dialogs;
+    desktop::QtDesktopDialogs dialogs;
     FrmIcoEd window(given.Given(dialogs));
     window.Form_Load("");
     window.show();
@@ -155,4 +155,4 @@ TEST(PaletteDialogs, AreUsedByKeyboard) {
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

@@ -4,12 +4,12 @@
 #include <QScreen>
 #include <QTimer>
 
-#include "windows/FrmClipData.h"
 #include "desktop/Text.h"
-#include "tests/windows/WindowTest.h"
 #include "tests/support/EditorTest.h"
+#include "tests/windows/WindowTest.h"
+#include "windows/FrmClipData.h"
 
-namespace kestrel::app {
+namespace kestrel::windows {
 namespace {
 
 using editing::Corners;
@@ -212,4 +212,4 @@ TEST_F(SelectingTest, ALargePictureIsAskedAboutInBothLanguages) {
 }
 
 }  // namespace
-}  // namespace kestrel::app
+}  // namespace kestrel::windows

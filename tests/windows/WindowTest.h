@@ -6,10 +6,10 @@
 #include <QMenuBar>
 #include <QtTest/QTest>
 
-#include "windows/FrmIcoEd.h"
 #include "document/IcoFile.h"
 #include "i18n/Language.h"
 #include "tests/support/Services.h"
+#include "windows/FrmIcoEd.h"
 
 namespace kestrel::test {
 
@@ -40,7 +40,7 @@ class WindowTest : public testing::Test {
     }
 
     FakeServices given_;
-    app::FrmIcoEd window_{given_.Given()};
+    windows::FrmIcoEd window_{given_.Given()};
 };
 
 }  // namespace kestrel::test

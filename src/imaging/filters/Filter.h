@@ -1,8 +1,8 @@
 #pragma once
 
 #include "imaging/filters/PixelArray.h"
-#include "services/MessageLoop.h"
 #include "platform/system/RandomNumbers.h"
+#include "services/MessageLoop.h"
 
 namespace kestrel::filters {
 
@@ -11,7 +11,7 @@ struct FilterRun {
     const PixelArray& FilterSource;
     PixelArray& FilterTarget;
     int Param;
-    desktop::MessageLoop& loop;
+    services::MessageLoop& loop;
     system::RandomNumbers& random;
 };
 

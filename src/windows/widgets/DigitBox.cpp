@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QRegularExpressionValidator>
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 DigitBox::DigitBox(Backspace backspace) : backspace_(backspace) {
     // For texts that come without keys: pasted, dropped or from an input method.
@@ -39,4 +39,4 @@ bool DigitBox::Takes(const QKeyEvent& event) const {
     return text.isEmpty() || (text[0] >= u'0' && text[0] <= u'9');
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 // A box for a whole number: of the keys that have a character it takes the digits and Enter alone.
 class DigitBox : public QLineEdit {
@@ -20,4 +20,4 @@ class DigitBox : public QLineEdit {
     Backspace backspace_;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

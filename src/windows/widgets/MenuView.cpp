@@ -3,10 +3,10 @@
 #include <QActionGroup>
 #include <QFontMetrics>
 
-#include "windows/widgets/PictureIcon.h"
 #include "desktop/Text.h"
+#include "windows/widgets/PictureIcon.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 namespace {
 
@@ -93,7 +93,7 @@ QAction* MenuView::NewAction(const MenuItem& item) {
         action = NewSubmenu(item)->menuAction();
     } else {
         action = new QAction(this);
-        action->setShortcut(QKeySequence(ToText(item.shortcut)));
+        action->setShortcut(QKeySequence(desktop::ToText(item.shortcut)));
         connect(action, &QAction::triggered, this, [this, &item] { Click(item.key); });
     }
     action->setSeparator(item.kind == ItemKind::Separator);
@@ -132,7 +132,7 @@ void MenuView::AddChildren(QMenu& submenu, std::string_view parent) {
 void MenuView::Follow(const MenuItem& item) {
     QAction* action = ActionOf(item.key);
     if (action == nullptr) return;
-    action->setText(WithMnemonic(Fitting(Readable(ToText(item.caption)), font_)));
+    action->setText(WithMnemonic(Fitting(Readable(desktop::ToText(item.caption)), font_)));
     action->setEnabled(item.enabled);
     action->setVisible(item.visible);
     action->setChecked(item.checked);
@@ -146,4 +146,4 @@ void MenuView::Click(std::string_view key) {
     if (menu_.onClick) menu_.onClick(key);
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

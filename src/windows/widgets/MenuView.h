@@ -9,7 +9,7 @@
 #include "platform/controls/ImageList.h"
 #include "platform/controls/SmartMenuXP.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 // Shows a menu as menus of the desktop and hands its clicks on. The menu must be filled before
 // it is shown and outlive the view, as must the pictures.
@@ -42,4 +42,4 @@ class MenuView : public QObject {
     std::map<std::string_view, std::unique_ptr<QMenu>> submenus_;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

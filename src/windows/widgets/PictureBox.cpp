@@ -5,7 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 PictureBox::PictureBox(Edge edge, QWidget* parent) : QWidget(parent), edge_(edge) {
     setMouseTracking(true);
@@ -58,4 +58,4 @@ void PictureBox::SetPressed(bool pressed) {
     update();
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 // A small box that shows a colour or a picture and hands on its mouse events.
 class PictureBox : public QWidget {
@@ -38,4 +38,4 @@ class PictureBox : public QWidget {
     bool pressed_ = false;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

@@ -6,7 +6,7 @@
 
 #include "desktop/Pictures.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 namespace {
 
@@ -42,7 +42,7 @@ class PictureEngine : public QIconEngine {
 
     void paint(QPainter* painter, const QRect& area, QIcon::Mode mode,
                QIcon::State /*state*/) override {
-        QImage picture = ToImage(pictures_->Mask(number_), pictures_->Image(number_));
+        QImage picture = desktop::ToImage(pictures_->Mask(number_), pictures_->Image(number_));
         if (mode == QIcon::Disabled) picture = Disabled(picture);
         const int times =
             std::max(1, std::min(area.width() / picture.width(), area.height() / picture.height()));
@@ -63,4 +63,4 @@ QIcon PictureIcon(const controls::ImageList& pictures, int number) {
     return QIcon(new PictureEngine(pictures, number));
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

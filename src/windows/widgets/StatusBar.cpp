@@ -2,7 +2,7 @@
 
 #include "desktop/Text.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 namespace {
 
@@ -24,7 +24,7 @@ void StatusBar::SetText(int panel, std::string_view text) {
     Panel& changed = panels_.at(static_cast<std::size_t>(panel) - 1);
     if (changed.text == text) return;
     changed.text = text;
-    changed.label->setText(ToText(text));
+    changed.label->setText(desktop::ToText(text));
 }
 
 std::string StatusBar::Text(int panel) const {
@@ -43,4 +43,4 @@ void StatusBar::resizeEvent(QResizeEvent* /*event*/) {
     }
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

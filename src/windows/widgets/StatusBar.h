@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 // A row of sunken text panels along the bottom of a window.
 class StatusBar : public QWidget {
@@ -32,4 +32,4 @@ class StatusBar : public QWidget {
     std::vector<Panel> panels_;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

@@ -6,7 +6,7 @@
 
 #include "desktop/Pictures.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 namespace {
 
@@ -33,8 +33,9 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     for (const QRect& part : event->region()) {
         const QRect inside = part & rect();
-        painter.drawImage(inside.topLeft(), ToImage(surface_, {inside.x(), inside.y(),
-                                                               inside.width(), inside.height()}));
+        painter.drawImage(
+            inside.topLeft(),
+            desktop::ToImage(surface_, {inside.x(), inside.y(), inside.width(), inside.height()}));
     }
 }
 
@@ -63,4 +64,4 @@ void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
     }
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

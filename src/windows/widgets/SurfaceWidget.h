@@ -6,7 +6,7 @@
 
 #include "platform/gdi/Surface.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 // Shows a surface, one pixel of it a unit of the window, and hands on its mouse events. Points are
 // in pixels of the surface and may lie outside while a button is held.
@@ -36,4 +36,4 @@ class SurfaceWidget : public QWidget {
     Qt::MouseButton doubleClicked_ = Qt::NoButton;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

@@ -4,10 +4,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include "windows/widgets/PictureIcon.h"
 #include "desktop/Text.h"
+#include "windows/widgets/PictureIcon.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 namespace {
 
@@ -61,8 +61,8 @@ void ToolBar::AddButton(std::string_view key, int picture) {
 void ToolBar::SetToolTip(std::string_view key, std::string_view text) const {
     QToolButton* button = Button(key);
     if (button == nullptr) return;
-    button->setToolTip(ToText(text));
-    button->setAccessibleName(ToText(text));
+    button->setToolTip(desktop::ToText(text));
+    button->setAccessibleName(desktop::ToText(text));
 }
 
 void ToolBar::SetEnabled(std::string_view key, bool enabled) const {
@@ -88,4 +88,4 @@ void ToolBar::leaveEvent(QEvent* /*event*/) {
     if (onLeave) onLeave();
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

@@ -9,7 +9,7 @@
 
 #include "platform/controls/ImageList.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 // A row of flat picture buttons, each known by its key, all of one size.
 class ToolBar : public QWidget {
@@ -43,4 +43,4 @@ class ToolBar : public QWidget {
     std::map<std::string, QToolButton*, std::less<>> buttons_;
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

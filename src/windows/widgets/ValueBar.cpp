@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 ValueBar::ValueBar(Qt::Orientation orientation) : QScrollBar(orientation) {
     setFocusPolicy(Qt::StrongFocus);
@@ -51,4 +51,4 @@ void ValueBar::wheelEvent(QWheelEvent* event) {
     setInvertedControls(inverted);
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

@@ -2,7 +2,7 @@
 
 #include <QScrollBar>
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 // A scroll bar that sets a value: it takes the keyboard focus and shows it. A vertical one has its
 // maximum at the top.
@@ -18,4 +18,4 @@ class ValueBar : public QScrollBar {
     void TurnOver(int action);
 };
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets

@@ -6,7 +6,7 @@
 
 #include "desktop/CloseKey.h"
 
-namespace kestrel::qt {
+namespace kestrel::widgets {
 
 // Of labels and status texts.
 inline constexpr int kSmallFontPixels = 11;
@@ -31,7 +31,7 @@ inline void DressDialog(QDialog& dialog, const QString& title) {
     dialog.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                           Qt::WindowCloseButtonHint);
     dialog.setWindowTitle(title);
-    AddCloseKey(dialog, Qt::ALT | Qt::Key_F4);
+    desktop::AddCloseKey(dialog, Qt::ALT | Qt::Key_F4);
 }
 
-}  // namespace kestrel::qt
+}  // namespace kestrel::widgets
