@@ -1,75 +1,56 @@
 #!/usr/bin/env bash
-# An include goes down or stays on its floor, and Qt stays in the windows: floors.sh [repository].
+# An include goes down or stays on its floor, and Qt stays where windows and the desktop are.
 # Prints file:line of every breach.
 set -euo pipefail
-cd "${1:-"$(dirname "$0")/../.."}"
+cd "$(dirname "$0")/../.."
+
+# Each folder with its floor; the innermost folder that is listed counts.
+floors='platform=0 i18n=0 formats=1 services=1 settings=1 document=2 editing=3 imaging=3 tools=3
+commands=4 desktop=4 windows=5 app=6'
+knowsQt='desktop windows app/main.cpp'
+# The second program, which stands beside the floors.
+cliStandsOn='cli imaging document formats services platform'
 
 mapfile -d '' -t sources < <(find src cli \( -name '*.cpp' -o -name '*.h' \) -print0 | sort -z)
-if [[ ${#sources[@]} -eq 0 ]]; then
-    echo "No C++ file found" >&2
-    exit 1
-fi
+[[ ${#sources[@]} -gt 0 ]] || { echo "No C++ file found" >&2; exit 1; }
 
-awk '
+awk -v floors="$floors" -v knowsQt="$knowsQt" -v cliStandsOn="$cliStandsOn" '
 BEGIN {
-    split("platform=0 i18n=1 document=2 editing=3 imaging=4 tools=4 app=5 cli=6", rows, " ")
-    for (i in rows) { split(rows[i], row, "="); floor[row[1]] = row[2] }
-    # What each room of the platform may stand on besides itself and the headers above them all.
-    below["gdi"] = " "
-    below["system"] = " "
-    below["icons"] = " gdi system "
-    below["dialogs"] = " gdi icons system "
-    below["controls"] = " gdi "
-    below["desktop"] = " gdi "
-    below["qt"] = " gdi icons system dialogs controls desktop "
+    count = split(floors, rows)
+    for (i = 1; i <= count; i++) { split(rows[i], row, "="); floor[row[1]] = row[2] }
+    count = split(knowsQt, rows)
+    for (i = 1; i <= count; i++) qt[rows[i]]
+    count = split(cliStandsOn, rows)
+    for (i = 1; i <= count; i++) below["cli", rows[i]]
 }
 
-FNR == 1 { path = FILENAME; sub(/^src\//, "", path) }
-
-# Only these know Qt; whoever includes their headers knows it too.
-function isWindow(path) {
-    return path ~ /^platform\/qt\// || path ~ /(^|\/)[Ff]rm[^\/]*$/ || path == "app/main.cpp"
-}
-
-function room(path, parts) {
-    return split(path, parts, "/") > 2 && parts[1] == "platform" ? parts[2] : ""
-}
+function folderOf(path) { sub(/\/.*/, "", path); return path }
 
 function breach(why) {
     printf "%s:%d: %s: %s\n", FILENAME, FNR, target, why
     breaches++
 }
 
-function checkFloors(from, to, fromParts, toParts) {
-    split(from, fromParts, "/")
-    split(to, toParts, "/")
-    if (!(fromParts[1] in floor)) { breach("the folder " fromParts[1] " has no floor"); return }
-    if (!(toParts[1] in floor)) { breach("not a path from src/ or cli/"); return }
-    if (floor[toParts[1]] > floor[fromParts[1]]) breach("climbs from " fromParts[1] " to " toParts[1])
-}
-
-function checkRooms(from, to) {
-    if (from == to || to == "") return
-    if (from == "") { breach("platform headers for all stand below " to); return }
-    if (!(from in below)) { breach("the room platform/" from " has no place"); return }
-    if (index(below[from], " " to " ") == 0) breach("platform/" from " does not stand on platform/" to)
-}
+FNR == 1 { path = FILENAME; sub(/^src\//, "", path); from = folderOf(path) }
 
 /^[ \t]*#[ \t]*include[ \t]*</ {
     target = $0
-    sub(/^[^<]*</, "", target)
-    sub(/>.*/, "", target)
-    if (target ~ /^(Q|q[a-z]+\.h$|private\/q)/ && !isWindow(path)) breach("Qt outside the windows")
+    gsub(/^[^<]*<|>.*/, "", target)
+    if (target ~ /^(Q|q[a-z]+\.h$|private\/q)/ && !(from in qt) && !(path in qt)) breach("Qt is not known here")
 }
 
 /^[ \t]*#[ \t]*include[ \t]*"/ {
     target = $0
-    sub(/^[^"]*"/, "", target)
-    sub(/".*/, "", target)
+    gsub(/^[^"]*"|".*/, "", target)
     if (target ~ /\.moc$/ || target ~ /^resources\//) next
-    checkFloors(path, target)
-    if (path ~ /^platform\//) checkRooms(room(path), room(target))
-    if (isWindow(target) && !isWindow(path)) breach("a window header outside the windows")
+    to = folderOf(target)
+    if (from == "cli") {
+        if (!((from, to) in below)) breach("cli does not stand on " to)
+    } else if (!(from in floor) || !(to in floor)) {
+        breach("a folder without a floor")
+    } else if (floor[to] > floor[from]) {
+        breach("climbs from " from " to " to)
+    }
 }
 
 END { exit breaches > 0 }
