@@ -1,8 +1,8 @@
 #include <benchmark/benchmark.h>
 
 #include "document/Canvas.h"
-#include "document/IcoFile.h"
 #include "editing/Editor.h"
+#include "formats/IcoFile.h"
 #include "formats/IconFile.h"
 #include "tests/support/EditorRecorder.h"
 
@@ -12,12 +12,12 @@ using namespace kestrel;
 
 constexpr gdi::COLORREF kWindowColor = 0xF0F0F0;
 
-document::IconDocument ColourfulIcon() {
-    document::IconDocument icon;
-    for (int y = 0; y < document::kIconSize; ++y) {
-        for (int x = y % 3; x < document::kIconSize; ++x) {
-            icon.PicMask.SetPixel(x, y, gdi::kBlack);
-            icon.PicImage.SetPixel(x, y, static_cast<gdi::COLORREF>(x * 8 + y * 2048));
+gdi::IconPlanes ColourfulIcon() {
+    gdi::IconPlanes icon;
+    for (int y = 0; y < gdi::kIconSize; ++y) {
+        for (int x = y % 3; x < gdi::kIconSize; ++x) {
+            icon.mask.SetPixel(x, y, gdi::kBlack);
+            icon.image.SetPixel(x, y, static_cast<gdi::COLORREF>(x * 8 + y * 2048));
         }
     }
     return icon;
@@ -26,7 +26,8 @@ document::IconDocument ColourfulIcon() {
 // Grid and preview rebuilt from the planes.
 void RedrawAll(benchmark::State& state) {
     test::RecordingEditorWindow window;
-    document::IconDocument icon = ColourfulIcon();
+    document::IconDocument icon;
+    icon.ChangePlanes() = ColourfulIcon();
     document::Canvas canvas(icon, window, kWindowColor);
     for (auto _ : state) {
         window.repainted.clear();
@@ -43,7 +44,7 @@ void PencilCell(benchmark::State& state) {
     int x = 0;
     for (auto _ : state) {
         window.repainted.clear();
-        x = (x + document::kIconSize / 3) % 320;
+        x = (x + gdi::kIconSize / 3) % 320;
         editor.PicMain_MouseMove({true, false}, x, 5);
     }
 }
@@ -62,14 +63,14 @@ void PencilClick(benchmark::State& state) {
 BENCHMARK(PencilClick)->Iterations(10000);
 
 void WriteIcon(benchmark::State& state) {
-    const document::IconDocument icon = ColourfulIcon();
+    const gdi::IconPlanes icon = ColourfulIcon();
     for (auto _ : state)
-        benchmark::DoNotOptimize(document::EncodeIco(icon));
+        benchmark::DoNotOptimize(formats::EncodeIco(icon));
 }
 BENCHMARK(WriteIcon);
 
 void ReadIcon(benchmark::State& state) {
-    const document::IcoBytes bytes = document::EncodeIco(ColourfulIcon());
+    const formats::IcoBytes bytes = formats::EncodeIco(ColourfulIcon());
     for (auto _ : state)
         benchmark::DoNotOptimize(formats::ReadBestImage(bytes));
 }

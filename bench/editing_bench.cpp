@@ -65,8 +65,8 @@ void PushUndoSnapshot(benchmark::State& state) {
     int pixel = 0;
     for (auto _ : state) {
         pixel = (pixel + 7) % 1024;
-        icon.PicImage.SetPixel(pixel % 32, pixel / 32,
-                               static_cast<gdi::COLORREF>(history.UndoCount()));
+        icon.ChangePlanes().image.SetPixel(pixel % 32, pixel / 32,
+                                           static_cast<gdi::COLORREF>(history.UndoCount()));
         history.PushUndoSnapshot();
     }
     state.counters["bytes_each"] = static_cast<double>(mallinfo2().uordblks - before) /
@@ -79,7 +79,8 @@ void UndoAndRedo(benchmark::State& state) {
     Bench bench(editing::ToolId::Pencil);
     document::IconDocument& icon = bench.editor.Document();
     for (int i = 0; i < state.range(0); ++i) {
-        icon.PicMask.SetPixel(i % 32, i / 32 % 32, i / 1024 % 2 == 0 ? gdi::kBlack : gdi::kWhite);
+        icon.ChangePlanes().mask.SetPixel(i % 32, i / 32 % 32,
+                                          i / 1024 % 2 == 0 ? gdi::kBlack : gdi::kWhite);
         bench.editor.History().PushUndoSnapshot();
     }
     for (auto _ : state) {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "document/IconDocument.h"
+#include "platform/gdi/IconPlanes.h"
 #include "imaging/filters/FilterTable.h"
 #include "imaging/filters/mFilterG.h"
 
@@ -19,9 +19,9 @@ class NoEvents : public services::MessageLoop {
 
 gdi::Surface Colourful() {
     system::RandomNumbers random(1);
-    gdi::Surface picture(document::kIconSize, document::kIconSize);
-    for (int y = 0; y < document::kIconSize; ++y) {
-        for (int x = 0; x < document::kIconSize; ++x)
+    gdi::Surface picture(gdi::kIconSize, gdi::kIconSize);
+    for (int y = 0; y < gdi::kIconSize; ++y) {
+        for (int x = 0; x < gdi::kIconSize; ++x)
             picture.SetPixel(x, y, static_cast<gdi::COLORREF>(random.Next() * gdi::kWhite));
     }
     return picture;

@@ -10,8 +10,8 @@
 #include "cli/IconOutput.h"
 #include "cli/Numbers.h"
 #include "cli/Streams.h"
-#include "editing/PaletteFile.h"
 #include "formats/IconFile.h"
+#include "formats/PaletteFile.h"
 #include "imaging/Shades.h"
 #include "platform/gdi/Blit.h"
 #include "resources/DefaultPalette.h"
@@ -74,14 +74,14 @@ Result<void> Gradient(const Arguments& arguments) {
         return Fail(EINVAL, "--from and --to want a colour as R,G,B, each from 0 to 255");
     if (!angle || *angle % imaging::kDegreesPerStep != 0)
         return Fail(EINVAL, "--angle wants 0 to 360 in steps of 45");
-    document::IconDocument icon;
-    gdi::PatBlt(icon.PicMask, icon.PicMask.Bounds(), gdi::kBlack);
-    icon.PicImage = imaging::DrawShade({*from, *to, static_cast<int>(*angle)});
+    gdi::IconPlanes icon;
+    gdi::PatBlt(icon.mask, icon.Bounds(), gdi::kBlack);
+    icon.image = imaging::DrawShade({*from, *to, static_cast<int>(*angle)});
     return WriteIcon(target, icon);
 }
 
 Result<void> Palette(const Arguments& arguments) {
-    return WriteText(arguments.out, editing::PaletteText(resources::kDefaultPalette));
+    return WriteText(arguments.out, formats::PaletteText(resources::kDefaultPalette));
 }
 
 Result<void> Convert(const Arguments& arguments) {

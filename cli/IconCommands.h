@@ -5,17 +5,15 @@
 #include <string_view>
 #include <vector>
 
-#include "document/IconDocument.h"
-#include "imaging/filters/FilterTable.h"
+#include "imaging/Operations.h"
 #include "platform/Result.h"
 
 namespace kestrel::cli {
 
-// A menu command on the whole icon: a filter with its parameter, or a change of its own.
+// A menu command on the whole icon, with its value where it takes one.
 struct IconCommand {
-    const filters::FilterRow* filter = nullptr;
-    int param = 0;
-    void (*change)(document::IconDocument& icon) = nullptr;
+    const imaging::Operation* operation = nullptr;
+    int value = 0;
 };
 
 // Reads KEY[=VALUE][,KEY...]. Gamma alone takes a value, which it must have.
@@ -23,7 +21,7 @@ Result<std::vector<IconCommand>> ReadCommands(std::string_view list);
 
 // The same seed brings the same noise.
 void RunCommands(const std::vector<IconCommand>& commands, std::uint32_t seed,
-                 document::IconDocument& icon);
+                 gdi::IconPlanes& icon);
 
 // Every key, in lines for the help.
 std::string CommandKeys();

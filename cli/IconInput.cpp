@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <utility>
 
 #include "cli/Streams.h"
 #include "formats/IconFile.h"
@@ -17,7 +18,6 @@ namespace kestrel::cli {
 
 namespace {
 
-using document::IconDocument;
 using system::SystemFailure;
 using Content = Result<std::vector<std::uint8_t>>;
 
@@ -48,11 +48,15 @@ Content ReadAnything(const std::string& name) {
     return system::DiskFiles(system::PathNames::AsWritten).ReadFile(name, kLimit);
 }
 
-void PastePng(IconDocument& icon, const formats::IconImage& png, imaging::PasteFit fit) {
+// At the top left of the icon.
+void PastePng(gdi::IconPlanes& icon, const formats::IconImage& png, imaging::PasteFit fit) {
     imaging::PictureSize size{png.info.width, png.info.height};
     if (!imaging::FitsIcon(size)) size = imaging::FittedSize(size, fit);
-    formats::DrawIcon(icon.PicMask, png, size.width, size.height, formats::DrawPart::Mask);
-    formats::DrawIcon(icon.PicImage, png, size.width, size.height, formats::DrawPart::Image);
+    const gdi::IconPlanes fitted = gdi::Stretched(png.planes, size.width, size.height);
+    for (const auto& [to, from] :
+         {std::pair{&icon.image, &fitted.image}, {&icon.mask, &fitted.mask}}) {
+        gdi::BitBlt(*to, 0, 0, size.width, size.height, *from, 0, 0, gdi::RasterOp::Copy);
+    }
 }
 
 }  // namespace
@@ -63,17 +67,15 @@ Result<std::vector<std::uint8_t>> ReadInput(const std::string& name) {
     return bytes;
 }
 
-Result<IconDocument> ReadIcon(const std::string& name, imaging::PasteFit fit) {
+Result<gdi::IconPlanes> ReadIcon(const std::string& name, imaging::PasteFit fit) {
     const auto bytes = ReadInput(name);
     if (!bytes) return tl::unexpected(bytes.error());
     const auto image = formats::ReadBestImage(*bytes);
     if (!image) return UnreadableInput(name, image.error());
-    IconDocument icon;
-    if (formats::IsPng(*bytes)) {
-        PastePng(icon, *image, fit);
-    } else {
-        icon.TakeIcon(*image);
-    }
+    if (!formats::IsPng(*bytes))
+        return gdi::Stretched(image->planes, gdi::kIconSize, gdi::kIconSize);
+    gdi::IconPlanes icon;
+    PastePng(icon, *image, fit);
     return icon;
 }
 

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "document/IconDocument.h"
 #include "imaging/PasteFit.h"
 #include "platform/Result.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::cli {
 
@@ -17,7 +17,7 @@ Result<std::vector<std::uint8_t>> ReadInput(const std::string& name);
 
 // The icon in a file, as the editor opens it. A PNG, told by its content, is pasted at the top left
 // of an empty icon instead: a larger one is fitted, a smaller one leaves the rest transparent.
-Result<document::IconDocument> ReadIcon(const std::string& name, imaging::PasteFit fit);
+Result<gdi::IconPlanes> ReadIcon(const std::string& name, imaging::PasteFit fit);
 
 // A reader's failure in words for this file.
 tl::unexpected<Error> UnreadableInput(const std::string& name, const Error& error);

@@ -8,9 +8,9 @@
 #include <cerrno>
 #include <vector>
 
-#include "cli/PngWriter.h"
 #include "cli/Streams.h"
-#include "document/IcoFile.h"
+#include "formats/IcoFile.h"
+#include "formats/PngWriter.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/SystemError.h"
 
@@ -18,20 +18,19 @@ namespace kestrel::cli {
 
 namespace {
 
-using document::IconDocument;
 using system::SystemFailure;
 using Bytes = std::vector<std::uint8_t>;
 
-Bytes IcoBytes(const IconDocument& icon) {
-    const document::IcoBytes bytes = document::EncodeIco(icon);
+Bytes IcoBytes(const gdi::IconPlanes& icon) {
+    const formats::IcoBytes bytes = formats::EncodeIco(icon);
     return {bytes.begin(), bytes.end()};
 }
 
 struct Format {
     std::string_view name;
-    Bytes (*encode)(const IconDocument& icon);
+    Bytes (*encode)(const gdi::IconPlanes& icon);
 };
-constexpr Format kFormats[] = {{"ico", IcoBytes}, {"png", PngBytes}};
+constexpr Format kFormats[] = {{"ico", IcoBytes}, {"png", formats::PngBytes}};
 constexpr const Format* kNoFormat = std::end(kFormats);
 
 enum class Way { Replace, StandardOutput, Stream };
@@ -95,7 +94,7 @@ Result<void> CheckTarget(const IconTarget& target) {
     return FailureOf(target.name, {EINVAL, "the name ends in neither .ico nor .png"});
 }
 
-Result<void> WriteIcon(const IconTarget& target, const IconDocument& icon) {
+Result<void> WriteIcon(const IconTarget& target, const gdi::IconPlanes& icon) {
     return WriteOutput(target.name, FormatOf(target)->encode(icon));
 }
 

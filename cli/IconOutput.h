@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "document/IconDocument.h"
 #include "platform/Result.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::cli {
 
@@ -19,7 +19,7 @@ struct IconTarget {
 
 // Fails before anything is read or written when it cannot be told which format is wanted.
 Result<void> CheckTarget(const IconTarget& target);
-Result<void> WriteIcon(const IconTarget& target, const document::IconDocument& icon);
+Result<void> WriteIcon(const IconTarget& target, const gdi::IconPlanes& icon);
 
 // A file is replaced wholly or not at all. What exists and is no regular file is written to as it
 // stands, and so is a link, as /dev/stdout, to where standard output leads. A failure begins with

@@ -16,10 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             static_cast<void>(formats::DecodeImage(file, entry).has_value());
     }
     if (const auto best = formats::ReadBestImage(file)) {
-        gdi::Surface target(32, 32);
-        for (const auto part :
-             {formats::DrawPart::Mask, formats::DrawPart::Image, formats::DrawPart::Normal})
-            formats::DrawIcon(target, *best, 32, 32, part);
+        static_cast<void>(gdi::Stretched(best->planes, gdi::kIconSize, gdi::kIconSize));
     }
     return 0;
 }

@@ -6,7 +6,7 @@
 
 #include "desktop/Pictures.h"
 #include "document/ApplicationIcon.h"
-#include "document/IcoFile.h"
+#include "formats/IcoFile.h"
 #include "platform/controls/ImageList.h"
 #include "platform/system/DiskFiles.h"
 #include "resources/ImageList.h"
@@ -27,13 +27,13 @@ bool Save(const QImage& picture, const std::string& file) {
 }
 
 bool WriteIcon(const std::string& folder) {
-    const document::IconDocument icon = document::ApplicationIcon();
+    const gdi::IconPlanes icon = document::ApplicationIcon();
     system::DiskFiles files;
     const std::string iconFile = folder + "/kestrel.ico";
-    bool written = Said(document::WriteIcoCopy(files, icon, iconFile).has_value(), iconFile);
-    const QImage picture = desktop::ToImage(icon.PicMask, icon.PicImage);
+    bool written = Said(formats::WriteIcoCopy(files, icon, iconFile).has_value(), iconFile);
+    const QImage picture = desktop::ToImage(icon);
     for (const int scale : {1, 2, 4, 8}) {
-        const int size = document::kIconSize * scale;
+        const int size = gdi::kIconSize * scale;
         const std::string name = folder + "/kestrel-icon-editor-" + std::to_string(size) + ".png";
         written = Save(picture.scaled(size, size), name) && written;
     }
@@ -46,7 +46,7 @@ bool WritePictures(const std::string& folder, const char* prefix, const controls
     for (int number = 1; number <= list.Count(); ++number) {
         std::string file = folder + "/" + prefix + (number < 10 ? "0" : "");
         file += std::to_string(number) + ".png";
-        written = Save(desktop::ToImage(list.Mask(number), list.Image(number)), file) && written;
+        written = Save(desktop::ToImage(list.Picture(number)), file) && written;
     }
     return written;
 }

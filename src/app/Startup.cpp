@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "document/ApplicationIcon.h"
-#include "document/IcoFile.h"
+#include "formats/IcoFile.h"
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
 #include "platform/system/Folders.h"
@@ -26,7 +26,7 @@ void Refuse(services::MessageBoxes& boxes, BoxIcon icon, const i18n::Text& text,
 void PrepareWindowsFolder(const std::string& folder, system::FileSystem& files) {
     const std::string trayIcon = folder + "/kestrel.ico";
     if (files.FileExists(trayIcon) || !system::MakeFolder(folder)) return;
-    static_cast<void>(document::WriteIcoCopy(files, document::ApplicationIcon(), trayIcon));
+    static_cast<void>(formats::WriteIcoCopy(files, document::ApplicationIcon(), trayIcon));
 }
 
 char LowerAscii(char c) {

@@ -10,8 +10,8 @@ constexpr gdi::COLORREF kOpaque = 0xFF000000;
 
 // The selection over white, with alpha where it covers the white.
 gdi::Surface PictureOf(const editing::Selection& selection) {
-    const gdi::Surface& mask = selection.PicSelMask;
-    const gdi::Surface& image = selection.PicSelImage;
+    const gdi::Surface& mask = selection.PicSelMask();
+    const gdi::Surface& image = selection.PicSelImage();
     gdi::Surface picture(mask.Width(), mask.Height(), gdi::kWhite);
     for (int y = 0; y < picture.Height(); ++y) {
         for (int x = 0; x < picture.Width(); ++x) {
@@ -44,8 +44,7 @@ Result<void> ClipboardCommands::Paste(imaging::PasteMode mode) {
         if (!fit) return Fail(kDialogCancelled, "Cancel was selected");
         size = imaging::FittedSize(size, *fit);
     }
-    imaging::PastedPlanes planes = imaging::PlanesOf(*picture, size, mode);
-    editor_.FloatSelection(std::move(planes.mask), std::move(planes.image));
+    editor_.FloatSelection(imaging::PlanesOf(*picture, size, mode));
     return {};
 }
 

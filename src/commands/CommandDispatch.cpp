@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "imaging/filters/FilterTable.h"
+#include "imaging/Operations.h"
 
 namespace kestrel::commands {
 
 void CommandDispatch::SmartMenuXP1_Click(std::string_view key) {
-    // The filters stand in a table of their own.
-    if (filters::FindFilter(key) == nullptr) return Run(MenuBarCommands(), key);
-    handlers_.RunFilterCommand(key);
+    // The operations stand in a table of their own.
+    if (imaging::FindOperation(key) == nullptr) return Run(MenuBarCommands(), key);
+    handlers_.Operate(key);
     window_.RefreshEditCommands();
 }
 

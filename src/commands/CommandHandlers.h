@@ -24,12 +24,9 @@ class CommandHandlers {
     virtual void mnuToolsOpts_Click(int index) = 0;
     // The Image menu is being opened.
     virtual void mnuImage_Click() = 0;
-    // The indexes are those of the Image menu's items.
-    virtual void mnuImageOpts_Click(int index) = 0;
-    virtual void mnuMirrorOpts_Click(int index) = 0;
-    virtual void mnuRotateOpts_Click(int index) = 0;
-    // A command of the filter menu, by its key.
-    virtual void RunFilterCommand(std::string_view key) = 0;
+    // An operation of the Image or Effect menu, by its key.
+    virtual void Operate(std::string_view key) = 0;
+    virtual void AdjustColors() = 0;
     // 0 is the default palette, 1 a random one.
     virtual void mnuPaletteOpts_Click(int index) = 0;
     virtual void ImgLoadPalette_Click() = 0;

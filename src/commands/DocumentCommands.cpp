@@ -1,7 +1,7 @@
 #include "commands/DocumentCommands.h"
 
 #include "commands/ErrorBox.h"
-#include "document/IcoFile.h"
+#include "formats/IcoFile.h"
 #include "formats/IconFile.h"
 #include "i18n/Messages.h"
 #include "platform/system/PathText.h"
@@ -101,8 +101,8 @@ bool DocumentCommands::OpenFile(const services::ChosenFile& file) {
     document_.FilePath = file.path;
     document_.FileTitle = file.fileTitle;
     editor_.ShowTitle();
-    editor_.ShowOpenedIcon(*icon);
-    document_.MultipleIcons = document::DetectMultipleIcons(*bytes);
+    editor_.ReadIconIntoDocument(*icon);
+    document_.MultipleIcons = formats::DetectMultipleIcons(*bytes);
     recent_.AddRecentFile(document_.FilePath);
     window_.StartTmr();
     return true;
@@ -151,7 +151,7 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
     window_.ShowHourglass(true);
     document_.FileTitle = system::FileTitleOf(path);
     editor_.ShowTitle();
-    const Result<void> written = document::WriteIcoCopy(files_, editor_.Composited(), path);
+    const Result<void> written = formats::WriteIcoCopy(files_, editor_.Composited(), path);
     window_.ShowHourglass(false);
     document_.SaveSucceeded = written.has_value();
     if (!written) {

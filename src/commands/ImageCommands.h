@@ -1,33 +1,42 @@
 #pragma once
 
-#include "commands/ImageTarget.h"
+#include <optional>
+#include <string_view>
+
 #include "commands/ImagingDialogs.h"
-#include "services/MessageLoop.h"
+#include "editing/Editor.h"
+#include "imaging/Operations.h"
 
 namespace kestrel::commands {
 
-// The commands of the Image menu that change colours, and the gradient of the Tools menu.
+// The commands of the Image and Effect menus, and the gradient of the Tools menu.
 class ImageCommands {
   public:
-    ImageCommands(editing::Editor& editor, ImagingDialogs& dialogs, services::MessageLoop& loop)
-        : editor_(editor), target_(editor), dialogs_(dialogs), loop_(loop) {}
+    ImageCommands(editing::Editor& editor, ImagingDialogs& dialogs, services::MessageLoop& loop,
+                  system::RandomNumbers& random)
+        : editor_(editor), dialogs_(dialogs), filters_(loop, random) {}
 
-    // 0 to 3: colour adjustment, Buttonize, Grayscale, Invert; others are none.
-    void mnuImageOpts_Click(int index);
+    // Runs the operation with this key on the selection or the whole icon; without one nothing
+    // happens.
+    void Operate(std::string_view key);
+    void AdjustColors();
     // Lets the user choose a gradient in place of the icon.
     void GradientBackground();
 
+    // Halves can be reflected onto each other where the side has an even number of pixels.
+    bool CanMirrorColumns() const { return Target().width % 2 == 0; }
+    bool CanMirrorRows() const { return Target().height % 2 == 0; }
+
   private:
-    void AdjustColors();
-    void MakeButton();
-    // Recolours the selection, or the icon with an entry of the history.
-    template <typename Recolor>
-    void Change(const Recolor& recolor);
+    // What an operation would change.
+    gdi::Rect Target() const;
+    // None where the user does not want the operation.
+    std::optional<int> ValueOf(const imaging::Operation& operation);
+    editing::Leaves Prepare(imaging::OnSelection rule);
 
     editing::Editor& editor_;
-    ImageTarget target_;
     ImagingDialogs& dialogs_;
-    services::MessageLoop& loop_;
+    filters::mFilterG filters_;
 };
 
 }  // namespace kestrel::commands

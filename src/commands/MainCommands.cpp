@@ -19,9 +19,7 @@ MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenu
       palette_(editor.ColorPalette(),
                {editor.Wells(), cdb, services.dialogs, window, services.files, services.random}),
       clipboard_(editor, services.clipboard, window),
-      transforms_(editor),
-      images_(editor, imagingDialogs, window),
-      filters_(editor, imagingDialogs, window, services.random),
+      images_(editor, imagingDialogs, window, services.random),
       recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
               services.systemLcid),
       documents_(editor, window, recent_, cdb, services.boxes, services.files),
@@ -93,9 +91,9 @@ void MainCommands::mnuToolsOpts_Click(int index) {
 void MainCommands::mnuImage_Click() {
     controls::SmartMenuXP& menu = menus_.SmartMenuXP1;
     for (const auto* item : {"mnuMirrorOpts0", "mnuMirrorOpts1"})
-        menu.SetEnabled(item, transforms_.CanMirrorColumns());
+        menu.SetEnabled(item, images_.CanMirrorColumns());
     for (const auto* item : {"mnuMirrorOpts2", "mnuMirrorOpts3"})
-        menu.SetEnabled(item, transforms_.CanMirrorRows());
+        menu.SetEnabled(item, images_.CanMirrorRows());
 }
 
 void MainCommands::ImgLoadPalette_Click() {

@@ -6,13 +6,11 @@
 #include "commands/ClipboardCommands.h"
 #include "commands/CommandHandlers.h"
 #include "commands/DocumentCommands.h"
-#include "commands/FilterCommands.h"
 #include "commands/ImageCommands.h"
 #include "commands/ModLanguage.h"
 #include "commands/ModRecent.h"
 #include "commands/PaletteCommands.h"
 #include "commands/ShellCommands.h"
-#include "commands/TransformCommands.h"
 #include "editing/Editor.h"
 #include "platform/controls/SmartMenuXP.h"
 #include "services/Cdb.h"
@@ -76,10 +74,8 @@ class MainCommands : public CommandHandlers {
     void mnuToolsOpts_Click(int index) override;
     // Enables the mirror commands that suit the size of the selection.
     void mnuImage_Click() override;
-    void mnuImageOpts_Click(int index) override { images_.mnuImageOpts_Click(index); }
-    void mnuMirrorOpts_Click(int index) override { transforms_.mnuMirrorOpts_Click(index); }
-    void mnuRotateOpts_Click(int index) override { transforms_.mnuRotateOpts_Click(index); }
-    void RunFilterCommand(std::string_view key) override { filters_.Run(key); }
+    void Operate(std::string_view key) override { images_.Operate(key); }
+    void AdjustColors() override { images_.AdjustColors(); }
     void mnuPaletteOpts_Click(int index) override { palette_.mnuPaletteOpts_Click(index); }
     void ImgLoadPalette_Click() override;
     void ImgSavePalette_Click() override;
@@ -100,9 +96,7 @@ class MainCommands : public CommandHandlers {
     services::MessageBoxes& boxes_;
     PaletteCommands palette_;
     ClipboardCommands clipboard_;
-    TransformCommands transforms_;
     ImageCommands images_;
-    FilterCommands filters_;
     ModRecent recent_;
     DocumentCommands documents_;
     ShellCommands shell_;

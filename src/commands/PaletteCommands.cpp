@@ -1,6 +1,6 @@
 #include "commands/PaletteCommands.h"
 
-#include "editing/PaletteFile.h"
+#include "formats/PaletteFile.h"
 #include "i18n/Messages.h"
 #include "services/GCommonDialog.h"
 
@@ -62,7 +62,11 @@ Result<void> PaletteCommands::ImgLoadPalette_Click() {
                                   kDefaultExtension, parts_.owner.hWnd(), file.flags)) {
         return {};
     }
-    return editing::ReadPaletteFile(parts_.files, palette_, file.path);
+    gdi::PaletteColors colors = palette_.Colors();
+    Result<void> read = formats::ReadPaletteFile(parts_.files, colors, file.path);
+    // Also what was read before a failure.
+    if (read || colors != palette_.Colors()) palette_.SetColors(colors);
+    return read;
 }
 
 Result<void> PaletteCommands::ImgSavePalette_Click() {
@@ -75,7 +79,7 @@ Result<void> PaletteCommands::ImgSavePalette_Click() {
                                   file.flags)) {
         return {};
     }
-    return editing::WritePaletteFile(parts_.files, palette_, file.path);
+    return formats::WritePaletteFile(parts_.files, palette_.Colors(), file.path);
 }
 
 }  // namespace kestrel::commands

@@ -26,11 +26,11 @@ QImage ToImage(const gdi::Surface& surface, gdi::Rect area) {
     return image;
 }
 
-QImage ToImage(const gdi::Surface& mask, const gdi::Surface& color) {
-    QImage image = ToImage(color, color.Bounds()).convertToFormat(QImage::Format_ARGB32);
+QImage ToImage(const gdi::IconPlanes& icon) {
+    QImage image = ToImage(icon.image, icon.Bounds()).convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
-            if (mask.GetPixel(x, y) == gdi::kWhite) image.setPixel(x, y, 0);
+            if (icon.IsTransparent(x, y)) image.setPixel(x, y, 0);
         }
     }
     return image;

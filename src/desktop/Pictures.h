@@ -5,7 +5,7 @@
 #include <QIcon>
 #include <QImage>
 
-#include "platform/gdi/Surface.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::desktop {
 
@@ -13,7 +13,7 @@ namespace kestrel::desktop {
 QImage ToImage(const gdi::Surface& surface, gdi::Rect area);
 
 // An icon's two planes as one picture: transparent where the mask is white.
-QImage ToImage(const gdi::Surface& mask, const gdi::Surface& color);
+QImage ToImage(const gdi::IconPlanes& icon);
 
 // Pixels of 0xAABBGGRR, as pictures with half-transparent pixels have them, and back. The picture
 // of the desktop is in the format ARGB32.

@@ -5,12 +5,8 @@
 
 namespace kestrel::document {
 
-IconDocument ApplicationIcon() {
-    using namespace resources;
-    IconDocument icon;
-    icon.PicImage = gdi::ReadPixelArt(kKestrelIcon, kKestrelInks, gdi::kBlack);
-    icon.PicMask = gdi::ReadPixelArt(kKestrelIcon, {{'.', gdi::kWhite}}, gdi::kBlack);
-    return icon;
+gdi::IconPlanes ApplicationIcon() {
+    return gdi::ReadIconArt(resources::kKestrelIcon, resources::kKestrelInks);
 }
 
 }  // namespace kestrel::document

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "document/IconDocument.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::document {
 
-// The program's own icon, as an untitled document: its window and tray picture and the sample.
-IconDocument ApplicationIcon();
+// The program's own icon: its window and tray picture and the sample.
+gdi::IconPlanes ApplicationIcon();
 
 }  // namespace kestrel::document

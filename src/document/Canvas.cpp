@@ -10,15 +10,15 @@ namespace kestrel::document {
 
 namespace {
 
+using gdi::kIconSize;
 using gdi::RasterOp;
 
 // The grid has one line more than it has cells.
 constexpr int kGridPixels = kGridSize + 1;
-constexpr gdi::Rect kIconArea{0, 0, kIconSize, kIconSize};
 
 }  // namespace
 
-Canvas::Canvas(IconDocument& document, CanvasWindow& window, gdi::COLORREF windowColor)
+Canvas::Canvas(const IconDocument& document, CanvasWindow& window, gdi::COLORREF windowColor)
     : PicMain(kGridPixels, kGridPixels, gdi::kWhite),
       PicMainCopy(kGridSize, kGridSize, gdi::kWhite),
       PicIcon(kIconSize, kIconSize, windowColor),
@@ -63,16 +63,9 @@ void Canvas::OverlayGrid() {
 }
 
 void Canvas::RebuildBackingCopy() {
-    const gdi::Rect all = PicMainCopy.Bounds();
     gdi::BitBlt(PicMainCopy, 0, 0, kGridSize, kGridSize, transparentGridImage_, 0, 0,
                 RasterOp::Copy);
-    gdi::StretchBlt(PicMainCopy, all, document_.PicMask, kIconArea, RasterOp::And);
-    gdi::StretchBlt(PicMainCopy, all, document_.PicImage, kIconArea, RasterOp::Xor);
-}
-
-void Canvas::RebuildGrid() {
-    RebuildBackingCopy();
-    ShowGrid();
+    gdi::DrawOver(PicMainCopy, PicMainCopy.Bounds(), document_.Planes());
 }
 
 void Canvas::ShowGrid() {
@@ -83,15 +76,9 @@ void Canvas::ShowGrid() {
 }
 
 void Canvas::RedrawAll() {
-    RebuildGrid();
+    RebuildBackingCopy();
+    ShowGrid();
     PreviewIcon();
-    document_.Modified = true;
-}
-
-void Canvas::EraseAndRedraw(gdi::Rect cells) {
-    gdi::PatBlt(document_.PicMask, cells, gdi::kWhite);
-    gdi::PatBlt(document_.PicImage, cells, gdi::kBlack);
-    RedrawAll();
 }
 
 void Canvas::PreviewIcon() {
@@ -102,8 +89,7 @@ void Canvas::PreviewIcon() {
 }
 
 void Canvas::DrawIconOver(gdi::Surface& ground) const {
-    gdi::BitBlt(ground, 0, 0, kIconSize, kIconSize, document_.PicMask, 0, 0, RasterOp::And);
-    gdi::BitBlt(ground, 0, 0, kIconSize, kIconSize, document_.PicImage, 0, 0, RasterOp::Xor);
+    gdi::DrawOver(ground, document_.Planes().Bounds(), document_.Planes());
 }
 
 void Canvas::ShowEmptyIcon() {
@@ -113,27 +99,19 @@ void Canvas::ShowEmptyIcon() {
     OverlayGrid();
 }
 
-void Canvas::ReadIconIntoDocument(const formats::IconImage& icon) {
-    document_.TakeIcon(icon);
-    PreviewIcon();
-    RebuildGrid();
-}
-
 void Canvas::PaintCell(int cx, int cy, gdi::COLORREF color) {
-    if (!document_.PicImage.Contains(cx, cy)) return;
+    if (!PicIcon.Contains(cx, cy)) return;
     const int x = cx * kCellSize;
     const int y = cy * kCellSize;
     gdi::FillBox(PicMain, x, y, x + kCellSize, y + kCellSize, color);
     gdi::DrawBox(PicMain, x, y, x + kCellSize, y + kCellSize, gdi::kBlack);
     gdi::PatBlt(PicMainCopy, {x, y, kCellSize, kCellSize}, color);
     PicIcon.SetPixel(cx, cy, color);
-    document_.PicImage.SetPixel(cx, cy, color);
-    document_.PicMask.SetPixel(cx, cy, gdi::kBlack);
     RepaintCell(cx, cy);
 }
 
 void Canvas::PaintCellTransparent(int cx, int cy) {
-    if (!document_.PicImage.Contains(cx, cy)) return;
+    if (!PicIcon.Contains(cx, cy)) return;
     const int x = cx * kCellSize;
     const int y = cy * kCellSize;
     // The tile lies between the lines, which stay black on the grid; in the backing copy they took
@@ -142,8 +120,6 @@ void Canvas::PaintCellTransparent(int cx, int cy) {
         gdi::BitBlt(*view, x, y, kCellSize, kCellSize, transparentGridImage_, x, y, RasterOp::Copy);
     }
     PicIcon.SetPixel(cx, cy, PicIcon.BackColor());
-    document_.PicImage.SetPixel(cx, cy, gdi::kBlack);
-    document_.PicMask.SetPixel(cx, cy, gdi::kWhite);
     RepaintCell(cx, cy);
 }
 
@@ -158,7 +134,7 @@ void Canvas::SetWindowColor(gdi::COLORREF color) {
 }
 
 void Canvas::SetPenColor(gdi::COLORREF color) {
-    for (gdi::Surface* surface : {&PicMain, &PicMainCopy, &PicIcon, &document_.PicImage}) {
+    for (gdi::Surface* surface : {&PicMain, &PicMainCopy, &PicIcon}) {
         surface->state.foreColor = color;
         surface->state.fillColor = color;
     }

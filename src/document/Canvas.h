@@ -1,7 +1,6 @@
 #pragma once
 
 #include "document/IconDocument.h"
-#include "formats/IconImage.h"
 #include "platform/gdi/Surface.h"
 
 namespace kestrel::document {
@@ -34,7 +33,7 @@ class CanvasOverlay {
 class Canvas {
   public:
     // `windowColor` is the desktop's window colour. The views show the empty icon afterwards.
-    Canvas(IconDocument& document, CanvasWindow& window, gdi::COLORREF windowColor);
+    Canvas(const IconDocument& document, CanvasWindow& window, gdi::COLORREF windowColor);
 
     // The editing grid with its lines, 10 grid units per icon pixel.
     gdi::Surface PicMain;
@@ -47,30 +46,20 @@ class Canvas {
     void ClearView();
     // Blackens the grid lines and repaints the grid.
     void OverlayGrid();
-    // Rebuilds every view from the planes and marks the document modified.
+    // Rebuilds every view from the planes.
     void RedrawAll();
-    // Makes these icon pixels transparent (an empty rectangle: none), then rebuilds every view and
-    // marks the document modified.
-    void EraseAndRedraw(gdi::Rect cells);
     // Recomposes the preview from the planes and what lies over them.
     void PreviewIcon();
     // Composes the icon over a ground of 32 x 32 pixels.
     void DrawIconOver(gdi::Surface& ground) const;
     // Empties the preview and the grid; the planes are the caller's.
     void ShowEmptyIcon();
-    // Rebuilds the grid and its backing copy from the planes; the document's flags stay.
-    void RebuildGrid();
     // Redraws the grid from its backing copy and what lies over it.
     void ShowGrid();
     // What every redraw draws over the icon from now on.
     void SetOverlay(const CanvasOverlay& overlay) { overlay_ = &overlay; }
 
-    // Makes `icon` the content of the planes and views, fitted to 32 x 32. Both planes are empty
-    // before. Modified stays as it is.
-    void ReadIconIntoDocument(const formats::IconImage& icon);
-
-    // Paints one icon pixel, given in icon coordinates, in planes and views without touching the
-    // others. Outside the icon nothing happens.
+    // Paints one icon pixel, given in icon coordinates, in the views without touching the others.
     void PaintCell(int cx, int cy, gdi::COLORREF color);
     void PaintCellTransparent(int cx, int cy);
 
@@ -86,7 +75,7 @@ class Canvas {
     void RebuildBackingCopy();
     void RepaintCell(int cx, int cy);
 
-    IconDocument& document_;
+    const IconDocument& document_;
     CanvasWindow& window_;
     gdi::Surface gridLinesImage_;
     gdi::Surface transparentGridImage_;

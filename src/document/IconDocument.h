@@ -3,23 +3,16 @@
 #include <string>
 #include <string_view>
 
-#include "formats/IconImage.h"
-#include "platform/gdi/Surface.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::document {
 
-// Icon pixels along each side.
-inline constexpr int kIconSize = 32;
 // The file path of an icon that has no file yet.
 inline constexpr std::string_view kUntitled = "Untitled";
 
-// The one open icon. A transparent pixel is white in PicMask and black in PicImage; an opaque pixel
-// is black in PicMask and has its colour in PicImage. White in PicMask with any other colour is an
-// inverted-screen pixel; such pixels only come from opened files.
-struct IconDocument {
-    gdi::Surface PicImage{kIconSize, kIconSize, gdi::kBlack};
-    gdi::Surface PicMask{kIconSize, kIconSize, gdi::kWhite};
-
+// The one open icon: its planes of 32 x 32 pixels and what is known of its file.
+class IconDocument {
+  public:
     std::string FilePath{kUntitled};
     // The file-name part of FilePath; empty for a new icon. During and after a save that failed,
     // the name that was tried.
@@ -29,14 +22,20 @@ struct IconDocument {
     bool SaveSucceeded = false;
     bool MultipleIcons = false;
 
+    const gdi::IconPlanes& Planes() const { return planes_; }
+    const gdi::Surface& PicImage() const { return planes_.image; }
+    const gdi::Surface& PicMask() const { return planes_.mask; }
+    // For edits, which refresh what shows the planes.
+    gdi::IconPlanes& ChangePlanes() { return planes_; }
+
     bool IsUntitled() const { return FilePath == kUntitled; }
-    bool IsTransparent(int x, int y) const { return PicMask.GetPixel(x, y) == gdi::kWhite; }
+    bool IsTransparent(int x, int y) const { return planes_.IsTransparent(x, y); }
 
     // An empty, untitled, unmodified icon.
-    void Reset();
+    void Reset() { *this = {}; }
 
-    // Makes `icon` the content of both planes, fitted to 32 x 32 by repeating or dropping pixels.
-    void TakeIcon(const formats::IconImage& icon);
+  private:
+    gdi::IconPlanes planes_;
 };
 
 }  // namespace kestrel::document

@@ -10,7 +10,9 @@ class ColorEraser : public FreehandTool {
     using FreehandTool::FreehandTool;
 
   protected:
-    void Paint(Button /*button*/, int cx, int cy) override { canvas_.PaintCellTransparent(cx, cy); }
+    void Paint(IconEdit& edit, Button /*button*/, int cx, int cy) override {
+        edit.PaintCellTransparent(cx, cy);
+    }
 };
 
 }  // namespace kestrel::editing

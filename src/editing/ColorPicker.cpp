@@ -12,7 +12,7 @@ Outcome ColorPicker::Release(Button button, int x, int y) {
         window_.Beep();
         wells_.SetTransparent(button);
     } else {
-        wells_.SetPenColor(button, document_.PicImage.GetPixel(cx, cy));
+        wells_.SetPenColor(button, document_.PicImage().GetPixel(cx, cy));
     }
     return Outcome::HandBack;
 }

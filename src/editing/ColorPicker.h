@@ -8,7 +8,7 @@ namespace kestrel::editing {
 class ColorPicker : public ClickTool {
   public:
     explicit ColorPicker(const ToolParts& parts)
-        : document_(parts.document), wells_(parts.wells), window_(parts.window) {}
+        : document_(parts.edit.document), wells_(parts.wells), window_(parts.edit.window) {}
 
     Outcome Release(Button button, int x, int y) override;
 

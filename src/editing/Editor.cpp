@@ -13,17 +13,18 @@ Editor::Editor(EditorWindow& window, gdi::COLORREF windowColor)
       wells_(window),
       palette_(window),
       history_(document_),
-      selection_(document_, canvas_, history_, window),
+      parts_{document_, canvas_, history_, window},
+      selection_(parts_),
       tools_(window, selection_, windowColor),
       readout_(document_, window) {
-    const ToolParts parts{document_, canvas_, wells_, history_, selection_, window};
+    const ToolParts parts{parts_, wells_, selection_};
     for (const ToolRow& row : ToolTable())
         gridTools_[row.id] = row.make(parts);
     history_.PushUndoSnapshot();
 }
 
 void Editor::ResetDocument() {
-    gestureButton_ = Button::None;
+    EndGesture();
     selection_.Forget();
     document_.Reset();
     ShowTitle();
@@ -37,10 +38,9 @@ void Editor::ResetDocument() {
     history_.PushUndoSnapshot();
 }
 
-void Editor::ShowOpenedIcon(const formats::IconImage& icon) {
-    canvas_.ReadIconIntoDocument(icon);
-    history_.ClearUndoHistory();
-    history_.PushUndoSnapshot();
+void Editor::ReadIconIntoDocument(const formats::IconImage& icon) {
+    EditIcon(Leaves::OldestEntry).Planes() =
+        gdi::Stretched(icon.planes, gdi::kIconSize, gdi::kIconSize);
 }
 
 void Editor::PicMain_MouseDown(Button button, int x, int y) {
@@ -86,7 +86,6 @@ void Editor::EndGesture() {
 Outcome Editor::ReleaseTool(Button button, int x, int y) {
     gestureButton_ = Button::None;
     const Outcome outcome = gestureTool_->Release(button, x, y);
-    if (outcome == Outcome::Changed) RecordChange();
     if (outcome == Outcome::HandBack) tools_.RestoreLastDrawingTool();
     // What lies under the pointer may have changed.
     ShowReadout(pointer_.x, pointer_.y);
@@ -96,13 +95,17 @@ Outcome Editor::ReleaseTool(Button button, int x, int y) {
 void Editor::PopUndoSnapshot() {
     EndGesture();
     selection_.DropSelection();
-    if (history_.PopUndoSnapshot()) canvas_.RedrawAll();
+    ShowStep(history_.PopUndoSnapshot());
 }
 
 void Editor::PopRedoSnapshot() {
     EndGesture();
     selection_.DropSelection();
-    if (history_.PopRedoSnapshot()) canvas_.RedrawAll();
+    ShowStep(history_.PopRedoSnapshot());
+}
+
+void Editor::ShowStep(const PackedPicture* picture) {
+    if (picture != nullptr) Unpack(*picture, EditIcon(Leaves::NoEntry).Planes());
 }
 
 bool Editor::CanUndo() {
@@ -111,8 +114,8 @@ bool Editor::CanUndo() {
     return gestureButton_ == Button::None ? history_.CanUndo() : history_.UndoCount() > 1;
 }
 
-document::IconDocument Editor::Composited() const {
-    document::IconDocument icon = document_;
+gdi::IconPlanes Editor::Composited() const {
+    gdi::IconPlanes icon = document_.Planes();
     if (selection_.SelectionFloating()) selection_.CompositeOver(icon);
     return icon;
 }
@@ -123,10 +126,10 @@ void Editor::SelectAll() {
     selection_.MarkAll();
 }
 
-void Editor::FloatSelection(gdi::Surface mask, gdi::Surface image) {
+void Editor::FloatSelection(gdi::IconPlanes planes) {
     EndGesture();
     tools_.SelectTool(ToolId::Selection);
-    selection_.Float(std::move(mask), std::move(image));
+    selection_.Float(std::move(planes));
 }
 
 void Editor::SetWindowColor(gdi::COLORREF color) {
@@ -145,17 +148,11 @@ void Editor::ShowReadout(int x, int y) {
                   IsSizing() ? std::optional(press_) : std::nullopt);
 }
 
-// What is moved keeps its size.
+// A move never changes the selection's size.
 bool Editor::IsSizing() const {
     const bool moving = tools_.CurrentTool() == ToolId::Selection &&
                         gestureButton_ == Button::Left && selection_.HasMoveCursor();
     return gestureButton_ != Button::None && !moving;
-}
-
-void Editor::RecordChange() {
-    history_.PushUndoSnapshot();
-    document_.Modified = true;
-    window_.RefreshEditCommands();
 }
 
 }  // namespace kestrel::editing

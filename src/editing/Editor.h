@@ -3,8 +3,6 @@
 #include <map>
 #include <memory>
 
-#include "document/Canvas.h"
-#include "document/IconDocument.h"
 #include "editing/ColorWells.h"
 #include "editing/EditorWindow.h"
 #include "editing/GridTool.h"
@@ -12,7 +10,9 @@
 #include "editing/Palette.h"
 #include "editing/PointerReadout.h"
 #include "editing/Selection.h"
+#include "editing/TargetEdit.h"
 #include "editing/ToolPalette.h"
+#include "formats/IconImage.h"
 
 namespace kestrel::editing {
 
@@ -33,8 +33,9 @@ class Editor {
 
     // A new, empty icon, with tools, colours, palette and history as at start-up.
     void ResetDocument();
-    // Makes `icon` the content of the document just reset, and its oldest state.
-    void ShowOpenedIcon(const formats::IconImage& icon);
+    // Makes `icon`, fitted to 32 x 32, the content of the document just reset, and its oldest
+    // state.
+    void ReadIconIntoDocument(const formats::IconImage& icon);
 
     // Mouse events of the editing grid; points in grid units, also outside while captured. A
     // gesture belongs to the button that began it; others are ignored until it ends.
@@ -52,12 +53,16 @@ class Editor {
     bool CanUndo();
     bool CanRedo() const { return history_.CanRedo(); }
 
+    // Opens a change of the whole icon, or of what is selected where something is.
+    IconEdit EditIcon(Leaves leaves) { return {parts_, leaves}; }
+    TargetEdit EditTarget(Leaves ofSelection) { return {parts_, selection_, ofSelection}; }
+
     // The icon as it is seen: with what floats over it.
-    document::IconDocument Composited() const;
+    gdi::IconPlanes Composited() const;
     // Selects the whole icon, with the Selection tool.
     void SelectAll();
     // Selects these planes, floating at the top left corner, with the Selection tool.
-    void FloatSelection(gdi::Surface mask, gdi::Surface image);
+    void FloatSelection(gdi::IconPlanes planes);
 
     // The desktop's window colour has changed.
     void SetWindowColor(gdi::COLORREF color);
@@ -69,7 +74,7 @@ class Editor {
     Outcome ReleaseTool(Button button, int x, int y);
     void ShowReadout(int x, int y);
     bool IsSizing() const;
-    void RecordChange();
+    void ShowStep(const PackedPicture* picture);
 
     EditorWindow& window_;
     document::IconDocument document_;
@@ -77,6 +82,7 @@ class Editor {
     ColorWells wells_;
     Palette palette_;
     ModCollections history_;
+    EditParts parts_;
     Selection selection_;
     ToolPalette tools_;
     PointerReadout readout_;

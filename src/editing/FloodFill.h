@@ -8,17 +8,14 @@ namespace kestrel::editing {
 // opaque, with a transparent well white.
 class FloodFill : public ClickTool {
   public:
-    explicit FloodFill(const ToolParts& parts)
-        : document_(parts.document), canvas_(parts.canvas), history_(parts.history) {}
+    explicit FloodFill(const ToolParts& parts) : parts_(parts.edit) {}
 
     Outcome Release(Button button, int x, int y) override;
 
   private:
     void Fill(int cx, int cy, gdi::COLORREF color);
 
-    document::IconDocument& document_;
-    document::Canvas& canvas_;
-    ModCollections& history_;
+    EditParts parts_;
 };
 
 }  // namespace kestrel::editing

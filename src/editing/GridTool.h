@@ -1,10 +1,7 @@
 #pragma once
 
-#include "document/Canvas.h"
-#include "document/IconDocument.h"
 #include "editing/ColorWells.h"
-#include "editing/EditorWindow.h"
-#include "editing/ModCollections.h"
+#include "editing/IconEdit.h"
 #include "editing/Mouse.h"
 #include "editing/Selection.h"
 
@@ -12,22 +9,19 @@ namespace kestrel::editing {
 
 // What a tool may need; each keeps what it does need.
 struct ToolParts {
-    document::IconDocument& document;
-    document::Canvas& canvas;
+    EditParts edit;
     ColorWells& wells;
-    ModCollections& history;
     Selection& selection;
-    EditorWindow& window;
 };
 
-// What a gesture came to. A changed image is recorded, also where it looks as before; after
-// HandBack the drawing tool that was used before is current again; OpenPopup asks for the editing
-// pop-up at the pointer.
-enum class Outcome { Nothing, Changed, HandBack, OpenPopup };
+// What the editor does after a gesture: after HandBack the drawing tool that was used before is
+// current again; OpenPopup asks for the editing pop-up at the pointer.
+enum class Outcome { Nothing, HandBack, OpenPopup };
 
 // A tool of the editing grid. Points are in grid units and may lie outside the grid while the mouse
 // is captured. The editor calls Press once, then Move for each pointer event, then Release where
-// the last of them was; it has set the pen colour before Press.
+// the last of them was; it has set the pen colour before Press. A tool that draws holds an edit
+// from Press to Release, which records the gesture also where the image looks as before.
 class GridTool {
   public:
     virtual ~GridTool() = default;

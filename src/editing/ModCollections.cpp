@@ -5,7 +5,7 @@
 namespace kestrel::editing {
 
 void ModCollections::PushUndoSnapshot() {
-    const PackedPicture now = Pack(document_);
+    const PackedPicture now = Pack(document_.Planes());
     if (last_) undoList_.emplace_back(*last_, now);
     last_ = now;
     ClearRedoList();
@@ -26,26 +26,25 @@ bool ModCollections::CanUndo() {
     return !undoList_.empty();
 }
 
-bool ModCollections::PopUndoSnapshot() {
+const PackedPicture* ModCollections::PopUndoSnapshot() {
     RecordUnrecorded();
     return Step(undoList_, redoList_);
 }
 
-bool ModCollections::PopRedoSnapshot() {
+const PackedPicture* ModCollections::PopRedoSnapshot() {
     return Step(redoList_, undoList_);
 }
 
 void ModCollections::RecordUnrecorded() {
-    if (last_ && Pack(document_) != *last_) PushUndoSnapshot();
+    if (last_ && Pack(document_.Planes()) != *last_) PushUndoSnapshot();
 }
 
-bool ModCollections::Step(Steps& from, Steps& to) {
-    if (from.empty() || !last_) return false;
+const PackedPicture* ModCollections::Step(Steps& from, Steps& to) {
+    if (from.empty() || !last_) return nullptr;
     to.push_back(std::move(from.back()));
     from.pop_back();
     to.back().ApplyTo(*last_);
-    Unpack(*last_, document_);
-    return true;
+    return &*last_;
 }
 
 }  // namespace kestrel::editing

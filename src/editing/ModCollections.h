@@ -13,7 +13,7 @@ namespace kestrel::editing {
 // is kept whole; of the others, what differs from the entry beside them.
 class ModCollections {
   public:
-    explicit ModCollections(document::IconDocument& document) : document_(document) {}
+    explicit ModCollections(const document::IconDocument& document) : document_(document) {}
 
     // Records the planes as they are now. A redo list that was not emptied before leads on from
     // another picture and goes.
@@ -26,10 +26,10 @@ class ModCollections {
     bool CanUndo();
     bool CanRedo() const { return !redoList_.empty(); }
 
-    // One step back or forward, into the planes; the views are the caller's. False when there is
-    // none: then nothing happens.
-    [[nodiscard]] bool PopUndoSnapshot();
-    [[nodiscard]] bool PopRedoSnapshot();
+    // One step back or forward: the picture that the caller is to bring into the planes. Null when
+    // there is none: then nothing happens.
+    [[nodiscard]] const PackedPicture* PopUndoSnapshot();
+    [[nodiscard]] const PackedPicture* PopRedoSnapshot();
 
     std::size_t UndoCount() const { return undoList_.size() + (last_ ? 1 : 0); }
     std::size_t RedoCount() const { return redoList_.size(); }
@@ -38,9 +38,9 @@ class ModCollections {
     using Steps = std::deque<PictureDifference>;
 
     void RecordUnrecorded();
-    bool Step(Steps& from, Steps& to);
+    const PackedPicture* Step(Steps& from, Steps& to);
 
-    document::IconDocument& document_;
+    const document::IconDocument& document_;
     // The entry recorded last, and the steps that lead away from it, the nearest at the end.
     std::optional<PackedPicture> last_;
     Steps undoList_;

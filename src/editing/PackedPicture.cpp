@@ -8,7 +8,7 @@ constexpr std::uint32_t kMaskBit = 1U << 24;
 constexpr int kRowBytes = 1;
 constexpr int kBitsBytes = 4;
 constexpr int kColorBytes = 3;
-constexpr std::uint32_t kRows = document::kIconSize;
+constexpr std::uint32_t kRows = gdi::kIconSize;
 static_assert(kRows == 32, "four bytes hold one bit for each pixel of a row");
 constexpr std::size_t kMostBytes =
     std::size_t{kRows} * (kRowBytes + 2 * kBitsBytes + kRows * kColorBytes);
@@ -68,19 +68,19 @@ void PutRow(Writer& writer, std::uint32_t y, Row one, Row other) {
 
 }  // namespace
 
-PackedPicture Pack(const document::IconDocument& document) {
+PackedPicture Pack(const gdi::IconPlanes& icon) {
     PackedPicture picture;
-    const auto masks = document.PicMask.Pixels();
-    const auto colors = document.PicImage.Pixels();
+    const auto masks = icon.mask.Pixels();
+    const auto colors = icon.image.Pixels();
     for (std::size_t i = 0; i < picture.size(); ++i)
         picture[i] = colors[i] | (masks[i] == gdi::kWhite ? kMaskBit : 0);
     return picture;
 }
 
-void Unpack(const PackedPicture& picture, document::IconDocument& document) {
-    for (int y = 0; y < document::kIconSize; ++y) {
-        const auto masks = document.PicMask.Row(y);
-        const auto colors = document.PicImage.Row(y);
+void Unpack(const PackedPicture& picture, gdi::IconPlanes& icon) {
+    for (int y = 0; y < gdi::kIconSize; ++y) {
+        const auto masks = icon.mask.Row(y);
+        const auto colors = icon.image.Row(y);
         for (std::size_t x = 0; x < kRows; ++x) {
             const std::uint32_t pixel = picture[static_cast<std::size_t>(y) * kRows + x];
             masks[x] = (pixel & kMaskBit) != 0 ? gdi::kWhite : gdi::kBlack;

@@ -6,18 +6,17 @@
 #include <span>
 #include <vector>
 
-#include "document/IconDocument.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::editing {
 
 // Both planes of an icon, a word a pixel, row by row: the colour, and in bit 24 whether the mask is
 // white. Masks hold nothing but black and white, so nothing is lost.
-using PackedPicture =
-    std::array<std::uint32_t, std::size_t{document::kIconSize} * document::kIconSize>;
+using PackedPicture = std::array<std::uint32_t, std::size_t{gdi::kIconSize} * gdi::kIconSize>;
 
-PackedPicture Pack(const document::IconDocument& document);
-// Into the planes of the document; nothing else of it changes.
-void Unpack(const PackedPicture& picture, document::IconDocument& document);
+// The planes are 32 x 32 pixels.
+PackedPicture Pack(const gdi::IconPlanes& icon);
+void Unpack(const PackedPicture& picture, gdi::IconPlanes& icon);
 
 // What differs between two pictures: the pixels' exclusive or, which leads from either of the two
 // to the other. Takes 12 bytes for one pixel, 3360 for all of them.

@@ -54,7 +54,7 @@ void Palette::SetColor(std::size_t cell, gdi::COLORREF color) {
     DrawPalette(PaletteReload::No);
 }
 
-void Palette::SetColors(const PaletteColors& colors) {
+void Palette::SetColors(const gdi::PaletteColors& colors) {
     colors_ = colors;
     kind_ = PaletteKind::Own;
     DrawPalette(PaletteReload::No);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <optional>
 
 #include "editing/EditorWindow.h"
@@ -8,8 +7,6 @@
 #include "platform/system/RandomNumbers.h"
 
 namespace kestrel::editing {
-
-using PaletteColors = std::array<gdi::COLORREF, 256>;
 
 // What the colours of the palette are: those of a new document, random ones, or the user's own.
 enum class PaletteKind { Default, Random, Own };
@@ -20,7 +17,7 @@ class Palette {
   public:
     explicit Palette(EditorWindow& window);
 
-    const PaletteColors& Colors() const { return colors_; }
+    const gdi::PaletteColors& Colors() const { return colors_; }
     PaletteKind Kind() const { return kind_; }
     const gdi::Surface& PicPal() const { return picPal_; }
     // The cell under a point in pixels of PicPal.
@@ -31,7 +28,7 @@ class Palette {
     // All but the first and the last, which stay black and white in the default palette.
     void Randomize(system::RandomNumbers& random);
     void SetColor(std::size_t cell, gdi::COLORREF color);
-    void SetColors(const PaletteColors& colors);
+    void SetColors(const gdi::PaletteColors& colors);
 
     // Whether a click on a cell changes its colour.
     bool ChkPal() const { return chkPal_; }
@@ -39,7 +36,7 @@ class Palette {
 
   private:
     EditorWindow& window_;
-    PaletteColors colors_{};
+    gdi::PaletteColors colors_{};
     PaletteKind kind_ = PaletteKind::Default;
     gdi::Surface picPal_;
     bool chkPal_ = false;

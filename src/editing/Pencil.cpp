@@ -2,11 +2,11 @@
 
 namespace kestrel::editing {
 
-void Pencil::Paint(Button button, int cx, int cy) {
+void Pencil::Paint(IconEdit& edit, Button button, int cx, int cy) {
     if (wells_.IsTransparent(button)) {
-        canvas_.PaintCellTransparent(cx, cy);
+        edit.PaintCellTransparent(cx, cy);
     } else {
-        canvas_.PaintCell(cx, cy, canvas_.PicMain.state.foreColor);
+        edit.PaintCell(cx, cy, PenColor());
     }
 }
 

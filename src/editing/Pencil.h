@@ -10,7 +10,7 @@ class Pencil : public FreehandTool {
     explicit Pencil(const ToolParts& parts) : FreehandTool(parts), wells_(parts.wells) {}
 
   protected:
-    void Paint(Button button, int cx, int cy) override;
+    void Paint(IconEdit& edit, Button button, int cx, int cy) override;
 
   private:
     const ColorWells& wells_;

@@ -14,7 +14,7 @@ namespace kestrel::editing {
 namespace {
 
 using document::CellOf;
-using document::kIconSize;
+using gdi::kIconSize;
 
 // Left of or above the grid, -9 to -1 would truncate into the first cell.
 int CellOrOutside(int v) {
@@ -44,14 +44,14 @@ void PointerReadout::Show(ToolId tool, GridPoint at, std::optional<GridPoint> pr
 }
 
 void PointerReadout::ShowPixel(int cx, int cy) {
-    if (!document_.PicMask.Contains(cx, cy)) {
+    if (!document_.PicMask().Contains(cx, cy)) {
         window_.SetStatusPanel(StatusPanel::Pixel, {});
     } else if (document_.IsTransparent(cx, cy)) {
         window_.SetStatusPanel(StatusPanel::Pixel, i18n::kTransparent.Now());
     } else {
         // Blue, green, red without leading zeros.
         std::array<char, 8> digits{};
-        std::snprintf(digits.data(), digits.size(), "#%X", document_.PicImage.GetPixel(cx, cy));
+        std::snprintf(digits.data(), digits.size(), "#%X", document_.PicImage().GetPixel(cx, cy));
         window_.SetStatusPanel(StatusPanel::Pixel, digits.data());
     }
 }

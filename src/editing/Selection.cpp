@@ -23,19 +23,10 @@ bool IsGridCoordinate(int v) {
     return v >= Limits::min() && v <= Limits::max();
 }
 
-// (ground AND mask) XOR image, stretched over `to`.
-void Compose(gdi::Surface& ground, gdi::Rect to, const gdi::Surface& mask,
-             const gdi::Surface& image) {
-    gdi::StretchBlt(ground, to, mask, mask.Bounds(), RasterOp::And);
-    gdi::StretchBlt(ground, to, image, image.Bounds(), RasterOp::Xor);
-}
-
 }  // namespace
 
-Selection::Selection(document::IconDocument& document, document::Canvas& canvas,
-                     ModCollections& history, EditorWindow& window)
-    : document_(document), canvas_(canvas), history_(history), window_(window) {
-    canvas_.SetOverlay(*this);
+Selection::Selection(const EditParts& parts) : parts_(parts) {
+    parts_.canvas.SetOverlay(*this);
 }
 
 void Selection::BeginMarquee(int x, int y) {
@@ -63,7 +54,7 @@ void Selection::EndMarquee() {
     if (x1 > x2) document::SwapInt(x1, x2);
     if (y1 > y2) document::SwapInt(y1, y2);
     if (x1 != x2 && y1 != y2) Mark();
-    window_.RefreshEditCommands();
+    parts_.window.RefreshEditCommands();
 }
 
 void Selection::MarkAll() {
@@ -92,7 +83,7 @@ void Selection::MoveTo(int x, int y) {
 void Selection::EndMove() {
     if (!MovingSelection()) return;
     Enter(State::Floating);
-    document_.Modified = true;
+    parts_.document.Modified = true;
 }
 
 void Selection::MoveBy(int columns, int rows) {
@@ -112,23 +103,26 @@ bool Selection::PlaceAt(int x1, int y1) {
 
 void Selection::LiftSelection() {
     Enter(State::Floating);
-    canvas_.EraseAndRedraw(Cells());
-    window_.RefreshEditCommands();
+    IconEdit(parts_, Leaves::NoEntry).Planes().Erase(Cells());
+    parts_.window.RefreshEditCommands();
 }
 
-void Selection::Float(gdi::Surface mask, gdi::Surface image) {
+void Selection::Float(gdi::IconPlanes planes) {
     marquee_ = {};
     Enter(State::Floating);
-    ReplacePlanes(std::move(mask), std::move(image));
-    window_.RefreshEditCommands();
+    planes_ = std::move(planes);
+    ShowChanged();
+    parts_.window.RefreshEditCommands();
 }
 
-void Selection::ReplacePlanes(gdi::Surface mask, gdi::Surface image) {
-    PicSelMask = std::move(mask);
-    PicSelImage = std::move(image);
-    marquee_.x2 = marquee_.x1 + PicSelMask.Width() * kCellSize;
-    marquee_.y2 = marquee_.y1 + PicSelMask.Height() * kCellSize;
-    ShowFloatingSelection();
+void Selection::ShowChanged() {
+    if (SelectionFloating()) {
+        marquee_.x2 = marquee_.x1 + planes_.Width() * kCellSize;
+        marquee_.y2 = marquee_.y1 + planes_.Height() * kCellSize;
+        ShowFloatingSelection();
+    } else if (SelectionMarked()) {
+        StampSelection();
+    }
 }
 
 void Selection::DropSelection() {
@@ -136,16 +130,14 @@ void Selection::DropSelection() {
     const bool floating = SelectionFloating();
     EraseMarquee();
     if (floating) CompositeSelection();
-    window_.RefreshEditCommands();
+    parts_.window.RefreshEditCommands();
 }
 
 void Selection::Delete() {
     if (!Exists()) return;
     const gdi::Rect cells = SelectionMarked() ? Cells() : gdi::Rect{};
     EraseMarquee();
-    canvas_.EraseAndRedraw(cells);
-    history_.ClearRedoList();
-    history_.PushUndoSnapshot();
+    IconEdit(parts_, Leaves::Entry).Planes().Erase(cells);
 }
 
 void Selection::Forget() {
@@ -155,39 +147,35 @@ void Selection::Forget() {
 
 void Selection::CopyAreaToSelection() {
     const gdi::Rect area = Cells();
-    PicSelImage = gdi::Surface(area.width, area.height, gdi::kBlack);
-    PicSelMask = gdi::Surface(area.width, area.height, gdi::kWhite);
+    planes_ = gdi::IconPlanes(area.width, area.height);
     const auto copy = [&](gdi::Surface& to, const gdi::Surface& from) {
         gdi::BitBlt(to, 0, 0, area.width, area.height, from, area.left, area.top, RasterOp::Copy);
     };
-    copy(PicSelImage, document_.PicImage);
-    copy(PicSelMask, document_.PicMask);
+    copy(planes_.image, parts_.document.PicImage());
+    copy(planes_.mask, parts_.document.PicMask());
 }
 
 void Selection::CompositeSelection() {
-    CompositeOver(document_);
-    canvas_.RedrawAll();
-    history_.ClearRedoList();
-    history_.PushUndoSnapshot();
+    CompositeOver(IconEdit(parts_, Leaves::Entry).Planes());
 }
 
-void Selection::CompositeOver(document::IconDocument& planes) const {
+void Selection::CompositeOver(gdi::IconPlanes& icon) const {
     const gdi::Rect cells = Cells();
-    Compose(planes.PicImage, cells, PicSelMask, PicSelImage);
-    gdi::StretchBlt(planes.PicMask, cells, PicSelMask, PicSelMask.Bounds(), RasterOp::And);
+    gdi::DrawOver(icon.image, cells, planes_);
+    gdi::StretchBlt(icon.mask, cells, planes_.mask, planes_.Bounds(), RasterOp::And);
 }
 
 void Selection::ShowFloatingSelection() {
-    canvas_.ShowGrid();
-    canvas_.PreviewIcon();
-    document_.Modified = true;
+    parts_.canvas.ShowGrid();
+    parts_.canvas.PreviewIcon();
+    parts_.document.Modified = true;
 }
 
 void Selection::StampSelection() {
     const gdi::Rect cells = Cells();
-    gdi::StretchBlt(document_.PicMask, cells, PicSelMask, PicSelMask.Bounds(), RasterOp::Copy);
-    gdi::StretchBlt(document_.PicImage, cells, PicSelImage, PicSelImage.Bounds(), RasterOp::Copy);
-    canvas_.RedrawAll();
+    IconEdit edit(parts_, Leaves::NoEntry);
+    gdi::StretchBlt(edit.Planes().mask, cells, planes_.mask, planes_.Bounds(), RasterOp::Copy);
+    gdi::StretchBlt(edit.Planes().image, cells, planes_.image, planes_.Bounds(), RasterOp::Copy);
 }
 
 void Selection::UpdateMoveCursor(int x, int y) {
@@ -198,7 +186,7 @@ void Selection::UpdateMoveCursor(int x, int y) {
 
 void Selection::ShowMoveCursor(bool shown) {
     if (std::exchange(moveCursor_, shown) == shown) return;
-    window_.SetGridCursor(shown ? GridCursor::Move : GridCursor::Cross);
+    parts_.window.SetGridCursor(shown ? GridCursor::Move : GridCursor::Cross);
 }
 
 gdi::Rect Selection::Cells() const {
@@ -210,7 +198,7 @@ gdi::Rect Selection::Cells() const {
 void Selection::DrawUnderLines(gdi::Surface& grid) const {
     if (!SelectionFloating()) return;
     const auto& [x1, y1, x2, y2] = marquee_;
-    Compose(grid, {x1, y1, x2 - x1, y2 - y1}, PicSelMask, PicSelImage);
+    gdi::DrawOver(grid, {x1, y1, x2 - x1, y2 - y1}, planes_);
 }
 
 void Selection::DrawOverLines(gdi::Surface& grid) const {
@@ -218,7 +206,7 @@ void Selection::DrawOverLines(gdi::Surface& grid) const {
 }
 
 void Selection::DrawOnPreview(gdi::Surface& preview) const {
-    if (SelectionFloating()) Compose(preview, Cells(), PicSelMask, PicSelImage);
+    if (SelectionFloating()) gdi::DrawOver(preview, Cells(), planes_);
 }
 
 void Selection::DrawMarquee(gdi::Surface& grid) const {
@@ -231,8 +219,8 @@ void Selection::DrawMarquee(gdi::Surface& grid) const {
 
 // Inverted twice, the grid is as it was.
 void Selection::InvertMarquee() {
-    DrawMarquee(canvas_.PicMain);
-    window_.RepaintView(document::View::Grid, canvas_.PicMain.Bounds());
+    DrawMarquee(parts_.canvas.PicMain);
+    parts_.window.RepaintView(document::View::Grid, parts_.canvas.PicMain.Bounds());
 }
 
 void Selection::Enter(State next) {

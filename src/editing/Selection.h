@@ -3,8 +3,7 @@
 #include "document/Canvas.h"
 #include "document/IconDocument.h"
 #include "editing/Corners.h"
-#include "editing/EditorWindow.h"
-#include "editing/ModCollections.h"
+#include "editing/IconEdit.h"
 #include "editing/Mouse.h"
 
 namespace kestrel::editing {
@@ -15,16 +14,15 @@ namespace kestrel::editing {
 // of the marquee are multiples of 10 and, for a floating selection, may lie outside the grid.
 class Selection : private document::CanvasOverlay {
   public:
-    Selection(document::IconDocument& document, document::Canvas& canvas, ModCollections& history,
-              EditorWindow& window);
+    explicit Selection(const EditParts& parts);
     Selection(const Selection&) = delete;
     Selection& operator=(const Selection&) = delete;
     ~Selection() override = default;
 
-    // What is selected, as large as the selection and under the rules of the icon's planes. Whoever
-    // changes them calls ShowFloatingSelection or StampSelection.
-    gdi::Surface PicSelImage{0, 0, gdi::kBlack};
-    gdi::Surface PicSelMask{0, 0, gdi::kWhite};
+    // What is selected, as large as the selection and under the rules of the icon's planes. A
+    // TargetEdit changes them.
+    const gdi::Surface& PicSelImage() const { return planes_.image; }
+    const gdi::Surface& PicSelMask() const { return planes_.mask; }
 
     bool SelectionMarked() const { return state_ == State::Marked; }
     bool SelectionFloating() const { return state_ == State::Floating || MovingSelection(); }
@@ -53,7 +51,7 @@ class Selection : private document::CanvasOverlay {
     // Lifts the marked pixels out of the icon.
     void LiftSelection();
     // Lets these planes float at the top left corner; there is no selection before.
-    void Float(gdi::Surface mask, gdi::Surface image);
+    void Float(gdi::IconPlanes planes);
     // Puts a floating selection into the icon and records that; a marked one leaves no trace.
     void DropSelection();
     // Discards the selected pixels and records that; without a selection nothing happens. The
@@ -62,21 +60,16 @@ class Selection : private document::CanvasOverlay {
     // Ends it without touching pixels or views.
     void Forget();
 
-    // Gives a floating selection other pixels, also of another size, and shows them. Its top left
-    // corner stays.
-    void ReplacePlanes(gdi::Surface mask, gdi::Surface image);
-    // Shows planes that have changed, floating over the icon or written into it where they were
-    // marked.
-    void ShowFloatingSelection();
-    void StampSelection();
-    // The planes that the icon would have if the selection were dropped now.
-    void CompositeOver(document::IconDocument& planes) const;
+    // Puts what is selected onto the icon's planes, as dropping it now would.
+    void CompositeOver(gdi::IconPlanes& icon) const;
 
     // Gives the grid the pointer for moving where the point lies in the selection.
     void UpdateMoveCursor(int x, int y);
     bool HasMoveCursor() const { return moveCursor_; }
 
   private:
+    friend class TargetEdit;
+
     // Drawing: a new marquee follows the pointer. Moving: a floating selection does.
     enum class State { None, Drawing, Marked, Floating, Moving };
 
@@ -95,14 +88,16 @@ class Selection : private document::CanvasOverlay {
     void Mark();
     void CopyAreaToSelection();
     void CompositeSelection();
+    void ShowFloatingSelection();
+    void StampSelection();
+    // Shows planes that have changed, floating over the icon or written into it where they were
+    // marked.
+    void ShowChanged();
     // False where it cannot go.
     bool PlaceAt(int x1, int y1);
 
-    document::IconDocument& document_;
-    document::Canvas& canvas_;
-    ModCollections& history_;
-    EditorWindow& window_;
-
+    EditParts parts_;
+    gdi::IconPlanes planes_{0, 0};
     State state_ = State::None;
     Corners marquee_;
     // From the marquee's top left corner to where it is held.

@@ -7,7 +7,7 @@
 namespace kestrel::editing {
 
 void ShapeTool::Press(Button /*button*/, int x, int y) {
-    history_.ClearRedoList();
+    edit_.emplace(parts_, Leaves::Entry);
     document::CellCentre(x, y);
     band_ = {x, y, x, y};
     InvertRubberBand();
@@ -27,22 +27,23 @@ Outcome ShapeTool::Release(Button button, int x, int y) {
     InvertRubberBand();
     using document::CellOf;
     const Corners cells{CellOf(band_.x1), CellOf(band_.y1), CellOf(band_.x2), CellOf(band_.y2)};
-    Draw(document_.PicMask, cells, {gdi::kBlack, gdi::kBlack});
-    Draw(document_.PicImage, cells,
-         {document_.PicImage.state.foreColor, wells_.PenColor(Other(button))});
-    canvas_.PreviewIcon();
-    canvas_.RebuildGrid();
-    return Outcome::Changed;
+    gdi::IconPlanes& icon = edit_->Planes();
+    Draw(icon.mask, cells, {gdi::kBlack, gdi::kBlack});
+    Draw(icon.image, cells,
+         {parts_.canvas.PicMain.state.foreColor, wells_.PenColor(Other(button))});
+    edit_.reset();
+    return Outcome::Nothing;
 }
 
 void ShapeTool::InvertRubberBand() {
-    gdi::DrawState& state = canvas_.PicMain.state;
+    gdi::DrawState& state = parts_.canvas.PicMain.state;
     state.drawMode = gdi::DrawMode::Invert;
-    DrawRubberBand(canvas_.PicMain, band_);
+    DrawRubberBand(parts_.canvas.PicMain, band_);
     state.drawMode = gdi::DrawMode::CopyPen;
     const auto [left, right] = std::minmax(band_.x1, band_.x2);
     const auto [top, bottom] = std::minmax(band_.y1, band_.y2);
-    window_.RepaintView(document::View::Grid, {left, top, right - left + 1, bottom - top + 1});
+    parts_.window.RepaintView(document::View::Grid,
+                              {left, top, right - left + 1, bottom - top + 1});
 }
 
 }  // namespace kestrel::editing

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "editing/Corners.h"
 #include "editing/GridTool.h"
 
@@ -20,12 +22,7 @@ struct ShapeColors {
 // opaque; a transparent well draws white.
 class ShapeTool : public GridTool {
   public:
-    explicit ShapeTool(const ToolParts& parts)
-        : document_(parts.document),
-          canvas_(parts.canvas),
-          wells_(parts.wells),
-          history_(parts.history),
-          window_(parts.window) {}
+    explicit ShapeTool(const ToolParts& parts) : parts_(parts.edit), wells_(parts.wells) {}
 
     void Press(Button button, int x, int y) final;
     void Move(Button button, int x, int y) final;
@@ -41,11 +38,9 @@ class ShapeTool : public GridTool {
     // Draws the rubber band or, when it is shown, takes it away.
     void InvertRubberBand();
 
-    document::IconDocument& document_;
-    document::Canvas& canvas_;
+    EditParts parts_;
     const ColorWells& wells_;
-    ModCollections& history_;
-    EditorWindow& window_;
+    std::optional<IconEdit> edit_;
     Corners band_;
 };
 

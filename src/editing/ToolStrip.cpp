@@ -13,9 +13,9 @@ gdi::Surface ToolStrip() {
     gdi::PatBlt(strip, {0, kGlyphSize, strip.Width(), kGlyphSize}, gdi::kBlack);
     for (int slot = 0; slot < glyphs.Count(); ++slot) {
         const int x = slot * kGlyphSize;
-        gdi::BitBlt(strip, x, 0, kGlyphSize, kGlyphSize, glyphs.Mask(slot + 1), 0, 0,
-                    gdi::RasterOp::Copy);
-        gdi::BitBlt(strip, x, kGlyphSize, kGlyphSize, kGlyphSize, glyphs.Image(slot + 1), 0, 0,
+        const gdi::IconPlanes glyph = glyphs.Picture(slot + 1);
+        gdi::BitBlt(strip, x, 0, kGlyphSize, kGlyphSize, glyph.mask, 0, 0, gdi::RasterOp::Copy);
+        gdi::BitBlt(strip, x, kGlyphSize, kGlyphSize, kGlyphSize, glyph.image, 0, 0,
                     gdi::RasterOp::Copy);
     }
     return strip;

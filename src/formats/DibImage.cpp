@@ -119,7 +119,7 @@ std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout) {
     IconImage icon = EmptyImage(layout.info);
     std::uint32_t anyAlpha = 0;
     for (int y = 0; y < layout.info.height; ++y) {
-        const auto row = icon.color.Row(y);
+        const auto row = icon.planes.image.Row(y);
         decoder.ReadColorRow(y, row);
         for (const COLORREF pixel : row)
             anyAlpha |= pixel >> 24;
@@ -129,7 +129,7 @@ std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout) {
         return icon;
     }
     for (int y = 0; y < layout.info.height; ++y)
-        decoder.ReadMaskRow(y, icon.mask.Row(y));
+        decoder.ReadMaskRow(y, icon.planes.mask.Row(y));
     return icon;
 }
 

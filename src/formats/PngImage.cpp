@@ -129,7 +129,7 @@ std::optional<IconImage> DecodePng(Bytes image, const ImageInfo& info) {
     IconImage icon = EmptyImage(info);
     const png_byte* pixel = decoder.pixels.data();
     for (int y = 0; y < info.height; ++y) {
-        for (gdi::COLORREF& out : icon.color.Row(y)) {
+        for (gdi::COLORREF& out : icon.planes.image.Row(y)) {
             out = gdi::Rgb(pixel[0], pixel[1], pixel[2]) | std::uint32_t{pixel[3]} << 24;
             pixel += 4;
         }

@@ -8,17 +8,17 @@ namespace kestrel::imaging {
 
 namespace {
 
-using document::kIconSize;
 using filters::Level;
+using gdi::kIconSize;
 
 // In every channel of a transparent pixel: no colour has it.
 constexpr int kTransparent = 1000;
 
-ColorRecord RecordOf(gdi::COLORREF color) {
+AdjustedColor RecordOf(gdi::COLORREF color) {
     return {gdi::Red(color), gdi::Green(color), gdi::Blue(color)};
 }
 
-gdi::COLORREF ColorOf(const ColorRecord& record) {
+gdi::COLORREF ColorOf(const AdjustedColor& record) {
     return gdi::Rgb(Level(record.red), Level(record.green), Level(record.blue));
 }
 
@@ -31,13 +31,13 @@ std::array<bool, 3> GovernedBy(AdjustmentBar bar) {
 
 }  // namespace
 
-ColorAdjustment::ColorAdjustment(const document::IconDocument& icon) {
+ColorAdjustment::ColorAdjustment(const gdi::IconPlanes& icon) {
     auto* record = AdjInitial.begin();
     for (int y = 0; y < kIconSize; ++y) {
         for (int x = 0; x < kIconSize; ++x) {
-            const bool opaque = icon.PicMask.GetPixel(x, y) == gdi::kBlack;
-            *record++ = opaque ? RecordOf(icon.PicImage.GetPixel(x, y))
-                               : ColorRecord{kTransparent, kTransparent, kTransparent};
+            const bool opaque = icon.mask.GetPixel(x, y) == gdi::kBlack;
+            *record++ = opaque ? RecordOf(icon.image.GetPixel(x, y))
+                               : AdjustedColor{kTransparent, kTransparent, kTransparent};
         }
     }
     Reset();
@@ -50,7 +50,8 @@ void ColorAdjustment::Change(AdjustmentBar bar, int value) {
 
 void ColorAdjustment::Step(AdjustmentBar bar, int step) {
     const auto governed = GovernedBy(bar);
-    constexpr std::array kChannels{&ColorRecord::red, &ColorRecord::green, &ColorRecord::blue};
+    constexpr std::array kChannels{&AdjustedColor::red, &AdjustedColor::green,
+                                   &AdjustedColor::blue};
     for (std::size_t i = 0; i < AdjShown.size(); ++i) {
         if (AdjShown[i].red == kTransparent) continue;
         for (std::size_t k = 0; k < kChannels.size(); ++k) {

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include "document/IconDocument.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::imaging {
 
@@ -14,7 +14,7 @@ inline constexpr int kAdjustmentBars = 4;
 inline constexpr int kAdjustmentStep = 5;
 
 // A colour in the making: channels may lie outside 0..255.
-struct ColorRecord {
+struct AdjustedColor {
     int red = 0;
     int green = 0;
     int blue = 0;
@@ -26,7 +26,7 @@ struct ColorRecord {
 class ColorAdjustment {
   public:
     // Every bar stands at 0.
-    explicit ColorAdjustment(const document::IconDocument& icon);
+    explicit ColorAdjustment(const gdi::IconPlanes& icon);
 
     // A bar has come to `value`. However far it went, that is one step up or down; where it was
     // already, nothing.
@@ -38,7 +38,7 @@ class ColorAdjustment {
     void Draw(gdi::Surface& picture) const;
 
   private:
-    using Records = std::array<ColorRecord, std::size_t{document::kIconSize} * document::kIconSize>;
+    using Records = std::array<AdjustedColor, std::size_t{gdi::kIconSize} * gdi::kIconSize>;
 
     void Step(AdjustmentBar bar, int step);
 

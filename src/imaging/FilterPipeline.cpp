@@ -2,12 +2,11 @@
 
 #include <algorithm>
 
-#include "document/IconDocument.h"
 #include "imaging/OpaquePixels.h"
 
 namespace kestrel::imaging {
 
-using document::kIconSize;
+using gdi::kIconSize;
 
 gdi::Surface PrepareFilterSource(const gdi::Surface& plane) {
     gdi::Surface picture(kIconSize, kIconSize);
@@ -21,9 +20,8 @@ gdi::Surface PrepareFilterSource(const gdi::Surface& plane) {
     return picture;
 }
 
-void ApplyFilterResult(const gdi::Surface& filtered, gdi::Surface& image,
-                       const gdi::Surface& mask) {
-    ChangeOpaquePixels(image, mask,
+void ApplyFilterResult(const gdi::Surface& filtered, gdi::IconPlanes& planes) {
+    ChangeOpaquePixels(planes,
                        [&](int x, int y, gdi::COLORREF) { return filtered.GetPixel(x, y); });
 }
 

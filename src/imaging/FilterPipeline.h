@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gdi/Surface.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::imaging {
 
@@ -8,7 +8,7 @@ namespace kestrel::imaging {
 // a smaller one, its nearest pixel.
 gdi::Surface PrepareFilterSource(const gdi::Surface& plane);
 
-// Puts the filtered picture into a plane, except where the mask shows it as transparent.
-void ApplyFilterResult(const gdi::Surface& filtered, gdi::Surface& image, const gdi::Surface& mask);
+// Gives the opaque pixels of the planes the colours of the filtered picture.
+void ApplyFilterResult(const gdi::Surface& filtered, gdi::IconPlanes& planes);
 
 }  // namespace kestrel::imaging

@@ -4,15 +4,14 @@
 #include <cmath>
 #include <cstdint>
 
-#include "document/IconDocument.h"
 #include "platform/gdi/Blit.h"
 
 namespace kestrel::imaging {
 
 namespace {
 
-using document::kIconSize;
 using gdi::COLORREF;
+using gdi::kIconSize;
 
 constexpr unsigned kOpaqueFrom = 128;
 
@@ -60,9 +59,8 @@ PictureSize FittedSize(PictureSize picture, PasteFit fit) {
     return fit == PasteFit::Shrink ? PictureSize{kIconSize, kIconSize} : KeepAspect(picture);
 }
 
-PastedPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode) {
-    PastedPlanes planes{gdi::Surface(size.width, size.height, gdi::kWhite),
-                        gdi::Surface(size.width, size.height, gdi::kBlack)};
+gdi::IconPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode) {
+    gdi::IconPlanes planes(size.width, size.height);
     gdi::Surface scaled = planes.image;
     gdi::StretchBlt(scaled, scaled.Bounds(), picture, picture.Bounds(), gdi::RasterOp::Copy);
     for (int y = 0; y < size.height; ++y) {
@@ -72,8 +70,7 @@ PastedPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode m
                 mode == PasteMode::Opaque ? OverWhite(pixel) : pixel & gdi::kWhite;
             const bool seeThrough = AlphaOf(pixel) < kOpaqueFrom || color == gdi::kWhite;
             if (mode == PasteMode::Transparent && seeThrough) continue;
-            planes.mask.SetPixel(x, y, gdi::kBlack);
-            planes.image.SetPixel(x, y, color);
+            planes.SetOpaque(x, y, color);
         }
     }
     return planes;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gdi/Surface.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::imaging {
 
@@ -23,12 +23,7 @@ bool FitsIcon(PictureSize picture);
 // The size to which a picture is shrunk that does not fit; it has at least one pixel.
 PictureSize FittedSize(PictureSize picture, PasteFit fit);
 
-struct PastedPlanes {
-    gdi::Surface mask;
-    gdi::Surface image;
-};
-
 // A picture of 0xAABBGGRR pixels as planes of another size, by repeating or dropping pixels.
-PastedPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode);
+gdi::IconPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode);
 
 }  // namespace kestrel::imaging

@@ -10,7 +10,7 @@ namespace kestrel::imaging {
 
 namespace {
 
-using document::kIconSize;
+using gdi::kIconSize;
 
 // The ring that lies `d` pixels inside the icon's edge.
 void DarkenRing(gdi::Surface& image, const gdi::Surface& mask, int d, int darkening) {
@@ -31,30 +31,29 @@ void DarkenRing(gdi::Surface& image, const gdi::Surface& mask, int d, int darken
 
 }  // namespace
 
-void Grayscale(gdi::Surface& image, const gdi::Surface& mask) {
-    ChangeOpaquePixels(image, mask, [](int, int, gdi::COLORREF color) {
+void Grayscale(gdi::IconPlanes& planes) {
+    ChangeOpaquePixels(planes, [](int, int, gdi::COLORREF color) {
         const int sum = 222 * gdi::Red(color) + 707 * gdi::Green(color) + 71 * gdi::Blue(color);
         const std::uint8_t grey = filters::Level(filters::Round(sum / 1000.0));
         return gdi::Rgb(grey, grey, grey);
     });
 }
 
-void Invert(gdi::Surface& image, const gdi::Surface& mask) {
-    ChangeOpaquePixels(image, mask,
-                       [](int, int, gdi::COLORREF color) { return color ^ gdi::kWhite; });
+void Invert(gdi::IconPlanes& planes) {
+    ChangeOpaquePixels(planes, [](int, int, gdi::COLORREF color) { return color ^ gdi::kWhite; });
 }
 
-void Buttonize(document::IconDocument& icon, services::MessageLoop& loop) {
+void Buttonize(gdi::IconPlanes& icon, services::MessageLoop& loop) {
     constexpr int kInnermost = 3;
     // What runs in the meantime sees the icon before the command, not a part of it.
-    gdi::Surface image = icon.PicImage;
+    gdi::Surface image = icon.image;
     int darkening = 8;
     for (int d = kInnermost; d >= 0; --d) {
         loop.DoEvents();
-        DarkenRing(image, icon.PicMask, d, darkening);
+        DarkenRing(image, icon.mask, d, darkening);
         darkening *= 2;
     }
-    icon.PicImage = std::move(image);
+    icon.image = std::move(image);
 }
 
 gdi::COLORREF DisplayResults(gdi::COLORREF color, int darkening) {

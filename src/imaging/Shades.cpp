@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "document/IconDocument.h"
 #include "imaging/filters/Levels.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::imaging {
 
 namespace {
 
-using document::kIconSize;
 using filters::Level;
 using filters::Round;
+using gdi::kIconSize;
 
 bool IsDiagonal(int degrees) {
     return degrees / kDegreesPerStep % 2 != 0;

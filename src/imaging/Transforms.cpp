@@ -20,9 +20,7 @@ void ForEachRow(gdi::Surface& plane, const Reflect& reflect) {
         reflect(plane.Row(y));
 }
 
-}  // namespace
-
-void Mirror(gdi::Surface& plane, Reflection reflection) {
+void MirrorPlane(gdi::Surface& plane, Reflection reflection) {
     const auto half = plane.Width() / 2;
     switch (reflection) {
         case Reflection::LeftIntoRight:
@@ -40,7 +38,7 @@ void Mirror(gdi::Surface& plane, Reflection reflection) {
     }
 }
 
-gdi::Surface Rotated(const gdi::Surface& plane, Turn turn) {
+gdi::Surface RotatedPlane(const gdi::Surface& plane, Turn turn) {
     gdi::Surface rotated(plane.Height(), plane.Width(), plane.BackColor());
     for (int y = 0; y < plane.Height(); ++y) {
         for (int x = 0; x < plane.Width(); ++x) {
@@ -55,13 +53,30 @@ gdi::Surface Rotated(const gdi::Surface& plane, Turn turn) {
     return rotated;
 }
 
-void Flip(gdi::Surface& plane, FlipAxis axis) {
+void FlipPlane(gdi::Surface& plane, FlipAxis axis) {
     if (axis == FlipAxis::Horizontal) {
         ForEachRow(plane, [](auto row) { std::ranges::reverse(row); });
     } else {
         ForEachPairOfRows(plane,
                           [](auto top, auto bottom) { std::ranges::swap_ranges(top, bottom); });
     }
+}
+
+}  // namespace
+
+void Mirror(gdi::IconPlanes& planes, Reflection reflection) {
+    MirrorPlane(planes.image, reflection);
+    MirrorPlane(planes.mask, reflection);
+}
+
+void Rotate(gdi::IconPlanes& planes, Turn turn) {
+    planes.image = RotatedPlane(planes.image, turn);
+    planes.mask = RotatedPlane(planes.mask, turn);
+}
+
+void Flip(gdi::IconPlanes& planes, FlipAxis axis) {
+    FlipPlane(planes.image, axis);
+    FlipPlane(planes.mask, axis);
 }
 
 }  // namespace kestrel::imaging

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/gdi/Surface.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::imaging {
 
@@ -11,10 +11,9 @@ enum class Reflection { LeftIntoRight, RightIntoLeft, TopIntoBottom, BottomIntoT
 enum class Turn { Left, Right };
 enum class FlipAxis { Horizontal, Vertical };
 
-// Each moves the pixels of one plane; what is done to the colours is done to the mask as well.
-void Mirror(gdi::Surface& plane, Reflection reflection);
-// As wide as the plane was high.
-gdi::Surface Rotated(const gdi::Surface& plane, Turn turn);
-void Flip(gdi::Surface& plane, FlipAxis axis);
+void Mirror(gdi::IconPlanes& planes, Reflection reflection);
+// Width and height change places.
+void Rotate(gdi::IconPlanes& planes, Turn turn);
+void Flip(gdi::IconPlanes& planes, FlipAxis axis);
 
 }  // namespace kestrel::imaging

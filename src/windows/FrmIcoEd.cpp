@@ -55,8 +55,8 @@ std::string FirstLocalFile(const QMimeData& dragged) {
 }
 
 QIcon ProgramIcon() {
-    const document::IconDocument icon = document::ApplicationIcon();
-    return QIcon(QPixmap::fromImage(desktop::ToImage(icon.PicMask, icon.PicImage)));
+    const gdi::IconPlanes icon = document::ApplicationIcon();
+    return QIcon(QPixmap::fromImage(desktop::ToImage(icon)));
 }
 
 }  // namespace
@@ -77,6 +77,7 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
 
 // The controls show what the members hold: they go first.
 FrmIcoEd::~FrmIcoEd() {
+    editor_.EndGesture();
     clipboard_.onChanged = nullptr;
     qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
 }

@@ -18,10 +18,8 @@ using editing::GridCursor;
 using editing::StatusPanel;
 
 QCursor ReadCursor(std::string_view art, int hotX, int hotY) {
-    const gdi::Surface mask = gdi::ReadPixelArt(art, {{'.', gdi::kWhite}}, gdi::kBlack);
-    const gdi::Surface color =
-        gdi::ReadPixelArt(art, {{'k', gdi::kBlack}, {'w', gdi::kWhite}}, gdi::kBlack);
-    return QCursor(QPixmap::fromImage(desktop::ToImage(mask, color)), hotX, hotY);
+    constexpr gdi::ArtInk kInks[] = {{'k', gdi::kBlack}, {'w', gdi::kWhite}};
+    return QCursor(QPixmap::fromImage(desktop::ToImage(gdi::ReadIconArt(art, kInks))), hotX, hotY);
 }
 
 QCursor ToCursor(GridCursor cursor) {

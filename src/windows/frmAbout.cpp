@@ -42,8 +42,8 @@ QLabel* NewHeading(const QString& text) {
 }
 
 QLabel* NewPicture() {
-    const document::IconDocument icon = document::ApplicationIcon();
-    const QImage picture = desktop::ToImage(icon.PicMask, icon.PicImage);
+    const gdi::IconPlanes icon = document::ApplicationIcon();
+    const QImage picture = desktop::ToImage(icon);
     auto* label = new QLabel;
     label->setPixmap(QPixmap::fromImage(picture.scaled(picture.size() * kPictureTimes)));
     label->setAlignment(Qt::AlignTop);

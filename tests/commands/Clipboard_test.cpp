@@ -40,7 +40,7 @@ TEST(PasteFit, LargePicturesAreShrunkToTheNearestPixelsAboveLeft) {
             for (COLORREF& pixel : picture.Row(y))
                 pixel = number++;
         }
-        const imaging::PastedPlanes planes =
+        const gdi::IconPlanes planes =
             imaging::PlanesOf(picture, c.size, imaging::PasteMode::Transparent);
         EXPECT_EQ(planes.image.GetPixel(c.target.x, c.target.y),
                   static_cast<COLORREF>(c.source.y * c.picture.width + c.source.x));
@@ -62,11 +62,11 @@ TEST(PasteFit, WhiteAndHalfTransparentPixelsAreSeeThroughUnlessOpaque) {
         SCOPED_TRACE(testing::Message() << std::hex << c.pixel);
         gdi::Surface picture(1, 1);
         picture.Row(0)[0] = c.pixel;
-        const imaging::PastedPlanes planes =
+        const gdi::IconPlanes planes =
             imaging::PlanesOf(picture, {1, 1}, imaging::PasteMode::Transparent);
         EXPECT_EQ(planes.mask.GetPixel(0, 0), c.transparent ? gdi::kWhite : gdi::kBlack);
         EXPECT_EQ(planes.image.GetPixel(0, 0), c.image);
-        const imaging::PastedPlanes opaque =
+        const gdi::IconPlanes opaque =
             imaging::PlanesOf(picture, {1, 1}, imaging::PasteMode::Opaque);
         EXPECT_EQ(opaque.mask.GetPixel(0, 0), gdi::kBlack);
         EXPECT_EQ(opaque.image.GetPixel(0, 0), c.opaqueImage);
@@ -83,7 +83,7 @@ TEST_F(ClipboardTest, CutAndPasteMoveToTheTopLeftCorner) {
     // the screen.
     Paint({10, 10}, 0x0000FF);
     Paint({11, 10}, gdi::kWhite);
-    icon_.PicImage.SetPixel(12, 11, 0x123456);
+    icon_.ChangePlanes().image.SetPixel(12, 11, 0x123456);
     editor_.History().PushUndoSnapshot();
     editor_.Tools().SelectTool(editing::ToolId::Selection);
     Stroke(editing::Button::Left, {{100, 100}, {130, 120}});
@@ -104,7 +104,7 @@ TEST_F(ClipboardTest, CutAndPasteMoveToTheTopLeftCorner) {
     EXPECT_EQ(OpaquePixels(), 1) << "the white pixel had become transparent";
     editor_.Selected().DropSelection();
     EXPECT_EQ(OpaquePixels(), 6);
-    EXPECT_EQ(icon_.PicImage.GetPixel(0, 0), 0x0000FFU);
+    EXPECT_EQ(icon_.PicImage().GetPixel(0, 0), 0x0000FFU);
 }
 
 }  // namespace

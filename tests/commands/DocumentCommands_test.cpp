@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "document/IcoFile.h"
+#include "formats/IcoFile.h"
 #include "i18n/Language.h"
 #include "platform/system/DiskFiles.h"
 #include "tests/support/Services.h"
@@ -19,10 +19,10 @@ using services::BoxIcon;
 class DocumentCommandsTest : public testing::Test {
   protected:
     DocumentCommandsTest() {
-        document::IconDocument red;
-        red.PicMask.SetPixel(1, 2, gdi::kBlack);
-        red.PicImage.SetPixel(1, 2, 0x0000FF);
-        EXPECT_TRUE(document::WriteIcoCopy(given_.files, red, "/icons/red.ico"));
+        gdi::IconPlanes red;
+        red.mask.SetPixel(1, 2, gdi::kBlack);
+        red.image.SetPixel(1, 2, 0x0000FF);
+        EXPECT_TRUE(formats::WriteIcoCopy(given_.files, red, "/icons/red.ico"));
         given_.files.contents["/icons/several.ico"] =
             system::DiskFiles().ReadFile(TEST_DATA "/several.ico", 100000).value();
         given_.files.contents["/icons/text.ico"] = {'h', 'e', 'l', 'l', 'o'};
@@ -34,7 +34,8 @@ class DocumentCommandsTest : public testing::Test {
         editor_.PicMain_MouseUp(editing::Button::Left, 95, 95);
     }
     bool HoldsTheIcon(const std::string& path) {
-        return std::ranges::equal(given_.files.contents.at(path), document::EncodeIco(icon_));
+        return std::ranges::equal(given_.files.contents.at(path),
+                                  formats::EncodeIco(icon_.Planes()));
     }
     void ExpectBox(BoxIcon icon, BoxButtons buttons, const std::string& text,
                    const std::string& title = "KestrelIconEditor") {
@@ -71,7 +72,7 @@ TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
 
     given_.desktop.choice = "/icons/red.ico";
     commands_.mnuOpen_Click();
-    EXPECT_EQ(icon_.PicImage.GetPixel(1, 2), 0x0000FFU);
+    EXPECT_EQ(icon_.PicImage().GetPixel(1, 2), 0x0000FFU);
     EXPECT_TRUE(icon_.IsTransparent(9, 9));
     EXPECT_EQ(window_.title, "KestrelIconEditor - red.ico");
     EXPECT_FALSE(icon_.Modified);
@@ -101,7 +102,7 @@ TEST_F(DocumentCommandsTest, RefusedFilesChangeNothing) {
     }
     EXPECT_EQ(recent_.GetRecentFile(1) + recent_.GetRecentFile(2), "/icons/red.ico");
     EXPECT_EQ(icon_.FileTitle, "red.ico");
-    EXPECT_EQ(icon_.PicImage.GetPixel(1, 2), 0x0000FFU);
+    EXPECT_EQ(icon_.PicImage().GetPixel(1, 2), 0x0000FFU);
     EXPECT_FALSE(window_.tmrStarted);
 }
 

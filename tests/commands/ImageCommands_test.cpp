@@ -1,9 +1,7 @@
 #include <algorithm>
 #include <functional>
 
-#include "commands/FilterCommands.h"
 #include "commands/ImageCommands.h"
-#include "commands/TransformCommands.h"
 #include "tests/support/EditorTest.h"
 
 namespace kestrel::commands {
@@ -54,120 +52,79 @@ class ImageCommandsTest : public test::EditorTest {
         Stroke(Button::Left, {{80, 80}, {140, 120}});
         if (state == State::Floating) Stroke(Button::Left, {{105, 105}, {105, 105}});
     }
-    gdi::COLORREF Seen(At cell) { return editor_.Composited().PicImage.GetPixel(cell.x, cell.y); }
+    gdi::COLORREF Seen(At cell) { return editor_.Composited().image.GetPixel(cell.x, cell.y); }
 
     ScriptedImagingDialogs dialogs_;
     EventsOfTest loop_;
     system::RandomNumbers random_{1};
-    TransformCommands transforms_{editor_};
-    ImageCommands images_{editor_, dialogs_, loop_};
-    FilterCommands filters_{editor_, dialogs_, loop_, random_};
+    ImageCommands images_{editor_, dialogs_, loop_, random_};
 };
 
 TEST_F(ImageCommandsTest, EachStateKeepsItsPathAndItsCountOfEntries) {
+    using enum State;
     const struct {
-        const char* what;
-        std::function<void()> run;
+        const char* key;
         // Entries that it records without, with a marked and with a floating selection.
         std::array<std::size_t, 3> entries;
         // Where the colour of the block's top left pixel goes, and what it becomes.
         At to;
         gdi::COLORREF color;
-        std::array<State, 3> after = {State::None, State::Marked, State::Floating};
+        std::array<State, 3> after = {None, Marked, Floating};
     } kCommands[] = {
-        {"flip", [&] { transforms_.mnuRotateOpts_Click(3); }, {1, 0, 0}, {13, 8}, 0x102030},
-        {"flip", [&] { transforms_.mnuRotateOpts_Click(4); }, {1, 0, 0}, {8, 11}, 0x102030},
-        {"mirror", [&] { transforms_.mnuMirrorOpts_Click(0); }, {1, 1, 1}, {13, 8}, 0x102030},
-        {"mirror", [&] { transforms_.mnuMirrorOpts_Click(2); }, {1, 1, 1}, {8, 11}, 0x102030},
-        {"rotate left",
-         [&] { transforms_.mnuRotateOpts_Click(0); },
-         {1, 0, 0},
-         {8, 13},
-         0x102030,
-         {State::None, State::Floating, State::Floating}},
-        {"rotate right",
-         [&] { transforms_.mnuRotateOpts_Click(1); },
-         {1, 0, 0},
-         {11, 8},
-         0x102030,
-         {State::None, State::Floating, State::Floating}},
-        {"negative", [&] { filters_.Run("mnuNegative"); }, {1, 1, 1}, {8, 8}, 0xEFDFCF},
-        {"invert", [&] { images_.mnuImageOpts_Click(3); }, {1, 0, 0}, {8, 8}, 0xEFDFCF},
+        {"mnuRotateOpts3", {1, 0, 0}, {13, 8}, 0x102030},
+        {"mnuRotateOpts4", {1, 0, 0}, {8, 11}, 0x102030},
+        {"mnuMirrorOpts0", {1, 1, 1}, {13, 8}, 0x102030},
+        {"mnuMirrorOpts2", {1, 1, 1}, {8, 11}, 0x102030},
+        {"mnuRotateOpts0", {1, 0, 0}, {8, 13}, 0x102030, {None, Floating, Floating}},
+        {"mnuRotateOpts1", {1, 0, 0}, {11, 8}, 0x102030, {None, Floating, Floating}},
+        {"mnuNegative", {1, 1, 1}, {8, 8}, 0xEFDFCF},
+        {"mnuImageOpts3", {1, 0, 0}, {8, 8}, 0xEFDFCF},
         // (222 x 0x30 + 707 x 0x20 + 71 x 0x10) / 1000 = 34.4
-        {"grayscale", [&] { images_.mnuImageOpts_Click(2); }, {1, 0, 0}, {8, 8}, 0x222222},
-        {"gamma cancelled", [&] { filters_.Run("mnuGamma"); }, {1, 1, 1}, {8, 8}, 0x102030},
-        {"no such command", [&] { images_.mnuImageOpts_Click(4); }, {0, 0, 0}, {8, 8}, 0x102030},
-        {"no such command", [&] { transforms_.mnuRotateOpts_Click(2); }, {}, {8, 8}, 0x102030},
-        {"no such command", [&] { transforms_.mnuMirrorOpts_Click(4); }, {}, {8, 8}, 0x102030},
-        {"no such command", [&] { filters_.Run("mnuFilters"); }, {}, {8, 8}, 0x102030},
+        {"mnuImageOpts2", {1, 0, 0}, {8, 8}, 0x222222},
+        {"mnuGamma", {1, 1, 1}, {8, 8}, 0x102030},    // cancelled
+        {"mnuFilters", {0, 0, 0}, {8, 8}, 0x102030},  // no such command
     };
     const document::IconDocument original = icon_;
     for (const auto& command : kCommands) {
-        for (const State state : {State::None, State::Marked, State::Floating}) {
-            SCOPED_TRACE(testing::Message() << command.what << " " << static_cast<int>(state));
+        for (const State state : {None, Marked, Floating}) {
+            SCOPED_TRACE(testing::Message() << command.key << " " << static_cast<int>(state));
             editor_.ResetDocument();
-            icon_.PicImage = original.PicImage;
-            icon_.PicMask = original.PicMask;
+            icon_.ChangePlanes() = original.Planes();
             editor_.Views().RedrawAll();
             editor_.History().PushUndoSnapshot();
             Put(state);
             const auto index = static_cast<std::size_t>(state);
             const std::size_t before = editor_.History().UndoCount();
             icon_.Modified = false;
-            command.run();
+            images_.Operate(command.key);
             EXPECT_EQ(editor_.History().UndoCount() - before, command.entries[index]);
             const editing::Selection& selection = editor_.Selected();
-            EXPECT_EQ(selection.SelectionMarked(), command.after[index] == State::Marked);
-            EXPECT_EQ(selection.SelectionFloating(), command.after[index] == State::Floating);
-            const bool aboutItsBlock = state != State::None;
+            EXPECT_EQ(selection.SelectionMarked(), command.after[index] == Marked);
+            EXPECT_EQ(selection.SelectionFloating(), command.after[index] == Floating);
+            const bool aboutItsBlock = state != None;
             EXPECT_TRUE(!aboutItsBlock || Seen(command.to) == command.color);
-            EXPECT_EQ(icon_.Modified, std::string_view(command.what) != "no such command");
+            EXPECT_EQ(icon_.Modified, std::string_view(command.key) != "mnuFilters");
             EXPECT_TRUE(test::ViewsAreFresh(editor_));
         }
     }
 }
 
-TEST_F(ImageCommandsTest, TheWholeIconTurnsAboutItsMiddle) {
-    transforms_.mnuRotateOpts_Click(0);
-    EXPECT_EQ(Seen({8, 23}), 0x102030U);
-    transforms_.mnuRotateOpts_Click(1);
-    transforms_.mnuRotateOpts_Click(1);
-    EXPECT_EQ(Seen({23, 8}), 0x102030U);
-    EXPECT_EQ(OpaquePixels(), 24);
-    transforms_.mnuMirrorOpts_Click(0);
-    EXPECT_EQ(OpaquePixels(), 0) << "the left half was transparent";
-}
-
-TEST_F(ImageCommandsTest, ARotatedSelectionKeepsItsCornerAndCanBeMovedAndUndone) {
-    Put(State::Marked);
-    transforms_.mnuRotateOpts_Click(1);
-    EXPECT_EQ(editor_.Selected().Marquee(), (editing::Corners{80, 80, 120, 140}));
-    EXPECT_EQ(OpaquePixels(), 0) << "lifted";
-    EXPECT_TRUE(transforms_.CanMirrorColumns());
-    editor_.Selected().MoveBy(-1, 2);
-    editor_.Selected().DropSelection();
-    EXPECT_EQ(Seen({10, 10}), 0x102030U);
-    editor_.PopUndoSnapshot();
-    EXPECT_EQ(Seen({8, 8}), 0x102030U);
-}
-
 TEST_F(ImageCommandsTest, HalvesAreMirroredWhereTheyAreEqual) {
-    EXPECT_TRUE(transforms_.CanMirrorColumns() && transforms_.CanMirrorRows());
+    EXPECT_TRUE(images_.CanMirrorColumns() && images_.CanMirrorRows());
     editor_.Tools().SelectTool(editing::ToolId::Selection);
     Stroke(Button::Left, {{80, 80}, {150, 120}});
-    EXPECT_FALSE(transforms_.CanMirrorColumns());
-    EXPECT_TRUE(transforms_.CanMirrorRows());
+    EXPECT_FALSE(images_.CanMirrorColumns());
+    EXPECT_TRUE(images_.CanMirrorRows());
 }
 
 TEST_F(ImageCommandsTest, AFilterSparesTransparentPixelsAndWhatLiesUnderASelection) {
-    icon_.PicImage.SetPixel(0, 0, 0x123456);  // an inverted-screen pixel
+    icon_.ChangePlanes().image.SetPixel(0, 0, 0x123456);  // an inverted-screen pixel
     Put(State::Floating);
     const document::IconDocument under = icon_;
-    filters_.Run("mnuNegative");
-    EXPECT_TRUE(icon_.PicImage.SamePixels(under.PicImage) &&
-                icon_.PicMask.SamePixels(under.PicMask));
+    images_.Operate("mnuNegative");
+    EXPECT_TRUE(icon_.Planes().SamePixels(under.Planes()));
     editor_.Selected().DropSelection();
-    filters_.Run("mnuNegative");
+    images_.Operate("mnuNegative");
     EXPECT_EQ(Seen({8, 8}), 0x102030U) << "twice";
     EXPECT_EQ(Seen({0, 0}), 0x123456U);
     EXPECT_EQ(Seen({1, 1}), gdi::kBlack);
@@ -175,8 +132,8 @@ TEST_F(ImageCommandsTest, AFilterSparesTransparentPixelsAndWhatLiesUnderASelecti
 }
 
 TEST_F(ImageCommandsTest, AFilterWithinAFilterOnlyLeavesItsEntry) {
-    loop_.onEvents = [this] { filters_.Run("mnuNegative"); };
-    filters_.Run("mnuSwapBank4");
+    loop_.onEvents = [this] { images_.Operate("mnuNegative"); };
+    images_.Operate("mnuSwapBank4");
     EXPECT_EQ(Seen({8, 8}), 0x302010U);
     EXPECT_EQ(editor_.History().UndoCount(), 4U);
 }
@@ -186,7 +143,7 @@ TEST_F(ImageCommandsTest, GammaIsAskedFor) {
     for (const auto& [factor, color] :
          {std::pair{0, 0x102030U}, {100, 0x102030U}, {200, brighter}}) {
         dialogs_.gamma = factor;
-        filters_.Run("mnuGamma");
+        images_.Operate("mnuGamma");
         EXPECT_EQ(Seen({8, 8}), color) << factor;
     }
     EXPECT_EQ(editor_.History().UndoCount(), 5U);
@@ -199,13 +156,13 @@ TEST_F(ImageCommandsTest, ColorsAreAdjustedOnThePutDownIcon) {
         colors.Change(imaging::AdjustmentBar::Green, -3);
     };
     dialogs_.accepts = false;
-    images_.mnuImageOpts_Click(0);
+    images_.AdjustColors();
     EXPECT_FALSE(editor_.Selected().Exists());
     EXPECT_EQ(editor_.History().UndoCount(), 3U) << "of the selection alone";
     EXPECT_EQ(Seen({8, 8}), 0x102030U);
     EXPECT_TRUE(dialogs_.shown.SamePixels(editor_.Views().PicIcon));
     dialogs_.accepts = true;
-    images_.mnuImageOpts_Click(0);
+    images_.AdjustColors();
     EXPECT_EQ(Seen({8, 8}), 0x101B35U);
     EXPECT_EQ(OpaquePixels(), 24);
     EXPECT_EQ(editor_.History().UndoCount(), 4U);
@@ -223,7 +180,7 @@ TEST_F(ImageCommandsTest, AGradientAndAButtonReplaceTheWholeIcon) {
     EXPECT_EQ(Seen({31, 31}), 0xFFFFFFU);
     EXPECT_EQ(editor_.History().UndoCount(), 4U);
     editor_.SelectAll();
-    images_.mnuImageOpts_Click(1);
+    images_.Operate("mnuImageOpts1");
     EXPECT_FALSE(editor_.Selected().Exists());
     EXPECT_EQ(Seen({31, 0}), 0xBFBFBFU);
     EXPECT_EQ(Seen({4, 4}), 0xFFFFFFU);

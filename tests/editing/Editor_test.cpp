@@ -14,11 +14,11 @@ using test::Held;
 TEST_F(EditorTest, TheCellsUnderThePointerArePaintedInOneEntry) {
     Stroke(Button::Left, {{45, 59}});
     EXPECT_EQ(OpaquePixels(), 1);
-    EXPECT_EQ(icon_.PicImage.GetPixel(4, 5), gdi::kBlack);
+    EXPECT_EQ(icon_.PicImage().GetPixel(4, 5), gdi::kBlack);
     EXPECT_TRUE(icon_.Modified);
     EXPECT_EQ(editor_.History().UndoCount(), 2U);
     Stroke(Button::Right, {{45, 59}, {55, 59}});
-    EXPECT_EQ(icon_.PicImage.GetPixel(5, 5), gdi::kWhite);
+    EXPECT_EQ(icon_.PicImage().GetPixel(5, 5), gdi::kWhite);
     // Nothing between two points, beside the grid, or on its outer lines to the left and top.
     Stroke(Button::Left, {{1, 1}, {65, 5}, {-15, 5}, {330, 5}, {20, 400}, {32767, -32768}});
     Stroke(Button::Left, {{0, 15}, {15, 0}});

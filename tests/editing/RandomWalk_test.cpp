@@ -84,7 +84,7 @@ class RandomWalkTest : public test::EditorTest {
     void DropUnmoved() {
         const Selection& selection = editor_.Selected();
         if (!selection.SelectionMarked()) return;
-        const document::IconDocument before = icon_;
+        const gdi::IconPlanes before = icon_.Planes();
         const auto& [x1, y1, x2, y2] = selection.Marquee();
         const test::At at{x1 + Below(x2 - x1), y1 + Below(y2 - y1)};
         Stroke(Button::Left, {at, AnyPoint(), at});
@@ -102,14 +102,13 @@ class RandomWalkTest : public test::EditorTest {
         }
         ASSERT_TRUE(test::ComparePicture(watched, now));
     }
-    void ExpectSame(const document::IconDocument& expected) {
-        ASSERT_TRUE(icon_.PicMask.SamePixels(expected.PicMask));
-        ASSERT_TRUE(icon_.PicImage.SamePixels(expected.PicImage));
+    void ExpectSame(const gdi::IconPlanes& expected) {
+        ASSERT_TRUE(icon_.Planes().SamePixels(expected));
     }
     // A transparent pixel is black; those that invert the screen come from the opened icon alone.
     bool IsSound() {
-        const auto masks = icon_.PicMask.Pixels();
-        const auto colors = icon_.PicImage.Pixels();
+        const auto masks = icon_.PicMask().Pixels();
+        const auto colors = icon_.PicImage().Pixels();
         return std::ranges::equal(masks, colors, [](gdi::COLORREF mask, gdi::COLORREF color) {
             return mask == gdi::kBlack || (mask == gdi::kWhite && color == gdi::kBlack);
         });
@@ -125,15 +124,15 @@ class RandomWalkTest : public test::EditorTest {
 };
 
 TEST_F(RandomWalkTest, LeavesNothingBehind) {
-    formats::IconImage opened{{32, 32, 24, false}, icon_.PicMask, icon_.PicImage};
+    formats::IconImage opened{{32, 32, 24, false}, icon_.Planes()};
     for (int i = 0; i < 200; ++i) {
-        opened.color.SetPixel(i % 32, i / 6, random_() & gdi::kWhite);
-        if (i % 2 == 0) opened.mask.SetPixel(i % 32, i / 6, gdi::kBlack);
+        opened.planes.image.SetPixel(i % 32, i / 6, random_() & gdi::kWhite);
+        if (i % 2 == 0) opened.planes.mask.SetPixel(i % 32, i / 6, gdi::kBlack);
     }
     for (const bool fromFile : {false, true}) {
         editor_.ResetDocument();
-        if (fromFile) editor_.ShowOpenedIcon(opened);
-        const document::IconDocument first = icon_;
+        if (fromFile) editor_.ReadIconIntoDocument(opened);
+        const gdi::IconPlanes first = icon_.Planes();
         for (int i = 0; i < 1500 && !HasFailure(); ++i) {
             const gdi::Surface before = editor_.Views().PicMain;
             Step();
@@ -147,9 +146,9 @@ TEST_F(RandomWalkTest, LeavesNothingBehind) {
         while (editor_.CanRedo())
             editor_.PopRedoSnapshot();
         EXPECT_GT(editor_.History().UndoCount(), 100U);
-        std::vector<document::IconDocument> undone;
+        std::vector<gdi::IconPlanes> undone;
         while (editor_.CanUndo()) {
-            undone.push_back(icon_);
+            undone.push_back(icon_.Planes());
             editor_.PopUndoSnapshot();
         }
         ExpectSame(first);

@@ -18,13 +18,13 @@ class SelectionTest : public test::EditorTest {
                 Paint({i % 32, i / 32}, 0x400000 + static_cast<gdi::COLORREF>(i));
         }
         // A pixel that inverts the screen.
-        icon_.PicImage.SetPixel(3, 3, 0x123456);
+        icon_.ChangePlanes().image.SetPixel(3, 3, 0x123456);
         editor_.Views().RedrawAll();
         editor_.History().ClearUndoHistory();
         editor_.History().PushUndoSnapshot();
         editor_.Tools().SelectTool(ToolId::Selection);
         icon_.Modified = false;
-        first_ = icon_;
+        first_ = icon_.Planes();
     }
 
     Selection& Selected() { return editor_.Selected(); }
@@ -34,13 +34,14 @@ class SelectionTest : public test::EditorTest {
         Stroke(Button::Left, {{first.x * 10, first.y * 10}, {last.x * 10 + 10, last.y * 10 + 10}});
     }
     void Paste() {
-        editor_.FloatSelection(gdi::Surface(2, 2, gdi::kBlack), gdi::Surface(2, 2, 0xABCDEF));
+        gdi::IconPlanes planes(2, 2);
+        for (int i = 0; i < 4; ++i)
+            planes.SetOpaque(i % 2, i / 2, 0xABCDEF);
+        editor_.FloatSelection(planes);
     }
-    bool SamePlanes(const document::IconDocument& other) const {
-        return icon_.PicImage.SamePixels(other.PicImage) && icon_.PicMask.SamePixels(other.PicMask);
-    }
+    bool SamePlanes(const gdi::IconPlanes& other) const { return icon_.Planes().SamePixels(other); }
 
-    document::IconDocument first_;
+    gdi::IconPlanes first_;
 };
 
 TEST_F(SelectionTest, AMarqueeRunsFromTheNearestLineToTheCellUnderThePointer) {
@@ -103,12 +104,12 @@ TEST_F(SelectionTest, ADragMovesThePixelsByWholeCells) {
         EXPECT_TRUE(icon_.Modified);
         EXPECT_TRUE(test::ViewsAreFresh(editor_));
         Selected().DropSelection();
-        document::IconDocument expected = first_;
+        gdi::IconPlanes expected = first_;
         const test::At to{c.marquee.x1 / 10 + 1, c.marquee.y1 / 10};
-        expected.PicMask.SetPixel(5, 5, gdi::kWhite);
-        expected.PicMask.SetPixel(to.x, to.y, gdi::kBlack);
-        expected.PicImage.SetPixel(5, 5, gdi::kBlack);
-        expected.PicImage.SetPixel(to.x, to.y, first_.PicImage.GetPixel(5, 5));
+        expected.mask.SetPixel(5, 5, gdi::kWhite);
+        expected.mask.SetPixel(to.x, to.y, gdi::kBlack);
+        expected.image.SetPixel(5, 5, gdi::kBlack);
+        expected.image.SetPixel(to.x, to.y, first_.image.GetPixel(5, 5));
         EXPECT_TRUE(SamePlanes(expected));
         editor_.PopUndoSnapshot();
     }
@@ -192,7 +193,7 @@ TEST_F(SelectionTest, UndoAndRedoPutItDownFirst) {
     editor_.PopUndoSnapshot();
     EXPECT_TRUE(SamePlanes(first_));
     editor_.PopRedoSnapshot();
-    EXPECT_EQ(icon_.PicImage.GetPixel(1, 1), 0xABCDEFU);
+    EXPECT_EQ(icon_.PicImage().GetPixel(1, 1), 0xABCDEFU);
     editor_.PopUndoSnapshot();
     MarkCells();
     Selected().LiftSelection();
@@ -208,7 +209,7 @@ TEST_F(SelectionTest, DeleteAndNewDiscardIt) {
     EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::Selection);
     icon_.Modified = false;
     Selected().Delete();
-    EXPECT_TRUE(SamePlanes({}));
+    EXPECT_TRUE(SamePlanes(gdi::IconPlanes()));
     EXPECT_TRUE(icon_.Modified);
     Paint({0, 0}, gdi::kBlack);
     Paste();

@@ -21,7 +21,7 @@ class ToolsTest : public test::EditorTest {
   protected:
     gdi::Surface Shown() {
         gdi::Surface picture(32, 32, kNoColor);
-        editor_.Views().DrawIconOver(picture);
+        gdi::DrawOver(picture, picture.Bounds(), icon_.Planes());
         return picture;
     }
     void UseTool(ToolId tool) { editor_.Tools().SelectTool(tool); }
@@ -102,7 +102,7 @@ TEST_F(ToolsTest, FloodFillsLikeASimpleOne) {
                 Paint({i % 32, i / 32}, colors[kind]);
             } else if (random() % 40 == 0) {
                 // As files have them: pixels that invert the screen.
-                icon_.PicImage.SetPixel(i % 32, i / 32, kRed);
+                icon_.ChangePlanes().image.SetPixel(i % 32, i / 32, kRed);
             }
         }
         editor_.Views().RedrawAll();
@@ -120,6 +120,7 @@ TEST_F(ToolsTest, FloodFillsLikeASimpleOne) {
 
 TEST_F(ToolsTest, ThePickerTakesColourOrTransparencyAndHandsBack) {
     Paint({1, 1}, kRed);
+    icon_.Modified = false;
     UseTool(ToolId::Ellipse);
     const struct {
         Button button{};

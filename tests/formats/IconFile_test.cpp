@@ -43,7 +43,7 @@ void ExpectReads(const ByteList& file, std::string_view expected) {
     ASSERT_EQ(icon.has_value(), !expected.empty());
     if (!icon) return;
     gdi::Surface shown(icon->info.width, icon->info.height, kGround);
-    DrawIcon(shown, *icon, icon->info.width, icon->info.height, DrawPart::Normal);
+    gdi::DrawOver(shown, shown.Bounds(), icon->planes);
     EXPECT_PICTURE(shown, kInks, expected);
 }
 

@@ -34,7 +34,8 @@ void ExpectSamePixels(const IconImage& icon, const ByteList& pam) {
     const std::string text(pam.begin(), pam.end());
     int width = 0, height = 0;
     ASSERT_EQ(std::sscanf(text.c_str(), "P7 WIDTH %d HEIGHT %d", &width, &height), 2);
-    EXPECT_TRUE(icon.info.width == 256 || icon.mask.Bounds() == (gdi::Rect{0, 0, width, height}));
+    EXPECT_TRUE(icon.info.width == 256 ||
+                icon.planes.mask.Bounds() == (gdi::Rect{0, 0, width, height}));
     const std::size_t start = text.find("ENDHDR\n") + 7;
     ASSERT_EQ(pam.size() - start, static_cast<std::size_t>(4 * width * height));
     const std::uint8_t* expected = &pam[start];
@@ -43,8 +44,9 @@ void ExpectSamePixels(const IconImage& icon, const ByteList& pam) {
         const int y = (icon.info.height - height) / 2 + i / width;
         const bool opaque = expected[3] >= 128;
         const auto color = gdi::Rgb(expected[0], expected[1], expected[2]);
-        ASSERT_EQ(icon.mask.GetPixel(x, y), opaque ? gdi::kBlack : gdi::kWhite) << x << ' ' << y;
-        ASSERT_TRUE(!opaque || icon.color.GetPixel(x, y) == color) << x << ' ' << y;
+        ASSERT_EQ(icon.planes.mask.GetPixel(x, y), opaque ? gdi::kBlack : gdi::kWhite)
+            << x << ' ' << y;
+        ASSERT_TRUE(!opaque || icon.planes.image.GetPixel(x, y) == color) << x << ' ' << y;
     }
 }
 
@@ -71,7 +73,7 @@ TEST(BadInput, TruncationsAndChangedBytesAreRefusedOrRead) {
     const auto expectSound = [](const ByteList& file) {
         const auto icon = ReadBestImage(file);
         ASSERT_TRUE(icon || icon.error().number == kInvalidPicture);
-        ASSERT_TRUE(!icon || std::ranges::max(icon->color.Pixels()) <= gdi::kWhite);
+        ASSERT_TRUE(!icon || std::ranges::max(icon->planes.image.Pixels()) <= gdi::kWhite);
     };
     // Every byte of the headers matters; in the pixels after them a sample does.
     constexpr std::size_t kHeaders = 90;

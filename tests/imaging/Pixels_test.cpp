@@ -1,5 +1,6 @@
 #include "imaging/ColorAdjustment.h"
 #include "imaging/FilterPipeline.h"
+#include "imaging/Operations.h"
 #include "imaging/Recoloring.h"
 #include "imaging/Shades.h"
 #include "imaging/Transforms.h"
@@ -17,35 +18,32 @@ gdi::Surface Art(std::string_view rows) {
     return gdi::ReadPixelArt(rows, kInks);
 }
 
-TEST(Transforms, MovePixels) {
-    using Act = gdi::Surface (*)(gdi::Surface);
+TEST(Transforms, MoveThePixelsOfBothPlanes) {
     const struct {
-        const char* what;
-        Act act;
+        const char* key;
         const char* from;
         const char* to;
     } kCases[] = {
-        {"left", [](gdi::Surface p) { return p = Rotated(p, Turn::Left); }, "abc\ndef",
-         "cf\nbe\nad"},
-        {"right", [](gdi::Surface p) { return p = Rotated(p, Turn::Right); }, "abc\ndef",
-         "da\neb\nfc"},
-        {"across", [](gdi::Surface p) { return Flip(p, FlipAxis::Horizontal), p; }, "abc\ndef",
-         "cba\nfed"},
-        {"over", [](gdi::Surface p) { return Flip(p, FlipAxis::Vertical), p; }, "ab\ncd\nef",
-         "ef\ncd\nab"},
-        {"left into right", [](gdi::Surface p) { return Mirror(p, Reflection::LeftIntoRight), p; },
-         "abcd\ncdef", "abba\ncddc"},
-        {"right into left", [](gdi::Surface p) { return Mirror(p, Reflection::RightIntoLeft), p; },
-         "abcd\ncdef", "dccd\nfeef"},
-        {"middle column stays",
-         [](gdi::Surface p) { return Mirror(p, Reflection::RightIntoLeft), p; }, "abcde", "edcde"},
-        {"top into bottom", [](gdi::Surface p) { return Mirror(p, Reflection::TopIntoBottom), p; },
-         "ab\ncd\nef\nba", "ab\ncd\ncd\nab"},
-        {"bottom into top", [](gdi::Surface p) { return Mirror(p, Reflection::BottomIntoTop), p; },
-         "ab\ncd\nef\nba", "ba\nef\nef\nba"},
+        {"mnuRotateOpts0", "abc\ndef", "cf\nbe\nad"},
+        {"mnuRotateOpts1", "abc\ndef", "da\neb\nfc"},
+        {"mnuRotateOpts3", "abc\ndef", "cba\nfed"},
+        {"mnuRotateOpts4", "ab\ncd\nef", "ef\ncd\nab"},
+        {"mnuMirrorOpts0", "abcd\ncdef", "abba\ncddc"},
+        {"mnuMirrorOpts1", "abcd\ncdef", "dccd\nfeef"},
+        {"mnuMirrorOpts1", "abcde", "edcde"},
+        {"mnuMirrorOpts2", "ab\ncd\nef\nba", "ab\ncd\ncd\nab"},
+        {"mnuMirrorOpts3", "ab\ncd\nef\nba", "ba\nef\nef\nba"},
     };
-    for (const auto& [what, act, from, to] : kCases)
-        EXPECT_TRUE(ComparePicture(act(Art(from)), Art(to))) << what;
+    filters::CountingLoop loop;
+    system::RandomNumbers random(1);
+    filters::mFilterG filters(loop, random);
+    for (const auto& [key, from, to] : kCases) {
+        gdi::IconPlanes planes;
+        planes.image = planes.mask = Art(from);
+        RunOperation(*FindOperation(key), 0, planes, filters);
+        EXPECT_TRUE(ComparePicture(planes.image, Art(to))) << key;
+        EXPECT_TRUE(ComparePicture(planes.mask, Art(to))) << key;
+    }
 }
 
 TEST(FilterSource, OfASmallSelectionGoesOnWithItsNearestPixel) {
@@ -58,7 +56,6 @@ TEST(FilterSource, OfASmallSelectionGoesOnWithItsNearestPixel) {
 }
 
 TEST(Recoloring, ChangesOpaquePixels) {
-    const gdi::Surface mask = filters::PictureOf(2, {gdi::kBlack, gdi::kWhite});
     const struct {
         gdi::COLORREF from, grey;
     } kCases[] = {{gdi::Rgb(255, 0, 0), 57},
@@ -68,27 +65,28 @@ TEST(Recoloring, ChangesOpaquePixels) {
                   // 222 x 2 + 707 x 1 + 71 x 19 = 2500
                   {gdi::Rgb(2, 1, 19), 2}};
     for (const auto& [from, grey] : kCases) {
-        gdi::Surface image(2, 1, from);
-        Grayscale(image, mask);
-        EXPECT_EQ(image.GetPixel(0, 0), filters::GreyColor(static_cast<int>(grey)));
-        EXPECT_EQ(image.GetPixel(1, 0), from);
-        image = gdi::Surface(2, 1, from);
-        Invert(image, mask);
-        EXPECT_EQ(image.GetPixel(0, 0), 0xFFFFFF - from);
-        EXPECT_EQ(image.GetPixel(1, 0), from);
+        for (const auto& [change, color] :
+             {std::pair{&Grayscale, grey * 0x010101}, {&Invert, 0xFFFFFF - from}}) {
+            gdi::IconPlanes planes(2, 1);
+            planes.image = gdi::Surface(2, 1, from);
+            planes.mask.SetPixel(0, 0, gdi::kBlack);
+            change(planes);
+            EXPECT_EQ(planes.image.GetPixel(0, 0), color);
+            EXPECT_EQ(planes.image.GetPixel(1, 0), from);
+        }
     }
 }
 
 TEST(Recoloring, AButtonHasFourRings) {
-    document::IconDocument icon;
-    icon.PicMask = gdi::Surface(32, 32, gdi::kBlack);
-    icon.PicImage = gdi::Surface(32, 32, gdi::kWhite);
-    icon.PicImage.SetPixel(5, 0, gdi::Rgb(100, 64, 30));
-    icon.PicMask.SetPixel(6, 0, gdi::kWhite);
-    icon.PicImage.SetPixel(6, 0, gdi::kBlack);
-    icon.PicMask.SetPixel(2, 9, gdi::kWhite);
+    gdi::IconPlanes icon;
+    icon.mask = gdi::Surface(32, 32, gdi::kBlack);
+    icon.image = gdi::Surface(32, 32, gdi::kWhite);
+    icon.image.SetPixel(5, 0, gdi::Rgb(100, 64, 30));
+    icon.mask.SetPixel(6, 0, gdi::kWhite);
+    icon.image.SetPixel(6, 0, gdi::kBlack);
+    icon.mask.SetPixel(2, 9, gdi::kWhite);
     filters::CountingLoop loop;
-    loop.onEvents = [&] { EXPECT_EQ(icon.PicImage.GetPixel(4, 3), gdi::kWhite) << "half-done"; };
+    loop.onEvents = [&] { EXPECT_EQ(icon.image.GetPixel(4, 3), gdi::kWhite) << "half-done"; };
     Buttonize(icon, loop);
     EXPECT_EQ(loop.count, 4);
     for (int y = 0; y < 32; ++y) {
@@ -97,12 +95,11 @@ TEST(Recoloring, AButtonHasFourRings) {
             constexpr int kLevels[] = {191, 223, 239, 247};
             if (y == 0 && (x == 5 || x == 6)) continue;
             const bool white = ring > 3 || icon.IsTransparent(x, y);
-            EXPECT_EQ(icon.PicImage.GetPixel(x, y),
-                      filters::GreyColor(white ? 255 : kLevels[ring]));
+            EXPECT_EQ(icon.image.GetPixel(x, y), filters::GreyColor(white ? 255 : kLevels[ring]));
         }
     }
-    EXPECT_EQ(icon.PicImage.GetPixel(5, 0), gdi::Rgb(36, 0, 0));
-    EXPECT_EQ(icon.PicImage.GetPixel(6, 0), gdi::kBlack);
+    EXPECT_EQ(icon.image.GetPixel(5, 0), gdi::Rgb(36, 0, 0));
+    EXPECT_EQ(icon.image.GetPixel(6, 0), gdi::kBlack);
 }
 
 // The diagonal ones drawn with a pen: lines from the top to the left side that leave out their end,
@@ -114,9 +111,11 @@ gdi::Surface DrawnWithLines(const Shades& shades) {
     for (int y = 1; y < 32; ++y)
         base.SetPixel(0, y, base.GetPixel(1, y - 1));
     base.SetPixel(0, 0, base.GetPixel(1, 0));
-    if (shades.degrees == 135 || shades.degrees == 225) Flip(base, FlipAxis::Horizontal);
-    if (shades.degrees == 225 || shades.degrees == 315) Flip(base, FlipAxis::Vertical);
-    return base;
+    gdi::IconPlanes reflected;
+    reflected.image = base;
+    if (shades.degrees == 135 || shades.degrees == 225) Flip(reflected, FlipAxis::Horizontal);
+    if (shades.degrees == 225 || shades.degrees == 315) Flip(reflected, FlipAxis::Vertical);
+    return reflected.image;
 }
 
 TEST(Gradient, GoesInStepsFromItsSide) {
@@ -141,9 +140,9 @@ TEST(Gradient, GoesInStepsFromItsSide) {
 }
 
 TEST(ColorAdjustment, RemembersWhatWentTooFar) {
-    document::IconDocument icon;
-    icon.PicMask.SetPixel(31, 31, gdi::kBlack);
-    icon.PicImage.SetPixel(31, 31, gdi::Rgb(252, 100, 3));
+    gdi::IconPlanes icon;
+    icon.mask.SetPixel(31, 31, gdi::kBlack);
+    icon.image.SetPixel(31, 31, gdi::Rgb(252, 100, 3));
     ColorAdjustment colors(icon);
     const auto after = [&](AdjustmentBar bar, int value) {
         colors.Change(bar, value);

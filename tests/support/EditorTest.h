@@ -51,7 +51,7 @@ inline testing::AssertionResult ViewsAreFresh(editing::Editor& editor) {
     fresh.RedrawAll();
     if (auto same = ComparePicture(shown.PicMainCopy, fresh.PicMainCopy); !same) return same;
     const editing::Selection& selection = editor.Selected();
-    if (selection.SelectionFloating()) selection.CompositeOver(icon);
+    if (selection.SelectionFloating()) selection.CompositeOver(icon.ChangePlanes());
     fresh.RedrawAll();
     window.repainted.clear();
     if (selection.Exists()) InvertMarquee(fresh.PicMain, selection.Marquee());
@@ -71,7 +71,9 @@ class EditorTest : public testing::Test {
     void Drag(editing::Button button, At from, At to) {
         Stroke(button, {{from.x * 10 + 5, from.y * 10 + 5}, {to.x * 10 + 5, to.y * 10 + 5}});
     }
-    void Paint(At cell, gdi::COLORREF color) { editor_.Views().PaintCell(cell.x, cell.y, color); }
+    void Paint(At cell, gdi::COLORREF color) {
+        editor_.EditIcon(editing::Leaves::NoEntry).PaintCell(cell.x, cell.y, color);
+    }
     int OpaquePixels() {
         int count = 0;
         for (int i = 0; i < 1024; ++i)

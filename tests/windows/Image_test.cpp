@@ -34,7 +34,7 @@ class ImageMenuTest : public test::WindowTest {
         QTest::mouseMove(Grid(), to);
         QTest::mouseRelease(Grid(), Qt::LeftButton, {}, to);
     }
-    gdi::COLORREF Pixel(int x, int y) { return Icon().PicImage.GetPixel(x, y); }
+    gdi::COLORREF Pixel(int x, int y) { return Icon().PicImage().GetPixel(x, y); }
 };
 
 TEST_F(ImageMenuTest, MirrorItemsFollowTheSelection) {
@@ -66,13 +66,13 @@ TEST_F(ImageMenuTest, CommandsReachTheIconAndItsHistory) {
 }
 
 TEST_F(ImageMenuTest, ThePopupTurnsTheSelection) {
-    Editor().Views().PaintCell(1, 1, 0x0000FF);
+    Editor().EditIcon(editing::Leaves::NoEntry).PaintCell(1, 1, 0x0000FF);
     Select({10, 10}, {40, 30});
     window_.Menus().SmartMenuXP2.onClick("mnuRotate2Opts1");
     EXPECT_EQ(Editor().Selected().Marquee(), (editing::Corners{10, 10, 30, 40}));
-    EXPECT_EQ(Editor().Composited().PicImage.GetPixel(2, 1), 0x0000FFU);
+    EXPECT_EQ(Editor().Composited().image.GetPixel(2, 1), 0x0000FFU);
     window_.Menus().SmartMenuXP2.onClick("mnuFlip2Opts1");
-    EXPECT_EQ(Editor().Composited().PicImage.GetPixel(2, 3), 0x0000FFU);
+    EXPECT_EQ(Editor().Composited().image.GetPixel(2, 3), 0x0000FFU);
     EXPECT_TRUE(ScreenIsFresh());
 }
 

@@ -58,14 +58,14 @@ void Then(const std::function<void(QWidget& dialog)>& act) {
 class FrmColAdjTest : public testing::Test {
   protected:
     FrmColAdjTest() {
-        icon_.PicMask.SetPixel(1, 0, gdi::kBlack);  // all others are transparent
-        icon_.PicImage.SetPixel(1, 0, gdi::Rgb(252, 100, 3));
+        icon_.mask.SetPixel(1, 0, gdi::kBlack);  // all others are transparent
+        icon_.image.SetPixel(1, 0, gdi::Rgb(252, 100, 3));
         colors_ = imaging::ColorAdjustment(icon_);
         Show(dialog_);
     }
     gdi::COLORREF Pixel() { return Shown(dialog_, "PicShade", 1, 0); }
 
-    document::IconDocument icon_;
+    gdi::IconPlanes icon_;
     imaging::ColorAdjustment colors_{icon_};
     FrmColAdj dialog_{nullptr, colors_, gdi::Surface(32, 32, kGround)};
     QScrollBar* red_ = Bar(dialog_, "VsbRed");
@@ -196,7 +196,7 @@ class ImagingDialogsTest : public testing::Test {
 
     QWidget owner_;
     FrmImagingDialogs dialogs_{owner_};
-    imaging::ColorAdjustment colors_{document::IconDocument()};
+    imaging::ColorAdjustment colors_{gdi::IconPlanes()};
 };
 
 TEST_F(ImagingDialogsTest, GivesTheAnswerOrNone) {

@@ -61,7 +61,7 @@ TEST_F(SelectingTest, CommandsAreEnabledWhenTheyCanDoSomething) {
     Key(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Enabled(), "+++++");
     window_.Menus().SmartMenuXP1.onClick("mnuEditOpts6");
-    EXPECT_EQ(Selected().PicSelMask.GetPixel(0, 0), gdi::kBlack) << "the white is opaque";
+    EXPECT_EQ(Selected().PicSelMask().GetPixel(0, 0), gdi::kBlack) << "the white is opaque";
     given_.clipboard.Offer({});
     QTest::mouseClick(window_.Toolbar1().Button("Undo"), Qt::LeftButton);
     EXPECT_EQ(Enabled(), "-----");

@@ -6,7 +6,7 @@
 #include <QMenuBar>
 #include <QtTest/QTest>
 
-#include "document/IcoFile.h"
+#include "formats/IcoFile.h"
 #include "i18n/Language.h"
 #include "tests/support/Services.h"
 #include "windows/FrmIcoEd.h"
@@ -17,7 +17,7 @@ namespace kestrel::test {
 class WindowTest : public testing::Test {
   protected:
     WindowTest() {
-        EXPECT_TRUE(document::WriteIcoCopy(given_.files, {}, "/icons/a.ico"));
+        EXPECT_TRUE(formats::WriteIcoCopy(given_.files, {}, "/icons/a.ico"));
         window_.Form_Load("");
         window_.show();
         QApplication::setActiveWindow(&window_);

@@ -15,6 +15,8 @@ class mFilterG {
     // Filters the picture in place. Numbers that are no filter's leave it as it is.
     void RunFilter(int FilterId, gdi::Surface& picture, int Param);
 
+    services::MessageLoop& Loop() { return loop_; }
+
   private:
     services::MessageLoop& loop_;
     system::RandomNumbers& random_;

@@ -15,10 +15,7 @@ class ImageList {
         : pictures_(pictures), inks_(inks) {}
 
     int Count() const { return static_cast<int>(pictures_.size()); }
-    // The picture's colours, black where it is see-through.
-    gdi::Surface Image(int number) const;
-    // White where the picture is see-through, black elsewhere.
-    gdi::Surface Mask(int number) const;
+    gdi::IconPlanes Picture(int number) const;
 
   private:
     std::span<const std::string_view> pictures_;

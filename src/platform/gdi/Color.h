@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 namespace kestrel::gdi {
@@ -26,5 +27,8 @@ constexpr std::uint8_t Green(COLORREF color) {
 constexpr std::uint8_t Blue(COLORREF color) {
     return static_cast<std::uint8_t>(color >> 16);
 }
+
+// The colours of the palette, row by row.
+using PaletteColors = std::array<COLORREF, 256>;
 
 }  // namespace kestrel::gdi

@@ -42,4 +42,11 @@ Surface ReadPixelArt(std::string_view rows, std::span<const ArtInk> inks, COLORR
     return picture;
 }
 
+IconPlanes ReadIconArt(std::string_view rows, std::span<const ArtInk> inks) {
+    IconPlanes icon(0, 0);
+    icon.image = ReadPixelArt(rows, inks, kBlack);
+    icon.mask = ReadPixelArt(rows, {{'.', kWhite}}, kBlack);
+    return icon;
+}
+
 }  // namespace kestrel::gdi

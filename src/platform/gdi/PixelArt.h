@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "platform/gdi/Surface.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace kestrel::gdi {
 
@@ -23,5 +23,8 @@ inline Surface ReadPixelArt(std::string_view rows, std::initializer_list<ArtInk>
                             COLORREF otherwise = kWhite) {
     return ReadPixelArt(rows, std::span(inks.begin(), inks.size()), otherwise);
 }
+
+// The same as an icon: '.' is transparent; letters that `inks` does not name are black.
+IconPlanes ReadIconArt(std::string_view rows, std::span<const ArtInk> inks);
 
 }  // namespace kestrel::gdi

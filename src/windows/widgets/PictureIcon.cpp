@@ -42,7 +42,7 @@ class PictureEngine : public QIconEngine {
 
     void paint(QPainter* painter, const QRect& area, QIcon::Mode mode,
                QIcon::State /*state*/) override {
-        QImage picture = desktop::ToImage(pictures_->Mask(number_), pictures_->Image(number_));
+        QImage picture = desktop::ToImage(pictures_->Picture(number_));
         if (mode == QIcon::Disabled) picture = Disabled(picture);
         const int times =
             std::max(1, std::min(area.width() / picture.width(), area.height() / picture.height()));

@@ -1,8 +1,8 @@
-#include "document/IcoFile.h"
+#include "formats/IcoFile.h"
 
 #include <algorithm>
 
-namespace kestrel::document {
+namespace kestrel::formats {
 
 namespace {
 
@@ -65,15 +65,15 @@ std::uint8_t BitsToByte(std::string_view bits) {
     return static_cast<std::uint8_t>(value);
 }
 
-IcoBytes EncodeIco(const IconDocument& document) {
+IcoBytes EncodeIco(const gdi::IconPlanes& icon) {
     IcoBytes file{};
     auto* colorAt = std::copy(kHeader.begin(), kHeader.end(), file.begin());
     auto* maskAt = file.begin() + kMaskOffset;
     std::array<char, kBitsPerByte> bits{};
     std::size_t bitCount = 0;
-    for (int y = kIconSize - 1; y >= 0; --y) {
-        const auto colors = document.PicImage.Row(y);
-        const auto masks = document.PicMask.Row(y);
+    for (int y = gdi::kIconSize - 1; y >= 0; --y) {
+        const auto colors = icon.image.Row(y);
+        const auto masks = icon.mask.Row(y);
         for (std::size_t x = 0; x < colors.size(); ++x) {
             const bool transparent = masks[x] == gdi::kWhite;
             const gdi::COLORREF color = transparent ? gdi::kBlack : colors[x];
@@ -90,9 +90,9 @@ IcoBytes EncodeIco(const IconDocument& document) {
     return file;
 }
 
-Result<void> WriteIcoCopy(system::FileSystem& files, const IconDocument& document,
+Result<void> WriteIcoCopy(system::FileSystem& files, const gdi::IconPlanes& icon,
                           const std::string& path) {
-    return files.ReplaceFile(path, EncodeIco(document));
+    return files.ReplaceFile(path, EncodeIco(icon));
 }
 
 bool DetectMultipleIcons(std::span<const std::uint8_t> file) {
@@ -104,4 +104,4 @@ bool DetectMultipleIcons(std::span<const std::uint8_t> file) {
     return isDirectory && word(4) > 1;
 }
 
-}  // namespace kestrel::document
+}  // namespace kestrel::formats

@@ -1,4 +1,4 @@
-#include "document/IcoFile.h"
+#include "formats/IcoFile.h"
 
 #include <gtest/gtest.h>
 
@@ -7,16 +7,16 @@
 #include <utility>
 #include <vector>
 
-namespace kestrel::document {
+namespace kestrel::formats {
 namespace {
 
 TEST(IcoFile, HasThePixelsFromTheBottomUpInBlueGreenRedAndThenTheMask) {
-    IconDocument icon;
+    gdi::IconPlanes icon;
     for (const auto& [x, y, color] : {std::tuple{0, 0, 0x030201U}, {1, 31, 0xFFFFFFU}}) {
-        icon.PicMask.SetPixel(x, y, gdi::kBlack);
-        icon.PicImage.SetPixel(x, y, color);
+        icon.mask.SetPixel(x, y, gdi::kBlack);
+        icon.image.SetPixel(x, y, color);
     }
-    icon.PicImage.SetPixel(9, 0, 0xABCDEF);  // transparent in the mask: the colour is not written
+    icon.image.SetPixel(9, 0, 0xABCDEF);  // transparent in the mask: the colour is not written
     std::vector<std::uint8_t> expected = {
         0,    0,    1, 0, 1,    0,                                      // directory
         32,   32,   0, 0, 1,    0,    24, 0,                            // entry:
@@ -43,4 +43,4 @@ TEST(IcoFile, CountsImagesInTheDirectory) {
 }
 
 }  // namespace
-}  // namespace kestrel::document
+}  // namespace kestrel::formats

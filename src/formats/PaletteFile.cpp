@@ -1,4 +1,4 @@
-#include "editing/PaletteFile.h"
+#include "formats/PaletteFile.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -10,7 +10,7 @@
 #include "platform/system/Characters.h"
 #include "platform/system/SystemError.h"
 
-namespace kestrel::editing {
+namespace kestrel::formats {
 
 namespace {
 
@@ -76,14 +76,14 @@ tl::unexpected<Error> FromPalette(Error error) {
 
 }  // namespace
 
-std::string PaletteText(const PaletteColors& colors) {
+std::string PaletteText(const gdi::PaletteColors& colors) {
     std::string text = std::string(kFirstLine).append(kLineEnd);
     for (const gdi::COLORREF color : colors)
         text.append(kLineEnd).append(std::to_string(color));
     return text;
 }
 
-Result<void> ReadPaletteText(std::string_view text, PaletteColors& colors) {
+Result<void> ReadPaletteText(std::string_view text, gdi::PaletteColors& colors) {
     std::optional<std::string_view> rest = text;
     for (std::size_t line = 0; rest && line < kLinesBeforeColors; ++line)
         TakeLine(rest);
@@ -96,23 +96,22 @@ Result<void> ReadPaletteText(std::string_view text, PaletteColors& colors) {
     return {};
 }
 
-Result<void> WritePaletteFile(system::FileSystem& files, const Palette& palette,
+Result<void> WritePaletteFile(system::FileSystem& files, const gdi::PaletteColors& colors,
                               const std::string& path) {
-    const std::string text = PaletteText(palette.Colors());
+    const std::string text = PaletteText(colors);
     const std::vector<std::uint8_t> bytes(text.begin(), text.end());
     const Result<void> written = files.ReplaceFile(path, bytes);
     if (!written) return FromPalette(written.error());
     return {};
 }
 
-Result<void> ReadPaletteFile(system::FileSystem& files, Palette& palette, const std::string& path) {
+Result<void> ReadPaletteFile(system::FileSystem& files, gdi::PaletteColors& colors,
+                             const std::string& path) {
     const auto bytes = files.ReadFile(path, kMaxPaletteFileBytes);
     if (!bytes) return FromPalette(bytes.error());
-    PaletteColors colors = palette.Colors();
     const Result<void> read = ReadPaletteText(std::string(bytes->begin(), bytes->end()), colors);
-    if (read || colors != palette.Colors()) palette.SetColors(colors);
     if (!read) return FromPalette(read.error());
     return {};
 }
 
-}  // namespace kestrel::editing
+}  // namespace kestrel::formats

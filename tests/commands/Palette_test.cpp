@@ -3,12 +3,15 @@
 #include <fstream>
 
 #include "commands/PaletteCommands.h"
-#include "editing/PaletteFile.h"
 #include "tests/support/Recorders.h"
 
-namespace kestrel::editing {
+namespace kestrel::commands {
 namespace {
 
+using editing::Button;
+using editing::Palette;
+using editing::PaletteKind;
+using editing::PaletteReload;
 using namespace std::string_literals;
 
 class ColorPaletteTest : public testing::Test {
@@ -49,10 +52,9 @@ class ColorPaletteTest : public testing::Test {
     test::ScriptedDialogs desktop_;
     system::RandomNumbers random_{std::mt19937::default_seed};
     services::Cdb cdb_{desktop_, window_};
-    ColorWells wells_{window_};
+    editing::ColorWells wells_{window_};
     Palette palette_{window_};
-    commands::PaletteCommands commands_{palette_,
-                                        {wells_, cdb_, desktop_, window_, files_, random_}};
+    PaletteCommands commands_{palette_, {wells_, cdb_, desktop_, window_, files_, random_}};
 };
 
 TEST_F(ColorPaletteTest, PicturesOfTheDefaultAndARandomPalette) {
@@ -64,7 +66,7 @@ TEST_F(ColorPaletteTest, PicturesOfTheDefaultAndARandomPalette) {
         ASSERT_TRUE(table >> listed);
         EXPECT_EQ(color, listed);
     }
-    const PaletteColors first = palette_.Colors();
+    const gdi::PaletteColors first = palette_.Colors();
     wells_.SetPenColor(Button::Right, 0x123456);
     wells_.SetTransparent(Button::Left);
     commands_.mnuPaletteOpts_Click(1);
@@ -155,7 +157,8 @@ TEST_F(ColorPaletteTest, FilesAreReadLineByLine) {
     for (const auto& c : cases) {
         palette_.DrawPalette(PaletteReload::Yes);
         Keep("/a.pal", c.text);
-        const Result<void> read = ReadPaletteFile(files_, palette_, "/a.pal");
+        desktop_.choice = "/a.pal";
+        const Result<void> read = commands_.ImgLoadPalette_Click();
         EXPECT_EQ(Cells(0, 3), c.cells) << c.text;
         EXPECT_EQ(!read, c.fails) << c.text;
         EXPECT_TRUE(PictureIsFresh());
@@ -169,14 +172,15 @@ TEST_F(ColorPaletteTest, FilesAreReadLineByLine) {
     for (int i = 0; i < 100000; ++i)
         many += "\r\n" + std::to_string(i % 1000);
     Keep("/many.pal", many);
-    EXPECT_TRUE(ReadPaletteFile(files_, palette_, "/many.pal"));
+    desktop_.choice = "/many.pal";
+    EXPECT_TRUE(commands_.ImgLoadPalette_Click());
     EXPECT_EQ(Cells(254, 2), (std::vector<gdi::COLORREF>{254, 255}));
 }
 
 TEST_F(ColorPaletteTest, AreLoadedAndSavedThroughTheDialogs) {
     desktop_.choice = "/mine.PAL";
     commands_.mnuPaletteOpts_Click(1);
-    const PaletteColors random = palette_.Colors();
+    const gdi::PaletteColors random = palette_.Colors();
     EXPECT_TRUE(commands_.ImgSavePalette_Click());
     commands_.mnuPaletteOpts_Click(0);
     EXPECT_TRUE(commands_.ImgLoadPalette_Click());
@@ -212,4 +216,4 @@ TEST_F(ColorPaletteTest, AreLoadedAndSavedThroughTheDialogs) {
 }
 
 }  // namespace
-}  // namespace kestrel::editing
+}  // namespace kestrel::commands

@@ -1,4 +1,4 @@
-#include "cli/PngWriter.h"
+#include "formats/PngWriter.h"
 
 #include <png.h>
 
@@ -9,12 +9,12 @@
 #include <span>
 #include <utility>
 
-namespace kestrel::cli {
+namespace kestrel::formats {
 
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
-using document::kIconSize;
+using gdi::kIconSize;
 
 constexpr std::size_t kStride = std::size_t{4} * kIconSize;
 constexpr std::uint8_t kOpaque = 255;
@@ -24,7 +24,7 @@ constexpr int kCompressionMemory = 4;
 // What libpng's callbacks and the frame that catches its jumps share. Nothing in it has to be
 // unwound by a jump: the owner frees it afterwards.
 struct PngEncoder {
-    explicit PngEncoder(const document::IconDocument& icon);
+    explicit PngEncoder(const gdi::IconPlanes& icon);
     ~PngEncoder() { png_destroy_write_struct(&png, &info); }
     PngEncoder(const PngEncoder&) = delete;
     PngEncoder& operator=(const PngEncoder&) = delete;
@@ -51,13 +51,13 @@ void WriteBytes(png_structp png, png_bytep data, std::size_t count) {
 }
 void FlushNothing(png_structp) {}
 
-PngEncoder::PngEncoder(const document::IconDocument& icon) {
+PngEncoder::PngEncoder(const gdi::IconPlanes& icon) {
     png_bytep sample = samples.data();
     for (int y = 0; y < kIconSize; ++y) {
         rows[static_cast<std::size_t>(y)] = sample;
         for (int x = 0; x < kIconSize; ++x) {
             const bool transparent = icon.IsTransparent(x, y);
-            const gdi::COLORREF color = transparent ? gdi::kBlack : icon.PicImage.GetPixel(x, y);
+            const gdi::COLORREF color = transparent ? gdi::kBlack : icon.image.GetPixel(x, y);
             *sample++ = gdi::Red(color);
             *sample++ = gdi::Green(color);
             *sample++ = gdi::Blue(color);
@@ -86,7 +86,7 @@ bool RunEncoder(PngEncoder& encoder) {
 
 }  // namespace
 
-Bytes PngBytes(const document::IconDocument& icon) {
+Bytes PngBytes(const gdi::IconPlanes& icon) {
     PngEncoder encoder(icon);
     // Memory is all that a picture of known size can lack.
     if (!RunEncoder(encoder)) throw std::bad_alloc();
@@ -94,4 +94,4 @@ Bytes PngBytes(const document::IconDocument& icon) {
     return std::move(encoder.bytes);
 }
 
-}  // namespace kestrel::cli
+}  // namespace kestrel::formats

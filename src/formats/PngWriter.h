@@ -1,0 +1,13 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/gdi/IconPlanes.h"
+
+namespace kestrel::formats {
+
+// The 32 x 32 planes as a PNG of 8-bit red, green, blue and alpha; transparent pixels are black.
+std::vector<std::uint8_t> PngBytes(const gdi::IconPlanes& icon);
+
+}  // namespace kestrel::formats
