@@ -121,15 +121,6 @@ Result<void> StoreLines(FileSystem& files, const std::string& file,
     return files.ReplaceFile(file, bytes);
 }
 
-// The first characters of a UTF-8 text.
-std::string FirstCharacters(std::string_view text, std::size_t count) {
-    std::size_t end = 0;
-    for (; end < text.size(); ++end) {
-        if (StartsCharacter(text[end]) && count-- == 0) break;
-    }
-    return std::string(text.substr(0, end));
-}
-
 // The value as it has to be written so that it reads back the same.
 std::string WrittenValue(std::string_view value) {
     if (Bare(value) == value && !IsQuoted(value)) return std::string(value);
@@ -161,7 +152,7 @@ std::string ReadProfileString(FileSystem& files, std::string_view section, std::
     if (!lines) return std::string(otherwise);
     const Place place = Locate(*lines, section, key);
     if (place.key == kNone) return std::string(otherwise);
-    return FirstCharacters(ValueOf((*lines)[place.key].text), kMaxValueCharacters);
+    return std::string(FirstCharacters(ValueOf((*lines)[place.key].text), kMaxValueCharacters));
 }
 
 Result<void> WriteProfileString(FileSystem& files, std::string_view section, std::string_view key,
