@@ -5,7 +5,6 @@
 #include <utility>
 #include <vector>
 
-#include "platform/system/Folders.h"
 #include "platform/system/LetterCase.h"
 #include "platform/system/LockFile.h"
 #include "platform/system/PathText.h"
@@ -81,7 +80,7 @@ Result<void> FileRegistry::Change(const Edit& edit) {
     if (!keys) return tl::unexpected(keys.error());
     if (!edit(*keys)) return {};
 
-    MakeFolder(std::string(FolderOf(path_)));
+    files_.MakeFolder(std::string(FolderOf(path_)));
     const Result<FileHandle> lock = LockFile(path_ + ".lock", lockPatience_);
     if (!lock) {
         // A session that was stopped in the middle of a change must not stop this one for good.

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "platform/system/Characters.h"
-#include "platform/system/Folders.h"
 #include "platform/system/LetterCase.h"
 #include "platform/system/PathText.h"
 #include "platform/system/SystemError.h"
@@ -117,7 +116,7 @@ Result<void> StoreLines(FileSystem& files, const std::string& file,
     if (bytes.size() > kMaxFile) return SystemFailure(EFBIG);
     Result<void> stored = files.ReplaceFile(file, bytes);
     if (stored || stored.error().number != ENOENT) return stored;
-    if (!MakeFolder(std::string(FolderOf(file)))) return stored;
+    if (!files.MakeFolder(std::string(FolderOf(file)))) return stored;
     return files.ReplaceFile(file, bytes);
 }
 
