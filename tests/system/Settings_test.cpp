@@ -128,17 +128,36 @@ TEST_F(SettingsTest, ProfileKeepsEverythingElseInTheFile) {
     }
 }
 
-TEST_F(SettingsTest, ProfileLeavesAloneWhatIsNoSettingsText) {
+TEST_F(SettingsTest, DamagedFileIsKeptBesideANewOne) {
+    const std::string kept = file_ + ".damaged";
     for (const std::string& text : {std::string("[S]\nk=1\n\0", 9), std::string("[S]\nk=1\n\x07"),
                                     "[S]\nk=1\n" + std::string(1U << 20U, '\n')}) {
         MakeFile(file_, text);
         EXPECT_EQ(Read("S", "k"), "default");
-        EXPECT_NE(Write("S", "k", "2"), 0);
-        EXPECT_EQ(ContentOf(file_), text);
+        EXPECT_EQ(ContentOf(file_), text) << "nothing was written yet";
+        EXPECT_EQ(Write("S", "k", "2"), 0);
+        EXPECT_EQ(ContentOf(kept), text);
+        EXPECT_EQ(ContentOf(file_), "[S]\nk=2\n");
     }
+    std::filesystem::remove(file_);
+    std::filesystem::remove(kept);
+    MakeFile(file_ + "/inside", "");
+    EXPECT_EQ(Write("S", "k", "2"), 0);
+    EXPECT_EQ(Read("S", "k"), "2");
+    EXPECT_TRUE(std::filesystem::exists(kept + "/inside"));
+    // Out of reach is not damaged.
+    std::filesystem::rename(file_, Path("good"));
+    std::filesystem::create_symlink(file_, file_);
+    EXPECT_EQ(Write("S", "k", "2"), ELOOP);
+    EXPECT_TRUE(std::filesystem::is_symlink(file_));
+}
+
+TEST_F(SettingsTest, ProfileRefusesWhatWouldNotReadBack) {
     for (const auto& [section, key, value] :
          {std::tuple("S]", "k", "v"), {"S", "k=", "v"}, {"S", "k", "v\nw=x"}})
         EXPECT_EQ(Write(section, key, value), EINVAL);
+    EXPECT_EQ(Write("S", "k", std::string(1U << 20U, 'x')), EFBIG);
+    EXPECT_FALSE(files_.FileExists(file_));
 }
 
 }  // namespace

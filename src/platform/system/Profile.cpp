@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "platform/system/Characters.h"
-#include "platform/system/IniText.h"
 #include "platform/system/PathText.h"
 #include "platform/system/SystemError.h"
 
@@ -15,19 +14,25 @@ namespace {
 
 constexpr std::size_t kMaxFile = 1U << 20U;
 constexpr std::size_t kMaxValueCharacters = 2048;
+constexpr std::string_view kDamagedSuffix = ".damaged";
 
-Result<IniText> Load(FileSystem& files, const std::string& file) {
+// Nothing for a file that is damaged; one that is out of reach is a failure instead.
+Result<std::optional<IniText>> Load(FileSystem& files, const std::string& file) {
     const Result<std::vector<std::uint8_t>> bytes = files.ReadFile(file, kMaxFile);
-    if (!bytes && bytes.error().number == ENOENT) return IniText();
-    if (!bytes) return tl::unexpected(bytes.error());
-    std::optional<IniText> ini = IniText::Parse(std::string(bytes->begin(), bytes->end()));
-    if (!ini) return Fail(EBADMSG, "The settings file is damaged");
-    return std::move(*ini);
+    if (bytes) return IniText::Parse(std::string(bytes->begin(), bytes->end()));
+    switch (bytes.error().number) {
+        case ENOENT:
+            return IniText();
+        case EFBIG:
+        case EISDIR:
+        case EINVAL:
+            return std::nullopt;
+        default:
+            return tl::unexpected(bytes.error());
+    }
 }
 
-Result<void> Store(FileSystem& files, const std::string& file, const IniText& ini) {
-    const std::string text = ini.Text();
-    if (text.size() > kMaxFile) return SystemFailure(EFBIG);
+Result<void> Store(FileSystem& files, const std::string& file, const std::string& text) {
     const std::vector<std::uint8_t> bytes(text.begin(), text.end());
     Result<void> stored = files.ReplaceFile(file, bytes);
     if (stored || stored.error().number != ENOENT) return stored;
@@ -37,9 +42,30 @@ Result<void> Store(FileSystem& files, const std::string& file, const IniText& in
 
 }  // namespace
 
+Result<IniText> ReadProfile(FileSystem& files, const std::string& file) {
+    Result<std::optional<IniText>> loaded = Load(files, file);
+    if (!loaded) return tl::unexpected(loaded.error());
+    return std::move(*loaded).value_or(IniText());
+}
+
+Result<void> ChangeProfile(FileSystem& files, const std::string& file, const ProfileEdit& edit) {
+    Result<std::optional<IniText>> loaded = Load(files, file);
+    if (!loaded) return tl::unexpected(loaded.error());
+    const bool damaged = !loaded->has_value();
+    IniText ini = std::move(*loaded).value_or(IniText());
+    if (!edit(ini)) return {};
+    const std::string text = ini.Text();
+    if (text.size() > kMaxFile) return SystemFailure(EFBIG);
+    if (damaged) {
+        Result<void> kept = files.RenameFile(file, file + std::string(kDamagedSuffix));
+        if (!kept) return kept;
+    }
+    return Store(files, file, text);
+}
+
 std::string ReadProfileString(FileSystem& files, std::string_view section, std::string_view key,
                               std::string_view otherwise, const std::string& file) {
-    const Result<IniText> ini = Load(files, file);
+    const Result<IniText> ini = ReadProfile(files, file);
     if (!ini) return std::string(otherwise);
     const auto value = ini->Find(section, key);
     return std::string(value ? FirstCharacters(*value, kMaxValueCharacters) : otherwise);
@@ -48,10 +74,7 @@ std::string ReadProfileString(FileSystem& files, std::string_view section, std::
 Result<void> WriteProfileString(FileSystem& files, std::string_view section, std::string_view key,
                                 std::string_view value, const std::string& file) {
     if (!IniText::CanHold(section, key, value)) return SystemFailure(EINVAL);
-    Result<IniText> ini = Load(files, file);
-    if (!ini) return tl::unexpected(ini.error());
-    if (!ini->Set(section, key, value)) return {};
-    return Store(files, file, *ini);
+    return ChangeProfile(files, file, [&](IniText& ini) { return ini.Set(section, key, value); });
 }
 
 }  // namespace kestrel::system
