@@ -38,38 +38,48 @@ TEST_F(SettingsTest, RegistryFindsKeysAndNamesInAnyLetterCase) {
     EXPECT_EQ(registry_.ReadValue(kClasses, kKey, "Größe"), std::nullopt);
     EXPECT_TRUE(registry_.KeyExists(kUser, "software\\VENDOR"));
     EXPECT_FALSE(registry_.KeyExists(kUser, "software\\VEND"));
-    const NamedValue none{"GRÖßE", std::nullopt};
-    EXPECT_TRUE(registry_.ChangeValues(kUser, kKey, {&none, 1}));
-    EXPECT_EQ(registry_.ReadValue(kUser, kKey, "Größe"), std::nullopt);
-    for (const std::string& text :
-         {std::string(), std::string(" /a b/图标.ico "), std::string("two\nlines\r\n"),
-          std::string(R"([a="b"\n])"), std::string("zero\0byte\xFF", 10)}) {
-        ASSERT_TRUE(registry_.WriteValue(kUser, "odd]\n\\" + text, "=\"]\n" + text, text));
-        EXPECT_EQ(registry_.ReadValue(kUser, "ODD]\n\\" + text + "\\", "=\"]\n" + text), text);
-    }
 }
 
-TEST_F(SettingsTest, RegistryLeavesAloneWhatItDoesNotUnderstand) {
-    const std::string good =
-        "KestrelIconEditor registry 1\n\n[ClassesRoot\\\\.ico]\n\"\"=\"icofile\"\n";
-    MakeFile(file_, good);
-    EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), "icofile");
-    const std::string large(kMaxRegistryText, 'x');
-    EXPECT_FALSE(registry_.WriteValue(kClasses, "large", "", large));
-    EXPECT_EQ(ContentOf(file_), good);
-    // Cut off, another header, a value before any key, noise, and lines of no known kind.
-    std::vector<std::string> damaged = {
-        good.substr(0, good.size() - 1), good.substr(1), good.substr(0, 29) + "\"value\"=\"\"\n",
-        std::string(300, '\0'), good + std::string(kMaxRegistryText, '\n')};
-    for (const char* line : {"x", R"("a"="b)", R"("a"="b" )", R"("a"="\q")", R"(""="twice")",
-                             "[unfinished", "[]", "[a]b"})
-        damaged.push_back(good + line + "\n");
-    for (const std::string& text : damaged) {
-        MakeFile(file_, text);
-        EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), std::nullopt) << text.substr(0, 200);
-        EXPECT_FALSE(registry_.WriteValue(kClasses, "b", "", "c"));
-        EXPECT_EQ(ContentOf(file_), text);
+TEST_F(SettingsTest, RegistryChangesSeveralValuesAtOnce) {
+    MakeFile(file_, "[ClassesRoot\\a]\n@=old\nGone=1\nGONE=2\nstays=3\n");
+    const NamedValue changes[] = {{"gone", std::nullopt}, {"new", "4"}, {"", "changed"}};
+    EXPECT_TRUE(registry_.ChangeValues(kClasses, "A", changes));
+    EXPECT_EQ(ContentOf(file_), "[ClassesRoot\\a]\n@=changed\nstays=3\nnew=4\n");
+    EXPECT_EQ(registry_.ReadValue(kClasses, "a", ""), "changed");
+    EXPECT_EQ(registry_.ReadValue(kClasses, "a", "@"), std::nullopt);
+    for (const auto& [key, name] : {std::pair("a]", "b"), {"a\nb", "c"}, {"a", "@"}, {"a", "b=c"}})
+        EXPECT_EQ(NumberOf(registry_.WriteValue(kClasses, key, name, "")), EINVAL);
+}
+
+TEST_F(SettingsTest, RegistryEscapesWhatALineCannotHold) {
+    const std::pair<std::string, std::string> values[] = {
+        {" /a b/图标.ico ", "\" /a b/图标.ico \""},
+        {"two\nlines\r\n", "two\\nlines\\r\\n"},
+        {R"([a="b"]\n\x41)", R"([a="b"]\\n\\x41)"},
+        {std::string("\0\x1B\t\x7F\xFF", 5), "\\0\\x1B\t\x7F\xFF"}};
+    for (const auto& [value, written] : values) {
+        ASSERT_TRUE(registry_.WriteValue(kClasses, ".ico", "", value));
+        EXPECT_EQ(ContentOf(file_), "[ClassesRoot\\.ico]\n@=" + written + "\n");
+        EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), value);
     }
+    // As somebody may have typed it: a backslash that begins no escape is one itself.
+    MakeFile(file_, R"([ClassesRoot\a]
+name = C:\Icons\x4\x4a\)");
+    EXPECT_EQ(registry_.ReadValue(kClasses, "a", "name"), R"(C:\Icons\x4J\)");
+}
+
+TEST_F(SettingsTest, RegistryWritesOnlyWhatIsNew) {
+    const std::string good = "; mine\n[ClassesRoot\\.ico]\n @ = \"icofile\"\n";
+    for (const std::string& text : {good, std::string("\0", 1)}) {
+        MakeFile(file_, text);
+        const NamedValue none{"none", std::nullopt};
+        EXPECT_TRUE(registry_.ChangeValues(kClasses, ".ico", {&none, 1}));
+        EXPECT_EQ(ContentOf(file_), text);
+        EXPECT_TRUE(registry_.WriteValue(kClasses, ".ico", "", "icofile"));
+        EXPECT_EQ(files_.FileExists(file_ + ".lock"), text != good) << "a change takes the lock";
+        EXPECT_EQ(files_.FileExists(file_ + ".damaged"), text != good);
+    }
+    EXPECT_EQ(ContentOf(file_), "[ClassesRoot\\.ico]\n@=icofile\n");
 }
 
 TEST_F(SettingsTest, RegistryKeepsTheValuesOfTwoSessions) {
