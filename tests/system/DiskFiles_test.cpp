@@ -120,8 +120,9 @@ TEST_F(DiskFilesTest, RefusesWhatIsNoFileOrTooLarge) {
     for (const auto& [path, number] : read)
         EXPECT_EQ(NumberOf(files_.ReadFile(path, 2)), number) << path;
     EXPECT_FALSE(files_.FileExists(folder_));
-    EXPECT_TRUE(files_.RemoveFile(Path("kept")));
-    EXPECT_FALSE(files_.FileExists(Path("Kept")));
+    EXPECT_TRUE(files_.RenameFile(Path("KEPT"), Path("moved")));
+    EXPECT_TRUE(files_.RemoveFile(Path("Moved")));
+    EXPECT_FALSE(files_.FileExists(Path("moved")));
 }
 
 TEST_F(DiskFilesTest, FindsEachComponentAsWrittenOrInOtherLetterCase) {

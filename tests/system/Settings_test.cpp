@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <tuple>
-#include <vector>
 
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
@@ -54,6 +53,7 @@ TEST_F(SettingsTest, RegistryChangesSeveralValuesAtOnce) {
 TEST_F(SettingsTest, RegistryEscapesWhatALineCannotHold) {
     const std::pair<std::string, std::string> values[] = {
         {" /a b/图标.ico ", "\" /a b/图标.ico \""},
+        {"'quoted'", "\"'quoted'\""},
         {"two\nlines\r\n", "two\\nlines\\r\\n"},
         {R"([a="b"]\n\x41)", R"([a="b"]\\n\\x41)"},
         {std::string("\0\x1B\t\x7F\xFF", 5), "\\0\\x1B\t\x7F\xFF"}};
@@ -111,6 +111,11 @@ TEST_F(SettingsTest, ProfileReadsTheFirstMatch) {
         {"none", "k", "default"}, {"First", "; key", "default"}, {"", "key", "default"}};
     for (const auto& [section, key, value] : cases)
         EXPECT_EQ(Read(section, key), value) << section << " / " << key;
+    std::string longest;
+    for (int i = 0; i < 2048; ++i)
+        longest += "ö";
+    MakeFile(file_, "[S]\nk=" + longest + "x");
+    EXPECT_EQ(Read("S", "k"), longest);
 }
 
 TEST_F(SettingsTest, ProfileKeepsEverythingElseInTheFile) {
@@ -128,14 +133,17 @@ TEST_F(SettingsTest, ProfileKeepsEverythingElseInTheFile) {
         {"a", "key", "2", start + "2\r\n\xB0\xA1\r\n" + end},
         {"A", "new", "3", start + middle + "new=3\r\n" + end},
         {"B", "new", "4", start + middle + end + "\r\nnew=4\r\n"},
-        {"C", "k", " 5", start + middle + end + "\r\n[C]\r\nk=\" 5\"\r\n"},
-        {"A", "Key", "1 ; x", before}};
+        {"C", "k", " 5", start + middle + end + "\r\n[C]\r\nk=\" 5\"\r\n"}};
     for (const auto& [section, key, value, expected] : cases) {
         MakeFile(file_, before);
         EXPECT_EQ(Write(section, key, value), 0);
         EXPECT_EQ(ContentOf(file_), expected);
         EXPECT_EQ(Read(section, key), value);
     }
+    MakeFile(file_, before);
+    chmod(file_.c_str(), 0444);
+    EXPECT_EQ(Write("A", "Key", "1 ; x"), 0) << "there already: nothing to write";
+    EXPECT_EQ(Write("A", "Key", "2"), EACCES);
 }
 
 TEST_F(SettingsTest, DamagedFileIsKeptBesideANewOne) {

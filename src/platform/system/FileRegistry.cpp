@@ -79,7 +79,7 @@ char TakeEscape(std::string_view& text) {
     const std::string_view digits = text.substr(1, 2);
     unsigned char byte = 0;
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16);
-    if (text[0] != 'x' || digits.size() < 2 || read.ptr != digits.data() + 2) return kEscape;
+    if (text[0] != 'x' || read.ptr - digits.data() != 2) return kEscape;
     text.remove_prefix(3);
     return static_cast<char>(byte);
 }
