@@ -6,7 +6,7 @@
 
 namespace kestrel::system {
 
-constexpr char32_t kPastLastCharacter = 0x110000;
+inline constexpr char32_t kPastLastCharacter = 0x110000;
 
 // Takes the first character off a UTF-8 text that is not empty. A byte that is no UTF-8 counts as a
 // character of its own: its value past the last character.
