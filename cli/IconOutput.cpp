@@ -12,6 +12,7 @@
 #include "formats/IcoFile.h"
 #include "formats/PngWriter.h"
 #include "platform/system/DiskFiles.h"
+#include "platform/system/LetterCase.h"
 #include "platform/system/SystemError.h"
 
 namespace kestrel::cli {
@@ -49,10 +50,8 @@ Way WayTo(const std::string& name) {
 }
 
 const Format* FindFormat(std::string_view name) {
-    const auto same = [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); };
-    return std::find_if(std::begin(kFormats), std::end(kFormats), [&](const Format& format) {
-        return std::ranges::equal(format.name, name, same);
-    });
+    return std::find_if(std::begin(kFormats), std::end(kFormats),
+                        [&](const Format& format) { return system::SameName(format.name, name); });
 }
 
 const Format* FormatOf(const IconTarget& target) {

@@ -8,6 +8,7 @@
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
 #include "platform/system/Folders.h"
+#include "platform/system/LetterCase.h"
 #include "platform/system/PathText.h"
 
 namespace kestrel::app {
@@ -27,18 +28,6 @@ void PrepareWindowsFolder(const std::string& folder, system::FileSystem& files) 
     const std::string trayIcon = folder + "/kestrel.ico";
     if (files.FileExists(trayIcon) || !system::MakeFolder(folder)) return;
     static_cast<void>(formats::WriteIcoCopy(files, document::ApplicationIcon(), trayIcon));
-}
-
-char LowerAscii(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool StartsWithoutCase(std::string_view text, std::string_view lowerPrefix) {
-    if (text.size() < lowerPrefix.size()) return false;
-    for (std::size_t i = 0; i < lowerPrefix.size(); ++i) {
-        if (LowerAscii(text[i]) != lowerPrefix[i]) return false;
-    }
-    return true;
 }
 
 }  // namespace
@@ -91,7 +80,7 @@ std::optional<ProcessValues> PrepareStart(const StartupFacts& facts,
 
 std::string PathOfCommandLine(std::string_view commandLine) {
     constexpr std::string_view kOpen = "/open ";
-    if (!StartsWithoutCase(commandLine, kOpen)) return {};
+    if (!system::SameName(commandLine.substr(0, kOpen.size()), kOpen)) return {};
     const std::string typed(commandLine.substr(kOpen.size()));
     std::string proper = system::ProperCase(typed);
     // Where two files differ in letter case alone, the one that was typed is meant.

@@ -64,7 +64,7 @@ int main(int argc, char* argv[]) {
     const auto lock = system::InstanceLock::Take(system::RuntimeFolder(), "KestrelIconEditor",
                                                  system::CurrentDisplay());
     system::DiskFiles files;
-    system::FileRegistry registry(files, system::ConfigFolder() + "/registry.txt");
+    system::FileRegistry registry(files, system::ConfigFolder() + "/registry.ini");
     settings::Settings settings(files);
     desktop::QtMessageBoxes boxes;
     const app::StartupFacts facts = FactsOf(QGuiApplication::primaryScreen(), !lock);

@@ -14,7 +14,7 @@ using system::RegistryRoot;
 
 constexpr std::string_view kKey = R"(Software\Brinmoor\KestrelIconEditor\Rfl)";
 // Paths are read into a buffer of this many characters, its terminator included.
-constexpr std::ptrdiff_t kPathBuffer = 260;
+constexpr std::size_t kPathBuffer = 260;
 
 std::string ValueName(int slot) {
     return std::to_string(slot) + ".";
@@ -26,8 +26,7 @@ std::string MenuKey(int slot) {
 
 // What does not fit the buffer is no path.
 bool IsPath(const std::string& value) {
-    const auto characters = std::count_if(value.begin(), value.end(), system::StartsCharacter);
-    return characters < kPathBuffer;
+    return system::CountCharacters(value) < kPathBuffer;
 }
 
 // What the registry is to hold: a value for each path and none in the slots after them.

@@ -5,11 +5,13 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "commands/MainCommands.h"
 #include "platform/system/FileSystem.h"
+#include "platform/system/LetterCase.h"
 #include "services/MessageBoxes.h"
 #include "tests/support/EditorRecorder.h"
 #include "tests/support/ScriptedDialogs.h"
@@ -116,13 +118,33 @@ class MemoryFiles : public system::FileSystem {
         contents[path].assign(bytes.begin(), bytes.end());
         return {};
     }
+    std::optional<std::string> Find(const std::string& path) override {
+        if (contents.contains(path)) return path;
+        for (const auto& [name, bytes] : contents)
+            if (system::SameName(name, path)) return name;
+        return std::nullopt;
+    }
     bool FileExists(const std::string& path) override { return contents.contains(path); }
     Result<void> RemoveFile(const std::string& path) override {
         contents.erase(path);
         return {};
     }
+    Result<void> RenameFile(const std::string& from, const std::string& to) override {
+        const auto found = contents.find(from);
+        if (found == contents.end()) return Fail(2, "No such file or directory");
+        contents[to] = std::move(found->second);
+        contents.erase(from);
+        return {};
+    }
+    bool MakeFolder(const std::string& folder) override {
+        folders.insert(folder);
+        return true;
+    }
+    bool CanWriteIn(const std::string& folder) override { return folders.contains(folder); }
 
     std::map<std::string, std::vector<std::uint8_t>> contents;
+    // Those that can be written.
+    std::set<std::string> folders;
     Error writeError;
 };
 

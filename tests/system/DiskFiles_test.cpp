@@ -120,25 +120,29 @@ TEST_F(DiskFilesTest, RefusesWhatIsNoFileOrTooLarge) {
     for (const auto& [path, number] : read)
         EXPECT_EQ(NumberOf(files_.ReadFile(path, 2)), number) << path;
     EXPECT_FALSE(files_.FileExists(folder_));
-    EXPECT_TRUE(files_.RemoveFile(Path("kept")));
-    EXPECT_FALSE(files_.FileExists(Path("Kept")));
+    EXPECT_TRUE(files_.RenameFile(Path("KEPT"), Path("moved")));
+    EXPECT_TRUE(files_.RemoveFile(Path("Moved")));
+    EXPECT_FALSE(files_.FileExists(Path("moved")));
 }
 
 TEST_F(DiskFilesTest, FindsEachComponentAsWrittenOrInOtherLetterCase) {
     for (const char* name : {"Icons/Vögel/Star.ico", "Icons/b.ico", "Icons/B.ico", "icons/only",
                              "odd\\name", "Raw\xFF"})
         MakeFile(Path(name), "");
-    const char* cases[][2] = {
-        {"Icons\\VÖGEL\\STAR.ICO", "Icons/Vögel/Star.ico"},
-        {"ICONS/vögel//./star.ico", "Icons/Vögel//./Star.ico"},
-        {"Icons/b.ICO", "Icons/B.ico"},  // of several the first in byte order
-        {"Icons/b.ico", "Icons/b.ico"},  // an exact name before any other
-        {"Icons/only", "Icons/only"},    // an exact folder is never left for another
-        {"odd\\name", "odd\\name"},      // a name that really has a backslash
-        {"ICONS\\new\\Later.ico", "Icons/new/Later.ico"},
-        {"raw\xFF", "Raw\xFF"}};
+    const char* cases[][2] = {{"Icons\\VÖGEL\\STAR.ICO", "Icons/Vögel/Star.ico"},
+                              {"ICONS/vögel//./star.ico", "Icons/Vögel//./Star.ico"},
+                              {"Icons/b.ICO", "Icons/B.ico"},  // of several the first in byte order
+                              {"Icons/b.ico", "Icons/b.ico"},  // an exact name before any other
+                              {"odd\\name", "odd\\name"},      // a name that really has a backslash
+                              {"raw\xFF", "Raw\xFF"}};
+    std::filesystem::current_path(folder_);
     for (const auto& [written, found] : cases)
-        EXPECT_EQ(ResolvePath(Path(written)), Path(found));
+        EXPECT_EQ(files_.Find(written), Path(found));
+    // A folder is no file, and an exact one is never left for another.
+    for (const char* none : {"Icons", "Icons/only", "none/b.ico"})
+        EXPECT_EQ(files_.Find(none), std::nullopt);
+    std::filesystem::current_path("/");
+    EXPECT_EQ(ResolvePath(Path("ICONS\\new\\Later.ico")), Path("Icons/new/Later.ico"));
     EXPECT_EQ(FolderOf("C:\\Icons/a\\b.ico"), "C:\\Icons/a");
     EXPECT_EQ(FileTitleOf("C:\\Icons\\a/b.ico"), "b.ico");
     EXPECT_EQ(FolderOf("a.ico"), "");

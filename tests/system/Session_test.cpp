@@ -23,7 +23,7 @@ TEST_F(SessionTest, TheLocaleGivesTheIdentifier) {
     SetVariable("LC_MESSAGES", "zh_CN.UTF-8");
     SetVariable("LANG", "de_DE.UTF-8");
     const std::pair<const char*, unsigned> names[] = {
-        {"", 2052}, {"ZH", 2052}, {"zh_TW.Big5", 1028}, {"de_DE@euro", 1031}, {"C", 1033}};
+        {"", 2052}, {"ZH", 2052}, {"zh-TW.Big5", 1028}, {"de_DE@euro", 1031}, {"C", 1033}};
     for (const auto& [name, lcid] : names) {
         SetVariable("LC_ALL", name);
         EXPECT_EQ(GetSystemDefaultLCID(), lcid) << name;

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <tuple>
-#include <vector>
 
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
@@ -38,38 +37,49 @@ TEST_F(SettingsTest, RegistryFindsKeysAndNamesInAnyLetterCase) {
     EXPECT_EQ(registry_.ReadValue(kClasses, kKey, "Größe"), std::nullopt);
     EXPECT_TRUE(registry_.KeyExists(kUser, "software\\VENDOR"));
     EXPECT_FALSE(registry_.KeyExists(kUser, "software\\VEND"));
-    const NamedValue none{"GRÖßE", std::nullopt};
-    EXPECT_TRUE(registry_.ChangeValues(kUser, kKey, {&none, 1}));
-    EXPECT_EQ(registry_.ReadValue(kUser, kKey, "Größe"), std::nullopt);
-    for (const std::string& text :
-         {std::string(), std::string(" /a b/图标.ico "), std::string("two\nlines\r\n"),
-          std::string(R"([a="b"\n])"), std::string("zero\0byte\xFF", 10)}) {
-        ASSERT_TRUE(registry_.WriteValue(kUser, "odd]\n\\" + text, "=\"]\n" + text, text));
-        EXPECT_EQ(registry_.ReadValue(kUser, "ODD]\n\\" + text + "\\", "=\"]\n" + text), text);
-    }
 }
 
-TEST_F(SettingsTest, RegistryLeavesAloneWhatItDoesNotUnderstand) {
-    const std::string good =
-        "KestrelIconEditor registry 1\n\n[ClassesRoot\\\\.ico]\n\"\"=\"icofile\"\n";
-    MakeFile(file_, good);
-    EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), "icofile");
-    const std::string large(kMaxRegistryText, 'x');
-    EXPECT_FALSE(registry_.WriteValue(kClasses, "large", "", large));
-    EXPECT_EQ(ContentOf(file_), good);
-    // Cut off, another header, a value before any key, noise, and lines of no known kind.
-    std::vector<std::string> damaged = {
-        good.substr(0, good.size() - 1), good.substr(1), good.substr(0, 29) + "\"value\"=\"\"\n",
-        std::string(300, '\0'), good + std::string(kMaxRegistryText, '\n')};
-    for (const char* line : {"x", R"("a"="b)", R"("a"="b" )", R"("a"="\q")", R"(""="twice")",
-                             "[unfinished", "[]", "[a]b"})
-        damaged.push_back(good + line + "\n");
-    for (const std::string& text : damaged) {
-        MakeFile(file_, text);
-        EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), std::nullopt) << text.substr(0, 200);
-        EXPECT_FALSE(registry_.WriteValue(kClasses, "b", "", "c"));
-        EXPECT_EQ(ContentOf(file_), text);
+TEST_F(SettingsTest, RegistryChangesSeveralValuesAtOnce) {
+    MakeFile(file_, "[ClassesRoot\\a]\n@=old\nGone=1\nGONE=2\nstays=3\n");
+    const NamedValue changes[] = {{"gone", std::nullopt}, {"new", "4"}, {"", "changed"}};
+    EXPECT_TRUE(registry_.ChangeValues(kClasses, "A", changes));
+    EXPECT_EQ(ContentOf(file_), "[ClassesRoot\\a]\n@=changed\nstays=3\nnew=4\n");
+    EXPECT_EQ(registry_.ReadValue(kClasses, "a", ""), "changed");
+    EXPECT_EQ(registry_.ReadValue(kClasses, "a", "@"), std::nullopt);
+    for (const auto& [key, name] : {std::pair("a]", "b"), {"a\nb", "c"}, {"a", "@"}, {"a", "b=c"}})
+        EXPECT_EQ(NumberOf(registry_.WriteValue(kClasses, key, name, "")), EINVAL);
+}
+
+TEST_F(SettingsTest, RegistryEscapesWhatALineCannotHold) {
+    const std::pair<std::string, std::string> values[] = {
+        {" /a b/图标.ico ", "\" /a b/图标.ico \""},
+        {"'quoted'", "\"'quoted'\""},
+        {"two\nlines\r\n", "two\\nlines\\r\\n"},
+        {R"([a="b"]\n\x41)", R"([a="b"]\\n\\x41)"},
+        {std::string("\0\x1B\t\x7F\xFF", 5), "\\0\\x1B\t\x7F\xFF"}};
+    for (const auto& [value, written] : values) {
+        ASSERT_TRUE(registry_.WriteValue(kClasses, ".ico", "", value));
+        EXPECT_EQ(ContentOf(file_), "[ClassesRoot\\.ico]\n@=" + written + "\n");
+        EXPECT_EQ(registry_.ReadValue(kClasses, ".ico", ""), value);
     }
+    // As somebody may have typed it: a backslash that begins no escape is one itself.
+    MakeFile(file_, R"([ClassesRoot\a]
+name = C:\Icons\x4\x4a\)");
+    EXPECT_EQ(registry_.ReadValue(kClasses, "a", "name"), R"(C:\Icons\x4J\)");
+}
+
+TEST_F(SettingsTest, RegistryWritesOnlyWhatIsNew) {
+    const std::string good = "; mine\n[ClassesRoot\\.ico]\n @ = \"icofile\"\n";
+    for (const std::string& text : {good, std::string("\0", 1)}) {
+        MakeFile(file_, text);
+        const NamedValue none{"none", std::nullopt};
+        EXPECT_TRUE(registry_.ChangeValues(kClasses, ".ico", {&none, 1}));
+        EXPECT_EQ(ContentOf(file_), text);
+        EXPECT_TRUE(registry_.WriteValue(kClasses, ".ico", "", "icofile"));
+        EXPECT_EQ(files_.FileExists(file_ + ".lock"), text != good) << "a change takes the lock";
+        EXPECT_EQ(files_.FileExists(file_ + ".damaged"), text != good);
+    }
+    EXPECT_EQ(ContentOf(file_), "[ClassesRoot\\.ico]\n@=icofile\n");
 }
 
 TEST_F(SettingsTest, RegistryKeepsTheValuesOfTwoSessions) {
@@ -101,6 +111,11 @@ TEST_F(SettingsTest, ProfileReadsTheFirstMatch) {
         {"none", "k", "default"}, {"First", "; key", "default"}, {"", "key", "default"}};
     for (const auto& [section, key, value] : cases)
         EXPECT_EQ(Read(section, key), value) << section << " / " << key;
+    std::string longest;
+    for (int i = 0; i < 2048; ++i)
+        longest += "ö";
+    MakeFile(file_, "[S]\nk=" + longest + "x");
+    EXPECT_EQ(Read("S", "k"), longest);
 }
 
 TEST_F(SettingsTest, ProfileKeepsEverythingElseInTheFile) {
@@ -118,27 +133,49 @@ TEST_F(SettingsTest, ProfileKeepsEverythingElseInTheFile) {
         {"a", "key", "2", start + "2\r\n\xB0\xA1\r\n" + end},
         {"A", "new", "3", start + middle + "new=3\r\n" + end},
         {"B", "new", "4", start + middle + end + "\r\nnew=4\r\n"},
-        {"C", "k", " 5", start + middle + end + "\r\n[C]\r\nk=\" 5\"\r\n"},
-        {"A", "Key", "1 ; x", before}};
+        {"C", "k", " 5", start + middle + end + "\r\n[C]\r\nk=\" 5\"\r\n"}};
     for (const auto& [section, key, value, expected] : cases) {
         MakeFile(file_, before);
         EXPECT_EQ(Write(section, key, value), 0);
         EXPECT_EQ(ContentOf(file_), expected);
         EXPECT_EQ(Read(section, key), value);
     }
+    MakeFile(file_, before);
+    chmod(file_.c_str(), 0444);
+    EXPECT_EQ(Write("A", "Key", "1 ; x"), 0) << "there already: nothing to write";
+    EXPECT_EQ(Write("A", "Key", "2"), EACCES);
 }
 
-TEST_F(SettingsTest, ProfileLeavesAloneWhatIsNoSettingsText) {
+TEST_F(SettingsTest, DamagedFileIsKeptBesideANewOne) {
+    const std::string kept = file_ + ".damaged";
     for (const std::string& text : {std::string("[S]\nk=1\n\0", 9), std::string("[S]\nk=1\n\x07"),
                                     "[S]\nk=1\n" + std::string(1U << 20U, '\n')}) {
         MakeFile(file_, text);
         EXPECT_EQ(Read("S", "k"), "default");
-        EXPECT_NE(Write("S", "k", "2"), 0);
-        EXPECT_EQ(ContentOf(file_), text);
+        EXPECT_EQ(ContentOf(file_), text) << "nothing was written yet";
+        EXPECT_EQ(Write("S", "k", "2"), 0);
+        EXPECT_EQ(ContentOf(kept), text);
+        EXPECT_EQ(ContentOf(file_), "[S]\nk=2\n");
     }
+    std::filesystem::remove(file_);
+    std::filesystem::remove(kept);
+    MakeFile(file_ + "/inside", "");
+    EXPECT_EQ(Write("S", "k", "2"), 0);
+    EXPECT_EQ(Read("S", "k"), "2");
+    EXPECT_TRUE(std::filesystem::exists(kept + "/inside"));
+    // Out of reach is not damaged.
+    std::filesystem::rename(file_, Path("good"));
+    std::filesystem::create_symlink(file_, file_);
+    EXPECT_EQ(Write("S", "k", "2"), ELOOP);
+    EXPECT_TRUE(std::filesystem::is_symlink(file_));
+}
+
+TEST_F(SettingsTest, ProfileRefusesWhatWouldNotReadBack) {
     for (const auto& [section, key, value] :
          {std::tuple("S]", "k", "v"), {"S", "k=", "v"}, {"S", "k", "v\nw=x"}})
         EXPECT_EQ(Write(section, key, value), EINVAL);
+    EXPECT_EQ(Write("S", "k", std::string(1U << 20U, 'x')), EFBIG);
+    EXPECT_FALSE(files_.FileExists(file_));
 }
 
 }  // namespace

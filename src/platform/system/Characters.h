@@ -1,17 +1,30 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <string_view>
 
 namespace kestrel::system {
 
-// Whether a byte of a UTF-8 text begins a character.
-constexpr bool StartsCharacter(char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-}
+inline constexpr char32_t kPastLastCharacter = 0x110000;
 
-constexpr std::size_t CountCharacters(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), StartsCharacter));
+// Takes the first character off a UTF-8 text that is not empty. A byte that is no UTF-8 counts as a
+// character of its own: its value past the last character.
+char32_t TakeCharacter(std::string_view& text);
+
+std::size_t CountCharacters(std::string_view text);
+
+// The first `count` characters of a text, or all that it has.
+std::string_view FirstCharacters(std::string_view text, std::size_t count);
+
+// A letter in lower or upper case whatever the locale; what is no ASCII letter stays.
+template <class Letter>
+constexpr Letter LowerAscii(Letter letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<Letter>(letter + ('a' - 'A')) : letter;
+}
+template <class Letter>
+constexpr Letter UpperAscii(Letter letter) {
+    return letter >= 'a' && letter <= 'z' ? static_cast<Letter>(letter - ('a' - 'A')) : letter;
 }
 
 // The text without the blanks at both ends.

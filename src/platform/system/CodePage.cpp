@@ -37,10 +37,9 @@ std::size_t EncodedSize(iconv_t converter, std::string character) {
 int CountDoubleByte(std::string_view text, iconv_t converter) {
     int count = 0;
     while (!text.empty()) {
-        const auto* const end = std::find_if(text.begin() + 1, text.end(), StartsCharacter);
-        const auto size = static_cast<std::size_t>(end - text.begin());
-        if (EncodedSize(converter, std::string(text.substr(0, size))) == 2) ++count;
-        text.remove_prefix(size);
+        const std::string character(FirstCharacters(text, 1));
+        if (EncodedSize(converter, character) == 2) ++count;
+        text.remove_prefix(character.size());
     }
     return count;
 }

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <limits>
 
+#include "platform/system/Folders.h"
 #include "platform/system/PathText.h"
 #include "platform/system/SystemError.h"
 #include "platform/system/TemporaryFile.h"
@@ -54,12 +55,12 @@ DiskFiles::DiskFiles(PathNames names) : calls_(systemCalls_), names_(names) {}
 
 DiskFiles::DiskFiles(FileCalls& calls) : calls_(calls) {}
 
-std::string DiskFiles::Find(const std::string& path) const {
+std::string DiskFiles::Resolved(const std::string& path) const {
     return names_ == PathNames::AnyCase ? ResolvePath(path) : path;
 }
 
 Result<std::vector<std::uint8_t>> DiskFiles::ReadFile(const std::string& path, std::size_t limit) {
-    const std::string found = Find(path);
+    const std::string found = Resolved(path);
     // Looked at before it is opened too: opening alone can move a device or wake a pipe's writer.
     struct stat status {};
     if (stat(found.c_str(), &status) < 0) return SystemFailure(errno);
@@ -98,7 +99,7 @@ Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t li
 
 Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
     if (path.empty()) return SystemFailure(ENOENT);
-    const Result<std::string> target = FollowLinks(Find(path));
+    const Result<std::string> target = FollowLinks(Resolved(path));
     if (!target) return tl::unexpected(target.error());
     struct stat old {};
     const bool exists = stat(target->c_str(), &old) == 0;
@@ -119,14 +120,35 @@ Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std
     return {};
 }
 
-bool DiskFiles::FileExists(const std::string& path) {
+std::optional<std::string> DiskFiles::Find(const std::string& path) {
+    const std::string found = Resolved(path);
     struct stat status {};
-    return stat(Find(path).c_str(), &status) == 0 && RefusalOf(status) == 0;
+    if (stat(found.c_str(), &status) < 0 || RefusalOf(status) != 0) return std::nullopt;
+    std::error_code noCurrentFolder;
+    const std::filesystem::path absolute = std::filesystem::absolute(found, noCurrentFolder);
+    return noCurrentFolder ? found : absolute.string();
+}
+
+bool DiskFiles::FileExists(const std::string& path) {
+    return Find(path).has_value();
 }
 
 Result<void> DiskFiles::RemoveFile(const std::string& path) {
-    if (calls_.Unlink(Find(path)) < 0) return SystemFailure(errno);
+    if (calls_.Unlink(Resolved(path)) < 0) return SystemFailure(errno);
     return {};
+}
+
+Result<void> DiskFiles::RenameFile(const std::string& from, const std::string& to) {
+    if (calls_.Rename(Resolved(from), Resolved(to)) < 0) return SystemFailure(errno);
+    return {};
+}
+
+bool DiskFiles::MakeFolder(const std::string& folder) {
+    return system::MakeFolder(folder);
+}
+
+bool DiskFiles::CanWriteIn(const std::string& folder) {
+    return system::CanWriteIn(folder);
 }
 
 }  // namespace kestrel::system

@@ -22,11 +22,15 @@ class DiskFiles : public FileSystem {
     // its name, with the old one's permissions. Other hard links to the old file keep the old
     // content. Needs write permission to the folder too.
     Result<void> ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
+    std::optional<std::string> Find(const std::string& path) override;
     bool FileExists(const std::string& path) override;
     Result<void> RemoveFile(const std::string& path) override;
+    Result<void> RenameFile(const std::string& from, const std::string& to) override;
+    bool MakeFolder(const std::string& folder) override;
+    bool CanWriteIn(const std::string& folder) override;
 
   private:
-    std::string Find(const std::string& path) const;
+    std::string Resolved(const std::string& path) const;
     Result<std::vector<std::uint8_t>> ReadOpened(int file, std::size_t limit);
 
     FileCalls systemCalls_;

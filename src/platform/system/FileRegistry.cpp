@@ -1,11 +1,13 @@
 #include "platform/system/FileRegistry.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <cstdint>
+#include <charconv>
+#include <iterator>
 #include <utility>
 #include <vector>
 
-#include "platform/system/Folders.h"
+#include "platform/system/Characters.h"
 #include "platform/system/LetterCase.h"
 #include "platform/system/LockFile.h"
 #include "platform/system/PathText.h"
@@ -13,6 +15,14 @@
 
 namespace kestrel::system {
 namespace {
+
+constexpr char kEscape = '\\';
+struct Escape {
+    char letter;  // what follows the backslash
+    char meant;   // what both stand for
+};
+constexpr Escape kEscapes[] = {{'\\', '\\'}, {'n', '\n'}, {'r', '\r'}, {'0', '\0'}};
+constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 
 std::string_view RootName(RegistryRoot root) {
     switch (root) {
@@ -26,33 +36,62 @@ std::string_view RootName(RegistryRoot root) {
     return "LocalMachine";
 }
 
-std::string FullPath(RegistryRoot root, std::string_view key) {
-    std::string path(RootName(root));
-    while (key.starts_with('\\')) {
-        key.remove_prefix(1);
-    }
-    while (key.ends_with('\\')) {
-        key.remove_suffix(1);
-    }
-    if (!key.empty()) path.append("\\").append(key);
-    return path;
+std::string SectionOf(RegistryRoot root, std::string_view key) {
+    std::string section(RootName(root));
+    key = Trimmed(key, "\\");
+    if (!key.empty()) section.append("\\").append(key);
+    return section;
 }
 
-bool SetValue(RegistryKeys& keys, const std::string& path, std::string_view name,
-              std::string_view text) {
-    RegistryKey& key = keys[FoldCase(path)];
-    if (key.path.empty()) key.path = path;
-    const auto [place, added] = key.values.try_emplace(FoldCase(name));
-    RegistryValue& value = place->second;
-    if (added) value.name = name;
-    if (!added && value.text == text) return false;
-    value.text = text;
-    return true;
+// The name in the file. The one that stands for the default value belongs to nothing else.
+std::string_view WrittenName(std::string_view name) {
+    if (name.empty()) return "@";
+    return name == "@" ? std::string_view() : name;
 }
 
-bool EraseValue(RegistryKeys& keys, const std::string& path, std::string_view name) {
-    const auto found = keys.find(FoldCase(path));
-    return found != keys.end() && found->second.values.erase(FoldCase(name)) > 0;
+std::string Escaped(std::string_view text) {
+    std::string escaped;
+    for (const char letter : text) {
+        const auto byte = static_cast<unsigned char>(letter);
+        const auto* row =
+            std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                         [&](const Escape& escape) { return escape.meant == letter; });
+        if (row != std::end(kEscapes)) {
+            escaped += {kEscape, row->letter};
+        } else if (byte < ' ' && letter != '\t') {
+            escaped += {kEscape, 'x', kHexDigits[byte / 16], kHexDigits[byte % 16]};
+        } else {
+            escaped += letter;
+        }
+    }
+    return escaped;
+}
+
+// Takes what follows a backslash off the text. A backslash that begins no escape is one itself.
+char TakeEscape(std::string_view& text) {
+    if (text.empty()) return kEscape;
+    const auto* row = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                                   [&](const Escape& escape) { return escape.letter == text[0]; });
+    if (row != std::end(kEscapes)) {
+        text.remove_prefix(1);
+        return row->meant;
+    }
+    const std::string_view digits = text.substr(1, 2);
+    unsigned char byte = 0;
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16);
+    if (text[0] != 'x' || read.ptr - digits.data() != 2) return kEscape;
+    text.remove_prefix(3);
+    return static_cast<char>(byte);
+}
+
+std::string Unescaped(std::string_view text) {
+    std::string plain;
+    while (!text.empty()) {
+        const char letter = text[0];
+        text.remove_prefix(1);
+        plain += letter == kEscape ? TakeEscape(text) : letter;
+    }
+    return plain;
 }
 
 }  // namespace
@@ -60,78 +99,64 @@ bool EraseValue(RegistryKeys& keys, const std::string& path, std::string_view na
 FileRegistry::FileRegistry(FileSystem& files, std::string path)
     : files_(files), path_(std::move(path)) {}
 
-Result<RegistryKeys> FileRegistry::Load() {
-    const Result<std::vector<std::uint8_t>> bytes = files_.ReadFile(path_, kMaxRegistryText);
-    if (!bytes && bytes.error().number == ENOENT) return RegistryKeys{};
-    if (!bytes) return tl::unexpected(bytes.error());
-    std::optional<RegistryKeys> keys = ParseRegistry(std::string(bytes->begin(), bytes->end()));
-    if (!keys) return Fail(EBADMSG, "The registry file is damaged");
-    return std::move(*keys);
+std::optional<std::string> FileRegistry::ReadValue(RegistryRoot root, std::string_view key,
+                                                   std::string_view name) {
+    const Result<IniText> ini = ReadProfile(files_, path_);
+    if (!ini) return std::nullopt;
+    const auto value = ini->Find(SectionOf(root, key), WrittenName(name));
+    if (!value) return std::nullopt;
+    return Unescaped(*value);
 }
 
-Result<void> FileRegistry::Store(const RegistryKeys& keys) {
-    const std::string text = FormatRegistry(keys);
-    if (text.size() > kMaxRegistryText) return SystemFailure(EFBIG);
-    return files_.ReplaceFile(path_, std::vector<std::uint8_t>(text.begin(), text.end()));
+bool FileRegistry::KeyExists(RegistryRoot root, std::string_view key) {
+    const Result<IniText> ini = ReadProfile(files_, path_);
+    if (!ini) return false;
+    const std::u32string wanted = FoldCase(SectionOf(root, key));
+    const std::vector<std::string_view> sections = ini->Sections();
+    return std::any_of(sections.begin(), sections.end(), [&](std::string_view section) {
+        const std::u32string folded = FoldCase(section);
+        return folded == wanted || folded.starts_with(wanted + U'\\');
+    });
 }
 
-Result<void> FileRegistry::Change(const Edit& edit) {
+Result<void> FileRegistry::WriteValue(RegistryRoot root, std::string_view key,
+                                      std::string_view name, std::string_view value) {
+    const NamedValue change{std::string(name), std::string(value)};
+    return ChangeValues(root, key, {&change, 1});
+}
+
+Result<void> FileRegistry::ChangeValues(RegistryRoot root, std::string_view key,
+                                        std::span<const NamedValue> values) {
+    const std::string section = SectionOf(root, key);
+    for (const NamedValue& value : values) {
+        if (!IniText::CanHold(section, WrittenName(value.name), Escaped(value.text.value_or("")))) {
+            return SystemFailure(EINVAL);
+        }
+    }
+    return Change([&](IniText& ini) {
+        bool changed = false;
+        for (const auto& [name, text] : values) {
+            changed |= text ? ini.Set(section, WrittenName(name), Escaped(*text))
+                            : ini.Erase(section, WrittenName(name));
+        }
+        return changed;
+    });
+}
+
+Result<void> FileRegistry::Change(const ProfileEdit& edit) {
     // Most changes at a program's start change nothing: those need neither lock nor folder.
-    Result<RegistryKeys> keys = Load();
-    if (!keys) return tl::unexpected(keys.error());
-    if (!edit(*keys)) return {};
+    Result<IniText> now = ReadProfile(files_, path_);
+    if (!now) return tl::unexpected(now.error());
+    if (!edit(*now)) return {};
 
-    MakeFolder(std::string(FolderOf(path_)));
+    files_.MakeFolder(std::string(FolderOf(path_)));
     const Result<FileHandle> lock = LockFile(path_ + ".lock", lockPatience_);
     if (!lock) {
         // A session that was stopped in the middle of a change must not stop this one for good.
         if (lock.error().number == EWOULDBLOCK) lockPatience_ = {};
         return tl::unexpected(lock.error());
     }
-    keys = Load();
-    if (!keys) return tl::unexpected(keys.error());
-    if (!edit(*keys)) return {};
-    return Store(*keys);
-}
-
-std::optional<std::string> FileRegistry::ReadValue(RegistryRoot root, std::string_view key,
-                                                   std::string_view name) {
-    const Result<RegistryKeys> keys = Load();
-    if (!keys) return std::nullopt;
-    const auto found = keys->find(FoldCase(FullPath(root, key)));
-    if (found == keys->end()) return std::nullopt;
-    const auto value = found->second.values.find(FoldCase(name));
-    if (value == found->second.values.end()) return std::nullopt;
-    return value->second.text;
-}
-
-bool FileRegistry::KeyExists(RegistryRoot root, std::string_view key) {
-    const Result<RegistryKeys> keys = Load();
-    if (!keys) return false;
-    const std::u32string path = FoldCase(FullPath(root, key));
-    if (keys->contains(path)) return true;
-    const std::u32string below = path + U'\\';
-    const auto next = keys->lower_bound(below);
-    return next != keys->end() && next->first.starts_with(below);
-}
-
-Result<void> FileRegistry::WriteValue(RegistryRoot root, std::string_view key,
-                                      std::string_view name, std::string_view value) {
-    return Change([path = FullPath(root, key), name, value](RegistryKeys& keys) {
-        return SetValue(keys, path, name, value);
-    });
-}
-
-Result<void> FileRegistry::ChangeValues(RegistryRoot root, std::string_view key,
-                                        std::span<const NamedValue> values) {
-    return Change([path = FullPath(root, key), values](RegistryKeys& keys) {
-        bool changed = false;
-        for (const NamedValue& value : values) {
-            changed |= value.text ? SetValue(keys, path, value.name, *value.text)
-                                  : EraseValue(keys, path, value.name);
-        }
-        return changed;
-    });
+    return ChangeProfile(files_, path_, edit);
 }
 
 }  // namespace kestrel::system

@@ -1,18 +1,25 @@
 #pragma once
 
 #include <chrono>
-#include <functional>
 #include <string>
 
 #include "platform/system/FileSystem.h"
+#include "platform/system/Profile.h"
 #include "platform/system/Registry.h"
-#include "platform/system/RegistryText.h"
 
 namespace kestrel::system {
 
-// A registry kept in one text file, whose folder is made when the first value is written. The
-// sessions of one user may share the file: it is read anew for every question, and changed under a
-// lock beside it. A file that is not wholly understood holds nothing and is never written to.
+// A registry kept in an INI file with the keys as its sections:
+//
+//     [ClassesRoot\.ico]
+//     @=icofile
+//
+// "@" is the key's default value. In a value a backslash stands before itself, in \n, \r and \0 for
+// a line feed, a carriage return and a zero byte, and in \xHH for other control characters. Keys
+// and names that an INI file cannot hold are refused (EINVAL), and so is the name "@".
+//
+// The sessions of one user may share the file: it is read anew for every question, and changed
+// under a lock beside it.
 class FileRegistry : public Registry {
   public:
     // `files` must outlive this object; the disk is not touched yet.
@@ -29,12 +36,7 @@ class FileRegistry : public Registry {
                               std::span<const NamedValue> values) override;
 
   private:
-    // Changes the keys; false when there was nothing to change.
-    using Edit = std::function<bool(RegistryKeys&)>;
-
-    Result<RegistryKeys> Load();
-    Result<void> Change(const Edit& edit);
-    Result<void> Store(const RegistryKeys& keys);
+    Result<void> Change(const ProfileEdit& edit);
 
     FileSystem& files_;
     std::string path_;

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -29,8 +30,18 @@ class FileSystem {
     virtual Result<void> ReplaceFile(const std::string& path,
                                      std::span<const std::uint8_t> bytes) = 0;
 
+    // The absolute path of an existing regular file, spelled as on the disk.
+    virtual std::optional<std::string> Find(const std::string& path) = 0;
     virtual bool FileExists(const std::string& path) = 0;
     virtual Result<void> RemoveFile(const std::string& path) = 0;
+    // Gives whatever lies at `from`, links as they stand, the name `to`; a file of that name goes.
+    virtual Result<void> RenameFile(const std::string& from, const std::string& to) = 0;
+
+    // Creates the folder, named as written, and those above it, for this user only where it creates
+    // them. False when it does not exist afterwards.
+    virtual bool MakeFolder(const std::string& folder) = 0;
+    // Whether this user may create files in the folder, named as written.
+    virtual bool CanWriteIn(const std::string& folder) = 0;
 };
 
 }  // namespace kestrel::system

@@ -4,7 +4,8 @@
 
 namespace kestrel::system {
 
-// All folders come without a trailing separator and may not exist yet.
+// Questions to the environment: the program's start asks them and hands the answers on. All folders
+// come without a trailing separator and may not exist yet.
 
 // The folder of the running executable.
 std::string ApplicationFolder();

@@ -5,11 +5,13 @@
 #include <iterator>
 #include <string>
 
+#include "platform/system/LetterCase.h"
+
 namespace kestrel::system {
 namespace {
 
 struct LocaleId {
-    std::string_view name;  // lower case
+    std::string_view name;
     std::uint32_t lcid;
 };
 
@@ -29,13 +31,10 @@ constexpr LocaleId kLocaleIds[] = {
     {"zh_tw", 1028},
 };
 
-// The language and territory of a locale name, without codeset and modifier, in lower case.
+// The language and territory of a locale name, without codeset and modifier.
 std::string LanguageAndTerritory(std::string_view name) {
     std::string plain(name.substr(0, name.find_first_of(".@")));
-    for (char& letter : plain) {
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + 32);
-        if (letter == '-') letter = '_';
-    }
+    std::replace(plain.begin(), plain.end(), '-', '_');
     return plain;
 }
 
@@ -44,7 +43,7 @@ std::string LanguageAndTerritory(std::string_view name) {
 std::uint32_t LcidOfLocaleName(std::string_view name) {
     const std::string wanted = LanguageAndTerritory(name);
     const auto* row = std::find_if(std::begin(kLocaleIds), std::end(kLocaleIds),
-                                   [&](const LocaleId& id) { return id.name == wanted; });
+                                   [&](const LocaleId& id) { return SameName(id.name, wanted); });
     return row == std::end(kLocaleIds) ? kEnglishUnitedStates : row->lcid;
 }
 

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+#include "platform/system/Characters.h"
 #include "platform/system/LetterCase.h"
 
 namespace kestrel::system {
@@ -81,8 +82,7 @@ std::string ProperCase(std::string_view text) {
     std::string proper(text);
     bool inWord = false;
     for (char& letter : proper) {
-        if (inWord && letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter + 32);
-        if (!inWord && letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 32);
+        letter = inWord ? LowerAscii(letter) : UpperAscii(letter);
         inWord = letter != ' ' && kSeparators.find(letter) == std::string_view::npos;
     }
     return proper;
