@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "commands/MenuTable.h"
+#include "commands/CommandTable.h"
 #include "commands/ToolbarTable.h"
 #include "i18n/Language.h"
 

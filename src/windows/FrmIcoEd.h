@@ -9,7 +9,7 @@
 #include <map>
 
 #include "commands/CommandDispatch.h"
-#include "commands/MainCommands.h"
+#include "commands/Commands.h"
 #include "commands/WellCommands.h"
 #include "editing/Editor.h"
 #include "platform/controls/ImageList.h"
@@ -144,7 +144,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     services::Cdb cdb_;
     commands::WellCommands wellCommands_;
     FrmImagingDialogs imagingDialogs_;
-    commands::MainCommands commands_;
+    commands::Commands commands_;
     commands::CommandDispatch dispatch_;
 };
 

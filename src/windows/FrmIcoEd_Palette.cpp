@@ -20,14 +20,14 @@ struct PaletteButton {
     // In the image list, as in the palette's menu.
     int picture = 0;
     i18n::Text hint;
-    void (commands::MainCommands::*mouseUp)(){};
+    void (commands::Commands::*mouseUp)(){};
 };
 
 constexpr std::array kButtons{
     PaletteButton{"ImgLoadPalette", QRect(510, 157, 18, 18), 22, i18n::kLoadPalette,
-                  &commands::MainCommands::ImgLoadPalette_Click},
+                  &commands::Commands::ImgLoadPalette_Click},
     PaletteButton{"ImgSavePalette", QRect(530, 157, 18, 18), 23, i18n::kSavePalette,
-                  &commands::MainCommands::ImgSavePalette_Click},
+                  &commands::Commands::ImgSavePalette_Click},
 };
 
 }  // namespace

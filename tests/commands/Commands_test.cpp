@@ -3,7 +3,7 @@
 #include <string>
 
 #include "commands/CommandDispatch.h"
-#include "commands/MenuTable.h"
+#include "commands/CommandTable.h"
 #include "commands/ToolbarTable.h"
 #include "imaging/filters/FilterTable.h"
 #include "tests/support/Recorders.h"

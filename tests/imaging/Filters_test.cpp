@@ -2,7 +2,7 @@
 #include <map>
 #include <set>
 
-#include "commands/MenuTable.h"
+#include "commands/CommandTable.h"
 #include "tests/imaging/FilterTest.h"
 
 namespace kestrel::filters {

@@ -55,10 +55,10 @@ struct MainMenus {
 };
 
 // The handlers of all commands, each handed to the object whose business it is.
-class MainCommands : public CommandHandlers {
+class Commands : public CommandHandlers {
   public:
-    MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus, services::Cdb& cdb,
-                 ImagingDialogs& imagingDialogs, const MainServices& services);
+    Commands(editing::Editor& editor, MainWindow& window, MainMenus& menus, services::Cdb& cdb,
+             ImagingDialogs& imagingDialogs, const MainServices& services);
 
     DocumentCommands& Documents() { return documents_; }
     ModRecent& Recent() { return recent_; }

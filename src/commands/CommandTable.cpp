@@ -1,4 +1,4 @@
-#include "commands/MenuTable.h"
+#include "commands/CommandTable.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "commands/MainCommands.h"
+#include "commands/Commands.h"
 
 #include <array>
 #include <string>
@@ -8,9 +8,8 @@
 
 namespace kestrel::commands {
 
-MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
-                           services::Cdb& cdb, ImagingDialogs& imagingDialogs,
-                           const MainServices& services)
+Commands::Commands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
+                   services::Cdb& cdb, ImagingDialogs& imagingDialogs, const MainServices& services)
     : editor_(editor),
       window_(window),
       menus_(menus),
@@ -28,12 +27,12 @@ MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenu
       shell_(window, {services.boxes, services.help, services.files, services.shell},
              services.folders) {}
 
-void MainCommands::mnuRecent_Click(int slot) {
+void Commands::mnuRecent_Click(int slot) {
     const std::string pathToOpen = recent_.GetRecentFile(slot);
     if (!pathToOpen.empty()) documents_.OpenNamed(pathToOpen);
 }
 
-void MainCommands::mnuEdit_Click() {
+void Commands::mnuEdit_Click() {
     const bool canPaste = clipboard_.CanPaste();
     const bool isSelected = editor_.Selected().Exists();
     // Keys of the menu bar, the pop-up and the toolbar; not all have all three.
@@ -56,7 +55,7 @@ void MainCommands::mnuEdit_Click() {
     }
 }
 
-void MainCommands::mnuEditOpts_Click(int index) {
+void Commands::mnuEditOpts_Click(int index) {
     switch (index) {
         case 0:
             return editor_.PopUndoSnapshot();
@@ -79,18 +78,18 @@ void MainCommands::mnuEditOpts_Click(int index) {
     }
 }
 
-void MainCommands::Paste(imaging::PasteMode mode) {
+void Commands::Paste(imaging::PasteMode mode) {
     const Result<void> pasted = clipboard_.Paste(mode);
     if (!pasted && pasted.error().number != kDialogCancelled) {
         ShowError(boxes_, std::string(i18n::kCannotPaste.Now()));
     }
 }
 
-void MainCommands::mnuToolsOpts_Click(int index) {
+void Commands::mnuToolsOpts_Click(int index) {
     if (index == 1) images_.GradientBackground();
 }
 
-void MainCommands::mnuImage_Click() {
+void Commands::mnuImage_Click() {
     controls::SmartMenuXP& menu = menus_.SmartMenuXP1;
     for (const auto* item : {"mnuMirrorOpts0", "mnuMirrorOpts1"})
         menu.SetEnabled(item, transforms_.CanMirrorColumns());
@@ -98,17 +97,17 @@ void MainCommands::mnuImage_Click() {
         menu.SetEnabled(item, transforms_.CanMirrorRows());
 }
 
-void MainCommands::ImgLoadPalette_Click() {
+void Commands::ImgLoadPalette_Click() {
     const Result<void> loaded = palette_.ImgLoadPalette_Click();
     if (!loaded) ShowError(boxes_, i18n::CannotLoadPalette(loaded.error().description));
 }
 
-void MainCommands::ImgSavePalette_Click() {
+void Commands::ImgSavePalette_Click() {
     const Result<void> saved = palette_.ImgSavePalette_Click();
     if (!saved) ShowError(boxes_, i18n::CannotSavePalette(saved.error().description));
 }
 
-void MainCommands::mnuLanguageOpts_Click(int index) {
+void Commands::mnuLanguageOpts_Click(int index) {
     constexpr std::array kCodes{i18n::kChinese, i18n::kEnglish};
     if (index < 0 || index >= static_cast<int>(kCodes.size())) return;
     const std::string_view code = kCodes[static_cast<std::size_t>(index)];
