@@ -2,171 +2,72 @@
 
 #include <array>
 
+#include "commands/CommandCalls.h"
+
 namespace kestrel::commands {
 
 namespace {
 
 using enum controls::ItemKind;
-using enum ItemFlag;
 
-// Captions carry their blanks: they keep the items apart from the shortcuts beside them.
+constexpr CommandRow Button(std::string_view key, i18n::Text toolTip, i18n::Text hint, int picture,
+                            Action run, Question enabled = Always) {
+    return {key, {}, IconItem, toolTip, {}, picture, run, enabled, Never, hint};
+}
+
 // One row a line, however long.
 // clang-format off
-constexpr auto kMenuBar = std::to_array<MenuRow>({
-    {"mnuFile", "", Item, {"&File ", "(F) 文件  "}},
-    {"mnuNew", "mnuFile", IconItem, {"&New Icon", "新图标   "}, "Ctrl+N", 1},
-    {"Separator10", "mnuFile", Separator},
-    {"mnuOpen", "mnuFile", IconItem, {"&Open", "打开  "}, "Ctrl+O", 2},
-    {"mnuExtract", "mnuFile", IconItem, {"&Library", "图标库   "}, "Ctrl+L", 3},
-    {"mnuRecentFile0", "mnuFile", Item, {"Recent &Files", "最近使用的文件       "}, "", 0, Hidden},
-    {"mnuRecentFile1", "mnuRecentFile0", Item, {}, "", 0, Hidden},
-    {"mnuRecentFile2", "mnuRecentFile0", Item, {}, "", 0, Hidden},
-    {"mnuRecentFile3", "mnuRecentFile0", Item, {}, "", 0, Hidden},
-    {"mnuRecentFile4", "mnuRecentFile0", Item, {}, "", 0, Hidden},
-    {"Separator11", "mnuFile", Separator},
-    {"mnuSave", "mnuFile", IconItem, {"&Save", "保存  "}, "Ctrl+S", 4},
-    {"mnuSaveAs", "mnuFile", Item, {"Save &As ...", "保存为...   "}, "Ctrl+Shift+S"},
-    {"Separator12", "mnuFile", Separator},
-    {"mnuPrint", "mnuFile", IconItem, {"&Print", "打印  "}, "Ctrl+P", 24},
-    {"Separator13", "mnuFile", Separator},
-    {"mnuExit", "mnuFile", IconItem, {"E&xit", "关闭  "}, "Alt+F4", 39},
+constexpr auto kPopup = std::to_array<CommandRow>({
     {"mnuEdit", "", Item, {"&Edit ", "(E) 编辑  "}},
-    {"mnuEditOpts0", "mnuEdit", IconItem, {"&Undo", "撤消  "}, "Ctrl+Z", 5},
-    {"mnuEditOpts1", "mnuEdit", IconItem, {"&Redo", "恢复  "}, "Ctrl+Y", 6},
-    {"Separator20", "mnuEdit", Separator},
-    {"mnuEditOpts3", "mnuEdit", IconItem, {"Cu&t", "剪切  "}, "Ctrl+X", 7},
-    {"mnuEditOpts4", "mnuEdit", IconItem, {"&Copy", "复制  "}, "Ctrl+C", 8},
-    {"mnuEditOpts5", "mnuEdit", IconItem, {"&Paste", "粘贴  "}, "Ctrl+V", 9},
-    {"mnuEditOpts6", "mnuEdit", Item, {"Paste &Opaque", "粘贴 不透明     "}},
-    {"mnuEditOpts7", "mnuEdit", IconItem, {"&Delete Image", "清除图像    "}, "Del", 10},
-    {"Separator21", "mnuEdit", Separator},
-    {"mnuEditOpts9", "mnuEdit", Item, {"&Select All", "全选  "}, "Ctrl+A"},
-    {"mnuTools", "", Item, {"&Tools ", "(T) 工具  "}},
-    {"mnuToolsOpts0", "mnuTools", IconItem, {"Capture Image", "捕捉图像    "}, "Ctrl+Q", 11},
-    {"Separator30", "mnuTools", Separator},
-    {"mnuToolsOpts1", "mnuTools", IconItem, {"&Gradient Background", "填充渐变色    "}, "", 21},
-    {"mnuToolsOpts2", "mnuTools", IconItem, {"Palette", "调色板   "}, "", 19},
-    {"mnuPaletteOpts0", "mnuToolsOpts2", Option, {"&Default Palette", "默认调色板     "}, "", 0, Checked},
-    {"mnuPaletteOpts1", "mnuToolsOpts2", Option, {"&Random Palette", "随机调色板     "}},
-    {"Separator31", "mnuToolsOpts2", Separator},
-    {"mnuPaletteOpts3", "mnuToolsOpts2", IconItem, {"&Load Palette...", "打开调色板     "}, "", 22},
-    {"mnuPaletteOpts4", "mnuToolsOpts2", IconItem, {"&Save Palette...", "保存调色板     "}, "", 23},
-    {"Separator32", "mnuTools", Separator},
-    {"mnuToolsOpts3", "mnuTools", IconItem, {"ScreenZoom", "屏幕缩放    "}, "", 13},
-    {"mnuToolsOpts4", "mnuTools", Item, {"Test Icon", "测试图标    "}},
-    {"mnuToolsOpts5", "mnuTools", IconItem, {"QuilletShot", "截图工具    "}, "", 28, Hidden},
-    {"mnuToolsOpts6", "mnuTools", IconItem, {"Varnel", "图像浏览    "}, "", 27},
-    {"mnuToolsOpts7", "mnuTools", IconItem, {"Ormsby Extender", "查看剪切板     "}, "", 33},
-    {"mnuImage", "", Item, {"&Image ", "(I) 图像  "}},
-    {"mnuImageOpts0", "mnuImage", IconItem, {"Color &Adjustment", "颜色调整    "}, "", 29},
-    {"mnuImageOpts1", "mnuImage", IconItem, {"&Buttonize", "按钮效果    "}, "", 31},
-    {"mnuImageOpts2", "mnuImage", Item, {"&Grayscale", "黑白效果    "}},
-    {"mnuImageOpts3", "mnuImage", IconItem, {"&Invert", "胶片效果    "}, "", 32},
-    {"mnuImageOpts4", "mnuImage", Item, {"&Mirror", "镜像效果    "}},
-    {"mnuMirrorOpts0", "mnuImageOpts4", Item, {"R&eflect Left Half In Right Half", "反射左半部分      "}},
-    {"mnuMirrorOpts1", "mnuImageOpts4", Item, {"Re&flect Right Half In Left Half", "反射右半部分      "}},
-    {"mnuMirrorOpts2", "mnuImageOpts4", Item, {"Reflect &Top Half In Bottom Half", "反射上半部分      "}},
-    {"mnuMirrorOpts3", "mnuImageOpts4", Item, {"Reflect Botto&m Half In Top Half", "反射下半部分      "}},
-    {"mnuImageOpts6", "mnuImage", IconItem, {"&Rotate", "旋转  "}, "", 30},
-    {"mnuRotateOpts0", "mnuImageOpts6", IconItem, {"Rotate 90゜ &Left ", "90度(逆时针)    "}, "", 15},
-    {"mnuRotateOpts1", "mnuImageOpts6", IconItem, {"Rotate 90゜ &Right ", "90度(顺时针)    "}, "", 16},
-    {"mnuImageOpts7", "mnuImage", IconItem, {"&Flip", "翻转  "}, "", 40},
-    {"mnuRotateOpts3", "mnuImageOpts7", IconItem, {"Flip &Horizontal", "水平翻转    "}, "", 17},
-    {"mnuRotateOpts4", "mnuImageOpts7", IconItem, {"Flip &Vertical", "垂直翻转    "}, "", 18},
-    {"mnuImageOpts8", "mnuImage", IconItem, {"Roll", "移动  "}, "", 38, Hidden},
-    {"mnuRollLeft", "mnuImageOpts8", IconItem, {"Left", "左移  "}, "", 36, Hidden},
-    {"mnuRollRight", "mnuImageOpts8", IconItem, {"Right", "右移  "}, "", 37, Hidden},
-    {"mnuRollUp", "mnuImageOpts8", IconItem, {"Up", "上移  "}, "", 34, Hidden},
-    {"mnuRollDown", "mnuImageOpts8", IconItem, {"Down", "下移  "}, "", 35, Hidden},
-    {"Separator40", "mnuImage", Separator, {}, "", 0, Hidden},
-    {"Separator41", "mnuImage", Separator, {}, "", 0, Hidden},
-    {"mnuFilters", "", Item, {"Eff&ect ", "(L) 滤镜  "}},
-    {"mnuIntensity", "mnuFilters", Item, {"Intensity", "色相  "}},
-    {"mnuBrighter", "mnuIntensity", Item, {"Brighter", "变亮  "}},
-    {"mnuDarker", "mnuIntensity", Item, {"Darker", "变暗  "}},
-    {"mnuContrast1", "mnuIntensity", Item, {"Increase Contrast +", "增加对比度 +     "}},
-    {"mnuContrast2", "mnuIntensity", Item, {"Decrease Contrast -", "减小对比度 -     "}},
-    {"mnuSaturationI", "mnuIntensity", Item, {"Increase Saturation +", "增加饱和度 +     "}},
-    {"mnuSaturationD", "mnuIntensity", Item, {"Decrease Saturation -", "减小饱和度 -     "}},
-    {"mnuFilter_Blur", "mnuFilters", Item, {"Blur", "模糊  "}},
-    {"mnuBlur", "mnuFilter_Blur", Item, {"Blur", "模糊  "}},
-    {"mnuBlurMore", "mnuFilter_Blur", Item, {"Gauss Blur", "高斯模糊    "}},
-    {"mnuFilter_Sharpen", "mnuFilters", Item, {"Sharpen", "锐化  "}},
-    {"mnuSharpen", "mnuFilter_Sharpen", Item, {"Sharpen", "锐化  "}},
-    {"mnuSharpenMore", "mnuFilter_Sharpen", Item, {"Sharpen More", "进一步锐化     "}},
-    {"mnuEdge", "mnuFilter_Sharpen", Item, {"Edge Enhance", "锐化边缘    "}},
-    {"mnuFilter_Diffuse", "mnuFilters", Item, {"Diffuse", "扩散  "}},
-    {"mnuDiffuse", "mnuFilter_Diffuse", Item, {"Diffuse", "扩散  "}},
-    {"mnuDiffuseMore", "mnuFilter_Diffuse", Item, {"Diffuse More", "进一步扩散     "}},
-    {"mnuPixelize", "mnuFilters", Item, {"Pixelize", "像素化    "}},
-    {"mnuSwapColors", "mnuFilters", Item, {"Swap Colors", "替换颜色    "}},
-    {"mnuSwapBank1", "mnuSwapColors", Item, {"RGB -> BRG", "RGB -> BRG"}},
-    {"mnuSwapBank2", "mnuSwapColors", Item, {"RGB -> GBR", "RGB -> GBR"}},
-    {"mnuSwapBank3", "mnuSwapColors", Item, {"RGB -> RBG", "RGB -> RBG"}},
-    {"mnuSwapBank4", "mnuSwapColors", Item, {"RGB -> BGR", "RGB -> BGR"}},
-    {"mnuSwapBank5", "mnuSwapColors", Item, {"RGB -> GRB", "RGB -> GRB"}},
-    {"mnuBlackWhite", "mnuFilters", Item, {"Paint", "素描  "}},
-    {"mnuBW1", "mnuBlackWhite", Item, {"Nearest Color", "中间值   "}},
-    {"mnuBW2", "mnuBlackWhite", Item, {"Enhanced Diffusion", "增强扩散    "}},
-    {"mnuBW3", "mnuBlackWhite", Item, {"Ordered Dither", "抖动  "}},
-    {"mnuBW4", "mnuBlackWhite", Item, {"Floyd-Steinberg", "油墨  "}},
-    {"mnuBW5", "mnuBlackWhite", Item, {"Burke", "挤压  "}},
-    {"mnuBW6", "mnuBlackWhite", Item, {"Stucki", "喷溅  "}},
-    {"mnuEdges", "mnuFilters", Item, {"Edges", "风格化   "}},
-    {"mnuEmboss", "mnuEdges", Item, {"Emboss", "浮雕  "}},
-    {"mnuEmbossMore", "mnuEdges", Item, {"Emboss More", "进一步浮雕化      "}},
-    {"mnuEngrave", "mnuEdges", Item, {"Engrave", "雕刻  "}},
-    {"mnuEngraveMore", "mnuEdges", Item, {"Engrave More", "图章  "}},
-    {"mnuRelief", "mnuEdges", Item, {"Relief", "突出  "}},
-    {"mnuContour", "mnuEdges", Item, {"Contour", "等高线   "}},
-    {"mnuConnection", "mnuEdges", Item, {"Connected Contour", "查找边缘    "}},
-    {"mnuColors", "mnuFilters", Item, {"Colors", "色彩  "}},
-    {"mnuGreyScale", "mnuColors", Item, {"GreyScale", "灰度  "}},
-    {"mnuNegative", "mnuColors", Item, {"Negative", "胶片颗粒    "}},
-    {"mnuAddNoise", "mnuColors", Item, {"Add Noise", "添加杂色    "}},
-    {"mnuGamma", "mnuColors", Item, {"Gamma Correction", "伽马校正    "}},
-    {"mnuEffect", "mnuFilters", Item, {"Effect", "艺术效果    "}},
-    {"mnuAqua", "mnuEffect", Item, {"Aqua", "水波  "}},
-    {"mnuOthers", "mnuFilters", Item, {"Others", "其它  "}},
-    {"mnuDilate", "mnuOthers", Item, {"Dilate", "膨胀  "}},
-    {"mnuErode", "mnuOthers", Item, {"Erode", "溶解  "}},
-    {"mnuStretch", "mnuOthers", Item, {"Contrast Stretch", "延伸  "}},
-    {"mnuView", "", Item, {"&View ", "(V) 查看  "}},
-    {"mnuViewOpts0", "mnuView", IconItem, {"Language", "语言  "}, "", 26},
-    {"mnuLanguageOpts0", "mnuViewOpts0", Option, {"Chinese (Simplified)", "简体中文    "}},
-    {"mnuLanguageOpts1", "mnuViewOpts0", Option, {"English", "English 英语  "}},
-    {"mnuHelp", "", Item, {"&Help ", "(H) 帮助  "}},
-    {"mnuHomePage", "mnuHelp", IconItem, {"Home Page", "主页  "}, "", 20},
-    {"mnuHelp2", "mnuHelp", IconItem, {"&Help", "帮助  "}, "", 12},
-    {"Separator60", "mnuHelp", Separator},
-    {"mnuAbout", "mnuHelp", Item, {"&About...", "关于...  "}},
-});
-
-constexpr auto kPopupMenu = std::to_array<MenuRow>({
-    {"mnuEdit", "", Item, {"&Edit ", "(E) 编辑  "}},
-    {"mnuPopup2Opts0", "mnuEdit", IconItem, {"Cu&t", "剪切  "}, "Ctrl+X", 7},
-    {"mnuPopup2Opts1", "mnuEdit", IconItem, {"&Copy", "复制  "}, "Ctrl+C", 8},
-    {"mnuPopup2Opts2", "mnuEdit", IconItem, {"&Paste", "粘贴  "}, "Ctrl+V", 9},
-    {"mnuPopup2Opts3", "mnuEdit", IconItem, {"&Delete Image", "清除图像    "}, "Del", 10},
-    {"mnuPopup2Opts4", "mnuEdit", Item, {"&Select All", "全选  "}, "Ctrl+A"},
+    {"mnuPopup2Opts0", "mnuEdit", IconItem, {"Cu&t", "剪切  "}, "Ctrl+X", 7, kCut, kIsSelected},
+    {"mnuPopup2Opts1", "mnuEdit", IconItem, {"&Copy", "复制  "}, "Ctrl+C", 8, kCopy, kIsSelected},
+    {"mnuPopup2Opts2", "mnuEdit", IconItem, {"&Paste", "粘贴  "}, "Ctrl+V", 9, kPaste, kCanPaste},
+    {"mnuPopup2Opts3", "mnuEdit", IconItem, {"&Delete Image", "清除图像    "}, "Del", 10, kDelete, kIsSelected},
+    {"mnuPopup2Opts4", "mnuEdit", Item, {"&Select All", "全选  "}, "Ctrl+A", 0, kSelectAll},
     {"Separator10", "mnuEdit", Separator},
     {"mnuPopup2Opts6", "mnuEdit", IconItem, {"&Rotate", "旋转  "}, "", 30},
-    {"mnuRotate2Opts0", "mnuPopup2Opts6", IconItem, {"Rotate 90゜ &Left ", "90度(逆时针)    "}, "", 15},
-    {"mnuRotate2Opts1", "mnuPopup2Opts6", IconItem, {"Rotate 90゜ &Right ", "90度(顺时针)    "}, "", 16},
+    {"mnuRotate2Opts0", "mnuPopup2Opts6", IconItem, {"Rotate 90゜ &Left ", "90度(逆时针)    "}, "", 15, kRotateLeft},
+    {"mnuRotate2Opts1", "mnuPopup2Opts6", IconItem, {"Rotate 90゜ &Right ", "90度(顺时针)    "}, "", 16, kRotateRight},
     {"mnuPopup2Opts7", "mnuEdit", IconItem, {"&Flip  ", "翻转  "}, "", 40},
-    {"mnuFlip2Opts0", "mnuPopup2Opts7", IconItem, {"Flip &Horizontal", "水平翻转    "}, "", 17},
-    {"mnuFlip2Opts1", "mnuPopup2Opts7", IconItem, {"Flip &Vertical", "垂直翻转    "}, "", 18},
+    {"mnuFlip2Opts0", "mnuPopup2Opts7", IconItem, {"Flip &Horizontal", "水平翻转    "}, "", 17, kFlipHorizontal},
+    {"mnuFlip2Opts1", "mnuPopup2Opts7", IconItem, {"Flip &Vertical", "垂直翻转    "}, "", 18, kFlipVertical},
+});
+
+constexpr auto kToolbar = std::to_array<CommandRow>({
+    Button("New", {"New Icon (Ctrl+N)", "新图标(Ctrl+N)"}, {"Create a new Icon (*.ico)", "创建新图标(*.ico) "}, 1, kNew),
+    Button("Open", {"Open (Ctrl+O)", "打开(Ctrl+O)"}, {"Open a file", "打开文件"}, 2, kOpen),
+    Button("Extract", {"New icon library", "图标库(Ctrl+L)"}, {"System icon library and Extract library", "系统图标库 提取图标"}, 3, kExtract),
+    Button("Save", {"Save (Ctrl+s)", "保存(Ctrl+S)"}, {"Save  current file", "保存当前文件"}, 4, kSave),
+    Button("Undo", {"Undo (Ctrl+Z)", "撤消(Ctrl+Z)"}, {"Reverses the last command", "取消最后的命令"}, 5, kUndo, kCanUndo),
+    Button("Redo", {"Redo (Ctrl+Y)", "恢复(Ctrl+Y)"}, {"Reapplies the last undo action", "恢复最后的撤消命令"}, 6, kRedo, kCanRedo),
+    Button("Cut", {"Cut (Ctrl+X)", "剪切(Ctrl+X)"}, {"Cuts the selection and puts it on the Clipboard ", "删除选择内容并放置到剪切板"}, 7, kCut, kIsSelected),
+    Button("Copy", {"Copy (Ctrl+C)", "复制(Ctrl+C)"}, {"Copies the selection and puts it on the Clipboard ", "复制选择内容到剪切板"}, 8, kCopy, kIsSelected),
+    Button("Paste", {"Paste (Ctrl+V)", "粘贴(Ctrl+V)"}, {"Inserts Clipboard contents", "插入剪切板内容"}, 9, kPaste, kCanPaste),
+    Button("Delete", {"Delete Image (Del)", "清除图像(Del)"}, {"Clears the image", "删除所选择的内容"}, 10, kDelete, kIsSelected),
+    Button("Capture", {"Capture Image(Ctrl+Q)", "捕捉图像(Ctrl+Q)"}, {"Dynamic Capture Image", "动态捕获图标"}, 11, kCapture),
+    Button("ScreenZoom", {"Screen Zoom", "屏幕放大工具"}, {"ZoomIn or zoomout Screen Zoom", "缩放显示屏幕"}, 13, kScreenZoom),
+    Button("Help", {"Help ", "帮助"}, {"Display the help  contents", "显示帮助主题"}, 12, kHelp),
 });
 // clang-format on
 
 }  // namespace
 
-std::span<const MenuRow> MenuBarRows() {
-    return kMenuBar;
+void Nothing(Commands& /*commands*/, std::string_view /*key*/) {}
+
+bool Always(Commands& /*commands*/) {
+    return true;
 }
 
-std::span<const MenuRow> PopupMenuRows() {
-    return kPopupMenu;
+bool Never(Commands& /*commands*/) {
+    return false;
+}
+
+std::span<const CommandRow> PopupRows() {
+    return kPopup;
+}
+
+std::span<const CommandRow> ToolbarRows() {
+    return kToolbar;
 }
 
 }  // namespace kestrel::commands

@@ -1,122 +1,54 @@
 #include "commands/Commands.h"
 
-#include <array>
-#include <string>
-
-#include "commands/ErrorBox.h"
-#include "i18n/Language.h"
+#include <algorithm>
 
 namespace kestrel::commands {
 
-Commands::Commands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
+namespace {
+
+bool IsEnabled(const CommandRow& row, Commands& commands) {
+    return row.run != kNotBuilt && row.enabled(commands);
+}
+
+// Most rows have the state they began with for ever.
+void Refresh(controls::SmartMenuXP& menu, std::span<const CommandRow> rows, Commands& commands) {
+    for (const CommandRow& row : rows) {
+        if (row.enabled != Always) menu.SetEnabled(row.key, IsEnabled(row, commands));
+        if (row.checked != Never) menu.SetChecked(row.key, row.checked(commands));
+    }
+}
+
+}  // namespace
+
+Commands::Commands(editing::Editor& openEditor, MainWindow& mainWindow, MainMenus& mainMenus,
                    services::Cdb& cdb, ImagingDialogs& imagingDialogs, const MainServices& services)
-    : editor_(editor),
-      window_(window),
-      menus_(menus),
-      settings_(services.settings),
-      boxes_(services.boxes),
-      palette_(editor.ColorPalette(),
-               {editor.Wells(), cdb, services.dialogs, window, services.files, services.random}),
-      clipboard_(editor, services.clipboard, window),
-      transforms_(editor),
-      images_(editor, imagingDialogs, window),
-      filters_(editor, imagingDialogs, window, services.random),
-      recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
-              services.systemLcid),
-      documents_(editor, window, recent_, cdb, services.boxes, services.files),
-      shell_(window, {services.boxes, services.help, services.files, services.shell},
-             services.folders) {}
+    : editor(openEditor),
+      window(mainWindow),
+      menus(mainMenus),
+      boxes(services.boxes),
+      palette(editor.ColorPalette(), {editor.Wells(), cdb, services.dialogs, window, boxes,
+                                      services.files, services.random}),
+      clipboard(editor, services.clipboard, window),
+      transforms(editor),
+      images(editor, imagingDialogs, window),
+      filters(editor, imagingDialogs, window, services.random),
+      recent(menus.SmartMenuXP1, services.registry, services.files, boxes, services.systemLcid),
+      documents(editor, window, recent, cdb, boxes, services.files),
+      shell(window, {boxes, services.help, services.files, services.shell}, services.folders),
+      language(window, menus, services.settings, shell) {}
 
-void Commands::mnuRecent_Click(int slot) {
-    const std::string pathToOpen = recent_.GetRecentFile(slot);
-    if (!pathToOpen.empty()) documents_.OpenNamed(pathToOpen);
+void Commands::Click(std::span<const CommandRow> rows, std::string_view key) {
+    const auto row = std::ranges::find(rows, key, &CommandRow::key);
+    if (row != rows.end() && row->run != kNotBuilt) row->run(*this, key);
+    RefreshStates();
 }
 
-void Commands::mnuEdit_Click() {
-    const bool canPaste = clipboard_.CanPaste();
-    const bool isSelected = editor_.Selected().Exists();
-    // Keys of the menu bar, the pop-up and the toolbar; not all have all three.
-    const struct {
-        std::string_view item;
-        std::string_view popupItem;
-        std::string_view button;
-        bool enabled;
-    } commands[] = {{"mnuEditOpts0", {}, "Undo", editor_.CanUndo()},
-                    {"mnuEditOpts1", {}, "Redo", editor_.CanRedo()},
-                    {"mnuEditOpts3", "mnuPopup2Opts0", "Cut", isSelected},
-                    {"mnuEditOpts4", "mnuPopup2Opts1", "Copy", isSelected},
-                    {"mnuEditOpts5", "mnuPopup2Opts2", "Paste", canPaste},
-                    {"mnuEditOpts6", {}, {}, canPaste},
-                    {"mnuEditOpts7", "mnuPopup2Opts3", "Delete", isSelected}};
-    for (const auto& [item, popupItem, button, enabled] : commands) {
-        menus_.SmartMenuXP1.SetEnabled(item, enabled);
-        if (!popupItem.empty()) menus_.SmartMenuXP2.SetEnabled(popupItem, enabled);
-        if (!button.empty()) window_.EnableButton(button, enabled);
+void Commands::RefreshStates() {
+    Refresh(menus.SmartMenuXP1, MenuBarRows(), *this);
+    Refresh(menus.SmartMenuXP2, PopupRows(), *this);
+    for (const CommandRow& row : ToolbarRows()) {
+        if (row.enabled != Always) window.EnableButton(row.key, IsEnabled(row, *this));
     }
-}
-
-void Commands::mnuEditOpts_Click(int index) {
-    switch (index) {
-        case 0:
-            return editor_.PopUndoSnapshot();
-        case 1:
-            return editor_.PopRedoSnapshot();
-        case 3:
-            return clipboard_.Cut();
-        case 4:
-            return clipboard_.Copy();
-        case 5:
-            return Paste(imaging::PasteMode::Transparent);
-        case 6:
-            return Paste(imaging::PasteMode::Opaque);
-        case 7:
-            return editor_.Selected().Delete();
-        case 9:
-            return editor_.SelectAll();
-        default:
-            return;
-    }
-}
-
-void Commands::Paste(imaging::PasteMode mode) {
-    const Result<void> pasted = clipboard_.Paste(mode);
-    if (!pasted && pasted.error().number != kDialogCancelled) {
-        ShowError(boxes_, std::string(i18n::kCannotPaste.Now()));
-    }
-}
-
-void Commands::mnuToolsOpts_Click(int index) {
-    if (index == 1) images_.GradientBackground();
-}
-
-void Commands::mnuImage_Click() {
-    controls::SmartMenuXP& menu = menus_.SmartMenuXP1;
-    for (const auto* item : {"mnuMirrorOpts0", "mnuMirrorOpts1"})
-        menu.SetEnabled(item, transforms_.CanMirrorColumns());
-    for (const auto* item : {"mnuMirrorOpts2", "mnuMirrorOpts3"})
-        menu.SetEnabled(item, transforms_.CanMirrorRows());
-}
-
-void Commands::ImgLoadPalette_Click() {
-    const Result<void> loaded = palette_.ImgLoadPalette_Click();
-    if (!loaded) ShowError(boxes_, i18n::CannotLoadPalette(loaded.error().description));
-}
-
-void Commands::ImgSavePalette_Click() {
-    const Result<void> saved = palette_.ImgSavePalette_Click();
-    if (!saved) ShowError(boxes_, i18n::CannotSavePalette(saved.error().description));
-}
-
-void Commands::mnuLanguageOpts_Click(int index) {
-    constexpr std::array kCodes{i18n::kChinese, i18n::kEnglish};
-    if (index < 0 || index >= static_cast<int>(kCodes.size())) return;
-    const std::string_view code = kCodes[static_cast<std::size_t>(index)];
-    ApplyMainCaptions(code, window_);
-    ApplyMenuCaptions(code, menus_.SmartMenuXP1, menus_.SmartMenuXP2);
-    i18n::SetUiLanguage(code);
-    settings::SaveLanguage(settings_, code);
-    shell_.FollowLanguage();
-    window_.LanguageChanged();
 }
 
 }  // namespace kestrel::commands

@@ -1,37 +1,25 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 #include "commands/ClipboardCommands.h"
-#include "commands/CommandHandlers.h"
+#include "commands/CommandTable.h"
 #include "commands/DocumentCommands.h"
 #include "commands/FilterCommands.h"
 #include "commands/ImageCommands.h"
-#include "commands/ModLanguage.h"
+#include "commands/LanguageCommands.h"
+#include "commands/MainWindow.h"
 #include "commands/ModRecent.h"
 #include "commands/PaletteCommands.h"
 #include "commands/ShellCommands.h"
 #include "commands/TransformCommands.h"
 #include "editing/Editor.h"
-#include "platform/controls/SmartMenuXP.h"
 #include "services/Cdb.h"
 #include "settings/Settings.h"
 
 namespace kestrel::commands {
-
-// What the commands need of the main window.
-class MainWindow : public DocumentWindow,
-                   public CaptionedWindow,
-                   public services::OwnerWindow,
-                   public PasteDialog {
-  public:
-    // A button of the toolbar, by its key.
-    virtual void EnableButton(std::string_view key, bool enabled) = 0;
-    virtual void ShowAbout() = 0;
-    // Whatever else the window shows as text is in another language from now on.
-    virtual void LanguageChanged() = 0;
-};
 
 // What the main window is given; all of it outlives the window.
 struct MainServices {
@@ -48,64 +36,30 @@ struct MainServices {
     std::uint32_t systemLcid = 0;
 };
 
-// The main window's menus: the bar and the editing pop-up.
-struct MainMenus {
-    controls::SmartMenuXP SmartMenuXP1;
-    controls::SmartMenuXP SmartMenuXP2;
-};
+// The objects behind the rows of the command table, and what all rows have in common.
+struct Commands {
+    Commands(editing::Editor& openEditor, MainWindow& mainWindow, MainMenus& mainMenus,
+             services::Cdb& cdb, ImagingDialogs& imagingDialogs, const MainServices& services);
 
-// The handlers of all commands, each handed to the object whose business it is.
-class Commands : public CommandHandlers {
-  public:
-    Commands(editing::Editor& editor, MainWindow& window, MainMenus& menus, services::Cdb& cdb,
-             ImagingDialogs& imagingDialogs, const MainServices& services);
+    // What a click on an item or a button does: runs the row with this key among `rows`, if there
+    // is one, and refreshes the states.
+    void Click(std::span<const CommandRow> rows, std::string_view key);
+    // Enables and marks items and buttons as they are now.
+    void RefreshStates();
 
-    DocumentCommands& Documents() { return documents_; }
-    ModRecent& Recent() { return recent_; }
-    PaletteCommands& PaletteHandlers() { return palette_; }
-    // Enables the Edit commands that can do something now.
-    void mnuEdit_Click();
-
-    void mnuNew_Click() override { documents_.mnuNew_Click(); }
-    void mnuOpen_Click() override { documents_.mnuOpen_Click(); }
-    void mnuSave_Click() override { documents_.mnuSave_Click(); }
-    void mnuSaveAs_Click() override { documents_.mnuSaveAs_Click(); }
-    void mnuRecent_Click(int slot) override;
-    void mnuExit_Click() override { documents_.mnuExit_Click(); }
-    void mnuEditOpts_Click(int index) override;
-    void mnuToolsOpts_Click(int index) override;
-    // Enables the mirror commands that suit the size of the selection.
-    void mnuImage_Click() override;
-    void mnuImageOpts_Click(int index) override { images_.mnuImageOpts_Click(index); }
-    void mnuMirrorOpts_Click(int index) override { transforms_.mnuMirrorOpts_Click(index); }
-    void mnuRotateOpts_Click(int index) override { transforms_.mnuRotateOpts_Click(index); }
-    void RunFilterCommand(std::string_view key) override { filters_.Run(key); }
-    void mnuPaletteOpts_Click(int index) override { palette_.mnuPaletteOpts_Click(index); }
-    void ImgLoadPalette_Click() override;
-    void ImgSavePalette_Click() override;
-    void StartSibling(Sibling program) override { shell_.StartSibling(program); }
-    // Changes the language of everything and keeps it for the next start.
-    void mnuLanguageOpts_Click(int index) override;
-    void mnuHomePage_Click() override { shell_.mnuHomePage_Click(); }
-    void mnuHelp_Click() override { shell_.mnuHelp_Click(); }
-    void mnuAbout_Click() override { window_.ShowAbout(); }
-
-  private:
-    void Paste(imaging::PasteMode mode);
-
-    editing::Editor& editor_;
-    MainWindow& window_;
-    MainMenus& menus_;
-    settings::Settings& settings_;
-    services::MessageBoxes& boxes_;
-    PaletteCommands palette_;
-    ClipboardCommands clipboard_;
-    TransformCommands transforms_;
-    ImageCommands images_;
-    FilterCommands filters_;
-    ModRecent recent_;
-    DocumentCommands documents_;
-    ShellCommands shell_;
+    editing::Editor& editor;
+    MainWindow& window;
+    MainMenus& menus;
+    services::MessageBoxes& boxes;
+    PaletteCommands palette;
+    ClipboardCommands clipboard;
+    TransformCommands transforms;
+    ImageCommands images;
+    FilterCommands filters;
+    ModRecent recent;
+    DocumentCommands documents;
+    ShellCommands shell;
+    LanguageCommands language;
 };
 
 }  // namespace kestrel::commands

@@ -5,21 +5,6 @@
 
 namespace kestrel::commands {
 
-void ImageCommands::mnuImageOpts_Click(int index) {
-    switch (index) {
-        case 0:
-            return AdjustColors();
-        case 1:
-            return MakeButton();
-        case 2:
-            return Change(imaging::Grayscale);
-        case 3:
-            return Change(imaging::Invert);
-        default:
-            return;
-    }
-}
-
 void ImageCommands::AdjustColors() {
     editor_.Selected().DropSelection();
     imaging::ColorAdjustment colors(editor_.Document());
@@ -29,7 +14,7 @@ void ImageCommands::AdjustColors() {
     target_.Record();
 }
 
-void ImageCommands::MakeButton() {
+void ImageCommands::Buttonize() {
     editor_.Selected().DropSelection();
     imaging::Buttonize(editor_.Document(), loop_);
     target_.Show();
@@ -41,6 +26,14 @@ void ImageCommands::Change(const Recolor& recolor) {
     recolor(target_.Image(), target_.Mask());
     target_.Show();
     target_.RecordUnlessSelection();
+}
+
+void ImageCommands::Grayscale() {
+    Change(imaging::Grayscale);
+}
+
+void ImageCommands::Invert() {
+    Change(imaging::Invert);
 }
 
 void ImageCommands::GradientBackground() {

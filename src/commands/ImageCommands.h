@@ -12,14 +12,14 @@ class ImageCommands {
     ImageCommands(editing::Editor& editor, ImagingDialogs& dialogs, services::MessageLoop& loop)
         : editor_(editor), target_(editor), dialogs_(dialogs), loop_(loop) {}
 
-    // 0 to 3: colour adjustment, Buttonize, Grayscale, Invert; others are none.
-    void mnuImageOpts_Click(int index);
+    void AdjustColors();
+    void Buttonize();
+    void Grayscale();
+    void Invert();
     // Lets the user choose a gradient in place of the icon.
     void GradientBackground();
 
   private:
-    void AdjustColors();
-    void MakeButton();
     // Recolours the selection, or the icon with an entry of the history.
     template <typename Recolor>
     void Change(const Recolor& recolor);

@@ -2,28 +2,11 @@
 
 namespace kestrel::commands {
 
-void TransformCommands::mnuMirrorOpts_Click(int index) {
-    if (index < 0 || index > static_cast<int>(imaging::Reflection::BottomIntoTop)) return;
-    const auto reflection = static_cast<imaging::Reflection>(index);
+void TransformCommands::Mirror(imaging::Reflection reflection) {
     imaging::Mirror(target_.Image(), reflection);
     imaging::Mirror(target_.Mask(), reflection);
     target_.Show();
     target_.Record();
-}
-
-void TransformCommands::mnuRotateOpts_Click(int index) {
-    switch (index) {
-        case 0:
-            return Rotate(imaging::Turn::Left);
-        case 1:
-            return Rotate(imaging::Turn::Right);
-        case 3:
-            return FlipPlanes(imaging::FlipAxis::Horizontal);
-        case 4:
-            return FlipPlanes(imaging::FlipAxis::Vertical);
-        default:
-            return;
-    }
 }
 
 void TransformCommands::Rotate(imaging::Turn turn) {
@@ -41,7 +24,7 @@ void TransformCommands::Rotate(imaging::Turn turn) {
                             imaging::Rotated(selection.PicSelImage, turn));
 }
 
-void TransformCommands::FlipPlanes(imaging::FlipAxis axis) {
+void TransformCommands::Flip(imaging::FlipAxis axis) {
     imaging::Flip(target_.Image(), axis);
     imaging::Flip(target_.Mask(), axis);
     target_.Show();

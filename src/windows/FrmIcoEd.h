@@ -8,7 +8,6 @@
 #include <functional>
 #include <map>
 
-#include "commands/CommandDispatch.h"
 #include "commands/Commands.h"
 #include "commands/WellCommands.h"
 #include "editing/Editor.h"
@@ -84,7 +83,8 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     // FrmIcoEd_Menu.cpp
     void BuildMenus();
     void BuildToolbar();
-    void DisableMissingCommands();
+    // A click on an item or a button.
+    void RunRow(std::span<const commands::CommandRow> rows, std::string_view key);
     void ShowEditingPopupByKey();
     void Toolbar1_MouseMove(int x);
     // FrmIcoEd_Grid.cpp
@@ -145,7 +145,6 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     commands::WellCommands wellCommands_;
     FrmImagingDialogs imagingDialogs_;
     commands::Commands commands_;
-    commands::CommandDispatch dispatch_;
 };
 
 }  // namespace kestrel::windows

