@@ -90,6 +90,11 @@ void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
     ShowError(boxes_, i18n::CannotOpenNamed(titleToOpen));
 }
 
+void DocumentCommands::mnuRecent_Click(int slot) {
+    const std::string pathToOpen = recent_.GetRecentFile(slot);
+    if (!pathToOpen.empty()) OpenNamed(pathToOpen);
+}
+
 // False, with nothing changed, when the file is no icon.
 bool DocumentCommands::OpenFile(const services::ChosenFile& file) {
     const auto bytes = files_.ReadFile(file.path, formats::kMaxIconFileBytes);

@@ -36,6 +36,8 @@ class DocumentCommands {
     void mnuOpen_Click();
     // Opens a file named by the command line, a drop or the recent list.
     void OpenNamed(const std::string& pathToOpen);
+    // Opens the recent file of this slot, 1 to 4.
+    void mnuRecent_Click(int slot);
     void mnuSave_Click();
     void mnuSaveAs_Click();
     void mnuExit_Click();

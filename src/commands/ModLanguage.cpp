@@ -4,8 +4,7 @@
 #include <span>
 #include <string>
 
-#include "commands/MenuTable.h"
-#include "commands/ToolbarTable.h"
+#include "commands/CommandTable.h"
 #include "i18n/Language.h"
 
 namespace kestrel::commands {
@@ -41,9 +40,9 @@ bool IsLanguage(std::string_view code) {
     return code == i18n::kChinese || code == i18n::kEnglish;
 }
 
-void Build(controls::SmartMenuXP& menu, std::span<const MenuRow> rows) {
+void Build(controls::SmartMenuXP& menu, std::span<const CommandRow> rows) {
     menu.SetFont("Ms Sans Serif", kMenuFontPoints);
-    for (const MenuRow& row : rows) {
+    for (const CommandRow& row : rows) {
         controls::MenuItem item;
         item.key = row.key;
         item.parent = row.parent;
@@ -51,15 +50,15 @@ void Build(controls::SmartMenuXP& menu, std::span<const MenuRow> rows) {
         item.caption = row.caption.english;
         item.shortcut = row.shortcut;
         item.picture = row.picture;
-        item.checked = row.flag == ItemFlag::Checked;
-        item.visible = row.flag != ItemFlag::Hidden;
+        item.enabled = row.run != kNotBuilt;
+        item.visible = row.visible;
         menu.AddItem(std::move(item));
     }
 }
 
 void ApplyCaptions(std::string_view code, controls::SmartMenuXP& menu,
-                   std::span<const MenuRow> rows) {
-    for (const MenuRow& row : rows) {
+                   std::span<const CommandRow> rows) {
+    for (const CommandRow& row : rows) {
         const std::string_view caption = row.caption.In(code);
         if (!caption.empty()) menu.SetCaption(row.key, caption);
     }
@@ -76,22 +75,19 @@ void ApplyMainCaptions(std::string_view code, CaptionedWindow& window) {
             window.SetControlToolTip(row.control, row.text.In(code));
         }
     }
-    for (const ToolbarButton& button : ToolbarButtons())
-        window.SetButtonToolTip(button.key, button.toolTip.In(code));
+    for (const CommandRow& button : ToolbarRows())
+        window.SetButtonToolTip(button.key, button.caption.In(code));
 }
 
-void BuildMenuBar(controls::SmartMenuXP& bar, controls::SmartMenuXP& popup) {
-    Build(bar, MenuBarRows());
-    Build(popup, PopupMenuRows());
+void BuildMenuBar(MainMenus& menus) {
+    Build(menus.SmartMenuXP1, MenuBarRows());
+    Build(menus.SmartMenuXP2, PopupRows());
 }
 
-void ApplyMenuCaptions(std::string_view code, controls::SmartMenuXP& bar,
-                       controls::SmartMenuXP& popup) {
+void ApplyMenuCaptions(std::string_view code, MainMenus& menus) {
     if (!IsLanguage(code)) return;
-    ApplyCaptions(code, bar, MenuBarRows());
-    ApplyCaptions(code, popup, PopupMenuRows());
-    bar.SetChecked("mnuLanguageOpts0", code == i18n::kChinese);
-    bar.SetChecked("mnuLanguageOpts1", code == i18n::kEnglish);
+    ApplyCaptions(code, menus.SmartMenuXP1, MenuBarRows());
+    ApplyCaptions(code, menus.SmartMenuXP2, PopupRows());
 }
 
 }  // namespace kestrel::commands

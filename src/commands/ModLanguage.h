@@ -6,6 +6,12 @@
 
 namespace kestrel::commands {
 
+// The main window's menus: the bar and the editing pop-up.
+struct MainMenus {
+    controls::SmartMenuXP SmartMenuXP1;
+    controls::SmartMenuXP SmartMenuXP2;
+};
+
 // A window whose controls get their texts by name. A name it does not have changes nothing.
 class CaptionedWindow {
   public:
@@ -21,13 +27,11 @@ class CaptionedWindow {
 // The texts of the main window's controls and of its toolbar.
 void ApplyMainCaptions(std::string_view code, CaptionedWindow& window);
 
-// Fills the menu bar and the editing pop-up, once: structure, pictures, shortcuts, states, English
+// Fills the menu bar and the editing pop-up, once: structure, pictures, shortcuts, English
 // captions.
-void BuildMenuBar(controls::SmartMenuXP& bar, controls::SmartMenuXP& popup);
+void BuildMenuBar(MainMenus& menus);
 
-// The captions of both menus, and the mark of the language in the View menu. Separators have no
-// caption; recent files keep theirs.
-void ApplyMenuCaptions(std::string_view code, controls::SmartMenuXP& bar,
-                       controls::SmartMenuXP& popup);
+// The captions of both menus. Separators have none; recent files keep theirs.
+void ApplyMenuCaptions(std::string_view code, MainMenus& menus);
 
 }  // namespace kestrel::commands

@@ -1,5 +1,6 @@
 #include "commands/PaletteCommands.h"
 
+#include "commands/ErrorBox.h"
 #include "formats/PaletteFile.h"
 #include "i18n/Messages.h"
 #include "services/GCommonDialog.h"
@@ -39,18 +40,27 @@ void PaletteCommands::PicPal_DblClick() {
     parts_.wells.SetPenColor(button_, *chosen);
 }
 
-void PaletteCommands::mnuPaletteOpts_Click(int index) {
-    if (index == 0) {
-        palette_.DrawPalette(editing::PaletteReload::Yes);
-    } else if (index == 1) {
-        palette_.Randomize(parts_.random);
-    } else {
-        return;
-    }
+void PaletteCommands::UseDefaultPalette() {
+    palette_.DrawPalette(editing::PaletteReload::Yes);
     parts_.wells.ResetDefaultColors();
 }
 
-Result<void> PaletteCommands::ImgLoadPalette_Click() {
+void PaletteCommands::UseRandomPalette() {
+    palette_.Randomize(parts_.random);
+    parts_.wells.ResetDefaultColors();
+}
+
+void PaletteCommands::ImgLoadPalette_Click() {
+    const Result<void> loaded = LoadChosenFile();
+    if (!loaded) ShowError(parts_.boxes, i18n::CannotLoadPalette(loaded.error().description));
+}
+
+void PaletteCommands::ImgSavePalette_Click() {
+    const Result<void> saved = SaveChosenFile();
+    if (!saved) ShowError(parts_.boxes, i18n::CannotSavePalette(saved.error().description));
+}
+
+Result<void> PaletteCommands::LoadChosenFile() {
     services::GCommonDialog dialog(parts_.desktop);
     FileChoice file{.filter = std::string(i18n::kLoadPaletteFilter)};
     constexpr bool kMustExist = true;
@@ -69,7 +79,7 @@ Result<void> PaletteCommands::ImgLoadPalette_Click() {
     return read;
 }
 
-Result<void> PaletteCommands::ImgSavePalette_Click() {
+Result<void> PaletteCommands::SaveChosenFile() {
     services::GCommonDialog dialog(parts_.desktop);
     FileChoice file{.filter = std::string(i18n::kSavePaletteFilter),
                     .flags = services::kPathMustExist};

@@ -4,6 +4,7 @@
 #include "editing/Palette.h"
 #include "platform/system/FileSystem.h"
 #include "services/Cdb.h"
+#include "services/MessageBoxes.h"
 
 namespace kestrel::commands {
 
@@ -13,6 +14,7 @@ struct PaletteParts {
     services::Cdb& cdb;
     services::DesktopDialogs& desktop;
     const services::OwnerWindow& owner;
+    services::MessageBoxes& boxes;
     system::FileSystem& files;
     system::RandomNumbers& random;
 };
@@ -28,13 +30,17 @@ class PaletteCommands {
     void PicPal_MouseUp(editing::Button button, int x, int y);
     // The user chooses the colour of the cell where the button came up last.
     void PicPal_DblClick();
-    // 0 is the default palette, 1 a random one; others are none.
-    void mnuPaletteOpts_Click(int index);
-    // Ask for a palette file and load or save it. Cancel is no failure.
-    Result<void> ImgLoadPalette_Click();
-    Result<void> ImgSavePalette_Click();
+    void UseDefaultPalette();
+    void UseRandomPalette();
+    // Ask for a palette file and load or save it. What fails is said in a message.
+    void ImgLoadPalette_Click();
+    void ImgSavePalette_Click();
 
   private:
+    // Cancel is no failure.
+    Result<void> LoadChosenFile();
+    Result<void> SaveChosenFile();
+
     editing::Palette& palette_;
     PaletteParts parts_;
     // The cell and the button of the last click; none outside the cells.

@@ -3,13 +3,15 @@
 #include <string>
 
 #include "commands/BusyWindow.h"
-#include "commands/CommandHandlers.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Shell.h"
 #include "services/HelpViewer.h"
 #include "services/MessageBoxes.h"
 
 namespace kestrel::commands {
+
+// Programs of the same maker that the Tools menu starts.
+enum class Sibling { ScreenCapture, IconBrowser, ClipboardViewer };
 
 // Where the files beside the program lie.
 struct ProgramFolders {

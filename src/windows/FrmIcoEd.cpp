@@ -72,8 +72,7 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       cdb_(services.dialogs, *this),
       wellCommands_(editor_.Wells(), *this, cdb_),
       imagingDialogs_(*this),
-      commands_(editor_, *this, menus_, cdb_, imagingDialogs_, services),
-      dispatch_(commands_, *this) {}
+      commands_(editor_, *this, menus_, cdb_, imagingDialogs_, services) {}
 
 // The controls show what the members hold: they go first.
 FrmIcoEd::~FrmIcoEd() {
@@ -98,7 +97,6 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     ShowTextControls(false);
     commands::ApplyMainCaptions(i18n::UiLanguage(), *this);
     BuildMenus();
-    DisableMissingCommands();
     ConnectGrid();
     ConnectTools();
     ConnectPalette();
@@ -108,18 +106,18 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     connect(tmr_, &QTimer::timeout, this, [this] { EnableGrid(true); });
 
     clipboard_.onChanged = [this] { RefreshEditCommands(); };
-    commands_.Recent().LoadRecentFiles();
+    commands_.recent.LoadRecentFiles();
     editor_.ResetDocument();
     PlaceOnScreen();
-    if (!pathToOpen.empty()) commands_.Documents().OpenNamed(pathToOpen);
+    if (!pathToOpen.empty()) commands_.documents.OpenNamed(pathToOpen);
     RefreshEditCommands();
     SetStatusPanel(editing::StatusPanel::Zoom, "10:1");
 }
 
 bool FrmIcoEd::Form_Unload() {
-    if (!commands_.Documents().PromptSaveChanges()) return false;
+    if (!commands_.documents.PromptSaveChanges()) return false;
     editor_.History().ClearUndoHistory();
-    commands_.Recent().SaveRecentFiles();
+    commands_.recent.SaveRecentFiles();
     help_.Close();
     return true;
 }
@@ -171,7 +169,7 @@ void FrmIcoEd::dropEvent(QDropEvent* event) {
 }
 
 void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
-    RunCommand([&] { commands_.Documents().OpenNamed(pathToOpen); });
+    RunCommand([&] { commands_.documents.OpenNamed(pathToOpen); });
     RefreshEditCommands();
 }
 

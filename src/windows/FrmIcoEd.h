@@ -8,8 +8,7 @@
 #include <functional>
 #include <map>
 
-#include "commands/CommandDispatch.h"
-#include "commands/MainCommands.h"
+#include "commands/Commands.h"
 #include "commands/WellCommands.h"
 #include "editing/Editor.h"
 #include "platform/controls/ImageList.h"
@@ -84,7 +83,8 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     // FrmIcoEd_Menu.cpp
     void BuildMenus();
     void BuildToolbar();
-    void DisableMissingCommands();
+    // A click on an item or a button.
+    void RunRow(std::span<const commands::CommandRow> rows, std::string_view key);
     void ShowEditingPopupByKey();
     void Toolbar1_MouseMove(int x);
     // FrmIcoEd_Grid.cpp
@@ -144,8 +144,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     services::Cdb cdb_;
     commands::WellCommands wellCommands_;
     FrmImagingDialogs imagingDialogs_;
-    commands::MainCommands commands_;
-    commands::CommandDispatch dispatch_;
+    commands::Commands commands_;
 };
 
 }  // namespace kestrel::windows

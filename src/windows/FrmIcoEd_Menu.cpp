@@ -3,8 +3,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include "commands/CommandTable.h"
 #include "commands/ModLanguage.h"
-#include "commands/ToolbarTable.h"
 #include "desktop/Text.h"
 #include "i18n/Language.h"
 #include "windows/FrmIcoEd.h"
@@ -17,48 +17,38 @@ using desktop::ToText;
 
 constexpr std::string_view kPopupRoot = "mnuEdit";
 
-void DisableMissing(std::span<const commands::CommandRow> commands, controls::SmartMenuXP& menu) {
-    for (const commands::CommandRow& command : commands) {
-        if (command.run == nullptr) menu.SetEnabled(command.key, false);
-    }
-}
-
 }  // namespace
 
 void FrmIcoEd::BuildMenus() {
-    auto& [bar, popup] = menus_;
-    commands::BuildMenuBar(bar, popup);
-    commands::ApplyMenuCaptions(i18n::UiLanguage(), bar, popup);
-    bar.onClick = [this](std::string_view key) {
-        RunCommand([&] { dispatch_.SmartMenuXP1_Click(key); });
+    commands::BuildMenuBar(menus_);
+    commands::ApplyMenuCaptions(i18n::UiLanguage(), menus_);
+    menus_.SmartMenuXP1.onClick = [this](std::string_view key) {
+        RunRow(commands::MenuBarRows(), key);
     };
-    popup.onClick = [this](std::string_view key) {
-        RunCommand([&] { dispatch_.SmartMenuXP2_Click(key); });
+    menus_.SmartMenuXP2.onClick = [this](std::string_view key) {
+        RunRow(commands::PopupRows(), key);
     };
     barView_.FillBar(*menuBar_);
 }
 
 void FrmIcoEd::BuildToolbar() {
-    for (const commands::ToolbarButton& button : commands::ToolbarButtons())
+    for (const commands::CommandRow& button : commands::ToolbarRows()) {
         toolbar1_->AddButton(button.key, button.picture);
-    toolbar1_->onClick = [this](std::string_view key) {
-        RunCommand([&] { dispatch_.Toolbar1_ButtonClick(key); });
-    };
+        toolbar1_->SetEnabled(button.key, button.run != commands::kNotBuilt);
+    }
+    toolbar1_->onClick = [this](std::string_view key) { RunRow(commands::ToolbarRows(), key); };
     toolbar1_->onMouseMove = [this](int x) { Toolbar1_MouseMove(x); };
     toolbar1_->onLeave = [this] { SetStatusPanel(editing::StatusPanel::Hint, {}); };
 }
 
-void FrmIcoEd::DisableMissingCommands() {
-    DisableMissing(commands::MenuBarCommands(), menus_.SmartMenuXP1);
-    DisableMissing(commands::PopupCommands(), menus_.SmartMenuXP2);
-    for (const commands::CommandRow& command : commands::ToolbarCommands())
-        toolbar1_->SetEnabled(command.key, command.run != nullptr);
+void FrmIcoEd::RunRow(std::span<const commands::CommandRow> rows, std::string_view key) {
+    RunCommand([&] { commands_.Click(rows, key); });
 }
 
 void FrmIcoEd::Toolbar1_MouseMove(int x) {
-    const auto buttons = commands::ToolbarButtons();
+    const auto buttons = commands::ToolbarRows();
     const auto index = static_cast<std::size_t>(x / toolbar1_->ButtonWidth()) % buttons.size();
-    SetStatusPanel(editing::StatusPanel::Hint, buttons[index].status.Now());
+    SetStatusPanel(editing::StatusPanel::Hint, buttons[index].hint.Now());
 }
 
 QMenu* FrmIcoEd::EditingPopup() {
@@ -88,7 +78,7 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
         menuBar_->setActiveAction(menuBar_->actions().constFirst());
     } else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) {
-        RunCommand([this] { dispatch_.SmartMenuXP1_Click("mnuHelp2"); });
+        RunRow(commands::MenuBarRows(), "mnuHelp2");
     } else if (event->key() == Qt::Key_Escape) {
         // From the toolbar back to the window, from there out of the selection.
         if (hasFocus()) RunCommand([this] { editor_.Selected().DropSelection(); });
@@ -121,7 +111,7 @@ void FrmIcoEd::EnableButton(std::string_view key, bool enabled) {
 }
 
 void FrmIcoEd::RefreshEditCommands() {
-    commands_.mnuEdit_Click();
+    commands_.RefreshStates();
 }
 
 }  // namespace kestrel::windows

@@ -10,6 +10,8 @@ namespace kestrel::windows {
 
 namespace {
 
+using commands::PaletteCommands;
+
 constexpr QPoint kPicPal(344, 184);
 constexpr QRect kChkPal(344, 393, 208, 14);
 
@@ -20,14 +22,14 @@ struct PaletteButton {
     // In the image list, as in the palette's menu.
     int picture = 0;
     i18n::Text hint;
-    void (commands::MainCommands::*mouseUp)(){};
+    void (PaletteCommands::*mouseUp)(){};
 };
 
 constexpr std::array kButtons{
     PaletteButton{"ImgLoadPalette", QRect(510, 157, 18, 18), 22, i18n::kLoadPalette,
-                  &commands::MainCommands::ImgLoadPalette_Click},
+                  &PaletteCommands::ImgLoadPalette_Click},
     PaletteButton{"ImgSavePalette", QRect(530, 157, 18, 18), 23, i18n::kSavePalette,
-                  &commands::MainCommands::ImgSavePalette_Click},
+                  &PaletteCommands::ImgSavePalette_Click},
 };
 
 }  // namespace
@@ -50,11 +52,10 @@ void FrmIcoEd::LayOutPalette() {
 
 void FrmIcoEd::ConnectPalette() {
     picPal_->onMouseUp = [this](Qt::MouseButton button, QPoint at) {
-        RunCommand(
-            [&] { commands_.PaletteHandlers().PicPal_MouseUp(ToButton(button), at.x(), at.y()); });
+        RunCommand([&] { commands_.palette.PicPal_MouseUp(ToButton(button), at.x(), at.y()); });
     };
     picPal_->onDoubleClick = [this] {
-        RunCommand([this] { commands_.PaletteHandlers().PicPal_DblClick(); });
+        RunCommand([this] { commands_.palette.PicPal_DblClick(); });
     };
     picPal_->onMouseMove = [this](Qt::MouseButtons /*held*/, QPoint /*at*/) {
         SetStatusPanel(editing::StatusPanel::Hint, i18n::kSelfDefineColor.Now());
@@ -64,7 +65,8 @@ void FrmIcoEd::ConnectPalette() {
     for (const PaletteButton& button : kButtons) {
         auto* box = findChild<widgets::PictureBox*>(button.name);
         box->onMouseUp = [this, &button](Qt::MouseButton pressed) {
-            if (pressed == Qt::LeftButton) RunCommand([&] { (commands_.*button.mouseUp)(); });
+            if (pressed == Qt::LeftButton)
+                RunCommand([&] { (commands_.palette.*button.mouseUp)(); });
         };
     }
 }
@@ -73,11 +75,7 @@ void FrmIcoEd::PaletteChanged() {
     // While the editor is being built there is no widget yet.
     if (picPal_ == nullptr) return;
     picPal_->update();
-    const editing::Palette& palette = editor_.ColorPalette();
-    chkPal_->setChecked(palette.ChkPal());
-    using editing::PaletteKind;
-    menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts0", palette.Kind() == PaletteKind::Default);
-    menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts1", palette.Kind() == PaletteKind::Random);
+    chkPal_->setChecked(editor_.ColorPalette().ChkPal());
 }
 
 }  // namespace kestrel::windows

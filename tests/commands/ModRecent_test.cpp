@@ -14,7 +14,7 @@ using Values = test::MemoryRegistry::Values;
 
 class ModRecentTest : public testing::Test {
   protected:
-    ModRecentTest() { BuildMenuBar(menu_, popup_); }
+    ModRecentTest() { BuildMenuBar(menus_); }
     // A list of the next start, with what the one before left in the registry.
     ModRecent NewList(std::uint32_t lcid = 1033) {
         ModRecent list(menu_, given_.registry, given_.files, given_.boxes, lcid);
@@ -33,8 +33,8 @@ class ModRecentTest : public testing::Test {
     }
 
     test::FakeServices given_;
-    controls::SmartMenuXP menu_;
-    controls::SmartMenuXP popup_;
+    MainMenus menus_;
+    controls::SmartMenuXP& menu_ = menus_.SmartMenuXP1;
     Values& stored_ = given_.registry.values["HKCU\\Software\\Brinmoor\\KestrelIconEditor\\Rfl"];
 };
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "commands/MainCommands.h"
+#include "commands/MainWindow.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/LetterCase.h"
 #include "services/MessageBoxes.h"

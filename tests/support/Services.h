@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "commands/Commands.h"
 #include "platform/system/Registry.h"
 #include "platform/system/Shell.h"
 #include "services/HelpViewer.h"

