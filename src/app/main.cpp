@@ -4,13 +4,13 @@
 #include <csignal>
 
 #include "app/Startup.h"
+#include "desktop/DesktopShell.h"
 #include "desktop/QtClipboard.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/QtHelpViewer.h"
 #include "desktop/QtMessageBoxes.h"
 #include "desktop/TableTranslator.h"
 #include "i18n/DesktopTexts.h"
-#include "platform/system/DesktopShell.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
 #include "platform/system/Folders.h"
@@ -73,7 +73,7 @@ int main(int argc, char* argv[]) {
 
     desktop::QtDesktopDialogs dialogs;
     desktop::QtClipboard clipboard;
-    system::DesktopShell shell;
+    desktop::DesktopShell shell;
     desktop::QtHelpViewer help(shell);
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};

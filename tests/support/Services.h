@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "platform/system/Registry.h"
-#include "platform/system/Shell.h"
 #include "services/HelpViewer.h"
+#include "services/Shell.h"
 #include "tests/support/Recorders.h"
 
 namespace kestrel::test {
@@ -55,7 +55,7 @@ class MemoryRegistry : public system::Registry {
 };
 
 // Notes what is started and opened; with `failure` set nothing can be.
-class RecordingShell : public system::Shell {
+class RecordingShell : public services::Shell {
   public:
     Result<void> RunProgram(const std::string& program,
                             const std::vector<std::string>& /*arguments*/) override {

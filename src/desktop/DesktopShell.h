@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/system/Shell.h"
+#include "services/Shell.h"
 
-namespace kestrel::system {
+namespace kestrel::desktop {
 
 // The shell of a freedesktop.org desktop. Programs it starts belong to nobody here: they outlive
 // this process, and none is left behind as a zombie.
-class DesktopShell : public Shell {
+class DesktopShell : public services::Shell {
   public:
     Result<void> RunProgram(const std::string& program,
                             const std::vector<std::string>& arguments) override;
@@ -15,4 +15,4 @@ class DesktopShell : public Shell {
     Result<void> Open(const std::string& target) override;
 };
 
-}  // namespace kestrel::system
+}  // namespace kestrel::desktop

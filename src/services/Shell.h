@@ -5,7 +5,7 @@
 
 #include "platform/Result.h"
 
-namespace kestrel::system {
+namespace kestrel::services {
 
 // Starts other programs, which go on by themselves.
 class Shell {
@@ -21,4 +21,4 @@ class Shell {
     virtual Result<void> Open(const std::string& target) = 0;
 };
 
-}  // namespace kestrel::system
+}  // namespace kestrel::services

@@ -1,4 +1,4 @@
-#include "platform/system/DesktopShell.h"
+#include "desktop/DesktopShell.h"
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -15,7 +15,7 @@
 #include "platform/system/PathText.h"
 #include "platform/system/SystemError.h"
 
-namespace kestrel::system {
+namespace kestrel::desktop {
 namespace {
 
 // How a program is started: in a session of its own, with no input and with the default signal
@@ -75,7 +75,7 @@ bool FailsSoon(pid_t program, Patience patience) {
 Result<void> StartDetached(char* const* words, Patience patience) {
     const SpawnSettings settings;
     const pid_t between = fork();
-    if (between < 0) return SystemFailure(errno);
+    if (between < 0) return system::SystemFailure(errno);
     if (between == 0) {
         pid_t program = 0;
         const int failure = settings.Start(words, program);
@@ -83,10 +83,10 @@ Result<void> StartDetached(char* const* words, Patience patience) {
     }
     int status = 0;
     // Where ended processes are reaped unasked there is no status to learn.
-    if (Retry([&] { return waitpid(between, &status, 0); }) < 0) return {};
-    if (!WIFEXITED(status)) return SystemFailure(ECANCELED);
+    if (system::Retry([&] { return waitpid(between, &status, 0); }) < 0) return {};
+    if (!WIFEXITED(status)) return system::SystemFailure(ECANCELED);
     if (WEXITSTATUS(status) == kFailedSoon) return Fail(ECHILD, "The program gave up");
-    if (WEXITSTATUS(status) != 0) return SystemFailure(WEXITSTATUS(status));
+    if (WEXITSTATUS(status) != 0) return system::SystemFailure(WEXITSTATUS(status));
     return {};
 }
 
@@ -102,7 +102,7 @@ Result<void> Run(std::vector<std::string> texts, Patience patience) {
 
 // A path that can be taken neither for an option nor for a name to be looked up on PATH.
 std::string PlainPath(const std::string& path) {
-    std::string found = ResolvePath(path);
+    std::string found = system::ResolvePath(path);
     return found.find('/') == std::string::npos || found.starts_with('-') ? "./" + found : found;
 }
 
@@ -123,10 +123,10 @@ Result<void> DesktopShell::RunProgram(const std::string& program,
 Result<void> DesktopShell::Open(const std::string& target) {
     const std::string opened = IsUrl(target) ? target : PlainPath(target);
     struct stat status {};
-    if (!IsUrl(target) && stat(opened.c_str(), &status) < 0) return SystemFailure(errno);
+    if (!IsUrl(target) && stat(opened.c_str(), &status) < 0) return system::SystemFailure(errno);
     Result<void> started = Run({"xdg-open", opened}, Patience::Opener);
     if (started || started.error().number != ENOENT) return started;
     return Run({"gio", "open", opened}, Patience::Opener);
 }
 
-}  // namespace kestrel::system
+}  // namespace kestrel::desktop
