@@ -4,11 +4,11 @@
 #include <csignal>
 
 #include "app/Startup.h"
-#include "desktop/DesktopShell.h"
 #include "desktop/QtClipboard.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/QtHelpViewer.h"
 #include "desktop/QtMessageBoxes.h"
+#include "desktop/QtShell.h"
 #include "desktop/TableTranslator.h"
 #include "i18n/DesktopTexts.h"
 #include "platform/system/DiskFiles.h"
@@ -52,8 +52,9 @@ std::uint32_t SeedOfClock() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    // A write beyond the file size limit is a failed save, not the end of the program.
-    std::signal(SIGXFSZ, SIG_IGN);
+    // A write beyond the file size limit is a failed save, not the end of the program. Not ignored:
+    // programs that are started would inherit that.
+    std::signal(SIGXFSZ, [](int /*signal*/) {});
     const QApplication application(argc, argv);
     desktop::TableTranslator translator(i18n::DesktopText);
     QApplication::installTranslator(&translator);
@@ -73,7 +74,7 @@ int main(int argc, char* argv[]) {
 
     desktop::QtDesktopDialogs dialogs;
     desktop::QtClipboard clipboard;
-    desktop::DesktopShell shell;
+    desktop::QtShell shell;
     desktop::QtHelpViewer help(shell);
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};
