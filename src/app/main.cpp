@@ -72,7 +72,7 @@ int main(int argc, char* argv[]) {
     const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
     if (!values) return 0;
 
-    desktop::QtDesktopDialogs dialogs;
+    desktop::QtDesktopDialogs dialogs(boxes);
     desktop::QtClipboard clipboard;
     desktop::QtShell shell;
     desktop::QtHelpViewer help(shell);

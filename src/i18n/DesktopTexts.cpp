@@ -153,7 +153,6 @@ constexpr std::array kDesktopTexts = {
     Text{"None", "无"},
     // File dialogs.
     Text{"Save As", "保存为"},
-    Text{"Open as &read-only", "以只读方式打开(&R)"},
     Text{"Look in:", "查找范围:"},
     Text{"File &name:", "文件名(&N):"},
     Text{"Files of type:", "文件类型:"},
@@ -181,8 +180,6 @@ constexpr std::array kDesktopTexts = {
     Text{"%1 already exists.\nDo you want to replace it?", "%1 已存在.\n是否替换?"},
     Text{"%1\nFile not found.\nPlease verify the correct file name was given.",
          "%1\n找不到文件.\n请检查文件名是否正确."},
-    Text{"%1\nThe file name is not valid.", "%1\n文件名无效."},
-    Text{"%1\nThe file name is too long.", "%1\n文件名太长."},
     Text{"%1\nDirectory not found.\nPlease verify the correct directory name was given.",
          "%1\n找不到文件夹.\n请检查文件夹名是否正确."},
 };

@@ -100,9 +100,8 @@ class RecordingHelp : public services::HelpViewer {
 
 // All that a main window is given.
 struct FakeServices {
-    commands::MainServices Given() { return Given(desktop); }
-    commands::MainServices Given(services::DesktopDialogs& dialogs) {
-        return {dialogs,  clipboard, boxes,  help,     files,
+    commands::MainServices Given() {
+        return {desktop,  clipboard, boxes,  help,     files,
                 registry, shell,     random, settings, {"/program", "/windows"},
                 1033};
     }

@@ -1,17 +1,10 @@
 #include <QCheckBox>
-#include <QColorDialog>
-#include <QFile>
-#include <QTemporaryDir>
 
 #include "desktop/Pictures.h"
-#include "desktop/QtDesktopDialogs.h"
-#include "tests/support/Typist.h"
 #include "tests/windows/WindowTest.h"
 
 namespace kestrel::windows {
 namespace {
-
-using test::Typist;
 
 void DoubleClick(QWidget& widget, Qt::MouseButton button, QPoint at) {
     QTest::mouseClick(&widget, button, {}, at);
@@ -100,58 +93,6 @@ TEST_F(PaletteWindowTest, HintsAndFailuresAreInBothLanguages) {
                   english ? "KestrelIconEditor - Error" : "KestrelIconEditor - 错误");
     }
     EXPECT_EQ(Marks(), "x-");
-}
-
-// The same window with the desktop's own dialogs.
-TEST(PaletteDialogs, AreUsedByKeyboard) {
-    const QTemporaryDir folder;
-    QFile existing(folder.filePath("old.PAL"));
-    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
-    existing.close();
-    test::FakeServices given;
-    desktop::QtDesktopDialogs dialogs;
-    FrmIcoEd window(given.Given(dialogs));
-    window.Form_Load("");
-    window.show();
-    const auto choose = [&](const char* key, const QString& typed,
-                            QMessageBox::StandardButton answer = QMessageBox::No) {
-        Typist typist(typed, answer);
-        window.BarAction(key)->trigger();
-        return typist.boxes.size();
-    };
-    const auto saved = [&](const char* name) {
-        return given.files.contents.contains(folder.filePath(name).toStdString());
-    };
-    const auto cell = [&] { return window.OpenEditor().ColorPalette().Colors()[1]; };
-    window.BarAction("mnuPaletteOpts1")->trigger();
-    EXPECT_EQ(choose("mnuPaletteOpts4", folder.filePath("mine")), 0);
-    EXPECT_TRUE(saved("mine.PAL"));
-    EXPECT_EQ(choose("mnuPaletteOpts4", {}), 0);
-    EXPECT_EQ(given.files.contents.size(), 1U) << "cancelled";
-    EXPECT_EQ(choose("mnuPaletteOpts4", "old"), 1) << "in the folder used last, and not replaced";
-    EXPECT_FALSE(saved("old.PAL"));
-    EXPECT_EQ(choose("mnuPaletteOpts4", "old.pal", QMessageBox::Yes), 1);
-    EXPECT_TRUE(saved("old.PAL"));
-
-    window.BarAction("mnuPaletteOpts0")->trigger();
-    EXPECT_EQ(choose("mnuPaletteOpts3", {}), 0);
-    EXPECT_EQ(choose("mnuPaletteOpts3", "mine"), 1) << "is not on the disk";
-    EXPECT_EQ(cell(), 0x80U);
-    EXPECT_EQ(choose("mnuPaletteOpts3", "old"), 0);
-    EXPECT_EQ(cell(), 0xD091BBU);
-
-    QTimer::singleShot(0, [] {
-        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        for (auto* edit : dialog->findChildren<QLineEdit*>()) {
-            if (!edit->text().startsWith('#')) continue;
-            edit->selectAll();
-            QTest::keyClicks(edit, "#112233");
-        }
-        QTest::keyClick(dialog, Qt::Key_Return);
-    });
-    DoubleClick(window.PicPal(), Qt::LeftButton, {20, 5});
-    EXPECT_EQ(cell(), 0x332211U);
 }
 
 }  // namespace
