@@ -4,13 +4,12 @@
 #include <csignal>
 
 #include "app/Startup.h"
+#include "desktop/LibraryTranslator.h"
 #include "desktop/QtClipboard.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/QtHelpViewer.h"
 #include "desktop/QtMessageBoxes.h"
 #include "desktop/QtShell.h"
-#include "desktop/TableTranslator.h"
-#include "i18n/DesktopTexts.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
 #include "platform/system/Folders.h"
@@ -56,7 +55,7 @@ int main(int argc, char* argv[]) {
     // programs that are started would inherit that.
     std::signal(SIGXFSZ, [](int /*signal*/) {});
     const QApplication application(argc, argv);
-    desktop::TableTranslator translator(i18n::DesktopText);
+    desktop::LibraryTranslator translator;
     QApplication::installTranslator(&translator);
     QApplication::setApplicationName(QStringLiteral("KestrelIconEditor"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
