@@ -4,13 +4,12 @@
 #include <csignal>
 
 #include "app/Startup.h"
+#include "desktop/LibraryTranslator.h"
 #include "desktop/QtClipboard.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/QtHelpViewer.h"
 #include "desktop/QtMessageBoxes.h"
-#include "desktop/TableTranslator.h"
-#include "i18n/DesktopTexts.h"
-#include "platform/system/DesktopShell.h"
+#include "desktop/QtShell.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
 #include "platform/system/Folders.h"
@@ -52,10 +51,11 @@ std::uint32_t SeedOfClock() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    // A write beyond the file size limit is a failed save, not the end of the program.
-    std::signal(SIGXFSZ, SIG_IGN);
+    // A write beyond the file size limit is a failed save, not the end of the program. Not ignored:
+    // programs that are started would inherit that.
+    std::signal(SIGXFSZ, [](int /*signal*/) {});
     const QApplication application(argc, argv);
-    desktop::TableTranslator translator(i18n::DesktopText);
+    desktop::LibraryTranslator translator;
     QApplication::installTranslator(&translator);
     QApplication::setApplicationName(QStringLiteral("KestrelIconEditor"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
@@ -71,9 +71,9 @@ int main(int argc, char* argv[]) {
     const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
     if (!values) return 0;
 
-    desktop::QtDesktopDialogs dialogs;
+    desktop::QtDesktopDialogs dialogs(boxes);
     desktop::QtClipboard clipboard;
-    system::DesktopShell shell;
+    desktop::QtShell shell;
     desktop::QtHelpViewer help(shell);
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};

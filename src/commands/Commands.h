@@ -27,7 +27,7 @@ struct MainServices {
     services::HelpViewer& help;
     system::FileSystem& files;
     system::Registry& registry;
-    system::Shell& shell;
+    services::Shell& shell;
     system::RandomNumbers& random;
     settings::Settings& settings;
     ProgramFolders folders;

@@ -4,9 +4,9 @@
 
 #include "commands/BusyWindow.h"
 #include "platform/system/FileSystem.h"
-#include "platform/system/Shell.h"
 #include "services/HelpViewer.h"
 #include "services/MessageBoxes.h"
+#include "services/Shell.h"
 
 namespace kestrel::commands {
 
@@ -23,7 +23,7 @@ struct ShellServices {
     services::MessageBoxes& boxes;
     services::HelpViewer& help;
     system::FileSystem& files;
-    system::Shell& shell;
+    services::Shell& shell;
 };
 
 // The commands that show or start what is not the editor itself. What cannot be shown or started

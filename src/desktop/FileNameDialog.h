@@ -2,40 +2,39 @@
 
 #include <QCheckBox>
 #include <QFileDialog>
-#include <QMessageBox>
+#include <QHeaderView>
 
-#include "services/DesktopDialogs.h"
+#include "services/FileNameRules.h"
 
 namespace kestrel::desktop {
 
-// Qt's own file dialog on every desktop: it asks about names by the rules of this program, where
-// names in other letter case are known to be the same file, and it speaks the program's language.
+// The desktop library's own file dialog, on every desktop: it takes names by the rules of this
+// program and speaks the program's language.
 class FileNameDialog : public QFileDialog {
   public:
-    FileNameDialog(AcceptMode mode, const services::FileRecord& record, QWidget* owner);
+    FileNameDialog(services::FilePurpose purpose, services::FileRecord record,
+                   services::MessageBoxes& boxes, QWidget* owner);
+    FileNameDialog(const FileNameDialog&) = delete;
+    FileNameDialog& operator=(const FileNameDialog&) = delete;
+    ~FileNameDialog() override;
 
-    // What the user chose, once the dialog is accepted. Names are spelled as on the disk.
-    void AnswerIn(services::FileRecord& record) const;
-    std::string ChosenFolder() const;
+    // What the user chose, once the dialog is accepted.
+    const services::FileRecord& Record() const { return record_; }
 
   protected:
     void accept() override;
 
   private:
     bool Asks(std::uint32_t flag) const { return (record_.flags & flag) != 0; }
-    QString Answer() const;
-    QString WithExtension(const QString& path) const;
-    bool IsName(const QFileInfo& chosen);
-    bool MayOpen(const QFileInfo& chosen);
-    bool MaySaveAs(const QFileInfo& chosen);
-    bool FitsBuffer();
-    int Tell(const QString& sentence, const QString& name,
-             QMessageBox::StandardButtons buttons = QMessageBox::Ok);
+    void ShowFolderAndName();
+    void MakeReadable();
+    int SelectedFilter() const;
+    void NoteAnswer(const std::vector<std::string>& paths);
 
-    const services::FileRecord record_;
+    services::FileRecord record_;
+    services::FileNameRules rules_;
+    QHeaderView* columns_ = nullptr;
     QCheckBox* readOnly_ = nullptr;
-    // What the user chose last, spelled as on the disk and with its extension.
-    QStringList chosen_;
 };
 
 }  // namespace kestrel::desktop

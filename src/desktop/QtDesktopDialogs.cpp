@@ -8,6 +8,7 @@
 #include <QPrinter>
 
 #include "desktop/Pictures.h"
+#include "platform/system/PathText.h"
 
 namespace kestrel::desktop {
 
@@ -15,6 +16,7 @@ namespace {
 
 using services::ColorRecord;
 using services::CustomColors;
+using services::FilePurpose;
 using services::FileRecord;
 using services::PrinterRecord;
 using services::WindowHandle;
@@ -90,19 +92,22 @@ bool Ask(QDialog& dialog) {
 }  // namespace
 
 std::int32_t QtDesktopDialogs::GetOpenFileName(FileRecord& record) {
-    return ChooseFile(FileNameDialog::AcceptOpen, record);
+    return ChooseFile(FilePurpose::Open, record);
 }
 
 std::int32_t QtDesktopDialogs::GetSaveFileName(FileRecord& record) {
-    return ChooseFile(FileNameDialog::AcceptSave, record);
+    return ChooseFile(FilePurpose::Save, record);
 }
 
-std::int32_t QtDesktopDialogs::ChooseFile(FileNameDialog::AcceptMode mode, FileRecord& record) {
+std::int32_t QtDesktopDialogs::ChooseFile(FilePurpose purpose, FileRecord& record) {
     if (record.initialFolder.empty()) record.initialFolder = lastFolder_;
-    FileNameDialog dialog(mode, record, WindowOf(record.owner));
+    FileNameDialog dialog(purpose, record, boxes_, WindowOf(record.owner));
     if (!Ask(dialog)) return kCancelled;
-    dialog.AnswerIn(record);
-    lastFolder_ = dialog.ChosenFolder();
+    record = dialog.Record();
+    // Several files come with their folder in front.
+    const bool isOne = !record.fileTitle.empty();
+    lastFolder_ = isOne ? system::FolderOf(record.file) : record.file.c_str();
+    lastFolder_ += '/';
     return services::kConfirmed;
 }
 

@@ -9,6 +9,9 @@ namespace kestrel::desktop {
 // its custom colours, so it neither opens nor closes that part, and every colour is a solid one.
 class QtDesktopDialogs : public services::DesktopDialogs {
   public:
+    // What is wrong with a file name is told in `boxes`, which must outlive the dialogs.
+    explicit QtDesktopDialogs(services::MessageBoxes& boxes) : boxes_(boxes) {}
+
     std::int32_t GetOpenFileName(services::FileRecord& record) override;
     std::int32_t GetSaveFileName(services::FileRecord& record) override;
     std::int32_t ChooseColor(services::ColorRecord& record) override;
@@ -18,8 +21,9 @@ class QtDesktopDialogs : public services::DesktopDialogs {
     gdi::COLORREF GetSysColor(int role) const override;
 
   private:
-    std::int32_t ChooseFile(FileNameDialog::AcceptMode mode, services::FileRecord& record);
+    std::int32_t ChooseFile(services::FilePurpose purpose, services::FileRecord& record);
 
+    services::MessageBoxes& boxes_;
     // Where a file was chosen last; empty: where the library remembers from an earlier start.
     std::string lastFolder_;
 };

@@ -3,8 +3,8 @@
 #include <QPointer>
 #include <QTextBrowser>
 
-#include "platform/system/Shell.h"
 #include "services/HelpViewer.h"
+#include "services/Shell.h"
 
 namespace kestrel::desktop {
 
@@ -12,7 +12,7 @@ namespace kestrel::desktop {
 class QtHelpViewer final : public services::HelpViewer {
   public:
     // `shell` must outlive the viewer.
-    explicit QtHelpViewer(system::Shell& shell) : shell_(shell) {}
+    explicit QtHelpViewer(services::Shell& shell) : shell_(shell) {}
 
     QtHelpViewer(const QtHelpViewer&) = delete;
     QtHelpViewer& operator=(const QtHelpViewer&) = delete;
@@ -29,7 +29,7 @@ class QtHelpViewer final : public services::HelpViewer {
     QTextBrowser* NewWindow();
     void Follow(const QUrl& link);
 
-    system::Shell& shell_;
+    services::Shell& shell_;
     QPointer<QTextBrowser> window_;
 };
 

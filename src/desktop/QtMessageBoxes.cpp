@@ -1,5 +1,6 @@
 #include "desktop/QtMessageBoxes.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QMessageBox>
 
@@ -31,6 +32,8 @@ QMessageBox::StandardButtons ToButtons(BoxButtons buttons) {
             return QMessageBox::Ok;
         case BoxButtons::OkCancel:
             return QMessageBox::Ok | QMessageBox::Cancel;
+        case BoxButtons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
         case BoxButtons::YesNoCancel:
             return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
     }
@@ -66,9 +69,11 @@ void MakeRoomForTitle(QMessageBox& box) {
 
 Answer QtMessageBoxes::Show(BoxIcon icon, BoxButtons buttons, const std::string& text,
                             const std::string& title) {
+    QWidget* dialog = QApplication::activeModalWidget();
     QMessageBox box(ToIcon(icon), QString::fromStdString(title),
                     QString::fromStdString(text).remove(QLatin1Char('\r')), ToButtons(buttons),
-                    owner_);
+                    dialog == nullptr ? owner_ : dialog);
+    if (buttons == BoxButtons::YesNo) box.setDefaultButton(QMessageBox::No);
     box.setTextFormat(Qt::PlainText);
     MakeRoomForTitle(box);
     return ToAnswer(box.exec(), buttons);

@@ -12,7 +12,7 @@ class QtMessageBoxes : public services::MessageBoxes {
     services::Answer Show(services::BoxIcon icon, services::BoxButtons buttons,
                           const std::string& text, const std::string& title) override;
 
-    // Boxes are modal to this window from now on.
+    // Boxes are modal to this window from now on, or to the dialog in front of it.
     void SetOwner(QWidget* owner) { owner_ = owner; }
 
   private:

@@ -64,6 +64,10 @@ std::string CannotSave(std::string_view reason, std::string_view fileTitle) {
     return WithReason(reason, Fill(sentence.Now(), fileTitle));
 }
 
+std::string Filled(const Text& text, std::string_view name) {
+    return Fill(text.Now(), name);
+}
+
 std::string CannotLoadPalette(std::string_view reason) {
     return WithReason(reason, kCannotLoadPalette.Now());
 }

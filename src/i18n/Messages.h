@@ -41,6 +41,21 @@ std::string CannotSave(std::string_view reason, std::string_view fileTitle);
 // A recent file that is gone; this one speaks English only.
 std::string CannotLocate(std::string_view path);
 
+// The file dialogs; %1 is the name or path in question.
+inline constexpr Text kOpenReadOnly{"Open as &read-only", "以只读方式打开(&R)"};
+inline constexpr Text kReplaceFile{"%1 already exists.\r\nDo you want to replace it?",
+                                   "%1 已存在.\r\n是否替换?"};
+inline constexpr Text kFileNotFound{
+    "%1\r\nFile not found.\r\nPlease verify the correct file name was given.",
+    "%1\r\n找不到文件.\r\n请检查文件名是否正确."};
+inline constexpr Text kFolderNotFound{
+    "%1\r\nDirectory not found.\r\nPlease verify the correct directory name was given.",
+    "%1\r\n找不到文件夹.\r\n请检查文件夹名是否正确."};
+inline constexpr Text kNotAFileName{"%1\r\nThe file name is not valid.", "%1\r\n文件名无效."};
+inline constexpr Text kFileNameTooLong{"%1\r\nThe file name is too long.", "%1\r\n文件名太长."};
+// The text in the language in force with `name` in the place of every "%1".
+std::string Filled(const Text& text, std::string_view name);
+
 // Palette files; `reason` is the system's description.
 inline constexpr std::string_view kLoadPaletteFilter =
     "Palette Files (*.PAL)|*.PAL|All Files (*.*)|*.*";

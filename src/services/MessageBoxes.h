@@ -5,11 +5,12 @@
 namespace kestrel::services {
 
 enum class BoxIcon { Question, Information, Exclamation, Critical };
-enum class BoxButtons { Ok, OkCancel, YesNoCancel };
+// Return alone presses the first button, but No of YesNo.
+enum class BoxButtons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
 // The system's message boxes: modal, plain text with CR LF line breaks. Closing a box answers
-// Cancel, or Ok where that is all there is.
+// Cancel or, where there is none, No or Ok.
 class MessageBoxes {
   public:
     virtual ~MessageBoxes() = default;

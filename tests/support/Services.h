@@ -8,8 +8,8 @@
 
 #include "commands/Commands.h"
 #include "platform/system/Registry.h"
-#include "platform/system/Shell.h"
 #include "services/HelpViewer.h"
+#include "services/Shell.h"
 #include "tests/support/Recorders.h"
 
 namespace kestrel::test {
@@ -56,7 +56,7 @@ class MemoryRegistry : public system::Registry {
 };
 
 // Notes what is started and opened; with `failure` set nothing can be.
-class RecordingShell : public system::Shell {
+class RecordingShell : public services::Shell {
   public:
     Result<void> RunProgram(const std::string& program,
                             const std::vector<std::string>& /*arguments*/) override {
@@ -101,9 +101,8 @@ class RecordingHelp : public services::HelpViewer {
 
 // All that a main window is given.
 struct FakeServices {
-    commands::MainServices Given() { return Given(desktop); }
-    commands::MainServices Given(services::DesktopDialogs& dialogs) {
-        return {dialogs,  clipboard, boxes,  help,     files,
+    commands::MainServices Given() {
+        return {desktop,  clipboard, boxes,  help,     files,
                 registry, shell,     random, settings, {"/program", "/windows"},
                 1033};
     }

@@ -5,7 +5,7 @@
 
 #include "platform/Result.h"
 
-namespace kestrel::system {
+namespace kestrel::services {
 
 // Starts other programs, which go on by themselves.
 class Shell {
@@ -16,9 +16,9 @@ class Shell {
     // reason when it cannot be started.
     virtual Result<void> RunProgram(const std::string& program,
                                     const std::vector<std::string>& arguments) = 0;
-    // Opens a URL or a file with the desktop's opener. Waits up to 0.7 s to learn that the opener
-    // gave up, as it does where no program is there for the target.
-    virtual Result<void> Open(const std::string& target) = 0;
+    // Opens an address of the web with the desktop's opener. Waits up to 0.7 s to learn that the
+    // opener gave up, as it does where no program is there for the address.
+    virtual Result<void> Open(const std::string& address) = 0;
 };
 
-}  // namespace kestrel::system
+}  // namespace kestrel::services
