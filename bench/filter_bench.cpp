@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "platform/gdi/IconPlanes.h"
 #include "imaging/filters/FilterTable.h"
 #include "imaging/filters/mFilterG.h"
+#include "platform/gdi/IconPlanes.h"
 
 namespace {
 

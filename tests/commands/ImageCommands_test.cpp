@@ -8,9 +8,6 @@ namespace kestrel::commands {
 namespace {
 
 using editing::Button;
-using imaging::FlipAxis;
-using imaging::Reflection;
-using imaging::Turn;
 using test::At;
 
 // A user who answers what a test says; without an answer the dialog is cancelled.

@@ -14,8 +14,7 @@ inline constexpr int kIconSize = 32;
 struct IconPlanes {
     // All transparent.
     IconPlanes() : IconPlanes(kIconSize, kIconSize) {}
-    IconPlanes(int width, int height)
-        : image(width, height, kBlack), mask(width, height, kWhite) {}
+    IconPlanes(int width, int height) : image(width, height, kBlack), mask(width, height, kWhite) {}
 
     int Width() const { return mask.Width(); }
     int Height() const { return mask.Height(); }
