@@ -1,13 +1,11 @@
 #include "app/Startup.h"
 
 #include <array>
-#include <filesystem>
 
 #include "document/ApplicationIcon.h"
 #include "formats/IcoFile.h"
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
-#include "platform/system/Folders.h"
 #include "platform/system/LetterCase.h"
 #include "platform/system/PathText.h"
 
@@ -26,7 +24,7 @@ void Refuse(services::MessageBoxes& boxes, BoxIcon icon, const i18n::Text& text,
 // The folder is made on the first start, with the tray picture in it.
 void PrepareWindowsFolder(const std::string& folder, system::FileSystem& files) {
     const std::string trayIcon = folder + "/kestrel.ico";
-    if (files.FileExists(trayIcon) || !system::MakeFolder(folder)) return;
+    if (files.FileExists(trayIcon) || !files.MakeFolder(folder)) return;
     static_cast<void>(formats::WriteIcoCopy(files, document::ApplicationIcon(), trayIcon));
 }
 
@@ -78,15 +76,14 @@ std::optional<ProcessValues> PrepareStart(const StartupFacts& facts,
     return values;
 }
 
-std::string PathOfCommandLine(std::string_view commandLine) {
+std::string PathOfCommandLine(std::string_view commandLine, system::FileSystem& files) {
     constexpr std::string_view kOpen = "/open ";
     if (!system::SameName(commandLine.substr(0, kOpen.size()), kOpen)) return {};
     const std::string typed(commandLine.substr(kOpen.size()));
     std::string proper = system::ProperCase(typed);
     // Where two files differ in letter case alone, the one that was typed is meant.
-    std::error_code ignored;
-    const bool otherFile = std::filesystem::exists(typed, ignored) &&
-                           system::ResolvePath(proper) != system::ResolvePath(typed);
+    const auto typedFile = files.Find(typed);
+    const bool otherFile = typedFile && typedFile != files.Find(proper);
     return otherFile ? typed : proper;
 }
 

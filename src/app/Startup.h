@@ -52,6 +52,6 @@ void RegisterIcoAssociation(system::Registry& registry, const std::string& appli
 
 // The icon file that a command line of "/open <path>" names, in proper case as long as that still
 // names the same file; empty for any other command line.
-std::string PathOfCommandLine(std::string_view commandLine);
+std::string PathOfCommandLine(std::string_view commandLine, system::FileSystem& files);
 
 }  // namespace kestrel::app

@@ -36,6 +36,14 @@ app::StartupFacts FactsOf(const QScreen* screen, bool anotherInstanceRuns) {
     return facts;
 }
 
+// Named after the executable: in its folder or, where that cannot be written, in the user's
+// configuration folder.
+std::string SettingsFile(system::FileSystem& files) {
+    std::string folder = system::ApplicationFolder();
+    if (!files.CanWriteIn(folder)) folder = system::ConfigFolder();
+    return (folder.ends_with('/') ? folder : folder + "/") + system::ExecutableName() + ".ini";
+}
+
 // The arguments as the one line that was typed, byte for byte: file names need not be UTF-8.
 std::string CommandLine(int argc, char* argv[]) {
     std::string line;
@@ -65,7 +73,7 @@ int main(int argc, char* argv[]) {
                                                  system::CurrentDisplay());
     system::DiskFiles files;
     system::FileRegistry registry(files, system::ConfigFolder() + "/registry.ini");
-    settings::Settings settings(files);
+    settings::Settings settings(files, SettingsFile(files));
     desktop::QtMessageBoxes boxes;
     const app::StartupFacts facts = FactsOf(QGuiApplication::primaryScreen(), !lock);
     const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
@@ -81,7 +89,7 @@ int main(int argc, char* argv[]) {
     windows::FrmIcoEd window({dialogs, clipboard, boxes, help, files, registry, shell, random,
                               settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
-    window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv)));
+    window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv), files));
     window.show();
     return QApplication::exec();
 }

@@ -1,6 +1,5 @@
 #include "settings/Settings.h"
 
-#include "platform/system/Folders.h"
 #include "platform/system/Profile.h"
 
 namespace kestrel::settings {
@@ -12,25 +11,14 @@ constexpr std::string_view kLanguageKey = "Language";
 
 }  // namespace
 
-const std::string& Settings::File() {
-    if (file_.empty()) {
-        std::string folder = system::ApplicationFolder();
-        if (!system::CanWriteIn(folder)) folder = system::ConfigFolder();
-        if (!folder.ends_with('/')) folder += '/';
-        file_ = folder + system::ExecutableName() + ".ini";
-    }
-    return file_;
-}
-
 std::string Settings::ReadSetting(std::string_view section, std::string_view key,
                                   std::string_view otherwise, const std::string& file) {
-    return system::ReadProfileString(files_, section, key, otherwise, file.empty() ? File() : file);
+    return system::ReadProfileString(files_, section, key, otherwise, FileOr(file));
 }
 
 void Settings::WriteSetting(std::string_view section, std::string_view key, std::string_view value,
                             const std::string& file) {
-    static_cast<void>(
-        system::WriteProfileString(files_, section, key, value, file.empty() ? File() : file));
+    static_cast<void>(system::WriteProfileString(files_, section, key, value, FileOr(file)));
 }
 
 std::string ReadSavedLanguage(Settings& settings) {

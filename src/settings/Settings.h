@@ -2,17 +2,16 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/system/FileSystem.h"
 
 namespace kestrel::settings {
 
-// The settings file: named after the executable, in the application folder or, where that cannot
-// be written, in the user's configuration folder. The path is worked out on first use. Another
-// file may be named instead, an empty one is this. Failures are silent.
+// The settings file. Another file may be named instead, an empty one is this. Failures are silent.
 class Settings {
   public:
-    explicit Settings(system::FileSystem& files) : files_(files) {}
+    Settings(system::FileSystem& files, std::string file) : files_(files), file_(std::move(file)) {}
 
     std::string ReadSetting(std::string_view section, std::string_view key,
                             std::string_view otherwise, const std::string& file = {});
@@ -20,7 +19,7 @@ class Settings {
                       const std::string& file = {});
 
   private:
-    const std::string& File();
+    const std::string& FileOr(const std::string& file) const { return file.empty() ? file_ : file; }
 
     system::FileSystem& files_;
     std::string file_;

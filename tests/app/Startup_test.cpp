@@ -6,6 +6,7 @@
 #include <fstream>
 
 #include "i18n/Language.h"
+#include "platform/system/DiskFiles.h"
 #include "tests/support/Services.h"
 
 namespace kestrel::app {
@@ -13,15 +14,11 @@ namespace {
 
 class StartupTest : public testing::Test {
   protected:
-    void TearDown() override {
-        i18n::SetUiLanguage(i18n::kEnglish);
-        std::filesystem::remove_all(facts_.windowsDirectory);
-    }
+    void TearDown() override { i18n::SetUiLanguage(i18n::kEnglish); }
 
     test::FakeServices given_;
     StartupServices services_{given_.boxes, given_.registry, given_.files, given_.settings};
-    StartupFacts facts_{
-        1033, false, 640, 480, 16, "C:\\Icons", testing::TempDir() + "kestrel-startup-windows"};
+    StartupFacts facts_{1033, false, 640, 480, 16, "C:\\Icons", "/windows"};
 };
 
 TEST_F(StartupTest, ChoosesTheLanguageByLocaleUnlessAnotherWasChosen) {
@@ -80,21 +77,18 @@ TEST_F(StartupTest, RegistersTheAssociationAndMakesTheWindowsFolder) {
 }
 
 TEST_F(StartupTest, CommandLineNamesAFileInProperCase) {
-    EXPECT_EQ(PathOfCommandLine("/OPEN my own.ICO"), "My Own.ico");
+    system::DiskFiles files;
+    const auto named = [&](const std::string& line) { return PathOfCommandLine(line, files); };
+    EXPECT_EQ(named("/OPEN my own.ICO"), "My Own.ico");
     for (const char* line : {"/open", "-open x", "x /open y"})
-        EXPECT_EQ(PathOfCommandLine(line), "");
-    const std::filesystem::path folder = testing::TempDir() + "Kestrel-case";
+        EXPECT_EQ(named(line), "");
+    const std::string folder = testing::TempDir() + "Kestrel-case";
     std::filesystem::create_directories(folder);
-    const auto make = [&](const char* name) { std::ofstream file(folder / name); };
-    const auto named = [&](const char* name) {
-        return std::filesystem::path(PathOfCommandLine("/open " + (folder / name).string()))
-            .filename();
-    };
-    make("bird.ico");
-    EXPECT_EQ(named("bird.ico"), "Bird.ico");
-    EXPECT_EQ(named("none.ico"), "None.ico");
-    make("Bird.ico");
-    EXPECT_EQ(named("bird.ico"), "bird.ico") << "both exist: the typed one is meant";
+    const std::string typed = "/open " + folder + "/bird.ico";
+    std::ofstream(folder + "/bird.ico").close();
+    EXPECT_TRUE(named(typed).ends_with("/Bird.ico"));
+    std::ofstream(folder + "/Bird.ico").close();
+    EXPECT_TRUE(named(typed).ends_with("/bird.ico")) << "both exist: the typed one is meant";
     std::filesystem::remove_all(folder);
 }
 

@@ -116,7 +116,7 @@ struct FakeServices {
     RecordingShell shell;
     // The seed whose numbers the C++ standard tells.
     system::RandomNumbers random{std::mt19937::default_seed};
-    settings::Settings settings{files};
+    settings::Settings settings{files, "/settings.ini"};
 };
 
 }  // namespace kestrel::test
