@@ -20,14 +20,19 @@ if(KESTREL_FUZZ)
   target_compile_options(kestrel_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# kestrel_folder(<target> [SOURCES <files>] [DEPENDS <targets>])
+# kestrel_folder(<target> [QT] [SOURCES <files>] [DEPENDS <targets>]): QT where Qt is known.
 # Every header of the folder compiles alone: those that a source begins with do so there, and the
 # target all_verify_interface_header_sets sees to the others.
 function(kestrel_folder name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "QT" "" "SOURCES;DEPENDS" ${ARGN})
   if(ARG_SOURCES)
     set(scope PUBLIC)
     add_library(${name} STATIC ${ARG_SOURCES})
+    # Local names of two sources may be alike.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+    if(KESTREL_PRECOMPILE)
+      kestrel_precompile(${name} ${ARG_QT})
+    endif()
   else()
     set(scope INTERFACE)
     add_library(${name} INTERFACE)
@@ -36,6 +41,22 @@ function(kestrel_folder name)
   kestrel_headers_to_verify(headers ${ARG_SOURCES})
   target_sources(${name} ${scope}
     FILE_SET HEADERS BASE_DIRS ${CMAKE_SOURCE_DIR} FILES ${headers})
+endfunction()
+
+# Headers that many sources include, once for all folders whose compiler flags are the same.
+function(kestrel_precompile name with_qt)
+  if(with_qt)
+    set(owner kestrel_desktop)
+    set(headers <algorithm> <array> <chrono> <functional> <map> <optional> <span> <QtWidgets>)
+  else()
+    set(owner kestrel_gdi)
+    set(headers <algorithm> <array> <functional> <map> <memory> <optional> <span> <string> <vector>)
+  endif()
+  if(name STREQUAL owner)
+    target_precompile_headers(${name} PRIVATE ${headers})
+  else()
+    target_precompile_headers(${name} REUSE_FROM ${owner})
+  endif()
 endfunction()
 
 # Sets the variable to the headers beside these sources that are the first include of none.
