@@ -17,7 +17,7 @@ WaitFor() {
 }
 
 # StartDisplay <scratch folder>: starts an X server on the first free display number, 1024 x 768 at
-# 24 bits, with a window manager, and points DISPLAY at it.
+# 24 bits, with a window manager, and points DISPLAY at it. Returns once windows are managed.
 StartDisplay() {
     local scratch=$1
     Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset -ac \
@@ -30,13 +30,21 @@ StartDisplay() {
     DISPLAY=:$(<"$scratch/display")
     export DISPLAY
     unset WAYLAND_DISPLAY XAUTHORITY
-    openbox --config-file "$displayTools/openbox.xml" >"$scratch/openbox.log" 2>&1 </dev/null &
-    windowManager=$!
-    WaitFor 20 WindowManagerAnswers
+    StartWindowManager "$scratch"
 }
 
-WindowManagerAnswers() {
-    [[ $(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null) == *0x* ]]
+# openbox announces itself on the root window and only then looks for fonts, which takes seconds
+# where none are cached; a window that asks to be mapped meanwhile never appears. It runs its
+# start-up command when it is ready for windows.
+StartWindowManager() {
+    local scratch=$1
+    openbox --sm-disable --config-file "$displayTools/openbox.xml" \
+        --startup "touch ${scratch@Q}/managed" >"$scratch/openbox.log" 2>&1 </dev/null &
+    windowManager=$!
+    if ! WaitFor 60 test -e "$scratch/managed"; then
+        cat "$scratch/openbox.log" >&2
+        return 1
+    fi
 }
 
 # Ends what StartDisplay started, and nothing else.
