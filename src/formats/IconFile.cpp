@@ -32,6 +32,7 @@ struct IconKind {
     std::string_view name;
     bool (*sniff)(Bytes file);
     std::vector<ImageEntry> (*list)(Bytes file);
+    std::optional<IconImage> (*decode)(Bytes file, const ImageEntry& entry);
 };
 
 bool IsIconDirectory(Bytes file) {
@@ -83,9 +84,17 @@ std::vector<ImageEntry> ListPng(Bytes file) {
     return {ImageEntry{0, file.size(), *info}};
 }
 
+// A bitmap or a PNG that lies in the file as it is.
+std::optional<IconImage> DecodeStored(Bytes file, const ImageEntry& entry) {
+    const Bytes image = ByteReader(file).Part(entry.offset, entry.size);
+    if (entry.info.png) return DecodePng(image, entry.info);
+    const auto dib = ReadDibLayout(image, entry.info.width, entry.info.height);
+    return dib ? DecodeDib(image, *dib) : std::nullopt;
+}
+
 constexpr std::array kKinds{
-    IconKind{"icon or cursor", IsIconDirectory, ListDirectory},
-    IconKind{"PNG", IsPng, ListPng},
+    IconKind{"icon or cursor", IsIconDirectory, ListDirectory, DecodeStored},
+    IconKind{"PNG", IsPng, ListPng, DecodeStored},
 };
 
 tl::unexpected<Error> NoPicture() {
@@ -112,13 +121,9 @@ Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file) {
 }
 
 Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEntry& entry) {
-    const Bytes image = ByteReader(file).Part(entry.offset, entry.size);
-    std::optional<IconImage> icon;
-    if (entry.info.png) {
-        icon = DecodePng(image, entry.info);
-    } else if (const auto dib = ReadDibLayout(image, entry.info.width, entry.info.height)) {
-        icon = DecodeDib(image, *dib);
-    }
+    const auto* const kind =
+        std::ranges::find_if(kKinds, [file](const IconKind& each) { return each.sniff(file); });
+    auto icon = kind == kKinds.end() ? std::nullopt : kind->decode(file, entry);
     if (!icon || icon->info != entry.info) return NoPicture();
     return *std::move(icon);
 }
