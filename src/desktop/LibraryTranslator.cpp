@@ -2,7 +2,9 @@
 
 #include <QLibraryInfo>
 
+#include "desktop/Text.h"
 #include "i18n/Language.h"
+#include "i18n/Messages.h"
 
 namespace kestrel::desktop {
 
@@ -14,7 +16,11 @@ QString LibraryTranslator::translate(const char* context, const char* sourceText
         static_cast<void>(chinese_.load(QStringLiteral("qtbase_zh_CN"),
                                         QLibraryInfo::path(QLibraryInfo::TranslationsPath)));
     });
-    return chinese_.translate(context, sourceText, disambiguation, n);
+    QString text = chinese_.translate(context, sourceText, disambiguation, n);
+    for (const i18n::Text& kind : i18n::kFileKinds) {
+        if (text.isNull() && kind.english == sourceText) text = ToText(kind.chinese);
+    }
+    return text;
 }
 
 }  // namespace kestrel::desktop

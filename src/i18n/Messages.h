@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -41,6 +42,9 @@ std::string CannotSave(std::string_view reason, std::string_view fileTitle);
 // A recent file that is gone; this one speaks English only.
 std::string CannotLocate(std::string_view path);
 
+// Kinds of files in the list of the file dialogs, which the desktop library's Chinese lacks.
+inline constexpr std::array kFileKinds{Text{"Folder", "文件夹"}, Text{"Drive", "驱动器"},
+                                       Text{"Shortcut", "快捷方式"}, Text{"Unknown", "未知"}};
 // The file dialogs; %1 is the name or path in question.
 inline constexpr Text kOpenReadOnly{"Open as &read-only", "以只读方式打开(&R)"};
 inline constexpr Text kReplaceFile{"%1 already exists.\r\nDo you want to replace it?",

@@ -5,6 +5,7 @@
 #include <QColorDialog>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QSettings>
@@ -144,9 +145,8 @@ TEST_F(DialogsTest, PrinterDialogGivesTheFileAndTheCopies) {
     }
 }
 
-// Gives every text; as a desktop's plugin does in the language of the system.
-class ForeignTranslator : public QTranslator {
-  public:
+// As a desktop's plugin brings one in the language of the system.
+struct ForeignTranslator : QTranslator {
     bool isEmpty() const override { return false; }
     QString translate(const char*, const char*, const char*, int) const override { return "fremd"; }
 };
@@ -156,11 +156,13 @@ TEST(LibraryTranslator, FollowsTheLanguageOfTheProgramAlone) {
     LibraryTranslator translator;
     QApplication::installTranslator(&foreign);
     QApplication::installTranslator(&translator);
-    for (const auto& [language, open] :
-         {std::pair{i18n::kEnglish, "Open"}, {i18n::kChinese, "打开"}, {i18n::kEnglish, "Open"}}) {
+    for (const auto& [language, texts] :
+         {std::pair{i18n::kEnglish, "Open Drive"}, {i18n::kChinese, "打开 驱动器"}}) {
         i18n::SetUiLanguage(language);
-        EXPECT_EQ(QFileDialog::tr("Open"), QString::fromUtf8(open));
+        const QString root = QFileIconProvider().type(QFileInfo("/"));
+        EXPECT_EQ(QFileDialog::tr("Open") + " " + root, QString::fromUtf8(texts));
     }
+    i18n::SetUiLanguage(i18n::kEnglish);
 }
 
 }  // namespace
