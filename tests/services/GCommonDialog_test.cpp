@@ -87,46 +87,20 @@ TEST_F(GCommonDialogTest, CancelClearsWhatWasGivenAndTellsWhy) {
     EXPECT_EQ(dialog_.ExtendedError(), 0);
 }
 
-TEST_F(GCommonDialogTest, FileTitles) {
-    for (const auto& [path, title] :
-         {std::pair{"/a/b.pal"s, "b.pal"s},
-          {"c:\\x\\y.ico", "y.ico"},
-          {"plain", "plain"},
-          {"", ""},
-          {"/a/", ""},
-          {"/" + std::string(259, 'n'), std::string(259, 'n')},
-          {"/" + std::string(260, 'n'), ""},
-          {"\xE5\x9B\xBE" + std::string(258, 'n'), "\xE5\x9B\xBE" + std::string(258, 'n')}}) {
-        EXPECT_EQ(GCommonDialog::VBGetFileTitle(path), title);
-    }
-}
-
-TEST_F(GCommonDialogTest, ColoursAndTheRowOfCustomColours) {
-    dialog_.SetCustomColor(15, 0x5);
-    EXPECT_EQ(dialog_.CustomColor(15), 0x5U);
-    EXPECT_EQ(dialog_.CustomColor(0), 0x102000U) << "the desktop's colour 0";
-    for (const int outside : {-1, 16}) {
-        dialog_.SetCustomColor(outside, 0x5);
-        EXPECT_EQ(dialog_.CustomColor(outside), 0xFFFFFFFFU);
+TEST_F(GCommonDialogTest, CustomColoursAreTheSystemsAtFirst) {
+    for (const auto& [index, color] :
+         {std::pair{0, 0x102000U}, {15, 0x10200FU}, {-1, 0xFFFFFFFFU}, {16, 0xFFFFFFFFU}}) {
+        EXPECT_EQ(dialog_.CustomColor(index), color);
     }
     gdi::COLORREF color = 0x808080;
     EXPECT_FALSE(dialog_.VBChooseColor(color, true, true, false, 9));
     EXPECT_EQ(color, 0xFFFFFFFFU);
-    EXPECT_EQ(desktop_.colors.at(0).color, 0x808080U);
-    EXPECT_EQ(desktop_.colors.at(0).owner, 9);
-    EXPECT_EQ(desktop_.colors.at(0).flags, 0x103U);
-    EXPECT_EQ(desktop_.colors.at(0).customColors[15], 0x5U);
-    EXPECT_EQ(dialog_.CustomColor(3), 0x102003U);
-
     desktop_.color = 0x010203;
     EXPECT_TRUE(dialog_.VBChooseColor(color, false, false, true, kNoOwner));
     EXPECT_EQ(color, 0x010203U);
+    EXPECT_EQ(desktop_.colors.at(0).flags, 0x103U);
     EXPECT_EQ(desktop_.colors.at(1).flags, 0x85U);
     EXPECT_EQ(dialog_.CustomColor(3), 0x010203U) << "changed in the dialog";
-
-    GCommonDialog fresh(desktop_);
-    EXPECT_TRUE(fresh.VBChooseColor(color, true, true, false, kNoOwner));
-    EXPECT_EQ(desktop_.colors.back().customColors[15], 0x10200FU);
 }
 
 struct Window : OwnerWindow {
