@@ -8,6 +8,7 @@
 #include <QPrinter>
 
 #include "desktop/Pictures.h"
+#include "i18n/Language.h"
 #include "platform/system/PathText.h"
 
 namespace kestrel::desktop {
@@ -101,6 +102,10 @@ std::int32_t QtDesktopDialogs::GetSaveFileName(FileRecord& record) {
 
 std::int32_t QtDesktopDialogs::ChooseFile(FilePurpose purpose, FileRecord& record) {
     if (record.initialFolder.empty()) record.initialFolder = lastFolder_;
+    // The kinds of files come from the system's list, in the language of this.
+    QLocale::setDefault(i18n::UiLanguage() == i18n::kChinese
+                            ? QLocale(QLocale::Chinese, QLocale::China)
+                            : QLocale(QLocale::English));
     FileNameDialog dialog(purpose, record, boxes_, WindowOf(record.owner));
     if (!Ask(dialog)) return kCancelled;
     record = dialog.Record();
