@@ -102,7 +102,7 @@ void FileNameDialog::accept() {
             return;
         case services::FileNameRules::Verdict::Take:
             NoteAnswer(paths);
-            QDialog::accept();
+            done(Accepted);
     }
 }
 
