@@ -38,7 +38,8 @@ BENCHMARK(RedrawAll);
 // One pointer event of a pencil stroke: the cell in planes and views, and the readouts.
 void PencilCell(benchmark::State& state) {
     test::RecordingEditorWindow window;
-    editing::Editor editor(window, kWindowColor);
+    test::RecordingApplication application;
+    editing::Editor editor(window, application, kWindowColor);
     editor.PicMain_MouseDown(editing::Button::Left, 5, 5);
     int x = 0;
     for (auto _ : state) {
@@ -52,7 +53,8 @@ BENCHMARK(PencilCell);
 // From the button's release: the undo snapshot.
 void PencilClick(benchmark::State& state) {
     test::RecordingEditorWindow window;
-    editing::Editor editor(window, kWindowColor);
+    test::RecordingApplication application;
+    editing::Editor editor(window, application, kWindowColor);
     for (auto _ : state) {
         window.repainted.clear();
         editor.PicMain_MouseDown(editing::Button::Left, 5, 5);

@@ -20,7 +20,8 @@ struct Bench {
     }
 
     test::RecordingEditorWindow window;
-    editing::Editor editor{window, 0xF0F0F0};
+    test::RecordingApplication application;
+    editing::Editor editor{window, application, 0xF0F0F0};
 };
 
 // From press to release: the whole icon filled, views and history.

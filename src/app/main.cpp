@@ -4,6 +4,7 @@
 #include <csignal>
 
 #include "app/Startup.h"
+#include "desktop/QtApplication.h"
 #include "desktop/QtClipboard.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/QtHelpViewer.h"
@@ -71,6 +72,7 @@ int main(int argc, char* argv[]) {
     const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
     if (!values) return 0;
 
+    desktop::QtApplication program;
     desktop::QtDesktopDialogs dialogs;
     desktop::QtClipboard clipboard;
     system::DesktopShell shell;
@@ -78,8 +80,8 @@ int main(int argc, char* argv[]) {
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};
     system::RandomNumbers random(SeedOfClock());
-    windows::FrmIcoEd window({dialogs, clipboard, boxes, help, files, registry, shell, random,
-                              settings, folders, facts.systemLcid});
+    windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
+                              random, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv)));
     window.show();

@@ -2,18 +2,19 @@
 
 #include <string>
 
-#include "commands/BusyWindow.h"
 #include "commands/ModRecent.h"
 #include "editing/Editor.h"
 #include "platform/system/FileSystem.h"
+#include "services/Application.h"
 #include "services/Cdb.h"
 #include "services/MessageBoxes.h"
 
 namespace kestrel::commands {
 
 // What the document commands need of the main window.
-class DocumentWindow : public BusyWindow {
+class DocumentWindow {
   public:
+    virtual ~DocumentWindow() = default;
     // A disabled grid ignores the mouse.
     virtual void EnableGrid(bool enabled) = 0;
     // Enables the grid a quarter of a second from now, when the clicks that chose the file are
@@ -23,13 +24,22 @@ class DocumentWindow : public BusyWindow {
     virtual void Unload() = 0;
 };
 
+// What the document commands work with, besides the editor.
+struct DocumentParts {
+    DocumentWindow& window;
+    ModRecent& recent;
+    services::Cdb& cdb;
+    services::Application& application;
+    services::MessageBoxes& boxes;
+    system::FileSystem& files;
+};
+
 enum class SaveMode { Save, SaveAs };
 
 // The commands that change which icon is open or where it is kept.
 class DocumentCommands {
   public:
-    DocumentCommands(editing::Editor& editor, DocumentWindow& window, ModRecent& recent,
-                     services::Cdb& cdb, services::MessageBoxes& boxes, system::FileSystem& files);
+    DocumentCommands(editing::Editor& editor, const DocumentParts& parts);
 
     void mnuNew_Click();
     // Asks for the file with the open dialog.
@@ -53,11 +63,7 @@ class DocumentCommands {
 
     editing::Editor& editor_;
     document::IconDocument& document_;
-    DocumentWindow& window_;
-    ModRecent& recent_;
-    services::Cdb& cdb_;
-    services::MessageBoxes& boxes_;
-    system::FileSystem& files_;
+    DocumentParts parts_;
 };
 
 }  // namespace kestrel::commands

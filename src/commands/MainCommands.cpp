@@ -20,12 +20,13 @@ MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenu
                {editor.Wells(), cdb, services.dialogs, window, services.files, services.random}),
       clipboard_(editor, services.clipboard, window),
       transforms_(editor),
-      images_(editor, imagingDialogs, window),
-      filters_(editor, imagingDialogs, window, services.random),
+      images_(editor, imagingDialogs, services.application),
+      filters_(editor, imagingDialogs, services.application, services.random),
       recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
               services.systemLcid),
-      documents_(editor, window, recent_, cdb, services.boxes, services.files),
-      shell_(window, {services.boxes, services.help, services.files, services.shell},
+      documents_(editor,
+                 {window, recent_, cdb, services.application, services.boxes, services.files}),
+      shell_({services.application, services.boxes, services.help, services.files, services.shell},
              services.folders) {}
 
 void MainCommands::mnuRecent_Click(int slot) {

@@ -35,6 +35,7 @@ class MainWindow : public DocumentWindow,
 
 // What the main window is given; all of it outlives the window.
 struct MainServices {
+    services::Application& application;
     services::DesktopDialogs& dialogs;
     services::Clipboard& clipboard;
     services::MessageBoxes& boxes;

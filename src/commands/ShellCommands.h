@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "commands/BusyWindow.h"
 #include "commands/CommandHandlers.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/Shell.h"
+#include "services/Application.h"
 #include "services/HelpViewer.h"
 #include "services/MessageBoxes.h"
 
@@ -18,6 +18,7 @@ struct ProgramFolders {
 };
 
 struct ShellServices {
+    services::Application& application;
     services::MessageBoxes& boxes;
     services::HelpViewer& help;
     system::FileSystem& files;
@@ -28,7 +29,7 @@ struct ShellServices {
 // is said in a message.
 class ShellCommands {
   public:
-    ShellCommands(BusyWindow& window, const ShellServices& services, ProgramFolders folders);
+    ShellCommands(const ShellServices& services, ProgramFolders folders);
 
     // The help text in the language in force.
     void mnuHelp_Click();
@@ -40,7 +41,6 @@ class ShellCommands {
   private:
     std::string HelpFile() const;
 
-    BusyWindow& window_;
     ShellServices services_;
     ProgramFolders folders_;
 };

@@ -7,7 +7,7 @@
 
 namespace kestrel::editing {
 
-Editor::Editor(EditorWindow& window, gdi::COLORREF windowColor)
+Editor::Editor(EditorWindow& window, services::Application& application, gdi::COLORREF windowColor)
     : window_(window),
       canvas_(document_, window, windowColor),
       wells_(window),
@@ -16,7 +16,7 @@ Editor::Editor(EditorWindow& window, gdi::COLORREF windowColor)
       selection_(document_, canvas_, history_, window),
       tools_(window, selection_, windowColor),
       readout_(document_, window) {
-    const ToolParts parts{document_, canvas_, wells_, history_, selection_, window};
+    const ToolParts parts{document_, canvas_, wells_, history_, selection_, window, application};
     for (const ToolRow& row : ToolTable())
         gridTools_[row.id] = row.make(parts);
     history_.PushUndoSnapshot();

@@ -21,7 +21,7 @@ class Editor {
   public:
     // `windowColor` is the desktop's window colour. The document is the empty icon, recorded as
     // the first undo entry.
-    Editor(EditorWindow& window, gdi::COLORREF windowColor);
+    Editor(EditorWindow& window, services::Application& application, gdi::COLORREF windowColor);
 
     document::IconDocument& Document() { return document_; }
     document::Canvas& Views() { return canvas_; }

@@ -30,7 +30,6 @@ class EditorWindow : public document::CanvasWindow {
     virtual void PaletteChanged() = 0;
     // Opens the editing pop-up at the pointer.
     virtual void ShowEditingPopup() = 0;
-    virtual void Beep() = 0;
     // The enabled state of the Edit commands may have changed.
     virtual void RefreshEditCommands() = 0;
 };

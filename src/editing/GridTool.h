@@ -7,6 +7,7 @@
 #include "editing/ModCollections.h"
 #include "editing/Mouse.h"
 #include "editing/Selection.h"
+#include "services/Application.h"
 
 namespace kestrel::editing {
 
@@ -18,6 +19,7 @@ struct ToolParts {
     ModCollections& history;
     Selection& selection;
     EditorWindow& window;
+    services::Application& application;
 };
 
 // What a gesture came to. A changed image is recorded, also where it looks as before; after

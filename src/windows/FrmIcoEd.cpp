@@ -68,9 +68,9 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       wellPictures_(resources::kWellPictures, resources::kImageListInks),
       barView_(menus_.SmartMenuXP1, pictures_),
       popupView_(menus_.SmartMenuXP2, pictures_),
-      editor_(*this, WindowColor()),
+      editor_(*this, services.application, WindowColor()),
       cdb_(services.dialogs, *this),
-      wellCommands_(editor_.Wells(), *this, cdb_),
+      wellCommands_(editor_.Wells(), services.application, cdb_),
       imagingDialogs_(*this),
       commands_(editor_, *this, menus_, cdb_, imagingDialogs_, services),
       dispatch_(commands_, *this) {}
@@ -188,18 +188,6 @@ void FrmIcoEd::EnableGrid(bool enabled) {
 
 void FrmIcoEd::StartTmr() {
     tmr_->start();
-}
-
-void FrmIcoEd::ShowHourglass(bool shown) {
-    if (shown) {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    } else {
-        QApplication::restoreOverrideCursor();
-    }
-}
-
-void FrmIcoEd::DoEvents() {
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 services::WindowHandle FrmIcoEd::hWnd() const {

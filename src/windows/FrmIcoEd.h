@@ -102,14 +102,11 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void RepaintWells() override;
     void PaletteChanged() override;
     void ShowEditingPopup() override;
-    void Beep() override;
     void RefreshEditCommands() override;
 
     services::WindowHandle hWnd() const override;
     void EnableGrid(bool enabled) override;
     void StartTmr() override;
-    void ShowHourglass(bool shown) override;
-    void DoEvents() override;
     void Unload() override;
     void SetControlCaption(std::string_view control, std::string_view text) override;
     void SetControlToolTip(std::string_view control, std::string_view text) override;

@@ -1,6 +1,5 @@
 #include <qdrawutil.h>
 
-#include <QApplication>
 #include <QPainter>
 #include <QToolTip>
 #include <array>
@@ -133,10 +132,6 @@ void FrmIcoEd::PaintIndicators(QPainter& painter) {
     };
     paint(kForeIndicator, Button::Left);
     paint(kBackIndicator, Button::Right);
-}
-
-void FrmIcoEd::Beep() {
-    QApplication::beep();
 }
 
 }  // namespace kestrel::windows

@@ -53,10 +53,11 @@ class DocumentCommandsTest : public testing::Test {
     test::RecordingWindow window_;
     controls::SmartMenuXP menu_;
     ModRecent recent_{menu_, given_.registry, given_.files, given_.boxes, 1033};
-    editing::Editor editor_{window_, 0xF0F0F0};
+    editing::Editor editor_{window_, given_.application, 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
     services::Cdb cdb_{given_.desktop, window_};
-    DocumentCommands commands_{editor_, window_, recent_, cdb_, given_.boxes, given_.files};
+    DocumentCommands commands_{
+        editor_, {window_, recent_, cdb_, given_.application, given_.boxes, given_.files}};
 };
 
 TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
@@ -184,7 +185,7 @@ TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
     EXPECT_EQ(icon_.FilePath, "/icons/several.ico");
     EXPECT_TRUE(icon_.Modified);
     EXPECT_TRUE(icon_.MultipleIcons);
-    EXPECT_EQ(window_.hourglasses, "on off on off ");
+    EXPECT_EQ(given_.application.hourglasses, "on off on off ");
 }
 
 }  // namespace

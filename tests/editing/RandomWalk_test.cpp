@@ -119,7 +119,7 @@ class RandomWalkTest : public test::EditorTest {
     test::RecordingWindow dialog_;
     test::ScriptedDialogs desktop_;
     services::Cdb cdb_{desktop_, dialog_};
-    commands::WellCommands wells_{editor_.Wells(), window_, cdb_};
+    commands::WellCommands wells_{editor_.Wells(), application_, cdb_};
     test::MemoryClipboard clipboard_;
     commands::ClipboardCommands commands_{editor_, clipboard_, dialog_};
 };

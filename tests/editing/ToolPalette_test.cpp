@@ -28,7 +28,8 @@ class PaletteTest : public testing::Test {
 
     static constexpr gdi::COLORREF kGround = 0xC8D0D4;
     test::RecordingEditorWindow window_;
-    Editor editor_{window_, kGround};
+    test::RecordingApplication application_;
+    Editor editor_{window_, application_, kGround};
     ToolPalette& palette_ = editor_.Tools();
 };
 
@@ -117,10 +118,11 @@ class WellsTest : public testing::Test {
     }
 
     test::RecordingWindow window_;
+    test::RecordingApplication application_;
     test::ScriptedDialogs desktop_;
     services::Cdb cdb_{desktop_, window_};
     ColorWells wells_{window_};
-    commands::WellCommands commands_{wells_, window_, cdb_};
+    commands::WellCommands commands_{wells_, application_, cdb_};
 };
 
 TEST_F(WellsTest, ButtonsDoWhatTheySay) {
@@ -156,7 +158,7 @@ TEST_F(WellsTest, ButtonsDoWhatTheySay) {
         EXPECT_EQ(Wells(), s.wells);
         EXPECT_TRUE(before == s.wells || window_.wellRepaints > 0);
     }
-    EXPECT_EQ(window_.beeps, 4);
+    EXPECT_EQ(application_.beeps, 4);
     wells_.SetTransparent(Button::Left);
     wells_.ResetDefaultColors();
     EXPECT_EQ(Wells(), "FFFFFFT FFFFFF ");

@@ -137,7 +137,7 @@ TEST_F(ToolsTest, ThePickerTakesColourOrTransparencyAndHandsBack) {
         Drag(c.button, {5, 5}, c.cell);
         EXPECT_EQ(editor_.Wells().PenColor(c.button), c.color);
         EXPECT_EQ(editor_.Wells().IsTransparent(c.button), c.transparent);
-        EXPECT_EQ(window_.beeps, c.button == Button::Right ? 0 : 1);
+        EXPECT_EQ(application_.beeps, c.button == Button::Right ? 0 : 1);
         EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::Ellipse);
         EXPECT_EQ(window_.cursor, GridCursor::Cross);
     }

@@ -6,8 +6,20 @@
 #include <vector>
 
 #include "editing/EditorWindow.h"
+#include "services/Application.h"
 
 namespace kestrel::test {
+
+// A program whose pointer and bell are only noted.
+class RecordingApplication : public services::Application {
+  public:
+    void DoEvents() override {}
+    void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
+    void Beep() override { ++beeps; }
+
+    std::string hourglasses;
+    int beeps = 0;
+};
 
 // The window around an editor, without a screen: remembers what it was told last.
 class RecordingEditorWindow : public editing::EditorWindow {
@@ -28,7 +40,6 @@ class RecordingEditorWindow : public editing::EditorWindow {
     void RepaintWells() override { ++wellRepaints; }
     void PaletteChanged() override {}
     void ShowEditingPopup() override { ++popups; }
-    void Beep() override { ++beeps; }
     void RefreshEditCommands() override { ++refreshes; }
 
     std::vector<std::pair<document::View, gdi::Rect>> repainted;
@@ -40,7 +51,6 @@ class RecordingEditorWindow : public editing::EditorWindow {
     int toolRepaints = 0;
     int wellRepaints = 0;
     int popups = 0;
-    int beeps = 0;
     int refreshes = 0;
 };
 

@@ -80,7 +80,8 @@ class EditorTest : public testing::Test {
     }
 
     RecordingEditorWindow window_;
-    editing::Editor editor_{window_, kWindowColor};
+    RecordingApplication application_;
+    editing::Editor editor_{window_, application_, kWindowColor};
     document::IconDocument& icon_ = editor_.Document();
 };
 

@@ -21,8 +21,6 @@ class RecordingWindow : public RecordingEditorWindow, public commands::MainWindo
   public:
     void EnableGrid(bool enabled) override { gridEnabled = enabled; }
     void StartTmr() override { tmrStarted = true; }
-    void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
-    void DoEvents() override {}
     void Unload() override { unloaded = true; }
     void SetControlCaption(std::string_view control, std::string_view text) override {
         captions[std::string(control)] = text;
@@ -45,7 +43,6 @@ class RecordingWindow : public RecordingEditorWindow, public commands::MainWindo
     static constexpr services::WindowHandle kHandle = 77;
     bool gridEnabled = true;
     bool tmrStarted = false;
-    std::string hourglasses;
     bool unloaded = false;
     std::map<std::string, std::string> captions;
     std::map<std::string, bool> buttons;

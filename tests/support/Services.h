@@ -102,11 +102,21 @@ class RecordingHelp : public services::HelpViewer {
 struct FakeServices {
     commands::MainServices Given() { return Given(desktop); }
     commands::MainServices Given(services::DesktopDialogs& dialogs) {
-        return {dialogs,  clipboard, boxes,  help,     files,
-                registry, shell,     random, settings, {"/program", "/windows"},
+        return {application,
+                dialogs,
+                clipboard,
+                boxes,
+                help,
+                files,
+                registry,
+                shell,
+                random,
+                settings,
+                {"/program", "/windows"},
                 1033};
     }
 
+    RecordingApplication application;
     ScriptedDialogs desktop;
     MemoryClipboard clipboard;
     ScriptedBoxes boxes;

@@ -181,7 +181,7 @@ TEST_F(MenusTest, WhatCannotBeStartedIsSaid) {
     given_.shell.failure = "No such file or directory";
     BarMenu().onClick("mnuHomePage");
     EXPECT_EQ(given_.boxes.shown.size(), 1U);
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the hourglass stays";
+    EXPECT_EQ(given_.application.hourglasses, "on off on off ");
     BarMenu().onClick("mnuToolsOpts6");
     EXPECT_EQ(LastMessage(),
               "The program is not installed or cannot be run.\r\n\r\n"
