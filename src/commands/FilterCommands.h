@@ -3,8 +3,8 @@
 #include <optional>
 #include <string_view>
 
+#include "commands/Dialogs.h"
 #include "commands/ImageTarget.h"
-#include "commands/ImagingDialogs.h"
 #include "imaging/filters/FilterTable.h"
 #include "imaging/filters/mFilterG.h"
 
@@ -13,7 +13,7 @@ namespace kestrel::commands {
 // The commands of the filter menu, on the selection or the whole icon.
 class FilterCommands {
   public:
-    FilterCommands(editing::Editor& editor, ImagingDialogs& dialogs, services::MessageLoop& loop,
+    FilterCommands(editing::Editor& editor, Dialogs& dialogs, services::MessageLoop& loop,
                    system::RandomNumbers& random)
         : target_(editor), dialogs_(dialogs), filters_(loop, random) {}
 
@@ -25,7 +25,7 @@ class FilterCommands {
     std::optional<int> ParamOf(const filters::FilterRow& row);
 
     ImageTarget target_;
-    ImagingDialogs& dialogs_;
+    Dialogs& dialogs_;
     filters::mFilterG filters_;
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "commands/Dialogs.h"
 #include "commands/ImageTarget.h"
-#include "commands/ImagingDialogs.h"
 #include "services/MessageLoop.h"
 
 namespace kestrel::commands {
@@ -9,7 +9,7 @@ namespace kestrel::commands {
 // The commands of the Image menu that change colours, and the gradient of the Tools menu.
 class ImageCommands {
   public:
-    ImageCommands(editing::Editor& editor, ImagingDialogs& dialogs, services::MessageLoop& loop)
+    ImageCommands(editing::Editor& editor, Dialogs& dialogs, services::MessageLoop& loop)
         : editor_(editor), target_(editor), dialogs_(dialogs), loop_(loop) {}
 
     // 0 to 3: colour adjustment, Buttonize, Grayscale, Invert; others are none.
@@ -26,7 +26,7 @@ class ImageCommands {
 
     editing::Editor& editor_;
     ImageTarget target_;
-    ImagingDialogs& dialogs_;
+    Dialogs& dialogs_;
     services::MessageLoop& loop_;
 };
 

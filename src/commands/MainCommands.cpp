@@ -9,8 +9,7 @@
 namespace kestrel::commands {
 
 MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
-                           services::Cdb& cdb, ImagingDialogs& imagingDialogs,
-                           const MainServices& services)
+                           services::Cdb& cdb, Dialogs& dialogs, const MainServices& services)
     : editor_(editor),
       window_(window),
       menus_(menus),
@@ -20,8 +19,8 @@ MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenu
                {editor.Wells(), cdb, services.dialogs, window, services.files, services.random}),
       clipboard_(editor, services.clipboard, window),
       transforms_(editor),
-      images_(editor, imagingDialogs, services.application),
-      filters_(editor, imagingDialogs, services.application, services.random),
+      images_(editor, dialogs, services.application),
+      filters_(editor, dialogs, services.application, services.random),
       recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
               services.systemLcid),
       documents_(editor,

@@ -59,7 +59,7 @@ struct MainMenus {
 class MainCommands : public CommandHandlers {
   public:
     MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus, services::Cdb& cdb,
-                 ImagingDialogs& imagingDialogs, const MainServices& services);
+                 Dialogs& dialogs, const MainServices& services);
 
     DocumentCommands& Documents() { return documents_; }
     ModRecent& Recent() { return recent_; }

@@ -71,8 +71,8 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       editor_(*this, services.application, WindowColor()),
       cdb_(services.dialogs, *this),
       wellCommands_(editor_.Wells(), services.application, cdb_),
-      imagingDialogs_(*this),
-      commands_(editor_, *this, menus_, cdb_, imagingDialogs_, services),
+      dialogs_(*this),
+      commands_(editor_, *this, menus_, cdb_, dialogs_, services),
       dispatch_(commands_, *this) {}
 
 // The controls show what the members hold: they go first.

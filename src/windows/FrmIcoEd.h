@@ -13,7 +13,7 @@
 #include "commands/WellCommands.h"
 #include "editing/Editor.h"
 #include "platform/controls/ImageList.h"
-#include "windows/FrmImagingDialogs.h"
+#include "windows/FrmDialogs.h"
 #include "windows/widgets/MenuView.h"
 #include "windows/widgets/PictureBox.h"
 #include "windows/widgets/StatusBar.h"
@@ -140,7 +140,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     editing::Editor editor_;
     services::Cdb cdb_;
     commands::WellCommands wellCommands_;
-    FrmImagingDialogs imagingDialogs_;
+    FrmDialogs dialogs_;
     commands::MainCommands commands_;
     commands::CommandDispatch dispatch_;
 };

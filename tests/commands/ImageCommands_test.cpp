@@ -13,7 +13,7 @@ using editing::Button;
 using test::At;
 
 // A user who answers what a test says; without an answer the dialog is cancelled.
-class ScriptedImagingDialogs : public ImagingDialogs {
+class ScriptedImagingDialogs : public Dialogs {
   public:
     bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override {
         shown = preview;

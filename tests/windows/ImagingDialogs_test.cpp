@@ -12,7 +12,7 @@
 #include "desktop/Pictures.h"
 #include "i18n/Language.h"
 #include "windows/FrmColAdj.h"
-#include "windows/FrmImagingDialogs.h"
+#include "windows/FrmDialogs.h"
 #include "windows/FrmShades.h"
 #include "windows/frmGamma.h"
 
@@ -195,7 +195,7 @@ class ImagingDialogsTest : public testing::Test {
     bool Adjust() { return dialogs_.AdjustColors(colors_, gdi::Surface(32, 32)); }
 
     QWidget owner_;
-    FrmImagingDialogs dialogs_{owner_};
+    FrmDialogs dialogs_{owner_};
     imaging::ColorAdjustment colors_{document::IconDocument()};
 };
 

@@ -1,4 +1,4 @@
-#include "windows/FrmImagingDialogs.h"
+#include "windows/FrmDialogs.h"
 
 #include "windows/FrmColAdj.h"
 #include "windows/FrmShades.h"
@@ -6,16 +6,15 @@
 
 namespace kestrel::windows {
 
-bool FrmImagingDialogs::AdjustColors(imaging::ColorAdjustment& colors,
-                                     const gdi::Surface& preview) {
+bool FrmDialogs::AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) {
     return FrmColAdj(&owner_, colors, preview).exec() == QDialog::Accepted;
 }
 
-std::optional<int> FrmImagingDialogs::AskGamma() {
+std::optional<int> FrmDialogs::AskGamma() {
     return frmGamma(&owner_).Ask();
 }
 
-std::optional<gdi::Surface> FrmImagingDialogs::AskGradient() {
+std::optional<gdi::Surface> FrmDialogs::AskGradient() {
     return FrmShades(&owner_).Ask();
 }
 

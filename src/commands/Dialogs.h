@@ -8,9 +8,9 @@
 namespace kestrel::commands {
 
 // What the image commands ask the user, each in a modal dialog.
-class ImagingDialogs {
+class Dialogs {
   public:
-    virtual ~ImagingDialogs() = default;
+    virtual ~Dialogs() = default;
     // Lets the user adjust the colours; `preview` is the icon in actual size before that. False
     // when the dialog was cancelled.
     virtual bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) = 0;
