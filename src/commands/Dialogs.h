@@ -3,11 +3,12 @@
 #include <optional>
 
 #include "imaging/ColorAdjustment.h"
+#include "imaging/PasteFit.h"
 #include "platform/gdi/Surface.h"
 
 namespace kestrel::commands {
 
-// What the image commands ask the user, each in a modal dialog.
+// What the commands ask and tell the user in dialogs of the program's own, all of them modal.
 class Dialogs {
   public:
     virtual ~Dialogs() = default;
@@ -18,6 +19,9 @@ class Dialogs {
     virtual std::optional<int> AskGamma() = 0;
     // The pixels of the gradient; none when cancelled.
     virtual std::optional<gdi::Surface> AskGradient() = 0;
+    // How a picture that is larger than the icon is pasted; none when cancelled.
+    virtual std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) = 0;
+    virtual void ShowAbout() = 0;
 };
 
 }  // namespace kestrel::commands

@@ -21,14 +21,10 @@
 namespace kestrel::commands {
 
 // What the commands need of the main window.
-class MainWindow : public DocumentWindow,
-                   public CaptionedWindow,
-                   public services::OwnerWindow,
-                   public PasteDialog {
+class MainWindow : public DocumentWindow, public CaptionedWindow, public services::OwnerWindow {
   public:
     // A button of the toolbar, by its key.
     virtual void EnableButton(std::string_view key, bool enabled) = 0;
-    virtual void ShowAbout() = 0;
     // Whatever else the window shows as text is in another language from now on.
     virtual void LanguageChanged() = 0;
 };
@@ -89,7 +85,7 @@ class MainCommands : public CommandHandlers {
     void mnuLanguageOpts_Click(int index) override;
     void mnuHomePage_Click() override { shell_.mnuHomePage_Click(); }
     void mnuHelp_Click() override { shell_.mnuHelp_Click(); }
-    void mnuAbout_Click() override { window_.ShowAbout(); }
+    void mnuAbout_Click() override { dialogs_.ShowAbout(); }
 
   private:
     void Paste(imaging::PasteMode mode);
@@ -97,6 +93,7 @@ class MainCommands : public CommandHandlers {
     editing::Editor& editor_;
     MainWindow& window_;
     MainMenus& menus_;
+    Dialogs& dialogs_;
     settings::Settings& settings_;
     services::MessageBoxes& boxes_;
     PaletteCommands palette_;

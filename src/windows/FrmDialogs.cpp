@@ -1,7 +1,9 @@
 #include "windows/FrmDialogs.h"
 
+#include "windows/FrmClipData.h"
 #include "windows/FrmColAdj.h"
 #include "windows/FrmShades.h"
+#include "windows/frmAbout.h"
 #include "windows/frmGamma.h"
 
 namespace kestrel::windows {
@@ -16,6 +18,14 @@ std::optional<int> FrmDialogs::AskGamma() {
 
 std::optional<gdi::Surface> FrmDialogs::AskGradient() {
     return FrmShades(&owner_).Ask();
+}
+
+std::optional<imaging::PasteFit> FrmDialogs::AskFit(imaging::PictureSize picture) {
+    return FrmClipData(&owner_, picture).Ask();
+}
+
+void FrmDialogs::ShowAbout() {
+    frmAbout(&owner_).exec();
 }
 
 }  // namespace kestrel::windows

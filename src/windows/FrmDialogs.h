@@ -14,6 +14,8 @@ class FrmDialogs : public commands::Dialogs {
     bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override;
     std::optional<int> AskGamma() override;
     std::optional<gdi::Surface> AskGradient() override;
+    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override;
+    void ShowAbout() override;
 
   private:
     QWidget& owner_;

@@ -12,8 +12,6 @@
 #include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
-#include "windows/FrmClipData.h"
-#include "windows/frmAbout.h"
 
 namespace kestrel::windows {
 
@@ -197,14 +195,6 @@ services::WindowHandle FrmIcoEd::hWnd() const {
 void FrmIcoEd::Unload() {
     // After the command that asked for it has returned.
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
-}
-
-std::optional<imaging::PasteFit> FrmIcoEd::AskFit(imaging::PictureSize picture) {
-    return FrmClipData(this, picture).Ask();
-}
-
-void FrmIcoEd::ShowAbout() {
-    frmAbout(this).exec();
 }
 
 void FrmIcoEd::LanguageChanged() {

@@ -112,8 +112,6 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void SetControlToolTip(std::string_view control, std::string_view text) override;
     void EnableButton(std::string_view key, bool enabled) override;
     void SetButtonToolTip(std::string_view key, std::string_view text) override;
-    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override;
-    void ShowAbout() override;
     void LanguageChanged() override;
 
     QMenuBar* menuBar_ = nullptr;

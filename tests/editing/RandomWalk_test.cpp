@@ -75,7 +75,7 @@ class RandomWalkTest : public test::EditorTest {
                     pixel = Below(3) == 0 ? gdi::kWhite : static_cast<gdi::COLORREF>(random_());
             }
         }
-        dialog_.fit = Below(2) == 0 ? imaging::PasteFit::Shrink : imaging::PasteFit::KeepAspect;
+        dialogs_.fit = Below(2) == 0 ? imaging::PasteFit::Shrink : imaging::PasteFit::KeepAspect;
         const auto mode =
             Below(2) == 0 ? imaging::PasteMode::Opaque : imaging::PasteMode::Transparent;
         EXPECT_EQ(commands_.Paste(mode).has_value(), clipboard_.HasImage());
@@ -116,12 +116,13 @@ class RandomWalkTest : public test::EditorTest {
     }
 
     std::mt19937 random_{4711};
-    test::RecordingWindow dialog_;
+    test::RecordingWindow owner_;
+    test::AnsweredDialogs dialogs_;
     test::ScriptedDialogs desktop_;
-    services::Cdb cdb_{desktop_, dialog_};
+    services::Cdb cdb_{desktop_, owner_};
     commands::WellCommands wells_{editor_.Wells(), application_, cdb_};
     test::MemoryClipboard clipboard_;
-    commands::ClipboardCommands commands_{editor_, clipboard_, dialog_};
+    commands::ClipboardCommands commands_{editor_, clipboard_, dialogs_};
 };
 
 TEST_F(RandomWalkTest, LeavesNothingBehind) {

@@ -32,12 +32,7 @@ class RecordingWindow : public RecordingEditorWindow, public commands::MainWindo
     void EnableButton(std::string_view key, bool enabled) override {
         buttons[std::string(key)] = enabled;
     }
-    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override {
-        asked.push_back(picture);
-        return fit;
-    }
     services::WindowHandle hWnd() const override { return kHandle; }
-    void ShowAbout() override { aboutShown = true; }
     void LanguageChanged() override { languageChanged = true; }
 
     static constexpr services::WindowHandle kHandle = 77;
@@ -46,11 +41,30 @@ class RecordingWindow : public RecordingEditorWindow, public commands::MainWindo
     bool unloaded = false;
     std::map<std::string, std::string> captions;
     std::map<std::string, bool> buttons;
-    // How a large picture is pasted; none cancels.
-    std::optional<imaging::PasteFit> fit;
-    std::vector<imaging::PictureSize> asked;
-    bool aboutShown = false;
     bool languageChanged = false;
+};
+
+// A user who answers the program's dialogs as a test says; without an answer they are cancelled.
+class AnsweredDialogs : public commands::Dialogs {
+  public:
+    bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override {
+        shown = preview;
+        if (adjust) adjust(colors);
+        return adjust && accepts;
+    }
+    std::optional<int> AskGamma() override { return gamma; }
+    std::optional<gdi::Surface> AskGradient() override { return gradient; }
+    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize /*picture*/) override {
+        return fit;
+    }
+    void ShowAbout() override {}
+
+    gdi::Surface shown{0, 0};
+    std::function<void(imaging::ColorAdjustment& colors)> adjust;
+    bool accepts = true;
+    std::optional<int> gamma;
+    std::optional<gdi::Surface> gradient;
+    std::optional<imaging::PasteFit> fit;
 };
 
 // Message boxes that a test answers beforehand; unexpected ones are answered Cancel.
