@@ -7,16 +7,18 @@
 
 namespace kestrel::editing {
 
-Editor::Editor(EditorWindow& window, services::Application& application, gdi::COLORREF windowColor)
-    : window_(window),
-      canvas_(document_, window, windowColor),
-      wells_(window),
-      palette_(window),
+Editor::Editor(const EditorViews& views, gdi::COLORREF windowColor)
+    : grid_(views.grid),
+      window_(views.window),
+      canvas_(document_, views.grid, views.preview, windowColor),
+      wells_(views.colors),
+      palette_(views.colors),
       history_(document_),
-      selection_(document_, canvas_, history_, window),
-      tools_(window, selection_, windowColor),
-      readout_(document_, window) {
-    const ToolParts parts{document_, canvas_, wells_, history_, selection_, window, application};
+      selection_(document_, canvas_, history_, views.grid, views.window),
+      tools_(views, selection_, windowColor),
+      readout_(document_, views.status, views.preview) {
+    const ToolParts parts{document_,  canvas_,    wells_,           history_,
+                          selection_, views.grid, views.application};
     for (const ToolRow& row : ToolTable())
         gridTools_[row.id] = row.make(parts);
     history_.PushUndoSnapshot();
@@ -75,7 +77,7 @@ void Editor::PicMain_MouseUp(Button button, int x, int y) {
     if (x != pointer_.x || y != pointer_.y) {
         PicMain_MouseMove({button == Button::Left, button == Button::Right}, x, y);
     }
-    if (ReleaseTool(button, x, y) == Outcome::OpenPopup) window_.ShowEditingPopup();
+    if (ReleaseTool(button, x, y) == Outcome::OpenPopup) grid_.ShowEditingPopup();
 }
 
 void Editor::EndGesture() {

@@ -3,7 +3,6 @@
 #include "document/Canvas.h"
 #include "document/IconDocument.h"
 #include "editing/ColorWells.h"
-#include "editing/EditorWindow.h"
 #include "editing/ModCollections.h"
 #include "editing/Mouse.h"
 #include "editing/Selection.h"
@@ -18,7 +17,7 @@ struct ToolParts {
     ColorWells& wells;
     ModCollections& history;
     Selection& selection;
-    EditorWindow& window;
+    document::GridDisplay& grid;
     services::Application& application;
 };
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <optional>
 
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 #include "platform/gdi/Surface.h"
 #include "platform/system/RandomNumbers.h"
 
@@ -15,10 +15,10 @@ using PaletteColors = std::array<gdi::COLORREF, 256>;
 enum class PaletteKind { Default, Random, Own };
 enum class PaletteReload { No, Yes };
 
-// The palette's colours and their picture, 16 rows of 16 cells. The window is told of changes.
+// The palette's colours and their picture, 16 rows of 16 cells. The view is told of changes.
 class Palette {
   public:
-    explicit Palette(EditorWindow& window);
+    explicit Palette(ColorsView& view);
 
     const PaletteColors& Colors() const { return colors_; }
     PaletteKind Kind() const { return kind_; }
@@ -38,7 +38,7 @@ class Palette {
     void SetChkPal(bool ticked);
 
   private:
-    EditorWindow& window_;
+    ColorsView& view_;
     PaletteColors colors_{};
     PaletteKind kind_ = PaletteKind::Default;
     gdi::Surface picPal_;

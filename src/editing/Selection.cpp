@@ -33,8 +33,8 @@ void Compose(gdi::Surface& ground, gdi::Rect to, const gdi::Surface& mask,
 }  // namespace
 
 Selection::Selection(document::IconDocument& document, document::Canvas& canvas,
-                     ModCollections& history, EditorWindow& window)
-    : document_(document), canvas_(canvas), history_(history), window_(window) {
+                     ModCollections& history, GridView& grid, EditorWindow& window)
+    : document_(document), canvas_(canvas), history_(history), grid_(grid), window_(window) {
     canvas_.SetOverlay(*this);
 }
 
@@ -198,7 +198,7 @@ void Selection::UpdateMoveCursor(int x, int y) {
 
 void Selection::ShowMoveCursor(bool shown) {
     if (std::exchange(moveCursor_, shown) == shown) return;
-    window_.SetGridCursor(shown ? GridCursor::Move : GridCursor::Cross);
+    grid_.SetGridCursor(shown ? GridCursor::Move : GridCursor::Cross);
 }
 
 gdi::Rect Selection::Cells() const {
@@ -232,7 +232,7 @@ void Selection::DrawMarquee(gdi::Surface& grid) const {
 // Inverted twice, the grid is as it was.
 void Selection::InvertMarquee() {
     DrawMarquee(canvas_.PicMain);
-    window_.RepaintView(document::View::Grid, canvas_.PicMain.Bounds());
+    grid_.RepaintGrid(canvas_.PicMain.Bounds());
 }
 
 void Selection::Enter(State next) {

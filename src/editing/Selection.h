@@ -3,7 +3,7 @@
 #include "document/Canvas.h"
 #include "document/IconDocument.h"
 #include "editing/Corners.h"
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 #include "editing/ModCollections.h"
 #include "editing/Mouse.h"
 
@@ -16,7 +16,7 @@ namespace kestrel::editing {
 class Selection : private document::CanvasOverlay {
   public:
     Selection(document::IconDocument& document, document::Canvas& canvas, ModCollections& history,
-              EditorWindow& window);
+              GridView& grid, EditorWindow& window);
     Selection(const Selection&) = delete;
     Selection& operator=(const Selection&) = delete;
     ~Selection() override = default;
@@ -101,6 +101,7 @@ class Selection : private document::CanvasOverlay {
     document::IconDocument& document_;
     document::Canvas& canvas_;
     ModCollections& history_;
+    GridView& grid_;
     EditorWindow& window_;
 
     State state_ = State::None;

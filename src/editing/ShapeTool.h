@@ -25,7 +25,7 @@ class ShapeTool : public GridTool {
           canvas_(parts.canvas),
           wells_(parts.wells),
           history_(parts.history),
-          window_(parts.window) {}
+          grid_(parts.grid) {}
 
     void Press(Button button, int x, int y) final;
     void Move(Button button, int x, int y) final;
@@ -45,7 +45,7 @@ class ShapeTool : public GridTool {
     document::Canvas& canvas_;
     const ColorWells& wells_;
     ModCollections& history_;
-    EditorWindow& window_;
+    document::GridDisplay& grid_;
     Corners band_;
 };
 

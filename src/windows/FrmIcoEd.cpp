@@ -66,7 +66,7 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       wellPictures_(resources::kWellPictures, resources::kImageListInks),
       barView_(menus_.SmartMenuXP1, pictures_),
       popupView_(menus_.SmartMenuXP2, pictures_),
-      editor_(*this, services.application, WindowColor()),
+      editor_({*this, *this, *this, *this, *this, *this, services.application}, WindowColor()),
       cdb_(services.dialogs, *this),
       wellCommands_(editor_.Wells(), services.application, cdb_),
       dialogs_(*this),
@@ -129,6 +129,7 @@ void FrmIcoEd::RunCommand(const std::function<void()>& command) {
     // What lies under the pointer may have changed.
     const QPoint at = picMain_->mapFromGlobal(QCursor::pos());
     if (picMain_->underMouse()) editor_.PicMain_MouseMove({}, at.x(), at.y());
+    RefreshEditCommands();
 }
 
 void FrmIcoEd::closeEvent(QCloseEvent* event) {
@@ -169,7 +170,6 @@ void FrmIcoEd::dropEvent(QDropEvent* event) {
 
 void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
     RunCommand([&] { commands_.Documents().OpenNamed(pathToOpen); });
-    RefreshEditCommands();
 }
 
 void FrmIcoEd::SetTitle(const std::string& title) {

@@ -24,7 +24,14 @@ namespace kestrel::windows {
 
 // The main window: lays out, paints and forwards events. Positions are in pixels of the client
 // area, which never changes its size.
-class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands::MainWindow {
+class FrmIcoEd : public QWidget,
+                 private editing::GridView,
+                 private editing::PreviewView,
+                 private editing::ToolsView,
+                 private editing::ColorsView,
+                 private editing::StatusView,
+                 private editing::EditorWindow,
+                 private commands::MainWindow {
   public:
     explicit FrmIcoEd(const commands::MainServices& services);
     FrmIcoEd(const FrmIcoEd&) = delete;
@@ -92,15 +99,17 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void ClearStatusPanels();
     bool MoveSelectionByKey(const QKeyEvent& event);
 
-    void RepaintView(document::View view, gdi::Rect area) override;
+    void RepaintGrid(gdi::Rect area) override;
+    void RepaintPreview(gdi::Rect area) override;
     void SetTitle(const std::string& title) override;
     void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override;
     void PrintReadout(editing::StatusPanel panel, std::string_view text) override;
     void SetGridCursor(editing::GridCursor cursor) override;
     void RepaintTools() override;
     void SetToolTipOfTools(std::string_view text) override;
-    void RepaintWells() override;
-    void PaletteChanged() override;
+    void ShowWell(editing::Button button, gdi::COLORREF color, bool transparent) override;
+    void RepaintPalette() override;
+    void ShowChkPal(bool ticked) override;
     void ShowEditingPopup() override;
     void RefreshEditCommands() override;
 

@@ -60,10 +60,13 @@ void FrmIcoEd::ConnectGrid() {
     };
 }
 
-void FrmIcoEd::RepaintView(document::View view, gdi::Rect area) {
-    widgets::SurfaceWidget* widget = view == document::View::Grid ? picMain_ : picIcon_;
-    // While the editor is being built there is no widget yet.
-    if (widget != nullptr) widget->Repaint(area);
+// While the editor is being built there is no widget yet.
+void FrmIcoEd::RepaintGrid(gdi::Rect area) {
+    if (picMain_ != nullptr) picMain_->Repaint(area);
+}
+
+void FrmIcoEd::RepaintPreview(gdi::Rect area) {
+    if (picIcon_ != nullptr) picIcon_->Repaint(area);
 }
 
 void FrmIcoEd::SetGridCursor(GridCursor cursor) {

@@ -122,6 +122,10 @@ void FrmIcoEd::EnableButton(std::string_view key, bool enabled) {
 
 void FrmIcoEd::RefreshEditCommands() {
     commands_.mnuEdit_Click();
+    using editing::PaletteKind;
+    const PaletteKind kind = editor_.ColorPalette().Kind();
+    menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts0", kind == PaletteKind::Default);
+    menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts1", kind == PaletteKind::Random);
 }
 
 }  // namespace kestrel::windows

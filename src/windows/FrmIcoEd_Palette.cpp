@@ -69,15 +69,13 @@ void FrmIcoEd::ConnectPalette() {
     }
 }
 
-void FrmIcoEd::PaletteChanged() {
+void FrmIcoEd::RepaintPalette() {
     // While the editor is being built there is no widget yet.
-    if (picPal_ == nullptr) return;
-    picPal_->update();
-    const editing::Palette& palette = editor_.ColorPalette();
-    chkPal_->setChecked(palette.ChkPal());
-    using editing::PaletteKind;
-    menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts0", palette.Kind() == PaletteKind::Default);
-    menus_.SmartMenuXP1.SetChecked("mnuPaletteOpts1", palette.Kind() == PaletteKind::Random);
+    if (picPal_ != nullptr) picPal_->update();
+}
+
+void FrmIcoEd::ShowChkPal(bool ticked) {
+    chkPal_->setChecked(ticked);
 }
 
 }  // namespace kestrel::windows

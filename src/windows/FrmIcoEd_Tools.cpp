@@ -107,21 +107,15 @@ void FrmIcoEd::SetToolTipOfTools(std::string_view text) {
     QToolTip::hideText();
 }
 
-void FrmIcoEd::RepaintWells() {
-    const auto show = [this](const char* name, Button button) {
-        auto* box = findChild<PictureBox*>(name);
-        if (box == nullptr) return;
-        if (editor_.Wells().IsTransparent(button)) {
-            box->Show({},
-                      widgets::PictureIcon(wellPictures_, resources::kTransparentMarkerPicture));
-        } else {
-            box->Show(desktop::ToColor(editor_.Wells().PenColor(button)), {});
-        }
-    };
-    show("PicForeColor", Button::Left);
-    show("PicBackColor", Button::Right);
-    update(kForeIndicator);
-    update(kBackIndicator);
+void FrmIcoEd::ShowWell(Button button, gdi::COLORREF color, bool transparent) {
+    auto* box = findChild<PictureBox*>(button == Button::Right ? "PicBackColor" : "PicForeColor");
+    if (box == nullptr) return;
+    if (transparent) {
+        box->Show({}, widgets::PictureIcon(wellPictures_, resources::kTransparentMarkerPicture));
+    } else {
+        box->Show(desktop::ToColor(color), {});
+    }
+    update(button == Button::Right ? kBackIndicator : kForeIndicator);
 }
 
 void FrmIcoEd::PaintIndicators(QPainter& painter) {

@@ -41,7 +41,7 @@ struct RecordingHandlers : CommandHandlers {
 
 TEST(CommandDispatch, EveryKeyCallsItsHandlerAlone) {
     RecordingHandlers handlers;
-    test::RecordingWindow window;
+    test::EditorRecorder window;
     CommandDispatch dispatch(handlers, window);
     // Each key with what it calls; keys that call nothing are left out.
     const auto callsOf = [&](const auto& rows, auto click) {

@@ -53,7 +53,7 @@ class DocumentCommandsTest : public testing::Test {
     test::RecordingWindow window_;
     controls::SmartMenuXP menu_;
     ModRecent recent_{menu_, given_.registry, given_.files, given_.boxes, 1033};
-    editing::Editor editor_{window_, given_.application, 0xF0F0F0};
+    editing::Editor editor_{window_.Views(), 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
     services::Cdb cdb_{given_.desktop, window_};
     DocumentCommands commands_{

@@ -95,8 +95,7 @@ class RandomWalkTest : public test::EditorTest {
     // Whoever watches the grid has been told of every pixel that changed.
     void ExpectRepainted(gdi::Surface watched) {
         const gdi::Surface& now = editor_.Views().PicMain;
-        for (const auto& [view, area] : window_.repainted) {
-            if (view != document::View::Grid) continue;
+        for (const gdi::Rect& area : views_.repainted) {
             gdi::BitBlt(watched, area.left, area.top, area.width, area.height, now, area.left,
                         area.top, gdi::RasterOp::Copy);
         }
@@ -116,11 +115,11 @@ class RandomWalkTest : public test::EditorTest {
     }
 
     std::mt19937 random_{4711};
-    test::RecordingWindow owner_;
+    test::OwnerOfDialogs owner_;
     test::AnsweredDialogs dialogs_;
     test::ScriptedDialogs desktop_;
     services::Cdb cdb_{desktop_, owner_};
-    commands::WellCommands wells_{editor_.Wells(), application_, cdb_};
+    commands::WellCommands wells_{editor_.Wells(), views_.application, cdb_};
     test::MemoryClipboard clipboard_;
     commands::ClipboardCommands commands_{editor_, clipboard_, dialogs_};
 };
@@ -139,7 +138,7 @@ TEST_F(RandomWalkTest, LeavesNothingBehind) {
             const gdi::Surface before = editor_.Views().PicMain;
             Step();
             ExpectRepainted(before);
-            window_.repainted.clear();
+            views_.repainted.clear();
             EXPECT_TRUE(fromFile || IsSound());
             EXPECT_TRUE(test::ViewsAreFresh(editor_)) << "step " << i;
             EXPECT_EQ(editor_.Views().PicMain.state.drawMode, gdi::DrawMode::CopyPen);

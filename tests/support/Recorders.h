@@ -17,7 +17,7 @@
 namespace kestrel::test {
 
 // A main window without a screen: remembers what it was told last.
-class RecordingWindow : public RecordingEditorWindow, public commands::MainWindow {
+class RecordingWindow : public EditorRecorder, public commands::MainWindow {
   public:
     void EnableGrid(bool enabled) override { gridEnabled = enabled; }
     void StartTmr() override { tmrStarted = true; }
@@ -42,6 +42,13 @@ class RecordingWindow : public RecordingEditorWindow, public commands::MainWindo
     std::map<std::string, std::string> captions;
     std::map<std::string, bool> buttons;
     bool languageChanged = false;
+};
+
+// The window that dialogs belong to.
+class OwnerOfDialogs : public services::OwnerWindow {
+  public:
+    static constexpr services::WindowHandle kHandle = 77;
+    services::WindowHandle hWnd() const override { return kHandle; }
 };
 
 // A user who answers the program's dialogs as a test says; without an answer they are cancelled.
