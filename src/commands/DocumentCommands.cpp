@@ -56,7 +56,7 @@ void DocumentCommands::mnuNew_Click() {
 
 void DocumentCommands::mnuOpen_Click() {
     if (!PromptSaveChanges()) return;
-    parts_.window.EnableGrid(false);
+    parts_.grid.EnableGrid(false);
     OpenChosenFile();
 }
 
@@ -65,21 +65,21 @@ void DocumentCommands::OpenChosenFile() {
     request.flags = services::kFileMustExist | services::kHideReadOnly;
     const Result<services::ChosenFile> chosen = parts_.cdb.ShowOpen(request);
     if (!chosen) {
-        parts_.window.EnableGrid(true);
+        parts_.grid.EnableGrid(true);
         return;
     }
     parts_.application.DoEvents();
     if (OpenFile(*chosen)) return;
-    parts_.window.EnableGrid(true);
+    parts_.grid.EnableGrid(true);
     ShowError(parts_.boxes, i18n::CannotOpenChosen(chosen->fileTitle));
 }
 
 void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
     if (!PromptSaveChanges()) return;
-    parts_.window.EnableGrid(false);
+    parts_.grid.EnableGrid(false);
     const std::string titleToOpen(system::FileTitleOf(pathToOpen));
     if (OpenFile({pathToOpen, titleToOpen})) return;
-    parts_.window.EnableGrid(true);
+    parts_.grid.EnableGrid(true);
     ShowError(parts_.boxes, i18n::CannotOpenNamed(titleToOpen));
 }
 
@@ -97,7 +97,7 @@ bool DocumentCommands::OpenFile(const services::ChosenFile& file) {
     editor_.ShowOpenedIcon(*icon);
     document_.MultipleIcons = document::DetectMultipleIcons(*bytes);
     parts_.recent.AddRecentFile(document_.FilePath);
-    parts_.window.StartTmr();
+    parts_.grid.StartTmr();
     return true;
 }
 
@@ -160,10 +160,6 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
     document_.Modified = false;
     document_.MultipleIcons = false;
     parts_.recent.AddRecentFile(path);
-}
-
-void DocumentCommands::mnuExit_Click() {
-    parts_.window.Unload();
 }
 
 }  // namespace kestrel::commands

@@ -11,22 +11,20 @@
 
 namespace kestrel::commands {
 
-// What the document commands need of the main window.
-class DocumentWindow {
+// Keeps the mouse off the grid while a file is opened.
+class GridGuard {
   public:
-    virtual ~DocumentWindow() = default;
+    virtual ~GridGuard() = default;
     // A disabled grid ignores the mouse.
     virtual void EnableGrid(bool enabled) = 0;
     // Enables the grid a quarter of a second from now, when the clicks that chose the file are
     // over.
     virtual void StartTmr() = 0;
-    // Asks the window to close, which runs its unload handler.
-    virtual void Unload() = 0;
 };
 
 // What the document commands work with, besides the editor.
 struct DocumentParts {
-    DocumentWindow& window;
+    GridGuard& grid;
     ModRecent& recent;
     services::Cdb& cdb;
     services::Application& application;
@@ -48,7 +46,6 @@ class DocumentCommands {
     void OpenNamed(const std::string& pathToOpen);
     void mnuSave_Click();
     void mnuSaveAs_Click();
-    void mnuExit_Click();
 
     // Asks about unsaved changes; true when the caller may go on.
     bool PromptSaveChanges();

@@ -8,24 +8,24 @@
 
 namespace kestrel::commands {
 
-MainCommands::MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus,
-                           services::Cdb& cdb, Dialogs& dialogs, const MainServices& services)
+MainCommands::MainCommands(editing::Editor& editor, const MainParts& parts,
+                           const MainServices& services)
     : editor_(editor),
-      window_(window),
-      menus_(menus),
-      dialogs_(dialogs),
+      parts_(parts),
       settings_(services.settings),
       boxes_(services.boxes),
-      palette_(editor.ColorPalette(),
-               {editor.Wells(), cdb, services.dialogs, window, services.files, services.random}),
-      clipboard_(editor, services.clipboard, dialogs),
+      cdb_(services.dialogs, parts.owner),
+      palette_(editor.ColorPalette(), {editor.Wells(), cdb_, services.dialogs, parts.owner,
+                                       services.files, services.random}),
+      wells_(editor.Wells(), services.application, cdb_),
+      clipboard_(editor, services.clipboard, parts.dialogs),
       transforms_(editor),
-      images_(editor, dialogs, services.application),
-      filters_(editor, dialogs, services.application, services.random),
-      recent_(menus.SmartMenuXP1, services.registry, services.files, services.boxes,
+      images_(editor, parts.dialogs, services.application),
+      filters_(editor, parts.dialogs, services.application, services.random),
+      recent_(parts.menus.SmartMenuXP1, services.registry, services.files, services.boxes,
               services.systemLcid),
       documents_(editor,
-                 {window, recent_, cdb, services.application, services.boxes, services.files}),
+                 {parts.grid, recent_, cdb_, services.application, services.boxes, services.files}),
       shell_({services.application, services.boxes, services.help, services.files, services.shell},
              services.folders) {}
 
@@ -51,9 +51,9 @@ void MainCommands::mnuEdit_Click() {
                     {"mnuEditOpts6", {}, {}, canPaste},
                     {"mnuEditOpts7", "mnuPopup2Opts3", "Delete", isSelected}};
     for (const auto& [item, popupItem, button, enabled] : commands) {
-        menus_.SmartMenuXP1.SetEnabled(item, enabled);
-        if (!popupItem.empty()) menus_.SmartMenuXP2.SetEnabled(popupItem, enabled);
-        if (!button.empty()) window_.EnableButton(button, enabled);
+        parts_.menus.SmartMenuXP1.SetEnabled(item, enabled);
+        if (!popupItem.empty()) parts_.menus.SmartMenuXP2.SetEnabled(popupItem, enabled);
+        if (!button.empty()) parts_.controls.EnableButton(button, enabled);
     }
 }
 
@@ -92,7 +92,7 @@ void MainCommands::mnuToolsOpts_Click(int index) {
 }
 
 void MainCommands::mnuImage_Click() {
-    controls::SmartMenuXP& menu = menus_.SmartMenuXP1;
+    controls::SmartMenuXP& menu = parts_.menus.SmartMenuXP1;
     for (const auto* item : {"mnuMirrorOpts0", "mnuMirrorOpts1"})
         menu.SetEnabled(item, transforms_.CanMirrorColumns());
     for (const auto* item : {"mnuMirrorOpts2", "mnuMirrorOpts3"})
@@ -113,12 +113,12 @@ void MainCommands::mnuLanguageOpts_Click(int index) {
     constexpr std::array kCodes{i18n::kChinese, i18n::kEnglish};
     if (index < 0 || index >= static_cast<int>(kCodes.size())) return;
     const std::string_view code = kCodes[static_cast<std::size_t>(index)];
-    ApplyMainCaptions(code, window_);
-    ApplyMenuCaptions(code, menus_.SmartMenuXP1, menus_.SmartMenuXP2);
+    ApplyMainCaptions(code, parts_.controls);
+    ApplyMenuCaptions(code, parts_.menus.SmartMenuXP1, parts_.menus.SmartMenuXP2);
     i18n::SetUiLanguage(code);
     settings::SaveLanguage(settings_, code);
     shell_.FollowLanguage();
-    window_.LanguageChanged();
+    parts_.window.LanguageChanged();
 }
 
 }  // namespace kestrel::commands

@@ -13,6 +13,7 @@
 #include "commands/PaletteCommands.h"
 #include "commands/ShellCommands.h"
 #include "commands/TransformCommands.h"
+#include "commands/WellCommands.h"
 #include "editing/Editor.h"
 #include "platform/controls/SmartMenuXP.h"
 #include "services/Cdb.h"
@@ -20,13 +21,21 @@
 
 namespace kestrel::commands {
 
-// What the commands need of the main window.
-class MainWindow : public DocumentWindow, public CaptionedWindow, public services::OwnerWindow {
+// The main window as its commands see it.
+class MainWindow {
+  public:
+    virtual ~MainWindow() = default;
+    // Asks the window to close, which runs its unload handler.
+    virtual void Unload() = 0;
+    // Whatever else the window shows as text is in another language from now on.
+    virtual void LanguageChanged() = 0;
+};
+
+// The controls of the main window.
+class MainControls : public CaptionedWindow {
   public:
     // A button of the toolbar, by its key.
     virtual void EnableButton(std::string_view key, bool enabled) = 0;
-    // Whatever else the window shows as text is in another language from now on.
-    virtual void LanguageChanged() = 0;
 };
 
 // What the main window is given; all of it outlives the window.
@@ -51,15 +60,25 @@ struct MainMenus {
     controls::SmartMenuXP SmartMenuXP2;
 };
 
+// What the commands work with, besides the editor and the services.
+struct MainParts {
+    MainWindow& window;
+    MainControls& controls;
+    GridGuard& grid;
+    const services::OwnerWindow& owner;
+    MainMenus& menus;
+    Dialogs& dialogs;
+};
+
 // The handlers of all commands, each handed to the object whose business it is.
 class MainCommands : public CommandHandlers {
   public:
-    MainCommands(editing::Editor& editor, MainWindow& window, MainMenus& menus, services::Cdb& cdb,
-                 Dialogs& dialogs, const MainServices& services);
+    MainCommands(editing::Editor& editor, const MainParts& parts, const MainServices& services);
 
     DocumentCommands& Documents() { return documents_; }
     ModRecent& Recent() { return recent_; }
     PaletteCommands& PaletteHandlers() { return palette_; }
+    WellCommands& WellHandlers() { return wells_; }
     // Enables the Edit commands that can do something now.
     void mnuEdit_Click();
 
@@ -68,7 +87,7 @@ class MainCommands : public CommandHandlers {
     void mnuSave_Click() override { documents_.mnuSave_Click(); }
     void mnuSaveAs_Click() override { documents_.mnuSaveAs_Click(); }
     void mnuRecent_Click(int slot) override;
-    void mnuExit_Click() override { documents_.mnuExit_Click(); }
+    void mnuExit_Click() override { parts_.window.Unload(); }
     void mnuEditOpts_Click(int index) override;
     void mnuToolsOpts_Click(int index) override;
     // Enables the mirror commands that suit the size of the selection.
@@ -85,18 +104,18 @@ class MainCommands : public CommandHandlers {
     void mnuLanguageOpts_Click(int index) override;
     void mnuHomePage_Click() override { shell_.mnuHomePage_Click(); }
     void mnuHelp_Click() override { shell_.mnuHelp_Click(); }
-    void mnuAbout_Click() override { dialogs_.ShowAbout(); }
+    void mnuAbout_Click() override { parts_.dialogs.ShowAbout(); }
 
   private:
     void Paste(imaging::PasteMode mode);
 
     editing::Editor& editor_;
-    MainWindow& window_;
-    MainMenus& menus_;
-    Dialogs& dialogs_;
+    MainParts parts_;
     settings::Settings& settings_;
     services::MessageBoxes& boxes_;
+    services::Cdb cdb_;
     PaletteCommands palette_;
+    WellCommands wells_;
     ClipboardCommands clipboard_;
     TransformCommands transforms_;
     ImageCommands images_;

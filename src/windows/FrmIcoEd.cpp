@@ -1,12 +1,8 @@
 #include "windows/FrmIcoEd.h"
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QDragEnterEvent>
-#include <QMimeData>
-#include <QScopedValueRollback>
-#include <QUrl>
 
+#include "commands/ToolbarTable.h"
 #include "desktop/Pictures.h"
 #include "document/ApplicationIcon.h"
 #include "i18n/Language.h"
@@ -19,37 +15,12 @@ namespace {
 
 // A pure white window would hide white pixels in the preview.
 constexpr gdi::COLORREF kGreyForWhite = 0xF0F0F0;
-constexpr int kGuardAfterOpen = 250;  // milliseconds
+constexpr QSize kToolbarButton(28, 28);
 
 gdi::COLORREF WindowColor() {
     const gdi::COLORREF color =
         desktop::ToColorRef(QApplication::palette().color(QPalette::Window));
     return color == gdi::kWhite ? kGreyForWhite : color;
-}
-
-// The local file of a URL, byte for byte: its name need not be UTF-8.
-std::string LocalFile(const QUrl& url) {
-    if (!url.isLocalFile()) return {};
-    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
-}
-
-// The file is only read: a source that would move it must not delete it.
-void AcceptToRead(QDropEvent& event) {
-    for (const Qt::DropAction action : {Qt::CopyAction, Qt::LinkAction}) {
-        if (!event.possibleActions().testFlag(action)) continue;
-        event.setDropAction(action);
-        event.accept();
-        return;
-    }
-    event.ignore();
-}
-
-// The first of the dragged files that lies on this machine; empty for none.
-std::string FirstLocalFile(const QMimeData& dragged) {
-    for (const QUrl& url : dragged.urls()) {
-        if (std::string file = LocalFile(url); !file.empty()) return file;
-    }
-    return {};
 }
 
 QIcon ProgramIcon() {
@@ -66,17 +37,17 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       wellPictures_(resources::kWellPictures, resources::kImageListInks),
       barView_(menus_.SmartMenuXP1, pictures_),
       popupView_(menus_.SmartMenuXP2, pictures_),
-      editor_({*this, *this, *this, *this, *this, *this, services.application}, WindowColor()),
-      cdb_(services.dialogs, *this),
-      wellCommands_(editor_.Wells(), services.application, cdb_),
-      dialogs_(*this),
-      commands_(editor_, *this, menus_, cdb_, dialogs_, services),
+      menuBar_(std::make_unique<QMenuBar>(this)),
+      toolbar1_(std::make_unique<widgets::ToolBar>(pictures_, kToolbarButton, this)),
+      editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
+              WindowColor()),
+      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_}, services),
       dispatch_(commands_, *this) {}
 
-// The controls show what the members hold: they go first.
 FrmIcoEd::~FrmIcoEd() {
     clipboard_.onChanged = nullptr;
-    qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+    // No event comes to what is taken down.
+    hide();
 }
 
 void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
@@ -89,20 +60,13 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     setFocus();
 
     LayOutControls();
-    LayOutTools();
     BuildToolbar();
-    LayOutPalette();
+    // The box was there before the buttons.
+    setTabOrder(toolbar1_->Button(commands::ToolbarButtons().back().key), &colors_.ChkPal());
     ShowTextControls(false);
-    commands::ApplyMainCaptions(i18n::UiLanguage(), *this);
+    commands::ApplyMainCaptions(i18n::UiLanguage(), controls_);
     BuildMenus();
     DisableMissingCommands();
-    ConnectGrid();
-    ConnectTools();
-    ConnectPalette();
-    tmr_ = new QTimer(this);
-    tmr_->setInterval(kGuardAfterOpen);
-    tmr_->setSingleShot(true);
-    connect(tmr_, &QTimer::timeout, this, [this] { EnableGrid(true); });
 
     clipboard_.onChanged = [this] { RefreshEditCommands(); };
     commands_.Recent().LoadRecentFiles();
@@ -110,7 +74,7 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     PlaceOnScreen();
     if (!pathToOpen.empty()) commands_.Documents().OpenNamed(pathToOpen);
     RefreshEditCommands();
-    SetStatusPanel(editing::StatusPanel::Zoom, "10:1");
+    statusBar_.SetStatusPanel(editing::StatusPanel::Zoom, "10:1");
 }
 
 bool FrmIcoEd::Form_Unload() {
@@ -121,26 +85,8 @@ bool FrmIcoEd::Form_Unload() {
     return true;
 }
 
-void FrmIcoEd::RunCommand(const std::function<void()>& command) {
-    if (commandRunning_) return;
-    const QScopedValueRollback running(commandRunning_, true);
-    editor_.EndGesture();
-    command();
-    // What lies under the pointer may have changed.
-    const QPoint at = picMain_->mapFromGlobal(QCursor::pos());
-    if (picMain_->underMouse()) editor_.PicMain_MouseMove({}, at.x(), at.y());
-    RefreshEditCommands();
-}
-
-void FrmIcoEd::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    RunCommand([&] { event->setAccepted(Form_Unload()); });
-}
-
-bool FrmIcoEd::event(QEvent* event) {
-    // Also where the window's own colour hides that the desktop's has changed.
-    if (event->type() == QEvent::ApplicationPaletteChange) FollowDesktopColors();
-    return QWidget::event(event);
+void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
+    runner_.Run([&] { commands_.Documents().OpenNamed(pathToOpen); });
 }
 
 // The window and the preview's ground share one colour.
@@ -155,41 +101,10 @@ void FrmIcoEd::FollowDesktopColors() {
     editor_.SetWindowColor(color);
 }
 
-void FrmIcoEd::dragEnterEvent(QDragEnterEvent* event) {
-    // While a command asks something, a file could not be opened.
-    if (!commandRunning_ && !FirstLocalFile(*event->mimeData()).empty()) AcceptToRead(*event);
-}
-
-void FrmIcoEd::dropEvent(QDropEvent* event) {
-    AcceptToRead(*event);
-    // The program that dropped the file waits until this returns; a question must not keep it.
-    QMetaObject::invokeMethod(
-        this, [this, file = FirstLocalFile(*event->mimeData())] { Form_OLEDragDrop(file); },
-        Qt::QueuedConnection);
-}
-
-void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
-    RunCommand([&] { commands_.Documents().OpenNamed(pathToOpen); });
-}
-
 void FrmIcoEd::SetTitle(const std::string& title) {
     // "[*]" in a window title is the desktop library's place for a modified mark.
     setWindowTitle(
         QString::fromStdString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
-}
-
-void FrmIcoEd::EnableGrid(bool enabled) {
-    // A tick that is still due belongs to an earlier Open.
-    tmr_->stop();
-    picMain_->setEnabled(enabled);
-}
-
-void FrmIcoEd::StartTmr() {
-    tmr_->start();
-}
-
-services::WindowHandle FrmIcoEd::hWnd() const {
-    return static_cast<services::WindowHandle>(winId());
 }
 
 void FrmIcoEd::Unload() {
@@ -199,7 +114,7 @@ void FrmIcoEd::Unload() {
 
 void FrmIcoEd::LanguageChanged() {
     editor_.ShowTitle();
-    ClearStatusPanels();
+    statusBar_.Clear();
     FitMenuBar();
 }
 

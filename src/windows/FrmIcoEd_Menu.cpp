@@ -5,15 +5,12 @@
 
 #include "commands/ModLanguage.h"
 #include "commands/ToolbarTable.h"
-#include "desktop/Text.h"
 #include "i18n/Language.h"
 #include "windows/FrmIcoEd.h"
 
 namespace kestrel::windows {
 
 namespace {
-
-using desktop::ToText;
 
 constexpr std::string_view kPopupRoot = "mnuEdit";
 
@@ -30,10 +27,10 @@ void FrmIcoEd::BuildMenus() {
     commands::BuildMenuBar(bar, popup);
     commands::ApplyMenuCaptions(i18n::UiLanguage(), bar, popup);
     bar.onClick = [this](std::string_view key) {
-        RunCommand([&] { dispatch_.SmartMenuXP1_Click(key); });
+        runner_.Run([&] { dispatch_.SmartMenuXP1_Click(key); });
     };
     popup.onClick = [this](std::string_view key) {
-        RunCommand([&] { dispatch_.SmartMenuXP2_Click(key); });
+        runner_.Run([&] { dispatch_.SmartMenuXP2_Click(key); });
     };
     barView_.FillBar(*menuBar_);
 }
@@ -42,10 +39,10 @@ void FrmIcoEd::BuildToolbar() {
     for (const commands::ToolbarButton& button : commands::ToolbarButtons())
         toolbar1_->AddButton(button.key, button.picture);
     toolbar1_->onClick = [this](std::string_view key) {
-        RunCommand([&] { dispatch_.Toolbar1_ButtonClick(key); });
+        runner_.Run([&] { dispatch_.Toolbar1_ButtonClick(key); });
     };
     toolbar1_->onMouseMove = [this](int x) { Toolbar1_MouseMove(x); };
-    toolbar1_->onLeave = [this] { SetStatusPanel(editing::StatusPanel::Hint, {}); };
+    toolbar1_->onLeave = [this] { statusBar_.SetStatusPanel(editing::StatusPanel::Hint, {}); };
 }
 
 void FrmIcoEd::DisableMissingCommands() {
@@ -58,23 +55,18 @@ void FrmIcoEd::DisableMissingCommands() {
 void FrmIcoEd::Toolbar1_MouseMove(int x) {
     const auto buttons = commands::ToolbarButtons();
     const auto index = static_cast<std::size_t>(x / toolbar1_->ButtonWidth()) % buttons.size();
-    SetStatusPanel(editing::StatusPanel::Hint, buttons[index].status.Now());
+    statusBar_.SetStatusPanel(editing::StatusPanel::Hint, buttons[index].status.Now());
 }
 
 QMenu* FrmIcoEd::EditingPopup() {
     return popupView_.Popup(kPopupRoot);
 }
 
-void FrmIcoEd::ShowEditingPopup() {
-    EditingPopup()->popup(QCursor::pos());
-}
-
 void FrmIcoEd::ShowEditingPopupByKey() {
     // The button that drags would choose an item where it comes up.
     if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-    const bool overGrid = picMain_->underMouse();
-    EditingPopup()->popup(overGrid ? QCursor::pos()
-                                   : picMain_->mapToGlobal(picMain_->rect().center()));
+    const bool overGrid = grid_.PicMain().underMouse();
+    EditingPopup()->popup(overGrid ? QCursor::pos() : grid_.mapToGlobal(grid_.rect().center()));
 }
 
 void FrmIcoEd::contextMenuEvent(QContextMenuEvent* event) {
@@ -88,36 +80,14 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
         menuBar_->setActiveAction(menuBar_->actions().constFirst());
     } else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) {
-        RunCommand([this] { dispatch_.SmartMenuXP1_Click("mnuHelp2"); });
+        runner_.Run([this] { dispatch_.SmartMenuXP1_Click("mnuHelp2"); });
     } else if (event->key() == Qt::Key_Escape) {
         // From the toolbar back to the window, from there out of the selection.
-        if (hasFocus()) RunCommand([this] { editor_.Selected().DropSelection(); });
+        if (hasFocus()) runner_.Run([this] { editor_.Selected().DropSelection(); });
         setFocus();
     } else if (!MoveSelectionByKey(*event)) {
         QWidget::keyPressEvent(event);
     }
-}
-
-void FrmIcoEd::SetControlCaption(std::string_view control, std::string_view text) {
-    if (auto* widget = findChild<QWidget*>(ToText(control)); widget != nullptr) {
-        // The place of the icon's format is narrow: its size stands above its depth.
-        widget->setProperty(
-            "text", ToText(text).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
-    }
-}
-
-void FrmIcoEd::SetControlToolTip(std::string_view control, std::string_view text) {
-    if (auto* widget = findChild<QWidget*>(ToText(control)); widget != nullptr) {
-        widget->setToolTip(ToText(text));
-    }
-}
-
-void FrmIcoEd::SetButtonToolTip(std::string_view key, std::string_view text) {
-    toolbar1_->SetToolTip(key, text);
-}
-
-void FrmIcoEd::EnableButton(std::string_view key, bool enabled) {
-    toolbar1_->SetEnabled(key, enabled);
 }
 
 void FrmIcoEd::RefreshEditCommands() {

@@ -34,6 +34,7 @@ TEST_F(EditorTest, AGestureBelongsToTheButtonThatBeganIt) {
     editor_.PicMain_MouseUp(Button::Right, 15, 5);
     editor_.PicMain_MouseMove(Held(Button::Left), 25, 5);
     EXPECT_EQ(OpaquePixels(), 2);
+    EXPECT_FALSE(editor_.CanUndo()) << "what it has drawn so far is no entry of its own";
     EXPECT_EQ(editor_.History().UndoCount(), 1U);
     // The release was lost to a dialog: the next press of the button ends the old stroke first.
     editor_.PicMain_MouseDown(Button::Left, 35, 5);

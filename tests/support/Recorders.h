@@ -16,34 +16,6 @@
 
 namespace kestrel::test {
 
-// A main window without a screen: remembers what it was told last.
-class RecordingWindow : public EditorRecorder, public commands::MainWindow {
-  public:
-    void EnableGrid(bool enabled) override { gridEnabled = enabled; }
-    void StartTmr() override { tmrStarted = true; }
-    void Unload() override { unloaded = true; }
-    void SetControlCaption(std::string_view control, std::string_view text) override {
-        captions[std::string(control)] = text;
-    }
-    void SetControlToolTip(std::string_view /*control*/, std::string_view /*text*/) override {}
-    void SetButtonToolTip(std::string_view key, std::string_view text) override {
-        captions[std::string(key)] = text;
-    }
-    void EnableButton(std::string_view key, bool enabled) override {
-        buttons[std::string(key)] = enabled;
-    }
-    services::WindowHandle hWnd() const override { return kHandle; }
-    void LanguageChanged() override { languageChanged = true; }
-
-    static constexpr services::WindowHandle kHandle = 77;
-    bool gridEnabled = true;
-    bool tmrStarted = false;
-    bool unloaded = false;
-    std::map<std::string, std::string> captions;
-    std::map<std::string, bool> buttons;
-    bool languageChanged = false;
-};
-
 // The window that dialogs belong to.
 class OwnerOfDialogs : public services::OwnerWindow {
   public:

@@ -1,31 +1,15 @@
 #include <QCheckBox>
-#include <QColorDialog>
-#include <QFile>
-#include <QTemporaryDir>
 
-#include "desktop/Pictures.h"
-#include "desktop/QtDesktopDialogs.h"
-#include "tests/support/Typist.h"
 #include "tests/windows/WindowTest.h"
 
 namespace kestrel::windows {
 namespace {
-
-using test::Typist;
-
-void DoubleClick(QWidget& widget, Qt::MouseButton button, QPoint at) {
-    QTest::mouseClick(&widget, button, {}, at);
-    QTest::mouseDClick(&widget, button, {}, at);
-    QTest::mouseRelease(&widget, button, {}, at);
-}
 
 class PaletteWindowTest : public test::WindowTest {
   protected:
     void Click(Qt::MouseButton button, QPoint at) {
         QTest::mouseClick(&window_.PicPal(), button, {}, at);
     }
-    gdi::COLORREF Cell(std::size_t cell) { return Editor().ColorPalette().Colors()[cell]; }
-    QCheckBox* ChkPal() { return window_.findChild<QCheckBox*>("ChkPal"); }
     // Which of the two palettes has the mark.
     std::string Marks() {
         std::string marks;
@@ -35,123 +19,57 @@ class PaletteWindowTest : public test::WindowTest {
     }
 };
 
-TEST_F(PaletteWindowTest, MouseAndMenuUseIt) {
-    EXPECT_EQ(window_.PicPal().geometry(), QRect(344, 184, 208, 208));
+TEST_F(PaletteWindowTest, ClicksPickAndDoubleClicksEdit) {
     Click(Qt::LeftButton, {20, 5});
-    Click(Qt::RightButton, {207, 207});
-    Click(Qt::MiddleButton, {40, 40});
     EXPECT_EQ(Editor().Wells().PenColor(editing::Button::Left), 0x80U);
-    EXPECT_TRUE(given_.desktop.colors.empty());
-    EXPECT_EQ(Marks(), "x-");
     given_.desktop.color = 0x123456;
-    DoubleClick(window_.PicPal(), Qt::RightButton, {33, 20});
-    EXPECT_EQ(Cell(18), 0x123456U);
-    EXPECT_EQ(Marks(), "--");
-    EXPECT_TRUE(ScreenIsFresh());
-    // The release of another button is no double click.
     QTest::mouseDClick(&window_.PicPal(), Qt::LeftButton, {}, {33, 20});
+    // The release of another button is no double click, and the pair is over with the next press.
     QTest::mouseRelease(&window_.PicPal(), Qt::RightButton, {}, {33, 20});
-    QTest::mousePress(&window_.PicPal(), Qt::LeftButton, {}, {33, 20});
+    Click(Qt::LeftButton, {33, 20});
+    EXPECT_TRUE(given_.desktop.colors.empty());
+    QTest::mouseDClick(&window_.PicPal(), Qt::LeftButton, {}, {33, 20});
     QTest::mouseRelease(&window_.PicPal(), Qt::LeftButton, {}, {33, 20});
-    EXPECT_EQ(given_.desktop.colors.size(), 1U);
+    EXPECT_EQ(Editor().ColorPalette().Colors()[18], 0x123456U);
+    EXPECT_TRUE(ScreenIsFresh());
+}
 
+TEST_F(PaletteWindowTest, TheMenuTellsWhichPaletteIsShown) {
+    auto* chkPal = window_.findChild<QCheckBox*>("ChkPal");
+    EXPECT_EQ(Marks(), "x-");
     Item("mnuPaletteOpts1")->trigger();
     EXPECT_EQ(Marks(), "-x");
     EXPECT_TRUE(ScreenIsFresh());
-    QTest::mouseClick(ChkPal(), Qt::LeftButton);
-    EXPECT_EQ(QApplication::focusWidget(), &window_);
+    QTest::mouseClick(chkPal, Qt::LeftButton);
+    given_.desktop.color = 0x123456;
     Click(Qt::LeftButton, {1, 1});
-    EXPECT_EQ(Cell(0), 0x123456U);
     EXPECT_EQ(Marks(), "--");
     Item("mnuPaletteOpts0")->trigger();
-    EXPECT_EQ(Cell(0), 0U);
     EXPECT_EQ(Marks(), "x-");
-    EXPECT_TRUE(ChkPal()->isChecked());
-    Click(Qt::LeftButton, {1, 1});
+    EXPECT_TRUE(chkPal->isChecked());
     Item("mnuNew")->trigger();
-    EXPECT_EQ(Cell(0), 0U);
-    EXPECT_EQ(Marks(), "x-");
-    EXPECT_FALSE(ChkPal()->isChecked());
+    EXPECT_FALSE(chkPal->isChecked());
     EXPECT_TRUE(ScreenIsFresh());
 }
 
-TEST_F(PaletteWindowTest, HintsAndFailuresAreInBothLanguages) {
+TEST_F(PaletteWindowTest, ItsButtonsTellFailuresInTheLanguageInForce) {
     given_.desktop.choice = "/none.PAL";
     given_.files.writeError = {28, "No space left on device"};
-    for (const bool english : {false, true}) {
-        i18n::SetUiLanguage(english ? i18n::kEnglish : i18n::kChinese);
-        given_.boxes.shown.clear();
-        for (const auto& [name, hint] :
-             {std::pair{"PicPal", english ? "Self-Define Color" : "双击调色板 自定义颜色"},
-              {"ImgLoadPalette", english ? "Load Palette" : "打开调色板"},
-              {"ImgSavePalette", english ? "Save Palette" : "保存调色板"}}) {
-            QTest::mouseMove(Control(name), QPoint(5, 5));
-            EXPECT_EQ(Hint(), hint);
-            QTest::mouseClick(Control(name), Qt::RightButton);
-            QTest::mouseClick(Control(name), Qt::LeftButton);
-        }
-        ASSERT_EQ(given_.boxes.shown.size(), 2U);
-        EXPECT_EQ(given_.boxes.shown[0].text + "|" + given_.boxes.shown[1].text,
-                  english ? "No such file or directory.\r\n\r\nUnable to load the palette file.|"
-                            "No space left on device.\r\n\r\nUnable to save the palette file."
-                          : "No such file or directory.\r\n\r\n不能打开调色板文件.|"
-                            "No space left on device.\r\n\r\n不能保存调色板文件.");
-        EXPECT_EQ(given_.boxes.shown[0].title,
-                  english ? "KestrelIconEditor - Error" : "KestrelIconEditor - 错误");
+    const std::tuple<const char*, std::string_view, const char*> cases[] = {
+        {"ImgLoadPalette", i18n::kEnglish,
+         "No such file or directory.\r\n\r\nUnable to load the palette file."},
+        {"ImgLoadPalette", i18n::kChinese, "No such file or directory.\r\n\r\n不能打开调色板文件."},
+        {"ImgSavePalette", i18n::kEnglish,
+         "No space left on device.\r\n\r\nUnable to save the palette file."},
+        {"ImgSavePalette", i18n::kChinese, "No space left on device.\r\n\r\n不能保存调色板文件."},
+    };
+    for (const auto& [button, language, text] : cases) {
+        i18n::SetUiLanguage(language);
+        QTest::mouseClick(Control(button), Qt::RightButton);
+        QTest::mouseClick(Control(button), Qt::LeftButton);
+        EXPECT_EQ(given_.boxes.shown.back().text, text);
     }
-    EXPECT_EQ(Marks(), "x-");
-}
-
-// The same window with the desktop's own dialogs.
-TEST(PaletteDialogs, AreUsedByKeyboard) {
-    const QTemporaryDir folder;
-    QFile existing(folder.filePath("old.PAL"));
-    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
-    existing.close();
-    test::FakeServices given;
-    desktop::QtDesktopDialogs dialogs;
-    FrmIcoEd window(given.Given(dialogs));
-    window.Form_Load("");
-    window.show();
-    const auto choose = [&](const char* key, const QString& typed,
-                            QMessageBox::StandardButton answer = QMessageBox::No) {
-        Typist typist(typed, answer);
-        window.BarAction(key)->trigger();
-        return typist.boxes.size();
-    };
-    const auto saved = [&](const char* name) {
-        return given.files.contents.contains(folder.filePath(name).toStdString());
-    };
-    const auto cell = [&] { return window.OpenEditor().ColorPalette().Colors()[1]; };
-    window.BarAction("mnuPaletteOpts1")->trigger();
-    EXPECT_EQ(choose("mnuPaletteOpts4", folder.filePath("mine")), 0);
-    EXPECT_TRUE(saved("mine.PAL"));
-    EXPECT_EQ(choose("mnuPaletteOpts4", {}), 0);
-    EXPECT_EQ(given.files.contents.size(), 1U) << "cancelled";
-    EXPECT_EQ(choose("mnuPaletteOpts4", "old"), 1) << "in the folder used last, and not replaced";
-    EXPECT_FALSE(saved("old.PAL"));
-    EXPECT_EQ(choose("mnuPaletteOpts4", "old.pal", QMessageBox::Yes), 1);
-    EXPECT_TRUE(saved("old.PAL"));
-
-    window.BarAction("mnuPaletteOpts0")->trigger();
-    EXPECT_EQ(choose("mnuPaletteOpts3", {}), 0);
-    EXPECT_EQ(choose("mnuPaletteOpts3", "mine"), 1) << "is not on the disk";
-    EXPECT_EQ(cell(), 0x80U);
-    EXPECT_EQ(choose("mnuPaletteOpts3", "old"), 0);
-    EXPECT_EQ(cell(), 0xD091BBU);
-
-    QTimer::singleShot(0, [] {
-        auto* dialog = qobject_cast<QColorDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        for (auto* edit : dialog->findChildren<QLineEdit*>()) {
-            if (!edit->text().startsWith('#')) continue;
-            edit->selectAll();
-            QTest::keyClicks(edit, "#112233");
-        }
-        QTest::keyClick(dialog, Qt::Key_Return);
-    });
-    DoubleClick(window.PicPal(), Qt::LeftButton, {20, 5});
-    EXPECT_EQ(cell(), 0x332211U);
+    EXPECT_EQ(given_.boxes.shown.size(), std::size(cases));
 }
 
 }  // namespace
