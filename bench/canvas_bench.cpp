@@ -25,12 +25,12 @@ gdi::IconPlanes ColourfulIcon() {
 
 // Grid and preview rebuilt from the planes.
 void RedrawAll(benchmark::State& state) {
-    test::RecordingEditorWindow window;
+    test::EditorRecorder views;
     document::IconDocument icon;
     icon.ChangePlanes() = ColourfulIcon();
-    document::Canvas canvas(icon, window, kWindowColor);
+    document::Canvas canvas(icon, views, views, kWindowColor);
     for (auto _ : state) {
-        window.repainted.clear();
+        views.repainted.clear();
         canvas.RedrawAll();
     }
 }
@@ -38,12 +38,12 @@ BENCHMARK(RedrawAll);
 
 // One pointer event of a pencil stroke: the cell in planes and views, and the readouts.
 void PencilCell(benchmark::State& state) {
-    test::RecordingEditorWindow window;
-    editing::Editor editor(window, kWindowColor);
+    test::EditorRecorder views;
+    editing::Editor editor(views.Views(), kWindowColor);
     editor.PicMain_MouseDown(editing::Button::Left, 5, 5);
     int x = 0;
     for (auto _ : state) {
-        window.repainted.clear();
+        views.repainted.clear();
         x = (x + gdi::kIconSize / 3) % 320;
         editor.PicMain_MouseMove({true, false}, x, 5);
     }
@@ -52,10 +52,10 @@ BENCHMARK(PencilCell);
 
 // From the button's release: the undo snapshot.
 void PencilClick(benchmark::State& state) {
-    test::RecordingEditorWindow window;
-    editing::Editor editor(window, kWindowColor);
+    test::EditorRecorder views;
+    editing::Editor editor(views.Views(), kWindowColor);
     for (auto _ : state) {
-        window.repainted.clear();
+        views.repainted.clear();
         editor.PicMain_MouseDown(editing::Button::Left, 5, 5);
         editor.PicMain_MouseUp(editing::Button::Left, 5, 5);
     }

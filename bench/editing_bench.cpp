@@ -13,14 +13,14 @@ using editing::Button;
 struct Bench {
     explicit Bench(editing::ToolId tool) { editor.Tools().SelectTool(tool); }
     void Drag(int from, int to) {
-        window.repainted.clear();
+        views.repainted.clear();
         editor.PicMain_MouseDown(Button::Left, from, from);
         editor.PicMain_MouseMove({true, false}, to, to);
         editor.PicMain_MouseUp(Button::Left, to, to);
     }
 
-    test::RecordingEditorWindow window;
-    editing::Editor editor{window, 0xF0F0F0};
+    test::EditorRecorder views;
+    editing::Editor editor{views.Views(), 0xF0F0F0};
 };
 
 // From press to release: the whole icon filled, views and history.
@@ -49,7 +49,7 @@ void MoveSelection(benchmark::State& state) {
     bench.editor.PicMain_MouseDown(Button::Left, 155, 155);
     int x = 155;
     for (auto _ : state) {
-        bench.window.repainted.clear();
+        bench.views.repainted.clear();
         x = x == 155 ? 165 : 155;
         bench.editor.PicMain_MouseMove({true, false}, x, 155);
     }
@@ -84,7 +84,7 @@ void UndoAndRedo(benchmark::State& state) {
         bench.editor.History().PushUndoSnapshot();
     }
     for (auto _ : state) {
-        bench.window.repainted.clear();
+        bench.views.repainted.clear();
         bench.editor.PopUndoSnapshot();
         bench.editor.PopRedoSnapshot();
     }

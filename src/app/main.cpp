@@ -5,6 +5,7 @@
 
 #include "app/Startup.h"
 #include "desktop/LibraryTranslator.h"
+#include "desktop/QtApplication.h"
 #include "desktop/QtClipboard.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/QtHelpViewer.h"
@@ -79,6 +80,7 @@ int main(int argc, char* argv[]) {
     const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
     if (!values) return 0;
 
+    desktop::QtApplication program;
     desktop::QtDesktopDialogs dialogs(boxes);
     desktop::QtClipboard clipboard;
     desktop::QtShell shell;
@@ -86,8 +88,8 @@ int main(int argc, char* argv[]) {
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};
     system::RandomNumbers random(SeedOfClock());
-    windows::FrmIcoEd window({dialogs, clipboard, boxes, help, files, registry, shell, random,
-                              settings, folders, facts.systemLcid});
+    windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
+                              random, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv), files));
     window.show();

@@ -40,7 +40,7 @@ Result<void> ClipboardCommands::Paste(imaging::PasteMode mode) {
     if (!picture) return tl::unexpected(picture.error());
     imaging::PictureSize size{picture->Width(), picture->Height()};
     if (!imaging::FitsIcon(size)) {
-        const auto fit = dialog_.AskFit(size);
+        const auto fit = dialogs_.AskFit(size);
         if (!fit) return Fail(kDialogCancelled, "Cancel was selected");
         size = imaging::FittedSize(size, *fit);
     }

@@ -1,25 +1,17 @@
 #pragma once
 
-#include <optional>
-
+#include "commands/Dialogs.h"
 #include "editing/Editor.h"
 #include "imaging/PasteFit.h"
 #include "services/Clipboard.h"
 
 namespace kestrel::commands {
 
-// Asks how a picture on the clipboard is made to fit the icon; none: not at all.
-class PasteDialog {
-  public:
-    virtual ~PasteDialog() = default;
-    virtual std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) = 0;
-};
-
 // The selection to the clipboard and back. Transparent pixels travel as white ones without alpha.
 class ClipboardCommands {
   public:
-    ClipboardCommands(editing::Editor& editor, services::Clipboard& clipboard, PasteDialog& dialog)
-        : editor_(editor), clipboard_(clipboard), dialog_(dialog) {}
+    ClipboardCommands(editing::Editor& editor, services::Clipboard& clipboard, Dialogs& dialogs)
+        : editor_(editor), clipboard_(clipboard), dialogs_(dialogs) {}
 
     bool CanPaste() const { return clipboard_.HasImage(); }
 
@@ -33,7 +25,7 @@ class ClipboardCommands {
   private:
     editing::Editor& editor_;
     services::Clipboard& clipboard_;
-    PasteDialog& dialog_;
+    Dialogs& dialogs_;
 };
 
 }  // namespace kestrel::commands

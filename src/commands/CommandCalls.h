@@ -21,8 +21,8 @@ struct ClassOfMember<Member Class::*> {
 template <auto kFunction>
 auto& ObjectOf(Commands& c) {
     using Class = typename ClassOfMember<decltype(kFunction)>::Type;
-    return std::get<Class&>(std::tie(c.editor, c.editor.Selected(), c.window, c.palette,
-                                     c.clipboard, c.images, c.documents, c.shell));
+    return std::get<Class&>(std::tie(c.editor, c.editor.Selected(), c.parts.window, c.parts.dialogs,
+                                     c.palette, c.clipboard, c.images, c.documents, c.shell));
 }
 
 template <auto kFunction, auto... kArguments>

@@ -38,7 +38,7 @@ constexpr auto kMenuBar = std::to_array<CommandRow>({
     {"Separator12", "mnuFile", Separator},
     {"mnuPrint", "mnuFile", IconItem, {"&Print", "打印  "}, "Ctrl+P", 24, kNotBuilt},
     {"Separator13", "mnuFile", Separator},
-    {"mnuExit", "mnuFile", IconItem, {"E&xit", "关闭  "}, "Alt+F4", 39, Call<&DocumentCommands::mnuExit_Click>},
+    {"mnuExit", "mnuFile", IconItem, {"E&xit", "关闭  "}, "Alt+F4", 39, Call<&MainWindow::Unload>},
     {"mnuEdit", "", Item, {"&Edit ", "(E) 编辑  "}},
     {"mnuEditOpts0", "mnuEdit", IconItem, {"&Undo", "撤消  "}, "Ctrl+Z", 5, kUndo, kCanUndo},
     {"mnuEditOpts1", "mnuEdit", IconItem, {"&Redo", "恢复  "}, "Ctrl+Y", 6, kRedo, kCanRedo},
@@ -148,7 +148,7 @@ constexpr auto kMenuBar = std::to_array<CommandRow>({
     {"mnuHomePage", "mnuHelp", IconItem, {"Home Page", "主页  "}, "", 20, Call<&ShellCommands::mnuHomePage_Click>},
     {"mnuHelp2", "mnuHelp", IconItem, {"&Help", "帮助  "}, "", 12, kHelp},
     {"Separator60", "mnuHelp", Separator},
-    {"mnuAbout", "mnuHelp", Item, {"&About...", "关于...  "}, "", 0, Call<&MainWindow::ShowAbout>},
+    {"mnuAbout", "mnuHelp", Item, {"&About...", "关于...  "}, "", 0, Call<&Dialogs::ShowAbout>},
 });
 // clang-format on
 

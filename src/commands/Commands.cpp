@@ -20,20 +20,23 @@ void Refresh(controls::SmartMenuXP& menu, std::span<const CommandRow> rows, Comm
 
 }  // namespace
 
-Commands::Commands(editing::Editor& openEditor, MainWindow& mainWindow, MainMenus& mainMenus,
-                   services::Cdb& cdb, ImagingDialogs& imagingDialogs, const MainServices& services)
+Commands::Commands(editing::Editor& openEditor, const MainParts& mainParts,
+                   const MainServices& services)
     : editor(openEditor),
-      window(mainWindow),
-      menus(mainMenus),
+      parts(mainParts),
       boxes(services.boxes),
-      palette(editor.ColorPalette(), {editor.Wells(), cdb, services.dialogs, window, boxes,
+      cdb(services.dialogs, parts.owner),
+      palette(editor.ColorPalette(), {editor.Wells(), cdb, services.dialogs, parts.owner, boxes,
                                       services.files, services.random}),
-      clipboard(editor, services.clipboard, window),
-      images(editor, imagingDialogs, window, services.random),
-      recent(menus.SmartMenuXP1, services.registry, services.files, boxes, services.systemLcid),
-      documents(editor, window, recent, cdb, boxes, services.files),
-      shell(window, {boxes, services.help, services.files, services.shell}, services.folders),
-      language(window, menus, services.settings, shell) {}
+      wells(editor.Wells(), services.application, cdb),
+      clipboard(editor, services.clipboard, parts.dialogs),
+      images(editor, parts.dialogs, services.application, services.random),
+      recent(parts.menus.SmartMenuXP1, services.registry, services.files, boxes,
+             services.systemLcid),
+      documents(editor, {parts.grid, recent, cdb, services.application, boxes, services.files}),
+      shell({services.application, boxes, services.help, services.files, services.shell},
+            services.folders),
+      language(parts, services.settings, shell) {}
 
 void Commands::Click(std::span<const CommandRow> rows, std::string_view key) {
     const auto row = std::ranges::find(rows, key, &CommandRow::key);
@@ -42,10 +45,10 @@ void Commands::Click(std::span<const CommandRow> rows, std::string_view key) {
 }
 
 void Commands::RefreshStates() {
-    Refresh(menus.SmartMenuXP1, MenuBarRows(), *this);
-    Refresh(menus.SmartMenuXP2, PopupRows(), *this);
+    Refresh(parts.menus.SmartMenuXP1, MenuBarRows(), *this);
+    Refresh(parts.menus.SmartMenuXP2, PopupRows(), *this);
     for (const CommandRow& row : ToolbarRows()) {
-        if (row.enabled != Always) window.EnableButton(row.key, IsEnabled(row, *this));
+        if (row.enabled != Always) parts.controls.EnableButton(row.key, IsEnabled(row, *this));
     }
 }
 

@@ -13,6 +13,7 @@
 #include "commands/ModRecent.h"
 #include "commands/PaletteCommands.h"
 #include "commands/ShellCommands.h"
+#include "commands/WellCommands.h"
 #include "editing/Editor.h"
 #include "services/Cdb.h"
 #include "settings/Settings.h"
@@ -21,6 +22,7 @@ namespace kestrel::commands {
 
 // What the main window is given; all of it outlives the window.
 struct MainServices {
+    services::Application& application;
     services::DesktopDialogs& dialogs;
     services::Clipboard& clipboard;
     services::MessageBoxes& boxes;
@@ -36,8 +38,7 @@ struct MainServices {
 
 // The objects behind the rows of the command table, and what all rows have in common.
 struct Commands {
-    Commands(editing::Editor& openEditor, MainWindow& mainWindow, MainMenus& mainMenus,
-             services::Cdb& cdb, ImagingDialogs& imagingDialogs, const MainServices& services);
+    Commands(editing::Editor& openEditor, const MainParts& mainParts, const MainServices& services);
 
     // What a click on an item or a button does: runs the row with this key among `rows`, if there
     // is one, and refreshes the states.
@@ -46,10 +47,11 @@ struct Commands {
     void RefreshStates();
 
     editing::Editor& editor;
-    MainWindow& window;
-    MainMenus& menus;
+    MainParts parts;
     services::MessageBoxes& boxes;
+    services::Cdb cdb;
     PaletteCommands palette;
+    WellCommands wells;
     ClipboardCommands clipboard;
     ImageCommands images;
     ModRecent recent;

@@ -30,22 +30,15 @@ std::string ProposedName(const document::IconDocument& document) {
 
 }  // namespace
 
-DocumentCommands::DocumentCommands(editing::Editor& editor, DocumentWindow& window,
-                                   ModRecent& recent, services::Cdb& cdb,
-                                   services::MessageBoxes& boxes, system::FileSystem& files)
-    : editor_(editor),
-      document_(editor.Document()),
-      window_(window),
-      recent_(recent),
-      cdb_(cdb),
-      boxes_(boxes),
-      files_(files) {}
+DocumentCommands::DocumentCommands(editing::Editor& editor, const DocumentParts& parts)
+    : editor_(editor), document_(editor.Document()), parts_(parts) {}
 
 bool DocumentCommands::PromptSaveChanges() {
     document_.SaveSucceeded = false;
     if (!document_.Modified) return true;
-    switch (boxes_.Show(BoxIcon::Question, BoxButtons::YesNoCancel,
-                        std::string(i18n::kSaveChanges.Now()), std::string(i18n::kProgramName))) {
+    switch (parts_.boxes.Show(BoxIcon::Question, BoxButtons::YesNoCancel,
+                              std::string(i18n::kSaveChanges.Now()),
+                              std::string(i18n::kProgramName))) {
         case Answer::Yes:
             SaveDocument(document_.IsUntitled() ? SaveMode::SaveAs : SaveMode::Save);
             return document_.SaveSucceeded;
@@ -63,41 +56,41 @@ void DocumentCommands::mnuNew_Click() {
 
 void DocumentCommands::mnuOpen_Click() {
     if (!PromptSaveChanges()) return;
-    window_.EnableGrid(false);
+    parts_.grid.EnableGrid(false);
     OpenChosenFile();
 }
 
 void DocumentCommands::OpenChosenFile() {
     services::FileRequest request = IconRequest(i18n::kOpenTitle.Now());
     request.flags = services::kFileMustExist | services::kHideReadOnly;
-    const Result<services::ChosenFile> chosen = cdb_.ShowOpen(request);
+    const Result<services::ChosenFile> chosen = parts_.cdb.ShowOpen(request);
     if (!chosen) {
-        window_.EnableGrid(true);
+        parts_.grid.EnableGrid(true);
         return;
     }
-    window_.DoEvents();
+    parts_.application.DoEvents();
     if (OpenFile(*chosen)) return;
-    window_.EnableGrid(true);
-    ShowError(boxes_, i18n::CannotOpenChosen(chosen->fileTitle));
+    parts_.grid.EnableGrid(true);
+    ShowError(parts_.boxes, i18n::CannotOpenChosen(chosen->fileTitle));
 }
 
 void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
     if (!PromptSaveChanges()) return;
-    window_.EnableGrid(false);
+    parts_.grid.EnableGrid(false);
     const std::string titleToOpen(system::FileTitleOf(pathToOpen));
     if (OpenFile({pathToOpen, titleToOpen})) return;
-    window_.EnableGrid(true);
-    ShowError(boxes_, i18n::CannotOpenNamed(titleToOpen));
+    parts_.grid.EnableGrid(true);
+    ShowError(parts_.boxes, i18n::CannotOpenNamed(titleToOpen));
 }
 
 void DocumentCommands::mnuRecent_Click(int slot) {
-    const std::string pathToOpen = recent_.GetRecentFile(slot);
+    const std::string pathToOpen = parts_.recent.GetRecentFile(slot);
     if (!pathToOpen.empty()) OpenNamed(pathToOpen);
 }
 
 // False, with nothing changed, when the file is no icon.
 bool DocumentCommands::OpenFile(const services::ChosenFile& file) {
-    const auto bytes = files_.ReadFile(file.path, formats::kMaxIconFileBytes);
+    const auto bytes = parts_.files.ReadFile(file.path, formats::kMaxIconFileBytes);
     if (!bytes) return false;
     const Result<formats::IconImage> icon = formats::ReadBestImage(*bytes);
     if (!icon) return false;
@@ -108,8 +101,8 @@ bool DocumentCommands::OpenFile(const services::ChosenFile& file) {
     editor_.ShowTitle();
     editor_.ReadIconIntoDocument(*icon);
     document_.MultipleIcons = formats::DetectMultipleIcons(*bytes);
-    recent_.AddRecentFile(document_.FilePath);
-    window_.StartTmr();
+    parts_.recent.AddRecentFile(document_.FilePath);
+    parts_.grid.StartTmr();
     return true;
 }
 
@@ -133,19 +126,20 @@ void DocumentCommands::SaveUnderNewName() {
     services::FileRequest request = IconRequest(i18n::kSaveAsTitle.Now());
     request.fileName = ProposedName(document_);
     request.flags = services::kOverwritePrompt | services::kHideReadOnly | services::kPathMustExist;
-    const Result<services::ChosenFile> chosen = cdb_.ShowSave(request);
+    const Result<services::ChosenFile> chosen = parts_.cdb.ShowSave(request);
     if (!chosen) {
         document_.SaveSucceeded = false;
         return;
     }
-    window_.DoEvents();
+    parts_.application.DoEvents();
     WriteIcoFile(chosen->path);
 }
 
 void DocumentCommands::SaveInPlace() {
-    if (document_.MultipleIcons && boxes_.Show(BoxIcon::Information, BoxButtons::OkCancel,
-                                               i18n::SeveralIcons(document_.FileTitle),
-                                               std::string(i18n::kProgramName)) == Answer::Cancel) {
+    if (document_.MultipleIcons &&
+        parts_.boxes.Show(BoxIcon::Information, BoxButtons::OkCancel,
+                          i18n::SeveralIcons(document_.FileTitle),
+                          std::string(i18n::kProgramName)) == Answer::Cancel) {
         SaveUnderNewName();
         return;
     }
@@ -153,16 +147,16 @@ void DocumentCommands::SaveInPlace() {
 }
 
 void DocumentCommands::WriteIcoFile(const std::string& path) {
-    window_.ShowHourglass(true);
+    parts_.application.ShowHourglass(true);
     document_.FileTitle = system::FileTitleOf(path);
     editor_.ShowTitle();
-    const Result<void> written = formats::WriteIcoCopy(files_, editor_.Composited(), path);
-    window_.ShowHourglass(false);
+    const Result<void> written = formats::WriteIcoCopy(parts_.files, editor_.Composited(), path);
+    parts_.application.ShowHourglass(false);
     document_.SaveSucceeded = written.has_value();
     if (!written) {
         const std::string_view named =
             document_.IsUntitled() ? std::string_view() : document_.FileTitle;
-        ShowError(boxes_, i18n::CannotSave(written.error().description, named));
+        ShowError(parts_.boxes, i18n::CannotSave(written.error().description, named));
         return;
     }
     // What floated over the icon is in the file; what is only marked stays so.
@@ -170,11 +164,7 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
     document_.FilePath = path;
     document_.Modified = false;
     document_.MultipleIcons = false;
-    recent_.AddRecentFile(path);
-}
-
-void DocumentCommands::mnuExit_Click() {
-    window_.Unload();
+    parts_.recent.AddRecentFile(path);
 }
 
 }  // namespace kestrel::commands

@@ -2,25 +2,34 @@
 
 #include <string>
 
-#include "commands/BusyWindow.h"
 #include "commands/ModRecent.h"
 #include "editing/Editor.h"
 #include "platform/system/FileSystem.h"
+#include "services/Application.h"
 #include "services/Cdb.h"
 #include "services/MessageBoxes.h"
 
 namespace kestrel::commands {
 
-// What the document commands need of the main window.
-class DocumentWindow : public BusyWindow {
+// Keeps the mouse off the grid while a file is opened.
+class GridGuard {
   public:
+    virtual ~GridGuard() = default;
     // A disabled grid ignores the mouse.
     virtual void EnableGrid(bool enabled) = 0;
     // Enables the grid a quarter of a second from now, when the clicks that chose the file are
     // over.
     virtual void StartTmr() = 0;
-    // Asks the window to close, which runs its unload handler.
-    virtual void Unload() = 0;
+};
+
+// What the document commands work with, besides the editor.
+struct DocumentParts {
+    GridGuard& grid;
+    ModRecent& recent;
+    services::Cdb& cdb;
+    services::Application& application;
+    services::MessageBoxes& boxes;
+    system::FileSystem& files;
 };
 
 enum class SaveMode { Save, SaveAs };
@@ -28,8 +37,7 @@ enum class SaveMode { Save, SaveAs };
 // The commands that change which icon is open or where it is kept.
 class DocumentCommands {
   public:
-    DocumentCommands(editing::Editor& editor, DocumentWindow& window, ModRecent& recent,
-                     services::Cdb& cdb, services::MessageBoxes& boxes, system::FileSystem& files);
+    DocumentCommands(editing::Editor& editor, const DocumentParts& parts);
 
     void mnuNew_Click();
     // Asks for the file with the open dialog.
@@ -40,7 +48,6 @@ class DocumentCommands {
     void mnuRecent_Click(int slot);
     void mnuSave_Click();
     void mnuSaveAs_Click();
-    void mnuExit_Click();
 
     // Asks about unsaved changes; true when the caller may go on.
     bool PromptSaveChanges();
@@ -55,11 +62,7 @@ class DocumentCommands {
 
     editing::Editor& editor_;
     document::IconDocument& document_;
-    DocumentWindow& window_;
-    ModRecent& recent_;
-    services::Cdb& cdb_;
-    services::MessageBoxes& boxes_;
-    system::FileSystem& files_;
+    DocumentParts parts_;
 };
 
 }  // namespace kestrel::commands

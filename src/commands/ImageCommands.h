@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "commands/ImagingDialogs.h"
+#include "commands/Dialogs.h"
 #include "editing/Editor.h"
 #include "imaging/Operations.h"
 
@@ -12,7 +12,7 @@ namespace kestrel::commands {
 // The commands of the Image and Effect menus, and the gradient of the Tools menu.
 class ImageCommands {
   public:
-    ImageCommands(editing::Editor& editor, ImagingDialogs& dialogs, services::MessageLoop& loop,
+    ImageCommands(editing::Editor& editor, Dialogs& dialogs, services::MessageLoop& loop,
                   system::RandomNumbers& random)
         : editor_(editor), dialogs_(dialogs), filters_(loop, random) {}
 
@@ -35,7 +35,7 @@ class ImageCommands {
     editing::Leaves Prepare(imaging::OnSelection rule);
 
     editing::Editor& editor_;
-    ImagingDialogs& dialogs_;
+    Dialogs& dialogs_;
     filters::mFilterG filters_;
 };
 

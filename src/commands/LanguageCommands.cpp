@@ -5,12 +5,12 @@
 namespace kestrel::commands {
 
 void LanguageCommands::SwitchTo(std::string_view code) {
-    ApplyMainCaptions(code, window_);
-    ApplyMenuCaptions(code, menus_);
+    ApplyMainCaptions(code, parts_.controls);
+    ApplyMenuCaptions(code, parts_.menus);
     i18n::SetUiLanguage(code);
     settings::SaveLanguage(settings_, code);
     shell_.FollowLanguage();
-    window_.LanguageChanged();
+    parts_.window.LanguageChanged();
 }
 
 }  // namespace kestrel::commands

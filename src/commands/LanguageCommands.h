@@ -11,15 +11,13 @@ namespace kestrel::commands {
 // Changes the language of everything that is shown, and keeps it for the next start.
 class LanguageCommands {
   public:
-    LanguageCommands(MainWindow& window, MainMenus& menus, settings::Settings& settings,
-                     ShellCommands& shell)
-        : window_(window), menus_(menus), settings_(settings), shell_(shell) {}
+    LanguageCommands(const MainParts& parts, settings::Settings& settings, ShellCommands& shell)
+        : parts_(parts), settings_(settings), shell_(shell) {}
 
     void SwitchTo(std::string_view code);
 
   private:
-    MainWindow& window_;
-    MainMenus& menus_;
+    MainParts parts_;
     settings::Settings& settings_;
     ShellCommands& shell_;
 };

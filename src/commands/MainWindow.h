@@ -2,24 +2,38 @@
 
 #include <string_view>
 
-#include "commands/ClipboardCommands.h"
+#include "commands/Dialogs.h"
 #include "commands/DocumentCommands.h"
 #include "commands/ModLanguage.h"
-#include "services/Cdb.h"
+#include "services/DesktopDialogs.h"
 
 namespace kestrel::commands {
 
 // What the commands need of the main window.
-class MainWindow : public DocumentWindow,
-                   public CaptionedWindow,
-                   public services::OwnerWindow,
-                   public PasteDialog {
+class MainWindow {
+  public:
+    virtual ~MainWindow() = default;
+    // Asks the window to close, which runs its unload handler.
+    virtual void Unload() = 0;
+    // Whatever else the window shows as text is in another language from now on.
+    virtual void LanguageChanged() = 0;
+};
+
+// The controls of the main window.
+class MainControls : public CaptionedWindow {
   public:
     // A button of the toolbar, by its key.
     virtual void EnableButton(std::string_view key, bool enabled) = 0;
-    virtual void ShowAbout() = 0;
-    // Whatever else the window shows as text is in another language from now on.
-    virtual void LanguageChanged() = 0;
+};
+
+// What the commands work with, besides the editor and the services.
+struct MainParts {
+    MainWindow& window;
+    MainControls& controls;
+    GridGuard& grid;
+    const services::OwnerWindow& owner;
+    MainMenus& menus;
+    Dialogs& dialogs;
 };
 
 }  // namespace kestrel::commands

@@ -26,9 +26,8 @@ std::string ProgramOf(Sibling sibling, const ProgramFolders& folders) {
 
 }  // namespace
 
-ShellCommands::ShellCommands(BusyWindow& window, const ShellServices& services,
-                             ProgramFolders folders)
-    : window_(window), services_(services), folders_(std::move(folders)) {}
+ShellCommands::ShellCommands(const ShellServices& services, ProgramFolders folders)
+    : services_(services), folders_(std::move(folders)) {}
 
 // The help lies beside the program, or where an installation puts what is not a program.
 std::string ShellCommands::HelpFile() const {
@@ -52,10 +51,10 @@ void ShellCommands::FollowLanguage() {
 
 void ShellCommands::mnuHomePage_Click() {
     // The menu goes first: the opener may take a while.
-    window_.ShowHourglass(true);
-    window_.DoEvents();
+    services_.application.ShowHourglass(true);
+    services_.application.DoEvents();
     const bool opened = services_.shell.Open(std::string(kHomePage)).has_value();
-    window_.ShowHourglass(false);
+    services_.application.ShowHourglass(false);
     if (!opened) ShowError(services_.boxes, i18n::CannotOpenHomePage(kHomePage));
 }
 

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "commands/BusyWindow.h"
 #include "platform/system/FileSystem.h"
+#include "services/Application.h"
 #include "services/HelpViewer.h"
 #include "services/MessageBoxes.h"
 #include "services/Shell.h"
@@ -20,6 +20,7 @@ struct ProgramFolders {
 };
 
 struct ShellServices {
+    services::Application& application;
     services::MessageBoxes& boxes;
     services::HelpViewer& help;
     system::FileSystem& files;
@@ -30,7 +31,7 @@ struct ShellServices {
 // is said in a message.
 class ShellCommands {
   public:
-    ShellCommands(BusyWindow& window, const ShellServices& services, ProgramFolders folders);
+    ShellCommands(const ShellServices& services, ProgramFolders folders);
 
     // The help text in the language in force.
     void mnuHelp_Click();
@@ -42,7 +43,6 @@ class ShellCommands {
   private:
     std::string HelpFile() const;
 
-    BusyWindow& window_;
     ShellServices services_;
     ProgramFolders folders_;
 };

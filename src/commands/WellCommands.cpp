@@ -17,7 +17,7 @@ void WellCommands::ImgInterchangeColor_MouseUp(editing::Button button) {
 }
 
 void WellCommands::ImgTransparent_MouseUp(editing::Button button) {
-    window_.Beep();
+    application_.Beep();
     if (button != editing::Button::None) wells_.SetTransparent(button);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editing/ColorWells.h"
+#include "services/Application.h"
 #include "services/Cdb.h"
 
 namespace kestrel::commands {
@@ -9,8 +10,8 @@ namespace kestrel::commands {
 // Button::None stands for every button that does not draw.
 class WellCommands {
   public:
-    WellCommands(editing::ColorWells& wells, editing::EditorWindow& window, services::Cdb& cdb)
-        : wells_(wells), window_(window), cdb_(cdb) {}
+    WellCommands(editing::ColorWells& wells, services::Application& application, services::Cdb& cdb)
+        : wells_(wells), application_(application), cdb_(cdb) {}
 
     // Left: black and white, neither transparent.
     void ImgDefaultColor_MouseUp(editing::Button button);
@@ -27,7 +28,7 @@ class WellCommands {
     void ChooseColor(editing::Button well);
 
     editing::ColorWells& wells_;
-    editing::EditorWindow& window_;
+    services::Application& application_;
     services::Cdb& cdb_;
 };
 

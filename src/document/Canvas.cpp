@@ -18,12 +18,14 @@ constexpr int kGridPixels = kGridSize + 1;
 
 }  // namespace
 
-Canvas::Canvas(const IconDocument& document, CanvasWindow& window, gdi::COLORREF windowColor)
+Canvas::Canvas(const IconDocument& document, GridDisplay& grid, PreviewDisplay& preview,
+               gdi::COLORREF windowColor)
     : PicMain(kGridPixels, kGridPixels, gdi::kWhite),
       PicMainCopy(kGridSize, kGridSize, gdi::kWhite),
       PicIcon(kIconSize, kIconSize, windowColor),
       document_(document),
-      window_(window),
+      grid_(grid),
+      preview_(preview),
       gridLinesImage_(kGridPixels, kGridPixels, gdi::kWhite),
       transparentGridImage_(kGridPixels, kGridPixels, gdi::kBlack) {
     MakeGridLines();
@@ -59,7 +61,7 @@ void Canvas::ClearView() {
 
 void Canvas::OverlayGrid() {
     gdi::BitBlt(PicMain, 0, 0, kGridPixels, kGridPixels, gridLinesImage_, 0, 0, RasterOp::And);
-    window_.RepaintView(View::Grid, PicMain.Bounds());
+    grid_.RepaintGrid(PicMain.Bounds());
 }
 
 void Canvas::RebuildBackingCopy() {
@@ -85,7 +87,7 @@ void Canvas::PreviewIcon() {
     PicIcon.Clear();
     DrawIconOver(PicIcon);
     if (overlay_ != nullptr) overlay_->DrawOnPreview(PicIcon);
-    window_.RepaintView(View::Preview, PicIcon.Bounds());
+    preview_.RepaintPreview(PicIcon.Bounds());
 }
 
 void Canvas::DrawIconOver(gdi::Surface& ground) const {
@@ -94,7 +96,7 @@ void Canvas::DrawIconOver(gdi::Surface& ground) const {
 
 void Canvas::ShowEmptyIcon() {
     PicIcon.Clear();
-    window_.RepaintView(View::Preview, PicIcon.Bounds());
+    preview_.RepaintPreview(PicIcon.Bounds());
     ClearView();
     OverlayGrid();
 }
@@ -124,8 +126,8 @@ void Canvas::PaintCellTransparent(int cx, int cy) {
 }
 
 void Canvas::RepaintCell(int cx, int cy) {
-    window_.RepaintView(View::Grid, {cx * kCellSize, cy * kCellSize, kCellSize + 1, kCellSize + 1});
-    window_.RepaintView(View::Preview, {cx, cy, 1, 1});
+    grid_.RepaintGrid({cx * kCellSize, cy * kCellSize, kCellSize + 1, kCellSize + 1});
+    preview_.RepaintPreview({cx, cy, 1, 1});
 }
 
 void Canvas::SetWindowColor(gdi::COLORREF color) {

@@ -5,15 +5,20 @@
 
 namespace kestrel::document {
 
-// What the user sees of the icon: PicMain and PicIcon.
-enum class View { Grid, Preview };
-
-// The window in which the views stand.
-class CanvasWindow {
+// What shows PicMain.
+class GridDisplay {
   public:
-    virtual ~CanvasWindow() = default;
-    // Part of a view has new pixels; `area` is in pixels of that view.
-    virtual void RepaintView(View view, gdi::Rect area) = 0;
+    virtual ~GridDisplay() = default;
+    // These pixels of the grid are new.
+    virtual void RepaintGrid(gdi::Rect area) = 0;
+};
+
+// What shows PicIcon.
+class PreviewDisplay {
+  public:
+    virtual ~PreviewDisplay() = default;
+    // These pixels of the preview are new.
+    virtual void RepaintPreview(gdi::Rect area) = 0;
 };
 
 // What lies over the icon in the views without being part of it.
@@ -33,7 +38,8 @@ class CanvasOverlay {
 class Canvas {
   public:
     // `windowColor` is the desktop's window colour. The views show the empty icon afterwards.
-    Canvas(const IconDocument& document, CanvasWindow& window, gdi::COLORREF windowColor);
+    Canvas(const IconDocument& document, GridDisplay& grid, PreviewDisplay& preview,
+           gdi::COLORREF windowColor);
 
     // The editing grid with its lines, 10 grid units per icon pixel.
     gdi::Surface PicMain;
@@ -76,7 +82,8 @@ class Canvas {
     void RepaintCell(int cx, int cy);
 
     const IconDocument& document_;
-    CanvasWindow& window_;
+    GridDisplay& grid_;
+    PreviewDisplay& preview_;
     gdi::Surface gridLinesImage_;
     gdi::Surface transparentGridImage_;
     const CanvasOverlay* overlay_ = nullptr;

@@ -9,7 +9,7 @@ Outcome ColorPicker::Release(Button button, int x, int y) {
     const int cx = document::CellOf(x);
     const int cy = document::CellOf(y);
     if (document_.IsTransparent(cx, cy)) {
-        window_.Beep();
+        application_.Beep();
         wells_.SetTransparent(button);
     } else {
         wells_.SetPenColor(button, document_.PicImage().GetPixel(cx, cy));

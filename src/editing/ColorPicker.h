@@ -8,14 +8,14 @@ namespace kestrel::editing {
 class ColorPicker : public ClickTool {
   public:
     explicit ColorPicker(const ToolParts& parts)
-        : document_(parts.edit.document), wells_(parts.wells), window_(parts.edit.window) {}
+        : document_(parts.edit.document), wells_(parts.wells), application_(parts.application) {}
 
     Outcome Release(Button button, int x, int y) override;
 
   private:
     const document::IconDocument& document_;
     ColorWells& wells_;
-    EditorWindow& window_;
+    services::Application& application_;
 };
 
 }  // namespace kestrel::editing

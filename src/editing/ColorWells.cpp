@@ -6,23 +6,23 @@ namespace kestrel::editing {
 
 void ColorWells::SetPenColor(Button button, gdi::COLORREF color) {
     wells_[IndexOf(button)] = {color, false};
-    window_.RepaintWells();
+    Show();
 }
 
 void ColorWells::SetTransparent(Button button) {
     wells_[IndexOf(button)] = {gdi::kWhite, true};
-    window_.RepaintWells();
+    Show();
 }
 
 void ColorWells::SetOpaque(Button button) {
     wells_[IndexOf(button)].transparent = false;
-    window_.RepaintWells();
+    Show();
 }
 
 void ColorWells::ResetDefaultColors() {
     wells_[0].color = wells_[0].transparent ? gdi::kWhite : gdi::kBlack;
     wells_[1].color = gdi::kWhite;
-    window_.RepaintWells();
+    Show();
 }
 
 void ColorWells::ClearTransparent() {
@@ -32,14 +32,19 @@ void ColorWells::ClearTransparent() {
 
 void ColorWells::Interchange() {
     std::swap(wells_[0], wells_[1]);
-    window_.RepaintWells();
+    Show();
 }
 
 void ColorWells::InterchangeTransparent() {
     if (wells_[0].transparent == wells_[1].transparent) return;
     for (Well& well : wells_)
         well = {gdi::kWhite, !well.transparent};
-    window_.RepaintWells();
+    Show();
+}
+
+void ColorWells::Show() {
+    for (const Button button : {Button::Left, Button::Right})
+        view_.ShowWell(button, PenColor(button), IsTransparent(button));
 }
 
 }  // namespace kestrel::editing

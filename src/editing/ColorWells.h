@@ -2,16 +2,16 @@
 
 #include <array>
 
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 #include "editing/Mouse.h"
 #include "platform/gdi/Color.h"
 
 namespace kestrel::editing {
 
-// What each mouse button draws with: a colour, or transparency. The window is told of changes.
+// What each mouse button draws with: a colour, or transparency. The view is told of changes.
 class ColorWells {
   public:
-    explicit ColorWells(EditorWindow& window) : window_(window) {}
+    explicit ColorWells(ColorsView& view) : view_(view) { Show(); }
 
     // The colour of a button's well; white while the well is transparent.
     gdi::COLORREF PenColor(Button button) const { return wells_[IndexOf(button)].color; }
@@ -38,9 +38,10 @@ class ColorWells {
         bool transparent = false;
     };
 
+    void Show();
     static std::size_t IndexOf(Button button) { return button == Button::Right ? 1 : 0; }
 
-    EditorWindow& window_;
+    ColorsView& view_;
     std::array<Well, 2> wells_{{{gdi::kBlack, false}, {gdi::kWhite, false}}};
 };
 

@@ -7,17 +7,18 @@
 
 namespace kestrel::editing {
 
-Editor::Editor(EditorWindow& window, gdi::COLORREF windowColor)
-    : window_(window),
-      canvas_(document_, window, windowColor),
-      wells_(window),
-      palette_(window),
+Editor::Editor(const EditorViews& views, gdi::COLORREF windowColor)
+    : grid_(views.grid),
+      window_(views.window),
+      canvas_(document_, views.grid, views.preview, windowColor),
+      wells_(views.colors),
+      palette_(views.colors),
       history_(document_),
-      parts_{document_, canvas_, history_, window},
-      selection_(parts_),
-      tools_(window, selection_, windowColor),
-      readout_(document_, window) {
-    const ToolParts parts{parts_, wells_, selection_};
+      parts_{document_, canvas_, history_, views.window},
+      selection_(parts_, views.grid),
+      tools_(views, selection_, windowColor),
+      readout_(document_, views.status, views.preview) {
+    const ToolParts parts{parts_, wells_, selection_, views.grid, views.application};
     for (const ToolRow& row : ToolTable())
         gridTools_[row.id] = row.make(parts);
     history_.PushUndoSnapshot();
@@ -75,7 +76,7 @@ void Editor::PicMain_MouseUp(Button button, int x, int y) {
     if (x != pointer_.x || y != pointer_.y) {
         PicMain_MouseMove({button == Button::Left, button == Button::Right}, x, y);
     }
-    if (ReleaseTool(button, x, y) == Outcome::OpenPopup) window_.ShowEditingPopup();
+    if (ReleaseTool(button, x, y) == Outcome::OpenPopup) grid_.ShowEditingPopup();
 }
 
 void Editor::EndGesture() {

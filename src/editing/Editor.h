@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "editing/ColorWells.h"
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 #include "editing/GridTool.h"
 #include "editing/ModCollections.h"
 #include "editing/Palette.h"
@@ -21,7 +21,7 @@ class Editor {
   public:
     // `windowColor` is the desktop's window colour. The document is the empty icon, recorded as
     // the first undo entry.
-    Editor(EditorWindow& window, gdi::COLORREF windowColor);
+    Editor(const EditorViews& views, gdi::COLORREF windowColor);
 
     document::IconDocument& Document() { return document_; }
     document::Canvas& Views() { return canvas_; }
@@ -76,6 +76,7 @@ class Editor {
     bool IsSizing() const;
     void ShowStep(const PackedPicture* picture);
 
+    GridView& grid_;
     EditorWindow& window_;
     document::IconDocument document_;
     document::Canvas canvas_;

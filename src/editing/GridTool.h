@@ -4,6 +4,7 @@
 #include "editing/IconEdit.h"
 #include "editing/Mouse.h"
 #include "editing/Selection.h"
+#include "services/Application.h"
 
 namespace kestrel::editing {
 
@@ -12,6 +13,8 @@ struct ToolParts {
     EditParts edit;
     ColorWells& wells;
     Selection& selection;
+    document::GridDisplay& grid;
+    services::Application& application;
 };
 
 // What the editor does after a gesture: after HandBack the drawing tool that was used before is

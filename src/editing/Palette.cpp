@@ -15,8 +15,8 @@ constexpr int kCellSize = 13;  // pixels, with the edge
 
 }  // namespace
 
-Palette::Palette(EditorWindow& window)
-    : window_(window), picPal_(kColumns * kCellSize, kRows * kCellSize, gdi::kBlack) {
+Palette::Palette(ColorsView& view)
+    : view_(view), picPal_(kColumns * kCellSize, kRows * kCellSize, gdi::kBlack) {
     DrawPalette(PaletteReload::Yes);
 }
 
@@ -38,7 +38,7 @@ void Palette::DrawPalette(PaletteReload reload) {
         gdi::DrawSunkenEdge(picPal_, x, y, x + kCellSize, y + kCellSize);
         ++cell;
     }
-    window_.PaletteChanged();
+    view_.RepaintPalette();
 }
 
 void Palette::Randomize(system::RandomNumbers& random) {
@@ -62,7 +62,7 @@ void Palette::SetColors(const gdi::PaletteColors& colors) {
 
 void Palette::SetChkPal(bool ticked) {
     chkPal_ = ticked;
-    window_.PaletteChanged();
+    view_.ShowChkPal(ticked);
 }
 
 }  // namespace kestrel::editing

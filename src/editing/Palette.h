@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 #include "platform/gdi/Surface.h"
 #include "platform/system/RandomNumbers.h"
 
@@ -12,10 +12,10 @@ namespace kestrel::editing {
 enum class PaletteKind { Default, Random, Own };
 enum class PaletteReload { No, Yes };
 
-// The palette's colours and their picture, 16 rows of 16 cells. The window is told of changes.
+// The palette's colours and their picture, 16 rows of 16 cells. The view is told of changes.
 class Palette {
   public:
-    explicit Palette(EditorWindow& window);
+    explicit Palette(ColorsView& view);
 
     const gdi::PaletteColors& Colors() const { return colors_; }
     PaletteKind Kind() const { return kind_; }
@@ -35,7 +35,7 @@ class Palette {
     void SetChkPal(bool ticked);
 
   private:
-    EditorWindow& window_;
+    ColorsView& view_;
     gdi::PaletteColors colors_{};
     PaletteKind kind_ = PaletteKind::Default;
     gdi::Surface picPal_;

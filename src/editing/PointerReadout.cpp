@@ -35,7 +35,7 @@ int Extent(DragSize kind, int from, int to) {
 }  // namespace
 
 void PointerReadout::Show(ToolId tool, GridPoint at, std::optional<GridPoint> press) {
-    window_.SetStatusPanel(StatusPanel::Hint, RowOf(tool).gridHint.Now());
+    status_.SetStatusPanel(StatusPanel::Hint, RowOf(tool).gridHint.Now());
     const int cx = CellOrOutside(at.x);
     const int cy = CellOrOutside(at.y);
     ShowPixel(cx, cy);
@@ -45,14 +45,14 @@ void PointerReadout::Show(ToolId tool, GridPoint at, std::optional<GridPoint> pr
 
 void PointerReadout::ShowPixel(int cx, int cy) {
     if (!document_.PicMask().Contains(cx, cy)) {
-        window_.SetStatusPanel(StatusPanel::Pixel, {});
+        status_.SetStatusPanel(StatusPanel::Pixel, {});
     } else if (document_.IsTransparent(cx, cy)) {
-        window_.SetStatusPanel(StatusPanel::Pixel, i18n::kTransparent.Now());
+        status_.SetStatusPanel(StatusPanel::Pixel, i18n::kTransparent.Now());
     } else {
         // Blue, green, red without leading zeros.
         std::array<char, 8> digits{};
         std::snprintf(digits.data(), digits.size(), "#%X", document_.PicImage().GetPixel(cx, cy));
-        window_.SetStatusPanel(StatusPanel::Pixel, digits.data());
+        status_.SetStatusPanel(StatusPanel::Pixel, digits.data());
     }
 }
 
@@ -72,8 +72,8 @@ void PointerReadout::ShowDragSize(DragSize kind, int cx, int cy, std::optional<G
 }
 
 void PointerReadout::Print(StatusPanel panel, std::string_view text) {
-    window_.SetStatusPanel(panel, text);
-    window_.PrintReadout(panel, text);
+    status_.SetStatusPanel(panel, text);
+    preview_.PrintReadout(panel, text);
 }
 
 }  // namespace kestrel::editing

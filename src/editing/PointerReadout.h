@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "document/IconDocument.h"
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 #include "editing/Mouse.h"
 #include "editing/ToolTable.h"
 
@@ -12,8 +12,8 @@ namespace kestrel::editing {
 // Tells on the status bar and beside the preview what lies under the pointer.
 class PointerReadout {
   public:
-    PointerReadout(const document::IconDocument& document, EditorWindow& window)
-        : document_(document), window_(window) {}
+    PointerReadout(const document::IconDocument& document, StatusView& status, PreviewView& preview)
+        : document_(document), status_(status), preview_(preview) {}
 
     // Hint of the tool, pixel and cell under the point and, while a button is held that was pressed
     // at `press`, the size of the drag.
@@ -27,7 +27,8 @@ class PointerReadout {
     void Print(StatusPanel panel, std::string_view text);
 
     const document::IconDocument& document_;
-    EditorWindow& window_;
+    StatusView& status_;
+    PreviewView& preview_;
 };
 
 }  // namespace kestrel::editing

@@ -25,7 +25,7 @@ bool IsGridCoordinate(int v) {
 
 }  // namespace
 
-Selection::Selection(const EditParts& parts) : parts_(parts) {
+Selection::Selection(const EditParts& parts, GridView& grid) : parts_(parts), grid_(grid) {
     parts_.canvas.SetOverlay(*this);
 }
 
@@ -186,7 +186,7 @@ void Selection::UpdateMoveCursor(int x, int y) {
 
 void Selection::ShowMoveCursor(bool shown) {
     if (std::exchange(moveCursor_, shown) == shown) return;
-    parts_.window.SetGridCursor(shown ? GridCursor::Move : GridCursor::Cross);
+    grid_.SetGridCursor(shown ? GridCursor::Move : GridCursor::Cross);
 }
 
 gdi::Rect Selection::Cells() const {
@@ -220,7 +220,7 @@ void Selection::DrawMarquee(gdi::Surface& grid) const {
 // Inverted twice, the grid is as it was.
 void Selection::InvertMarquee() {
     DrawMarquee(parts_.canvas.PicMain);
-    parts_.window.RepaintView(document::View::Grid, parts_.canvas.PicMain.Bounds());
+    grid_.RepaintGrid(parts_.canvas.PicMain.Bounds());
 }
 
 void Selection::Enter(State next) {

@@ -3,6 +3,7 @@
 #include "document/Canvas.h"
 #include "document/IconDocument.h"
 #include "editing/Corners.h"
+#include "editing/EditorViews.h"
 #include "editing/IconEdit.h"
 #include "editing/Mouse.h"
 
@@ -14,7 +15,7 @@ namespace kestrel::editing {
 // of the marquee are multiples of 10 and, for a floating selection, may lie outside the grid.
 class Selection : private document::CanvasOverlay {
   public:
-    explicit Selection(const EditParts& parts);
+    Selection(const EditParts& parts, GridView& grid);
     Selection(const Selection&) = delete;
     Selection& operator=(const Selection&) = delete;
     ~Selection() override = default;
@@ -97,6 +98,7 @@ class Selection : private document::CanvasOverlay {
     bool PlaceAt(int x1, int y1);
 
     EditParts parts_;
+    GridView& grid_;
     gdi::IconPlanes planes_{0, 0};
     State state_ = State::None;
     Corners marquee_;

@@ -42,8 +42,7 @@ void ShapeTool::InvertRubberBand() {
     state.drawMode = gdi::DrawMode::CopyPen;
     const auto [left, right] = std::minmax(band_.x1, band_.x2);
     const auto [top, bottom] = std::minmax(band_.y1, band_.y2);
-    parts_.window.RepaintView(document::View::Grid,
-                              {left, top, right - left + 1, bottom - top + 1});
+    grid_.RepaintGrid({left, top, right - left + 1, bottom - top + 1});
 }
 
 }  // namespace kestrel::editing

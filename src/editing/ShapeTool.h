@@ -22,7 +22,8 @@ struct ShapeColors {
 // opaque; a transparent well draws white.
 class ShapeTool : public GridTool {
   public:
-    explicit ShapeTool(const ToolParts& parts) : parts_(parts.edit), wells_(parts.wells) {}
+    explicit ShapeTool(const ToolParts& parts)
+        : parts_(parts.edit), wells_(parts.wells), grid_(parts.grid) {}
 
     void Press(Button button, int x, int y) final;
     void Move(Button button, int x, int y) final;
@@ -40,6 +41,7 @@ class ShapeTool : public GridTool {
 
     EditParts parts_;
     const ColorWells& wells_;
+    document::GridDisplay& grid_;
     std::optional<IconEdit> edit_;
     Corners band_;
 };

@@ -29,8 +29,8 @@ constexpr int TopOf(ToolId tool) {
 
 }  // namespace
 
-ToolPalette::ToolPalette(EditorWindow& window, Selection& selection, gdi::COLORREF windowColor)
-    : window_(window),
+ToolPalette::ToolPalette(const EditorViews& views, Selection& selection, gdi::COLORREF windowColor)
+    : views_(views),
       selection_(selection),
       strip_(ToolStrip()),
       picTools_(kColumns * kCellWidth, kRows * kCellHeight, windowColor) {
@@ -47,7 +47,7 @@ void ToolPalette::SelectTool(ToolId tool) {
     if (tool != ToolId::Selection && tool != ToolId::ColorPicker) lastDrawingTool_ = tool;
     currentTool_ = tool;
     Paint();
-    window_.SetGridCursor(RowOf(tool).cursor);
+    views_.grid.SetGridCursor(RowOf(tool).cursor);
 }
 
 void ToolPalette::PicTools_MouseDown(Button button, int x, int y) {
@@ -84,8 +84,8 @@ void ToolPalette::SetWindowColor(gdi::COLORREF color) {
 }
 
 void ToolPalette::ShowHints(ToolId tool) {
-    window_.SetToolTipOfTools(RowOf(tool).toolTip.Now());
-    window_.SetStatusPanel(StatusPanel::Hint, RowOf(tool).status.Now());
+    views_.tools.SetToolTipOfTools(RowOf(tool).toolTip.Now());
+    views_.status.SetStatusPanel(StatusPanel::Hint, RowOf(tool).status.Now());
 }
 
 void ToolPalette::EndPress() {
@@ -113,7 +113,7 @@ void ToolPalette::Paint() {
     }
     DrawEdge(currentTool_);
     if (paletteHitTool_ && pressedShown_) DrawEdge(*paletteHitTool_);
-    window_.RepaintTools();
+    views_.tools.RepaintTools();
 }
 
 void ToolPalette::DrawEdge(ToolId tool) {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 #include "editing/Mouse.h"
 #include "editing/Selection.h"
 #include "editing/ToolId.h"
@@ -14,7 +14,7 @@ namespace kestrel::editing {
 // pressed with a sunken edge. Points are in pixels of the palette.
 class ToolPalette {
   public:
-    ToolPalette(EditorWindow& window, Selection& selection, gdi::COLORREF windowColor);
+    ToolPalette(const EditorViews& views, Selection& selection, gdi::COLORREF windowColor);
 
     // What the palette looks like.
     const gdi::Surface& PicTools() const { return picTools_; }
@@ -45,7 +45,7 @@ class ToolPalette {
     void ShowPressed(bool shown);
     void EndPress();
 
-    EditorWindow& window_;
+    EditorViews views_;
     Selection& selection_;
     gdi::Surface strip_;
     gdi::Surface picTools_;

@@ -3,7 +3,7 @@
 #include <memory>
 #include <span>
 
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 #include "editing/GridTool.h"
 #include "editing/ToolId.h"
 #include "i18n/Language.h"

@@ -1,19 +1,13 @@
 #include "windows/FrmIcoEd.h"
 
 #include <QApplication>
-#include <QCloseEvent>
-#include <QDragEnterEvent>
-#include <QMimeData>
-#include <QScopedValueRollback>
-#include <QUrl>
 
+#include "commands/CommandTable.h"
 #include "desktop/Pictures.h"
 #include "document/ApplicationIcon.h"
 #include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
-#include "windows/FrmClipData.h"
-#include "windows/frmAbout.h"
 
 namespace kestrel::windows {
 
@@ -21,37 +15,12 @@ namespace {
 
 // A pure white window would hide white pixels in the preview.
 constexpr gdi::COLORREF kGreyForWhite = 0xF0F0F0;
-constexpr int kGuardAfterOpen = 250;  // milliseconds
+constexpr QSize kToolbarButton(28, 28);
 
 gdi::COLORREF WindowColor() {
     const gdi::COLORREF color =
         desktop::ToColorRef(QApplication::palette().color(QPalette::Window));
     return color == gdi::kWhite ? kGreyForWhite : color;
-}
-
-// The local file of a URL, byte for byte: its name need not be UTF-8.
-std::string LocalFile(const QUrl& url) {
-    if (!url.isLocalFile()) return {};
-    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
-}
-
-// The file is only read: a source that would move it must not delete it.
-void AcceptToRead(QDropEvent& event) {
-    for (const Qt::DropAction action : {Qt::CopyAction, Qt::LinkAction}) {
-        if (!event.possibleActions().testFlag(action)) continue;
-        event.setDropAction(action);
-        event.accept();
-        return;
-    }
-    event.ignore();
-}
-
-// The first of the dragged files that lies on this machine; empty for none.
-std::string FirstLocalFile(const QMimeData& dragged) {
-    for (const QUrl& url : dragged.urls()) {
-        if (std::string file = LocalFile(url); !file.empty()) return file;
-    }
-    return {};
 }
 
 QIcon ProgramIcon() {
@@ -68,17 +37,17 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       wellPictures_(resources::kWellPictures, resources::kImageListInks),
       barView_(menus_.SmartMenuXP1, pictures_),
       popupView_(menus_.SmartMenuXP2, pictures_),
-      editor_(*this, WindowColor()),
-      cdb_(services.dialogs, *this),
-      wellCommands_(editor_.Wells(), *this, cdb_),
-      imagingDialogs_(*this),
-      commands_(editor_, *this, menus_, cdb_, imagingDialogs_, services) {}
+      menuBar_(std::make_unique<QMenuBar>(this)),
+      toolbar1_(std::make_unique<widgets::ToolBar>(pictures_, kToolbarButton, this)),
+      editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
+              WindowColor()),
+      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_}, services) {}
 
-// The controls show what the members hold: they go first.
 FrmIcoEd::~FrmIcoEd() {
     editor_.EndGesture();
     clipboard_.onChanged = nullptr;
-    qDeleteAll(findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly));
+    // No event comes to what is taken down.
+    hide();
 }
 
 void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
@@ -91,19 +60,12 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     setFocus();
 
     LayOutControls();
-    LayOutTools();
     BuildToolbar();
-    LayOutPalette();
+    // The box was there before the buttons.
+    setTabOrder(toolbar1_->Button(commands::ToolbarRows().back().key), &colors_.ChkPal());
     ShowTextControls(false);
-    commands::ApplyMainCaptions(i18n::UiLanguage(), *this);
+    commands::ApplyMainCaptions(i18n::UiLanguage(), controls_);
     BuildMenus();
-    ConnectGrid();
-    ConnectTools();
-    ConnectPalette();
-    tmr_ = new QTimer(this);
-    tmr_->setInterval(kGuardAfterOpen);
-    tmr_->setSingleShot(true);
-    connect(tmr_, &QTimer::timeout, this, [this] { EnableGrid(true); });
 
     clipboard_.onChanged = [this] { RefreshEditCommands(); };
     commands_.recent.LoadRecentFiles();
@@ -111,7 +73,7 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     PlaceOnScreen();
     if (!pathToOpen.empty()) commands_.documents.OpenNamed(pathToOpen);
     RefreshEditCommands();
-    SetStatusPanel(editing::StatusPanel::Zoom, "10:1");
+    statusBar_.SetStatusPanel(editing::StatusPanel::Zoom, "10:1");
 }
 
 bool FrmIcoEd::Form_Unload() {
@@ -122,25 +84,8 @@ bool FrmIcoEd::Form_Unload() {
     return true;
 }
 
-void FrmIcoEd::RunCommand(const std::function<void()>& command) {
-    if (commandRunning_) return;
-    const QScopedValueRollback running(commandRunning_, true);
-    editor_.EndGesture();
-    command();
-    // What lies under the pointer may have changed.
-    const QPoint at = picMain_->mapFromGlobal(QCursor::pos());
-    if (picMain_->underMouse()) editor_.PicMain_MouseMove({}, at.x(), at.y());
-}
-
-void FrmIcoEd::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    RunCommand([&] { event->setAccepted(Form_Unload()); });
-}
-
-bool FrmIcoEd::event(QEvent* event) {
-    // Also where the window's own colour hides that the desktop's has changed.
-    if (event->type() == QEvent::ApplicationPaletteChange) FollowDesktopColors();
-    return QWidget::event(event);
+void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
+    runner_.Run([&] { commands_.documents.OpenNamed(pathToOpen); });
 }
 
 // The window and the preview's ground share one colour.
@@ -155,54 +100,10 @@ void FrmIcoEd::FollowDesktopColors() {
     editor_.SetWindowColor(color);
 }
 
-void FrmIcoEd::dragEnterEvent(QDragEnterEvent* event) {
-    // While a command asks something, a file could not be opened.
-    if (!commandRunning_ && !FirstLocalFile(*event->mimeData()).empty()) AcceptToRead(*event);
-}
-
-void FrmIcoEd::dropEvent(QDropEvent* event) {
-    AcceptToRead(*event);
-    // The program that dropped the file waits until this returns; a question must not keep it.
-    QMetaObject::invokeMethod(
-        this, [this, file = FirstLocalFile(*event->mimeData())] { Form_OLEDragDrop(file); },
-        Qt::QueuedConnection);
-}
-
-void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
-    RunCommand([&] { commands_.documents.OpenNamed(pathToOpen); });
-    RefreshEditCommands();
-}
-
 void FrmIcoEd::SetTitle(const std::string& title) {
     // "[*]" in a window title is the desktop library's place for a modified mark.
     setWindowTitle(
         QString::fromStdString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
-}
-
-void FrmIcoEd::EnableGrid(bool enabled) {
-    // A tick that is still due belongs to an earlier Open.
-    tmr_->stop();
-    picMain_->setEnabled(enabled);
-}
-
-void FrmIcoEd::StartTmr() {
-    tmr_->start();
-}
-
-void FrmIcoEd::ShowHourglass(bool shown) {
-    if (shown) {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    } else {
-        QApplication::restoreOverrideCursor();
-    }
-}
-
-void FrmIcoEd::DoEvents() {
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-}
-
-services::WindowHandle FrmIcoEd::hWnd() const {
-    return static_cast<services::WindowHandle>(winId());
 }
 
 void FrmIcoEd::Unload() {
@@ -210,17 +111,9 @@ void FrmIcoEd::Unload() {
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
 }
 
-std::optional<imaging::PasteFit> FrmIcoEd::AskFit(imaging::PictureSize picture) {
-    return FrmClipData(this, picture).Ask();
-}
-
-void FrmIcoEd::ShowAbout() {
-    frmAbout(this).exec();
-}
-
 void FrmIcoEd::LanguageChanged() {
     editor_.ShowTitle();
-    ClearStatusPanels();
+    statusBar_.Clear();
     FitMenuBar();
 }
 

@@ -1,27 +1,27 @@
 #pragma once
 
-#include <QCheckBox>
-#include <QLabel>
 #include <QMenuBar>
-#include <QTimer>
 #include <QWidget>
-#include <functional>
-#include <map>
+#include <memory>
 
 #include "commands/Commands.h"
-#include "commands/WellCommands.h"
+#include "desktop/QtOwnerWindow.h"
 #include "editing/Editor.h"
 #include "platform/controls/ImageList.h"
-#include "windows/FrmImagingDialogs.h"
+#include "windows/ColorsPane.h"
+#include "windows/CommandRunner.h"
+#include "windows/FrmDialogs.h"
+#include "windows/GridPane.h"
+#include "windows/NamedControls.h"
+#include "windows/PreviewPane.h"
+#include "windows/ToolsPane.h"
 #include "windows/widgets/MenuView.h"
-#include "windows/widgets/PictureBox.h"
 #include "windows/widgets/StatusBar.h"
-#include "windows/widgets/SurfaceWidget.h"
 #include "windows/widgets/ToolBar.h"
 
 namespace kestrel::windows {
 
-// The main window: lays out, paints and forwards events. Positions are in pixels of the client
+// The main window: lays out its panes and forwards events. Positions are in pixels of the client
 // area, which never changes its size.
 class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands::MainWindow {
   public:
@@ -35,10 +35,10 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void Form_Load(const std::string& pathToOpen);
 
     editing::Editor& OpenEditor() { return editor_; }
-    std::string StatusText(editing::StatusPanel panel) const;
-    widgets::SurfaceWidget& GridWidget() { return *picMain_; }
-    widgets::SurfaceWidget& PicTools() { return *picTools_; }
-    widgets::SurfaceWidget& PicPal() { return *picPal_; }
+    std::string StatusText(editing::StatusPanel panel) const { return statusBar_.Text(panel); }
+    widgets::SurfaceWidget& GridWidget() { return grid_.PicMain(); }
+    widgets::SurfaceWidget& PicTools() { return tools_.PicTools(); }
+    widgets::SurfaceWidget& PicPal() { return colors_.PicPal(); }
     widgets::ToolBar& Toolbar1() { return *toolbar1_; }
     commands::MainMenus& Menus() { return menus_; }
     // The menus as they are shown: what stands for an item of the bar, and the editing pop-up.
@@ -46,40 +46,33 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     QMenu* EditingPopup();
 
   protected:
-    void showEvent(QShowEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
+    // FrmIcoEd_Events.cpp
     void closeEvent(QCloseEvent* event) override;
     bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    // FrmIcoEd_Layout.cpp
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    // FrmIcoEd_Menu.cpp
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     bool Form_Unload();
     void Form_OLEDragDrop(const std::string& pathToOpen);
-    // Runs a command of the user, unless one is running and waits for a dialog.
-    void RunCommand(const std::function<void()>& command);
     void FollowDesktopColors();
 
+    // FrmIcoEd_Events.cpp
+    bool IsBackground(QPoint at) const;
+    bool MoveSelectionByKey(const QKeyEvent& event);
     // FrmIcoEd_Layout.cpp
     void LayOutControls();
     void ShowTextControls(bool shown);
     void FitMenuBar();
     void PlaceOnScreen();
-    void PaintReadouts(QPainter& painter);
-    // FrmIcoEd_Tools.cpp
-    void LayOutTools();
-    // A box at `place` that shows `hint` on the status bar while the pointer is over it.
-    void AddBox(const char* name, const QRect& place, widgets::PictureBox::Edge edge,
-                const QIcon& picture, const i18n::Text& hint);
-    void ConnectTools();
-    void PaintIndicators(QPainter& painter);
-    // FrmIcoEd_Palette.cpp
-    void LayOutPalette();
-    void ConnectPalette();
     // FrmIcoEd_Menu.cpp
     void BuildMenus();
     void BuildToolbar();
@@ -87,50 +80,11 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void RunRow(std::span<const commands::CommandRow> rows, std::string_view key);
     void ShowEditingPopupByKey();
     void Toolbar1_MouseMove(int x);
-    // FrmIcoEd_Grid.cpp
-    void ConnectGrid();
-    void ClearStatusPanels();
-    bool MoveSelectionByKey(const QKeyEvent& event);
 
-    void RepaintView(document::View view, gdi::Rect area) override;
     void SetTitle(const std::string& title) override;
-    void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override;
-    void PrintReadout(editing::StatusPanel panel, std::string_view text) override;
-    void SetGridCursor(editing::GridCursor cursor) override;
-    void RepaintTools() override;
-    void SetToolTipOfTools(std::string_view text) override;
-    void RepaintWells() override;
-    void PaletteChanged() override;
-    void ShowEditingPopup() override;
-    void Beep() override;
     void RefreshEditCommands() override;
-
-    services::WindowHandle hWnd() const override;
-    void EnableGrid(bool enabled) override;
-    void StartTmr() override;
-    void ShowHourglass(bool shown) override;
-    void DoEvents() override;
     void Unload() override;
-    void SetControlCaption(std::string_view control, std::string_view text) override;
-    void SetControlToolTip(std::string_view control, std::string_view text) override;
-    void EnableButton(std::string_view key, bool enabled) override;
-    void SetButtonToolTip(std::string_view key, std::string_view text) override;
-    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override;
-    void ShowAbout() override;
     void LanguageChanged() override;
-
-    QMenuBar* menuBar_ = nullptr;
-    widgets::ToolBar* toolbar1_ = nullptr;
-    widgets::SurfaceWidget* picMain_ = nullptr;
-    widgets::SurfaceWidget* picIcon_ = nullptr;
-    widgets::SurfaceWidget* picTools_ = nullptr;
-    widgets::SurfaceWidget* picPal_ = nullptr;
-    QCheckBox* chkPal_ = nullptr;
-    QLabel* label1_ = nullptr;
-    widgets::StatusBar* statusBar_ = nullptr;
-    QTimer* tmr_ = nullptr;
-    std::map<editing::StatusPanel, QString> readouts_;
-    bool commandRunning_ = false;
 
     services::HelpViewer& help_;
     services::Clipboard& clipboard_;
@@ -139,12 +93,22 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     commands::MainMenus menus_;
     widgets::MenuView barView_;
     widgets::MenuView popupView_;
-    // After the widgets: they call back into the window from their first moment.
+
+    // What the editor shows itself in stands before it.
+    std::unique_ptr<QMenuBar> menuBar_;
+    widgets::StatusBar statusBar_{this};
+    std::unique_ptr<widgets::ToolBar> toolbar1_;
+    GridPane grid_{this};
+    PreviewPane preview_{statusBar_, wellPictures_, this};
+    ToolsPane tools_{this};
+    ColorsPane colors_{{wellPictures_, pictures_, statusBar_}, this};
+
     editing::Editor editor_;
-    services::Cdb cdb_;
-    commands::WellCommands wellCommands_;
-    FrmImagingDialogs imagingDialogs_;
+    NamedControls controls_{*toolbar1_};
+    desktop::QtOwnerWindow owner_{*this};
+    FrmDialogs dialogs_{*this};
     commands::Commands commands_;
+    CommandRunner runner_{editor_, grid_, *this};
 };
 
 }  // namespace kestrel::windows

@@ -5,15 +5,12 @@
 
 #include "commands/CommandTable.h"
 #include "commands/ModLanguage.h"
-#include "desktop/Text.h"
 #include "i18n/Language.h"
 #include "windows/FrmIcoEd.h"
 
 namespace kestrel::windows {
 
 namespace {
-
-using desktop::ToText;
 
 constexpr std::string_view kPopupRoot = "mnuEdit";
 
@@ -38,33 +35,28 @@ void FrmIcoEd::BuildToolbar() {
     }
     toolbar1_->onClick = [this](std::string_view key) { RunRow(commands::ToolbarRows(), key); };
     toolbar1_->onMouseMove = [this](int x) { Toolbar1_MouseMove(x); };
-    toolbar1_->onLeave = [this] { SetStatusPanel(editing::StatusPanel::Hint, {}); };
+    toolbar1_->onLeave = [this] { statusBar_.SetStatusPanel(editing::StatusPanel::Hint, {}); };
 }
 
 void FrmIcoEd::RunRow(std::span<const commands::CommandRow> rows, std::string_view key) {
-    RunCommand([&] { commands_.Click(rows, key); });
+    runner_.Run([&] { commands_.Click(rows, key); });
 }
 
 void FrmIcoEd::Toolbar1_MouseMove(int x) {
     const auto buttons = commands::ToolbarRows();
     const auto index = static_cast<std::size_t>(x / toolbar1_->ButtonWidth()) % buttons.size();
-    SetStatusPanel(editing::StatusPanel::Hint, buttons[index].hint.Now());
+    statusBar_.SetStatusPanel(editing::StatusPanel::Hint, buttons[index].hint.Now());
 }
 
 QMenu* FrmIcoEd::EditingPopup() {
     return popupView_.Popup(kPopupRoot);
 }
 
-void FrmIcoEd::ShowEditingPopup() {
-    EditingPopup()->popup(QCursor::pos());
-}
-
 void FrmIcoEd::ShowEditingPopupByKey() {
     // The button that drags would choose an item where it comes up.
     if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-    const bool overGrid = picMain_->underMouse();
-    EditingPopup()->popup(overGrid ? QCursor::pos()
-                                   : picMain_->mapToGlobal(picMain_->rect().center()));
+    const bool overGrid = grid_.PicMain().underMouse();
+    EditingPopup()->popup(overGrid ? QCursor::pos() : grid_.mapToGlobal(grid_.rect().center()));
 }
 
 void FrmIcoEd::contextMenuEvent(QContextMenuEvent* event) {
@@ -81,33 +73,11 @@ void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
         RunRow(commands::MenuBarRows(), "mnuHelp2");
     } else if (event->key() == Qt::Key_Escape) {
         // From the toolbar back to the window, from there out of the selection.
-        if (hasFocus()) RunCommand([this] { editor_.Selected().DropSelection(); });
+        if (hasFocus()) runner_.Run([this] { editor_.Selected().DropSelection(); });
         setFocus();
     } else if (!MoveSelectionByKey(*event)) {
         QWidget::keyPressEvent(event);
     }
-}
-
-void FrmIcoEd::SetControlCaption(std::string_view control, std::string_view text) {
-    if (auto* widget = findChild<QWidget*>(ToText(control)); widget != nullptr) {
-        // The place of the icon's format is narrow: its size stands above its depth.
-        widget->setProperty(
-            "text", ToText(text).replace(QLatin1String("32 * 32 "), QLatin1String("32 * 32\n")));
-    }
-}
-
-void FrmIcoEd::SetControlToolTip(std::string_view control, std::string_view text) {
-    if (auto* widget = findChild<QWidget*>(ToText(control)); widget != nullptr) {
-        widget->setToolTip(ToText(text));
-    }
-}
-
-void FrmIcoEd::SetButtonToolTip(std::string_view key, std::string_view text) {
-    toolbar1_->SetToolTip(key, text);
-}
-
-void FrmIcoEd::EnableButton(std::string_view key, bool enabled) {
-    toolbar1_->SetEnabled(key, enabled);
 }
 
 void FrmIcoEd::RefreshEditCommands() {

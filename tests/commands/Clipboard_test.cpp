@@ -76,9 +76,9 @@ TEST(PasteFit, WhiteAndHalfTransparentPixelsAreSeeThroughUnlessOpaque) {
 using ClipboardTest = test::EditorTest;
 
 TEST_F(ClipboardTest, CutAndPasteMoveToTheTopLeftCorner) {
-    test::RecordingWindow dialog;
+    test::AnsweredDialogs dialogs;
     test::MemoryClipboard clipboard;
-    ClipboardCommands commands(editor_, clipboard, dialog);
+    ClipboardCommands commands(editor_, clipboard, dialogs);
     // A red, a white and a transparent pixel; below them two of the last kind and one that inverts
     // the screen.
     Paint({10, 10}, 0x0000FF);

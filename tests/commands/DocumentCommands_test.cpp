@@ -16,6 +16,14 @@ using services::Answer;
 using services::BoxButtons;
 using services::BoxIcon;
 
+// Notes what it was told last.
+struct RecordingGuard : GridGuard {
+    void EnableGrid(bool enabled) override { gridEnabled = enabled; }
+    void StartTmr() override { tmrStarted = true; }
+    bool gridEnabled = true;
+    bool tmrStarted = false;
+};
+
 class DocumentCommandsTest : public testing::Test {
   protected:
     DocumentCommandsTest() {
@@ -51,13 +59,16 @@ class DocumentCommandsTest : public testing::Test {
     }
 
     test::FakeServices given_;
-    test::RecordingWindow window_;
+    test::EditorRecorder views_;
+    RecordingGuard guard_;
+    test::OwnerOfDialogs owner_;
     controls::SmartMenuXP menu_;
     ModRecent recent_{menu_, given_.registry, given_.files, given_.boxes, 1033};
-    editing::Editor editor_{window_, 0xF0F0F0};
+    editing::Editor editor_{views_.Views(), 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
-    services::Cdb cdb_{given_.desktop, window_};
-    DocumentCommands commands_{editor_, window_, recent_, cdb_, given_.boxes, given_.files};
+    services::Cdb cdb_{given_.desktop, owner_};
+    DocumentCommands commands_{
+        editor_, {guard_, recent_, cdb_, given_.application, given_.boxes, given_.files}};
 };
 
 TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
@@ -67,17 +78,17 @@ TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
     commands_.mnuSaveAs_Click();
     EXPECT_EQ(given_.boxes.shown.size(), 1U) << "cancelled dialogs are silent";
     EXPECT_FALSE(icon_.Modified) << "answered No before the dialog was cancelled";
-    EXPECT_TRUE(window_.gridEnabled);
+    EXPECT_TRUE(guard_.gridEnabled);
     EXPECT_FALSE(icon_.IsTransparent(9, 9));
 
     given_.desktop.choice = "/icons/red.ico";
     commands_.mnuOpen_Click();
     EXPECT_EQ(icon_.PicImage().GetPixel(1, 2), 0x0000FFU);
     EXPECT_TRUE(icon_.IsTransparent(9, 9));
-    EXPECT_EQ(window_.title, "KestrelIconEditor - red.ico");
+    EXPECT_EQ(views_.title, "KestrelIconEditor - red.ico");
     EXPECT_FALSE(icon_.Modified);
-    EXPECT_FALSE(window_.gridEnabled) << "until the timer's tick";
-    EXPECT_TRUE(window_.tmrStarted);
+    EXPECT_FALSE(guard_.gridEnabled) << "until the timer's tick";
+    EXPECT_TRUE(guard_.tmrStarted);
     const services::FileRecord& asked = given_.desktop.opens.at(0);
     EXPECT_EQ(asked.title, "KestrelIconEditor - Open");
     EXPECT_STREQ(asked.filter.c_str(), "Icon Files (*.ico)");
@@ -86,7 +97,7 @@ TEST_F(DocumentCommandsTest, OpensWhatTheDialogGives) {
 
 TEST_F(DocumentCommandsTest, RefusedFilesChangeNothing) {
     commands_.OpenNamed("/icons/red.ico");
-    window_.tmrStarted = false;
+    guard_.tmrStarted = false;
     given_.desktop.choice = "/icons/text.ico";
     for (const auto& [language, named, chosen] :
          {std::tuple{i18n::kEnglish, "Unable to open the file nowhere.ico",
@@ -95,15 +106,15 @@ TEST_F(DocumentCommandsTest, RefusedFilesChangeNothing) {
         i18n::SetUiLanguage(language);
         commands_.OpenNamed("/nowhere.ico");
         ExpectError(named);
-        EXPECT_TRUE(window_.gridEnabled);
+        EXPECT_TRUE(guard_.gridEnabled);
         commands_.mnuOpen_Click();
         ExpectError(chosen);
-        EXPECT_TRUE(window_.gridEnabled);
+        EXPECT_TRUE(guard_.gridEnabled);
     }
     EXPECT_EQ(recent_.GetRecentFile(1) + recent_.GetRecentFile(2), "/icons/red.ico");
     EXPECT_EQ(icon_.FileTitle, "red.ico");
     EXPECT_EQ(icon_.PicImage().GetPixel(1, 2), 0x0000FFU);
-    EXPECT_FALSE(window_.tmrStarted);
+    EXPECT_FALSE(guard_.tmrStarted);
 }
 
 TEST_F(DocumentCommandsTest, UnsavedChangesAreAskedAbout) {
@@ -129,9 +140,6 @@ TEST_F(DocumentCommandsTest, UnsavedChangesAreAskedAbout) {
     Draw();
     commands_.OpenNamed("/icons/red.ico");
     EXPECT_TRUE(icon_.IsUntitled()) << "the question was answered Cancel";
-    commands_.mnuExit_Click();
-    EXPECT_TRUE(window_.unloaded);
-    EXPECT_EQ(given_.boxes.shown.size(), 5U) << "the window asks when it closes";
 }
 
 TEST_F(DocumentCommandsTest, SavesInPlaceAndUnderANewName) {
@@ -144,7 +152,7 @@ TEST_F(DocumentCommandsTest, SavesInPlaceAndUnderANewName) {
     commands_.mnuSaveAs_Click();
     EXPECT_EQ(given_.desktop.saves.at(0).file, "/icons/red.ico");
     EXPECT_EQ(icon_.FilePath, "/icons/other.ico");
-    EXPECT_EQ(window_.title, "KestrelIconEditor - other.ico");
+    EXPECT_EQ(views_.title, "KestrelIconEditor - other.ico");
     EXPECT_TRUE(HoldsTheIcon("/icons/other.ico"));
     EXPECT_EQ(recent_.GetRecentFile(1), "/icons/other.ico");
     EXPECT_EQ(recent_.GetRecentFile(2), "/icons/red.ico");
@@ -169,12 +177,32 @@ TEST_F(DocumentCommandsTest, WarnsBeforeReplacingSeveralIcons) {
     EXPECT_EQ(given_.boxes.shown.size(), 2U) << "one image now";
 }
 
+TEST_F(DocumentCommandsTest, WhatFloatsIsSavedAndPutDown) {
+    editing::Selection& selection = editor_.Selected();
+    Draw();
+    editor_.SelectAll();
+    selection.MoveBy(1, 0);
+    commands_.mnuSave_Click();
+    EXPECT_TRUE(selection.SelectionFloating()) << "the dialog was cancelled";
+    given_.desktop.choice = "/icons/new.ico";
+    given_.files.writeError = {28, "No space left on device"};
+    commands_.mnuSave_Click();
+    EXPECT_TRUE(selection.SelectionFloating()) << "nothing was saved";
+    given_.files.writeError = {};
+    commands_.mnuSave_Click();
+    EXPECT_FALSE(selection.Exists() || icon_.Modified || icon_.IsTransparent(10, 9));
+    EXPECT_TRUE(HoldsTheIcon("/icons/new.ico"));
+    editor_.SelectAll();
+    commands_.mnuSave_Click();
+    EXPECT_TRUE(selection.SelectionMarked()) << "what is only marked stays so";
+}
+
 TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
     given_.files.writeError = {28, "No space left on device"};
     given_.desktop.choice = "/icons/full.ico";
     commands_.mnuSave_Click();
     ExpectError("No space left on device.\r\n\r\nUnable to save Untitled.");
-    EXPECT_EQ(window_.title, "KestrelIconEditor - full.ico");
+    EXPECT_EQ(views_.title, "KestrelIconEditor - full.ico");
     EXPECT_TRUE(icon_.IsUntitled());
 
     commands_.OpenNamed("/icons/several.ico");
@@ -185,7 +213,7 @@ TEST_F(DocumentCommandsTest, AFailedSaveKeepsIconAndFlags) {
     EXPECT_EQ(icon_.FilePath, "/icons/several.ico");
     EXPECT_TRUE(icon_.Modified);
     EXPECT_TRUE(icon_.MultipleIcons);
-    EXPECT_EQ(window_.hourglasses, "on off on off ");
+    EXPECT_EQ(given_.application.hourglasses, "on off on off ");
 }
 
 }  // namespace

@@ -3,30 +3,13 @@
 
 #include "commands/ImageCommands.h"
 #include "tests/support/EditorTest.h"
+#include "tests/support/Recorders.h"
 
 namespace kestrel::commands {
 namespace {
 
 using editing::Button;
 using test::At;
-
-// A user who answers what a test says; without an answer the dialog is cancelled.
-class ScriptedImagingDialogs : public ImagingDialogs {
-  public:
-    bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override {
-        shown = preview;
-        if (adjust) adjust(colors);
-        return adjust && accepts;
-    }
-    std::optional<int> AskGamma() override { return gamma; }
-    std::optional<gdi::Surface> AskGradient() override { return gradient; }
-
-    gdi::Surface shown{0, 0};
-    std::function<void(imaging::ColorAdjustment& colors)> adjust;
-    bool accepts = true;
-    std::optional<int> gamma;
-    std::optional<gdi::Surface> gradient;
-};
 
 class EventsOfTest : public services::MessageLoop {
   public:
@@ -54,7 +37,7 @@ class ImageCommandsTest : public test::EditorTest {
     }
     gdi::COLORREF Seen(At cell) { return editor_.Composited().image.GetPixel(cell.x, cell.y); }
 
-    ScriptedImagingDialogs dialogs_;
+    test::AnsweredDialogs dialogs_;
     EventsOfTest loop_;
     system::RandomNumbers random_{1};
     ImageCommands images_{editor_, dialogs_, loop_, random_};

@@ -25,11 +25,11 @@ class ColorPaletteTest : public testing::Test {
     void Keep(const std::string& path, const std::string& text) {
         files_.contents[path].assign(text.begin(), text.end());
     }
+    // As they are shown.
     std::string Wells() {
         std::string text;
-        for (const Button button : {Button::Left, Button::Right})
-            text += std::to_string(wells_.PenColor(button)) +
-                    (wells_.IsTransparent(button) ? "t " : " ");
+        for (const auto& [button, well] : views_.wells)
+            text += std::to_string(well.first) + (well.second ? "t " : " ");
         return text;
     }
     // Every cell shows its colour inside a sunken edge of one pixel.
@@ -48,15 +48,16 @@ class ColorPaletteTest : public testing::Test {
         return true;
     }
 
-    test::RecordingWindow window_;
+    test::EditorRecorder views_;
+    test::OwnerOfDialogs owner_;
     test::MemoryFiles files_;
     test::ScriptedDialogs desktop_;
     test::ScriptedBoxes boxes_;
     system::RandomNumbers random_{std::mt19937::default_seed};
-    services::Cdb cdb_{desktop_, window_};
-    editing::ColorWells wells_{window_};
-    Palette palette_{window_};
-    PaletteCommands commands_{palette_, {wells_, cdb_, desktop_, window_, boxes_, files_, random_}};
+    services::Cdb cdb_{desktop_, owner_};
+    editing::ColorWells wells_{views_};
+    Palette palette_{views_};
+    PaletteCommands commands_{palette_, {wells_, cdb_, desktop_, owner_, boxes_, files_, random_}};
 };
 
 TEST_F(ColorPaletteTest, PicturesOfTheDefaultAndARandomPalette) {
@@ -78,8 +79,10 @@ TEST_F(ColorPaletteTest, PicturesOfTheDefaultAndARandomPalette) {
     EXPECT_TRUE(PictureIsFresh());
     EXPECT_EQ(palette_.Kind(), PaletteKind::Random);
     EXPECT_EQ(Wells(), "16777215t 16777215 ");
+    wells_.SetPenColor(Button::Right, 0x123456);
     commands_.UseDefaultPalette();
     EXPECT_EQ(palette_.Colors(), first);
+    EXPECT_EQ(Wells(), "16777215t 16777215 ");
     EXPECT_TRUE(PictureIsFresh());
     EXPECT_EQ(palette_.Kind(), PaletteKind::Default);
 }
@@ -197,7 +200,7 @@ TEST_F(ColorPaletteTest, AreLoadedAndSavedThroughTheDialogs) {
     EXPECT_EQ(save.flags, 0x806U);
     EXPECT_EQ(load.flags, 0x1004U);
     for (const services::FileRecord* asked : {&save, &load}) {
-        EXPECT_EQ(asked->owner, test::RecordingWindow::kHandle);
+        EXPECT_EQ(asked->owner, test::OwnerOfDialogs::kHandle);
         EXPECT_EQ(asked->filterIndex, 1);
         EXPECT_EQ(asked->defaultExtension, "PAL");
         EXPECT_EQ(asked->file + asked->title + asked->initialFolder, "");

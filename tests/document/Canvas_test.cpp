@@ -13,14 +13,15 @@ constexpr gdi::COLORREF kRed = 0x0000FF;
 constexpr test::Inks kInks = {{'#', gdi::kBlack}, {'.', gdi::kWhite}, {'g', 0x808080},
                               {'r', kRed},        {'y', 0xFFFF00},    {'h', 0x80807F}};
 
-struct NoWindow : CanvasWindow {
-    void RepaintView(View /*view*/, gdi::Rect /*area*/) override {}
+struct NoDisplay : GridDisplay, PreviewDisplay {
+    void RepaintGrid(gdi::Rect /*area*/) override {}
+    void RepaintPreview(gdi::Rect /*area*/) override {}
 };
 
 TEST(Canvas, CellsShowHatchColourAndInvertedScreen) {
     IconDocument document;
-    NoWindow window;
-    Canvas canvas(document, window, kWindowColor);
+    NoDisplay display;
+    Canvas canvas(document, display, display, kWindowColor);
     document.ChangePlanes().mask.SetPixel(0, 0, gdi::kBlack);
     document.ChangePlanes().image.SetPixel(0, 0, kRed);
     document.ChangePlanes().image.SetPixel(1, 0, kRed);  // the mask stays white: inverts the screen

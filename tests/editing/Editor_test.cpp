@@ -34,6 +34,7 @@ TEST_F(EditorTest, AGestureBelongsToTheButtonThatBeganIt) {
     editor_.PicMain_MouseUp(Button::Right, 15, 5);
     editor_.PicMain_MouseMove(Held(Button::Left), 25, 5);
     EXPECT_EQ(OpaquePixels(), 2);
+    EXPECT_FALSE(editor_.CanUndo()) << "what it has drawn so far is no entry of its own";
     EXPECT_EQ(editor_.History().UndoCount(), 1U);
     // The release was lost to a dialog: the next press of the button ends the old stroke first.
     editor_.PicMain_MouseDown(Button::Left, 35, 5);
@@ -72,9 +73,9 @@ TEST_F(EditorTest, ReadoutsTellPixelAndCell) {
     editor_.Wells().SetPenColor(Button::Left, 0x0000FF);
     // A press shows them without a move before.
     editor_.PicMain_MouseDown(Button::Left, 5, 5);
-    EXPECT_EQ(window_.panels[2], "Transparent") << "as it was before the pencil";
+    EXPECT_EQ(views_.panels[2], "Transparent") << "as it was before the pencil";
     editor_.EndGesture();
-    EXPECT_EQ(window_.panels[2], "#FF");
+    EXPECT_EQ(views_.panels[2], "#FF");
     const struct {
         int x, y;
         const char* pixel;
@@ -87,9 +88,9 @@ TEST_F(EditorTest, ReadoutsTellPixelAndCell) {
     for (const auto& c : cases) {
         i18n::SetUiLanguage(c.x == 319 ? i18n::kChinese : i18n::kEnglish);
         editor_.PicMain_MouseMove({}, c.x, c.y);
-        EXPECT_EQ(window_.panels[2], c.pixel) << c.x << "," << c.y;
-        EXPECT_EQ(window_.panels[3], c.cell) << c.x << "," << c.y;
-        EXPECT_EQ(window_.printed[3], c.cell);
+        EXPECT_EQ(views_.panels[2], c.pixel) << c.x << "," << c.y;
+        EXPECT_EQ(views_.panels[3], c.cell) << c.x << "," << c.y;
+        EXPECT_EQ(views_.printed[3], c.cell);
     }
 }
 

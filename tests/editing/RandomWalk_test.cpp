@@ -75,7 +75,7 @@ class RandomWalkTest : public test::EditorTest {
                     pixel = Below(3) == 0 ? gdi::kWhite : static_cast<gdi::COLORREF>(random_());
             }
         }
-        dialog_.fit = Below(2) == 0 ? imaging::PasteFit::Shrink : imaging::PasteFit::KeepAspect;
+        dialogs_.fit = Below(2) == 0 ? imaging::PasteFit::Shrink : imaging::PasteFit::KeepAspect;
         const auto mode =
             Below(2) == 0 ? imaging::PasteMode::Opaque : imaging::PasteMode::Transparent;
         EXPECT_EQ(commands_.Paste(mode).has_value(), clipboard_.HasImage());
@@ -95,8 +95,7 @@ class RandomWalkTest : public test::EditorTest {
     // Whoever watches the grid has been told of every pixel that changed.
     void ExpectRepainted(gdi::Surface watched) {
         const gdi::Surface& now = editor_.Views().PicMain;
-        for (const auto& [view, area] : window_.repainted) {
-            if (view != document::View::Grid) continue;
+        for (const gdi::Rect& area : views_.repainted) {
             gdi::BitBlt(watched, area.left, area.top, area.width, area.height, now, area.left,
                         area.top, gdi::RasterOp::Copy);
         }
@@ -115,12 +114,13 @@ class RandomWalkTest : public test::EditorTest {
     }
 
     std::mt19937 random_{4711};
-    test::RecordingWindow dialog_;
+    test::OwnerOfDialogs owner_;
+    test::AnsweredDialogs dialogs_;
     test::ScriptedDialogs desktop_;
-    services::Cdb cdb_{desktop_, dialog_};
-    commands::WellCommands wells_{editor_.Wells(), window_, cdb_};
+    services::Cdb cdb_{desktop_, owner_};
+    commands::WellCommands wells_{editor_.Wells(), views_.application, cdb_};
     test::MemoryClipboard clipboard_;
-    commands::ClipboardCommands commands_{editor_, clipboard_, dialog_};
+    commands::ClipboardCommands commands_{editor_, clipboard_, dialogs_};
 };
 
 TEST_F(RandomWalkTest, LeavesNothingBehind) {
@@ -137,7 +137,7 @@ TEST_F(RandomWalkTest, LeavesNothingBehind) {
             const gdi::Surface before = editor_.Views().PicMain;
             Step();
             ExpectRepainted(before);
-            window_.repainted.clear();
+            views_.repainted.clear();
             EXPECT_TRUE(fromFile || IsSound());
             EXPECT_TRUE(test::ViewsAreFresh(editor_)) << "step " << i;
             EXPECT_EQ(editor_.Views().PicMain.state.drawMode, gdi::DrawMode::CopyPen);

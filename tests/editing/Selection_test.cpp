@@ -95,12 +95,12 @@ TEST_F(SelectionTest, ADragMovesThePixelsByWholeCells) {
                  {{55, 55}, {-32768, 55}, {40, 50, 60, 60}}};
     for (const auto& c : cases) {
         MarkCells({4, 5}, {5, 5});
-        window_.refreshes = 0;
+        views_.refreshes = 0;
         icon_.Modified = false;
         Stroke(Button::Left, {c.from, c.to});
         EXPECT_EQ(Selected().Marquee(), c.marquee) << "the last two would leave the 16 bits";
         EXPECT_TRUE(icon_.IsTransparent(5, 5));
-        EXPECT_GE(window_.refreshes, 1);
+        EXPECT_GE(views_.refreshes, 1);
         EXPECT_TRUE(icon_.Modified);
         EXPECT_TRUE(test::ViewsAreFresh(editor_));
         Selected().DropSelection();
@@ -120,7 +120,7 @@ TEST_F(SelectionTest, WhileItMovesItIsShownWithoutMarquee) {
     MarkCells({4, 5}, {9, 9});
     editor_.PicMain_MouseDown(Button::Left, 65, 65);
     editor_.PicMain_MouseMove(test::Held(Button::Left), 185, 65);
-    EXPECT_EQ(window_.cursor, GridCursor::Move) << "the pointer was faster than the selection";
+    EXPECT_EQ(views_.cursor, GridCursor::Move) << "the pointer was faster than the selection";
     gdi::Surface& grid = editor_.Views().PicMain;
     test::InvertMarquee(grid, Selected().Marquee());
     EXPECT_TRUE(test::ViewsAreFresh(editor_));
@@ -227,20 +227,20 @@ TEST_F(SelectionTest, ThePointerTellsWhereItCanBeMoved) {
         const bool inside = v == 20 || v == 50;
         for (const test::At& at : {test::At{v, 30}, test::At{30, v}}) {
             editor_.PicMain_MouseMove({}, at.x, at.y);
-            EXPECT_EQ(window_.cursor == GridCursor::Move, inside) << at.x << "," << at.y;
+            EXPECT_EQ(views_.cursor == GridCursor::Move, inside) << at.x << "," << at.y;
         }
     }
     // A press tells where the pointer is, too; that of the right button opens the pop-up.
     Stroke(Button::Right, {{35, 35}});
     editor_.PicMain_MouseDown(Button::Right, 35, 35);
     editor_.EndGesture();
-    EXPECT_EQ(window_.popups, 1) << "a command by keyboard ended the second one";
+    EXPECT_EQ(views_.popups, 1) << "a command by keyboard ended the second one";
     EXPECT_FALSE(icon_.Modified);
     editor_.PicMain_MouseMove({}, 5, 5);
     editor_.PicMain_MouseDown(Button::Left, 35, 35);
     EXPECT_TRUE(Selected().MovingSelection());
     Selected().DropSelection();
-    EXPECT_EQ(window_.cursor, GridCursor::Cross);
+    EXPECT_EQ(views_.cursor, GridCursor::Cross);
 }
 
 }  // namespace

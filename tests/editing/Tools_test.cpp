@@ -138,9 +138,9 @@ TEST_F(ToolsTest, ThePickerTakesColourOrTransparencyAndHandsBack) {
         Drag(c.button, {5, 5}, c.cell);
         EXPECT_EQ(editor_.Wells().PenColor(c.button), c.color);
         EXPECT_EQ(editor_.Wells().IsTransparent(c.button), c.transparent);
-        EXPECT_EQ(window_.beeps, c.button == Button::Right ? 0 : 1);
+        EXPECT_EQ(views_.application.beeps, c.button == Button::Right ? 0 : 1);
         EXPECT_EQ(editor_.Tools().CurrentTool(), ToolId::Ellipse);
-        EXPECT_EQ(window_.cursor, GridCursor::Cross);
+        EXPECT_EQ(views_.cursor, GridCursor::Cross);
     }
     EXPECT_EQ(editor_.History().UndoCount(), 1U);
     EXPECT_FALSE(icon_.Modified);
@@ -175,12 +175,12 @@ TEST_F(ToolsTest, TheSizeOfADragIsShownWhereItIsPrinted) {
     for (const auto& c : cases) {
         if (editor_.Tools().CurrentTool() != c.tool) UseTool(c.tool);
         Stroke(Button::Left, {c.from, c.to});
-        EXPECT_EQ(window_.panels[4], c.size) << static_cast<int>(c.tool);
-        EXPECT_EQ(window_.printed[4], c.size);
+        EXPECT_EQ(views_.panels[4], c.size) << static_cast<int>(c.tool);
+        EXPECT_EQ(views_.printed[4], c.size);
     }
     UseTool(Selection);
     Stroke(Button::Right, {{58, 58}, {157, 157}});
-    EXPECT_EQ(window_.panels[4], "10 , 10") << "it marks nothing: the cells passed";
+    EXPECT_EQ(views_.panels[4], "10 , 10") << "it marks nothing: the cells passed";
 }
 
 }  // namespace

@@ -5,16 +5,33 @@
 #include <utility>
 #include <vector>
 
-#include "editing/EditorWindow.h"
+#include "editing/EditorViews.h"
 
 namespace kestrel::test {
 
-// The window around an editor, without a screen: remembers what it was told last.
-class RecordingEditorWindow : public editing::EditorWindow {
+// A program whose pointer and bell are only noted.
+class RecordingApplication : public services::Application {
   public:
-    void RepaintView(document::View view, gdi::Rect area) override {
-        repainted.emplace_back(view, area);
-    }
+    void DoEvents() override {}
+    void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
+    void Beep() override { ++beeps; }
+
+    std::string hourglasses;
+    int beeps = 0;
+};
+
+// The surroundings of an editor, without a screen: remember what they were told last.
+class EditorRecorder : public editing::GridView,
+                       public editing::PreviewView,
+                       public editing::ToolsView,
+                       public editing::ColorsView,
+                       public editing::StatusView,
+                       public editing::EditorWindow {
+  public:
+    editing::EditorViews Views() { return {*this, *this, *this, *this, *this, *this, application}; }
+
+    void RepaintGrid(gdi::Rect area) override { repainted.push_back(area); }
+    void RepaintPreview(gdi::Rect /*area*/) override {}
     void SetTitle(const std::string& text) override { title = text; }
     void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override {
         panels[static_cast<int>(panel)] = text;
@@ -23,24 +40,27 @@ class RecordingEditorWindow : public editing::EditorWindow {
         printed[static_cast<int>(panel)] = text;
     }
     void SetGridCursor(editing::GridCursor shape) override { cursor = shape; }
-    void RepaintTools() override { ++toolRepaints; }
+    void RepaintTools() override {}
     void SetToolTipOfTools(std::string_view text) override { toolTip = text; }
-    void RepaintWells() override { ++wellRepaints; }
-    void PaletteChanged() override {}
+    void ShowWell(editing::Button button, gdi::COLORREF color, bool transparent) override {
+        wells[button] = {color, transparent};
+    }
+    void RepaintPalette() override {}
+    void ShowChkPal(bool /*ticked*/) override {}
     void ShowEditingPopup() override { ++popups; }
-    void Beep() override { ++beeps; }
     void RefreshEditCommands() override { ++refreshes; }
 
-    std::vector<std::pair<document::View, gdi::Rect>> repainted;
+    RecordingApplication application;
+    // Areas of the grid.
+    std::vector<gdi::Rect> repainted;
     std::string title;
     std::map<int, std::string> panels;
     std::map<int, std::string> printed;
     std::string toolTip;
     editing::GridCursor cursor = editing::GridCursor::Cross;
-    int toolRepaints = 0;
-    int wellRepaints = 0;
+    // Colour, and whether it is transparent.
+    std::map<editing::Button, std::pair<gdi::COLORREF, bool>> wells;
     int popups = 0;
-    int beeps = 0;
     int refreshes = 0;
 };
 

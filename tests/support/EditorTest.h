@@ -43,9 +43,9 @@ inline void InvertMarquee(gdi::Surface& grid, const editing::Corners& marquee) {
 // Whether the views show what a complete redraw of the planes and the selection would.
 inline testing::AssertionResult ViewsAreFresh(editing::Editor& editor) {
     const document::Canvas& shown = editor.Views();
-    static RecordingEditorWindow window;
+    static EditorRecorder views;
     static document::IconDocument icon;
-    static document::Canvas fresh(icon, window, shown.PicIcon.BackColor());
+    static document::Canvas fresh(icon, views, views, shown.PicIcon.BackColor());
     icon = editor.Document();
     fresh.SetWindowColor(shown.PicIcon.BackColor());
     fresh.RedrawAll();
@@ -53,7 +53,7 @@ inline testing::AssertionResult ViewsAreFresh(editing::Editor& editor) {
     const editing::Selection& selection = editor.Selected();
     if (selection.SelectionFloating()) selection.CompositeOver(icon.ChangePlanes());
     fresh.RedrawAll();
-    window.repainted.clear();
+    views.repainted.clear();
     if (selection.Exists()) InvertMarquee(fresh.PicMain, selection.Marquee());
     if (auto same = ComparePicture(shown.PicMain, fresh.PicMain); !same) return same << " (grid)";
     return ComparePicture(shown.PicIcon, fresh.PicIcon);
@@ -81,8 +81,8 @@ class EditorTest : public testing::Test {
         return count;
     }
 
-    RecordingEditorWindow window_;
-    editing::Editor editor_{window_, kWindowColor};
+    EditorRecorder views_;
+    editing::Editor editor_{views_.Views(), kWindowColor};
     document::IconDocument& icon_ = editor_.Document();
 };
 

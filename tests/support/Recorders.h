@@ -12,50 +12,41 @@
 #include "commands/MainWindow.h"
 #include "platform/system/FileSystem.h"
 #include "platform/system/LetterCase.h"
+#include "services/Clipboard.h"
 #include "services/MessageBoxes.h"
 #include "tests/support/EditorRecorder.h"
 #include "tests/support/ScriptedDialogs.h"
 
 namespace kestrel::test {
 
-// A main window without a screen: remembers what it was told last.
-class RecordingWindow : public RecordingEditorWindow, public commands::MainWindow {
+// The window that dialogs belong to.
+class OwnerOfDialogs : public services::OwnerWindow {
   public:
-    void EnableGrid(bool enabled) override { gridEnabled = enabled; }
-    void StartTmr() override { tmrStarted = true; }
-    void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
-    void DoEvents() override {}
-    void Unload() override { unloaded = true; }
-    void SetControlCaption(std::string_view control, std::string_view text) override {
-        captions[std::string(control)] = text;
+    static constexpr services::WindowHandle kHandle = 77;
+    services::WindowHandle hWnd() const override { return kHandle; }
+};
+
+// A user who answers the program's dialogs as a test says; without an answer they are cancelled.
+class AnsweredDialogs : public commands::Dialogs {
+  public:
+    bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override {
+        shown = preview;
+        if (adjust) adjust(colors);
+        return adjust && accepts;
     }
-    void SetControlToolTip(std::string_view /*control*/, std::string_view /*text*/) override {}
-    void SetButtonToolTip(std::string_view key, std::string_view text) override {
-        captions[std::string(key)] = text;
-    }
-    void EnableButton(std::string_view key, bool enabled) override {
-        buttons[std::string(key)] = enabled;
-    }
-    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override {
-        asked.push_back(picture);
+    std::optional<int> AskGamma() override { return gamma; }
+    std::optional<gdi::Surface> AskGradient() override { return gradient; }
+    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize /*picture*/) override {
         return fit;
     }
-    services::WindowHandle hWnd() const override { return kHandle; }
-    void ShowAbout() override { aboutShown = true; }
-    void LanguageChanged() override { languageChanged = true; }
+    void ShowAbout() override {}
 
-    static constexpr services::WindowHandle kHandle = 77;
-    bool gridEnabled = true;
-    bool tmrStarted = false;
-    std::string hourglasses;
-    bool unloaded = false;
-    std::map<std::string, std::string> captions;
-    std::map<std::string, bool> buttons;
-    // How a large picture is pasted; none cancels.
+    gdi::Surface shown{0, 0};
+    std::function<void(imaging::ColorAdjustment& colors)> adjust;
+    bool accepts = true;
+    std::optional<int> gamma;
+    std::optional<gdi::Surface> gradient;
     std::optional<imaging::PasteFit> fit;
-    std::vector<imaging::PictureSize> asked;
-    bool aboutShown = false;
-    bool languageChanged = false;
 };
 
 // Message boxes that a test answers beforehand; unexpected ones are answered Cancel.

@@ -102,11 +102,21 @@ class RecordingHelp : public services::HelpViewer {
 // All that a main window is given.
 struct FakeServices {
     commands::MainServices Given() {
-        return {desktop,  clipboard, boxes,  help,     files,
-                registry, shell,     random, settings, {"/program", "/windows"},
+        return {application,
+                desktop,
+                clipboard,
+                boxes,
+                help,
+                files,
+                registry,
+                shell,
+                random,
+                settings,
+                {"/program", "/windows"},
                 1033};
     }
 
+    RecordingApplication application;
     ScriptedDialogs desktop;
     MemoryClipboard clipboard;
     ScriptedBoxes boxes;

@@ -1,5 +1,7 @@
 #include "windows/widgets/StatusBar.h"
 
+#include <array>
+
 #include "desktop/Text.h"
 
 namespace kestrel::widgets {
@@ -7,11 +9,13 @@ namespace kestrel::widgets {
 namespace {
 
 constexpr int kGap = 2;
+// In pixels, in the order of StatusPanel; the first takes what the others leave.
+constexpr std::array kPanelWidths{0, 84, 56, 56, 44};
 
 }  // namespace
 
-StatusBar::StatusBar(std::span<const int> widths, QWidget* parent) : QWidget(parent) {
-    for (const int width : widths) {
+StatusBar::StatusBar(QWidget* parent) : QWidget(parent) {
+    for (const int width : kPanelWidths) {
         auto* label = new QLabel(this);
         label->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
         label->setTextFormat(Qt::PlainText);
@@ -20,15 +24,21 @@ StatusBar::StatusBar(std::span<const int> widths, QWidget* parent) : QWidget(par
     }
 }
 
-void StatusBar::SetText(int panel, std::string_view text) {
-    Panel& changed = panels_.at(static_cast<std::size_t>(panel) - 1);
+void StatusBar::SetStatusPanel(editing::StatusPanel panel, std::string_view text) {
+    Panel& changed = panels_.at(IndexOf(panel));
     if (changed.text == text) return;
     changed.text = text;
     changed.label->setText(desktop::ToText(text));
 }
 
-std::string StatusBar::Text(int panel) const {
-    return panels_.at(static_cast<std::size_t>(panel) - 1).text;
+std::string StatusBar::Text(editing::StatusPanel panel) const {
+    return panels_.at(IndexOf(panel)).text;
+}
+
+void StatusBar::Clear() {
+    using enum editing::StatusPanel;
+    for (const editing::StatusPanel panel : {Hint, Pixel, Cell, DragSize})
+        SetStatusPanel(panel, {});
 }
 
 void StatusBar::resizeEvent(QResizeEvent* /*event*/) {

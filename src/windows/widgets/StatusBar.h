@@ -2,22 +2,24 @@
 
 #include <QLabel>
 #include <QWidget>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "editing/EditorViews.h"
+
 namespace kestrel::widgets {
 
 // A row of sunken text panels along the bottom of a window.
-class StatusBar : public QWidget {
+class StatusBar : public QWidget, public editing::StatusView {
   public:
-    // Panel widths in pixels, from the left; 0 takes what the others leave (one panel may).
-    StatusBar(std::span<const int> widths, QWidget* parent);
+    explicit StatusBar(QWidget* parent);
 
-    // Panels count from 1. A text that is too long is cut at its end.
-    void SetText(int panel, std::string_view text);
-    std::string Text(int panel) const;
+    // A text that is too long is cut at its end.
+    void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override;
+    std::string Text(editing::StatusPanel panel) const;
+    // Empties the panels that follow the pointer.
+    void Clear();
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -28,6 +30,10 @@ class StatusBar : public QWidget {
         int width;
         std::string text;
     };
+
+    static std::size_t IndexOf(editing::StatusPanel panel) {
+        return static_cast<std::size_t>(panel) - 1;
+    }
 
     std::vector<Panel> panels_;
 };

@@ -18,11 +18,19 @@ QPoint PointOf(const QMouseEvent& event) {
 
 }  // namespace
 
-SurfaceWidget::SurfaceWidget(const gdi::Surface& surface, QWidget* parent)
-    : QWidget(parent), surface_(surface) {
-    setFixedSize(surface.Width(), surface.Height());
+SurfaceWidget::SurfaceWidget(QWidget* parent) : QWidget(parent) {
+    setFixedSize(0, 0);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
+}
+
+SurfaceWidget::SurfaceWidget(const gdi::Surface& surface, QWidget* parent) : SurfaceWidget(parent) {
+    Show(surface);
+}
+
+void SurfaceWidget::Show(const gdi::Surface& surface) {
+    surface_ = &surface;
+    setFixedSize(surface.Width(), surface.Height());
 }
 
 void SurfaceWidget::Repaint(gdi::Rect area) {
@@ -35,7 +43,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
         const QRect inside = part & rect();
         painter.drawImage(
             inside.topLeft(),
-            desktop::ToImage(surface_, {inside.x(), inside.y(), inside.width(), inside.height()}));
+            desktop::ToImage(*surface_, {inside.x(), inside.y(), inside.width(), inside.height()}));
     }
 }
 

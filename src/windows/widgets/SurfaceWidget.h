@@ -9,10 +9,15 @@
 namespace kestrel::widgets {
 
 // Shows a surface, one pixel of it a unit of the window, and hands on its mouse events. Points are
-// in pixels of the surface and may lie outside while a button is held.
+// in pixels of the surface and may lie outside while a button is held. Without a surface it has no
+// size.
 class SurfaceWidget : public QWidget {
   public:
+    explicit SurfaceWidget(QWidget* parent);
     SurfaceWidget(const gdi::Surface& surface, QWidget* parent);
+
+    // Shows this surface from now on, which outlives the widget or is shown no longer than it is.
+    void Show(const gdi::Surface& surface);
 
     // These pixels changed.
     void Repaint(gdi::Rect area);
@@ -31,7 +36,7 @@ class SurfaceWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    const gdi::Surface& surface_;
+    const gdi::Surface* surface_ = nullptr;
     // The button of a quick pair whose second press is held; NoButton for none.
     Qt::MouseButton doubleClicked_ = Qt::NoButton;
 };

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <qdrawutil.h>
+
 #include <QDialog>
 #include <QFont>
+#include <QPainter>
 #include <QScreen>
 
 #include "desktop/CloseKey.h"
@@ -10,6 +13,22 @@ namespace kestrel::widgets {
 
 // Of labels and status texts.
 inline constexpr int kSmallFontPixels = 11;
+
+// Pixels from a control to the outside of the edge around it.
+inline constexpr int kEdgeDistance = 4;
+
+// What a control of this size takes with an edge around it.
+inline QSize WithEdge(QSize control) {
+    return control.grownBy({kEdgeDistance, kEdgeDistance, kEdgeDistance, kEdgeDistance});
+}
+
+// Draws a sunken edge around a control of the widget that is being painted.
+inline void DrawEdgeAround(QWidget& widget, const QRect& control) {
+    QPainter painter(&widget);
+    const QRect edge =
+        control.adjusted(-kEdgeDistance, -kEdgeDistance, kEdgeDistance, kEdgeDistance);
+    qDrawShadePanel(&painter, edge, widget.palette(), true, 1);
+}
 
 // The widget's font in another size.
 inline QFont FontOf(const QWidget& widget, int pixels) {

@@ -2,18 +2,20 @@
 
 #include <QWidget>
 
-#include "commands/ImagingDialogs.h"
+#include "commands/Dialogs.h"
 
 namespace kestrel::windows {
 
 // The dialogs on the desktop, above the window that owns them.
-class FrmImagingDialogs : public commands::ImagingDialogs {
+class FrmDialogs : public commands::Dialogs {
   public:
-    explicit FrmImagingDialogs(QWidget& owner) : owner_(owner) {}
+    explicit FrmDialogs(QWidget& owner) : owner_(owner) {}
 
     bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override;
     std::optional<int> AskGamma() override;
     std::optional<gdi::Surface> AskGradient() override;
+    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override;
+    void ShowAbout() override;
 
   private:
     QWidget& owner_;

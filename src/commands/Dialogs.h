@@ -3,14 +3,15 @@
 #include <optional>
 
 #include "imaging/ColorAdjustment.h"
+#include "imaging/PasteFit.h"
 #include "platform/gdi/Surface.h"
 
 namespace kestrel::commands {
 
-// What the image commands ask the user, each in a modal dialog.
-class ImagingDialogs {
+// What the commands ask and tell the user in dialogs of the program's own, all of them modal.
+class Dialogs {
   public:
-    virtual ~ImagingDialogs() = default;
+    virtual ~Dialogs() = default;
     // Lets the user adjust the colours; `preview` is the icon in actual size before that. False
     // when the dialog was cancelled.
     virtual bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) = 0;
@@ -18,6 +19,9 @@ class ImagingDialogs {
     virtual std::optional<int> AskGamma() = 0;
     // The pixels of the gradient; none when cancelled.
     virtual std::optional<gdi::Surface> AskGradient() = 0;
+    // How a picture that is larger than the icon is pasted; none when cancelled.
+    virtual std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) = 0;
+    virtual void ShowAbout() = 0;
 };
 
 }  // namespace kestrel::commands

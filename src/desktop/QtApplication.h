@@ -1,0 +1,15 @@
+#pragma once
+
+#include "services/Application.h"
+
+namespace kestrel::desktop {
+
+// The application object of the desktop library.
+class QtApplication : public services::Application {
+  public:
+    void DoEvents() override;
+    void ShowHourglass(bool shown) override;
+    void Beep() override;
+};
+
+}  // namespace kestrel::desktop

@@ -1,0 +1,16 @@
+#include "windows/CommandRunner.h"
+
+#include <QScopedValueRollback>
+
+namespace kestrel::windows {
+
+void CommandRunner::Run(const std::function<void()>& command) {
+    if (running_) return;
+    const QScopedValueRollback running(running_, true);
+    editor_.EndGesture();
+    command();
+    grid_.FollowPointer();
+    window_.RefreshEditCommands();
+}
+
+}  // namespace kestrel::windows

@@ -1,0 +1,31 @@
+#include "windows/FrmDialogs.h"
+
+#include "windows/FrmClipData.h"
+#include "windows/FrmColAdj.h"
+#include "windows/FrmShades.h"
+#include "windows/frmAbout.h"
+#include "windows/frmGamma.h"
+
+namespace kestrel::windows {
+
+bool FrmDialogs::AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) {
+    return FrmColAdj(&owner_, colors, preview).exec() == QDialog::Accepted;
+}
+
+std::optional<int> FrmDialogs::AskGamma() {
+    return frmGamma(&owner_).Ask();
+}
+
+std::optional<gdi::Surface> FrmDialogs::AskGradient() {
+    return FrmShades(&owner_).Ask();
+}
+
+std::optional<imaging::PasteFit> FrmDialogs::AskFit(imaging::PictureSize picture) {
+    return FrmClipData(&owner_, picture).Ask();
+}
+
+void FrmDialogs::ShowAbout() {
+    frmAbout(&owner_).exec();
+}
+
+}  // namespace kestrel::windows

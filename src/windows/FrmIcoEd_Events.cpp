@@ -1,0 +1,98 @@
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QUrl>
+#include <algorithm>
+
+#include "windows/FrmIcoEd.h"
+
+namespace kestrel::windows {
+
+namespace {
+
+// The local file of a URL, byte for byte: its name need not be UTF-8.
+std::string LocalFile(const QUrl& url) {
+    if (!url.isLocalFile()) return {};
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString();
+}
+
+// The file is only read: a source that would move it must not delete it.
+void AcceptToRead(QDropEvent& event) {
+    for (const Qt::DropAction action : {Qt::CopyAction, Qt::LinkAction}) {
+        if (!event.possibleActions().testFlag(action)) continue;
+        event.setDropAction(action);
+        event.accept();
+        return;
+    }
+    event.ignore();
+}
+
+// The first of the dragged files that lies on this machine; empty for none.
+std::string FirstLocalFile(const QMimeData& dragged) {
+    for (const QUrl& url : dragged.urls()) {
+        if (std::string file = LocalFile(url); !file.empty()) return file;
+    }
+    return {};
+}
+
+}  // namespace
+
+void FrmIcoEd::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    runner_.Run([&] { event->setAccepted(Form_Unload()); });
+}
+
+bool FrmIcoEd::event(QEvent* event) {
+    // Also where the window's own colour hides that the desktop's has changed.
+    if (event->type() == QEvent::ApplicationPaletteChange) FollowDesktopColors();
+    return QWidget::event(event);
+}
+
+void FrmIcoEd::dragEnterEvent(QDragEnterEvent* event) {
+    // While a command asks something, a file could not be opened.
+    if (!runner_.IsRunning() && !FirstLocalFile(*event->mimeData()).empty()) AcceptToRead(*event);
+}
+
+void FrmIcoEd::dropEvent(QDropEvent* event) {
+    AcceptToRead(*event);
+    // The program that dropped the file waits until this returns; a question must not keep it.
+    QMetaObject::invokeMethod(
+        this, [this, file = FirstLocalFile(*event->mimeData())] { Form_OLEDragDrop(file); },
+        Qt::QueuedConnection);
+}
+
+void FrmIcoEd::mouseMoveEvent(QMouseEvent* /*event*/) {
+    statusBar_.Clear();
+}
+
+// On the background it puts the selection down. Controls hand on what they do not use.
+void FrmIcoEd::mouseReleaseEvent(QMouseEvent* event) {
+    if (!rect().contains(event->pos()) || !IsBackground(event->pos())) return;
+    runner_.Run([this] { editor_.Selected().DropSelection(); });
+}
+
+// The panes' own ground counts as the window's.
+bool FrmIcoEd::IsBackground(QPoint at) const {
+    const QWidget* const hit = childAt(at);
+    return hit == nullptr || hit == &grid_ || hit == &preview_ || hit == &tools_ || hit == &colors_;
+}
+
+// The arrow keys; false for any other key.
+bool FrmIcoEd::MoveSelectionByKey(const QKeyEvent& event) {
+    constexpr struct {
+        Qt::Key key;
+        int columns;
+        int rows;
+    } kArrows[] = {
+        {Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}};
+    const auto* const arrow = std::find_if(std::begin(kArrows), std::end(kArrows),
+                                           [&](const auto& a) { return a.key == event.key(); });
+    const bool modified = (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
+    // On the toolbar they go from button to button.
+    if (arrow == std::end(kArrows) || modified || !hasFocus()) return false;
+    runner_.Run([&] { editor_.Selected().MoveBy(arrow->columns, arrow->rows); });
+    return true;
+}
+
+}  // namespace kestrel::windows

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "commands/MainWindow.h"
+#include "windows/widgets/ToolBar.h"
+
+namespace kestrel::windows {
+
+// The controls of a window by the names that their texts are listed under.
+class NamedControls : public commands::MainControls {
+  public:
+    using ShowText = std::function<void(const QString& text)>;
+
+    explicit NamedControls(widgets::ToolBar& toolbar) : toolbar_(toolbar) {}
+
+    void AddCaption(const std::string& control, ShowText show) { captions_[control] = show; }
+    // Under the name of its object.
+    void AddToolTip(QWidget& control);
+
+    void SetControlCaption(std::string_view control, std::string_view text) override;
+    void SetControlToolTip(std::string_view control, std::string_view text) override;
+    void SetButtonToolTip(std::string_view key, std::string_view text) override;
+    void EnableButton(std::string_view key, bool enabled) override;
+
+  private:
+    using ByName = std::map<std::string, ShowText, std::less<>>;
+
+    static void Show(const ByName& controls, std::string_view control, std::string_view text);
+
+    widgets::ToolBar& toolbar_;
+    ByName captions_;
+    ByName toolTips_;
+};
+
+}  // namespace kestrel::windows
