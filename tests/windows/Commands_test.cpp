@@ -23,9 +23,8 @@ class CommandWindow : public test::WindowTest {
         }
         Editor().PopUndoSnapshot();
         if (row.enabled != commands::Always) Editor().SelectAll();
-        gdi::Surface picture(2, 1);
+        gdi::Surface picture(2, 1);  // the other pixel is transparent
         picture.Row(0)[0] = 0xFF000000;
-        picture.Row(0)[1] = 0xFFFFFFFF;
         given_.clipboard.Offer(picture);
         given_.desktop.choice = "/none";
         given_.shell.failure = "none";
@@ -52,9 +51,7 @@ class CommandWindow : public test::WindowTest {
         }
     }
     void ChooseInPopup(const CommandRow& row) { window_.Menus().SmartMenuXP2.onClick(row.key); }
-    void Press(const CommandRow& row) {
-        QTest::mouseClick(window_.Toolbar1().Button(row.key), Qt::LeftButton);
-    }
+    void Press(const CommandRow& row) { window_.Toolbar1().Button(row.key)->click(); }
     // The icon's pixels, then all else that commands change.
     std::string State() {
         std::ostringstream state;
