@@ -115,6 +115,7 @@ TEST_F(SelectingTest, ALargePictureIsAskedAbout) {
             for (const Qt::Key key : pressed)
                 QTest::keyClick(dialog->focusWidget(), key);
         });
+        QApplication::setActiveWindow(&window_);
         Key(Qt::Key_V, Qt::ControlModifier);
         EXPECT_EQ(Selected().Marquee(), pasted);
     }
