@@ -37,7 +37,7 @@ std::string Joined(const std::vector<std::string>& fields) {
 }
 
 // The number a field begins with, 0 when there is none; the nearest one where it fits no integer.
-int NumberIn(const std::string& field) {
+int LeadingNumber(const std::string& field) {
     using Limits = std::numeric_limits<int>;
     int number = 0;
     const auto read = std::from_chars(field.data(), field.data() + field.size(), number);
@@ -83,8 +83,8 @@ void RestoreWindowPosition(Settings& settings, PositionedWindow& window, const s
     bool maximised = window.State() == WindowState::Maximised;
     const auto fields = FieldsOf(settings.ReadSetting(kSection, window.Name(), "", file));
     if (fields.size() >= kFields) {
-        stored = {NumberIn(fields[0]), NumberIn(fields[1]), NumberIn(fields[2]),
-                  NumberIn(fields[3])};
+        stored = {LeadingNumber(fields[0]), LeadingNumber(fields[1]), LeadingNumber(fields[2]),
+                  LeadingNumber(fields[3])};
         maximised = system::SameName(fields[4], "true");
     }
     const Span across = OnScreen({stored.left, stored.width}, {now.left, now.width}, screen.width);
