@@ -83,7 +83,8 @@ std::string PathOfCommandLine(std::string_view commandLine, system::FileSystem& 
     std::string proper = system::ProperCase(typed);
     // Where two files differ in letter case alone, the one that was typed is meant.
     const auto typedFile = files.Find(typed);
-    const bool otherFile = typedFile && typedFile != files.Find(proper);
+    const bool spelledSo = typedFile && typedFile->ends_with(system::FileTitleOf(typed));
+    const bool otherFile = spelledSo && typedFile != files.Find(proper);
     return otherFile ? typed : proper;
 }
 

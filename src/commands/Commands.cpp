@@ -10,7 +10,7 @@ bool IsEnabled(const CommandRow& row, Commands& commands) {
     return row.run != kNotBuilt && row.enabled(commands);
 }
 
-// Most rows have the state they began with for ever.
+// Rows without a question of their own never change.
 void Refresh(controls::SmartMenuXP& menu, std::span<const CommandRow> rows, Commands& commands) {
     for (const CommandRow& row : rows) {
         if (row.enabled != Always) menu.SetEnabled(row.key, IsEnabled(row, commands));

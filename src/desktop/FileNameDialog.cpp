@@ -97,13 +97,18 @@ void FileNameDialog::accept() {
         case services::FileNameRules::Verdict::Stay:
             return;
         case services::FileNameRules::Verdict::Enter:
-            setDirectory(QString::fromStdString(paths[0]));
-            name->clear();
+            EnterFolder(QString::fromStdString(paths[0]), *name);
             return;
         case services::FileNameRules::Verdict::Take:
             NoteAnswer(paths);
             done(Accepted);
     }
+}
+
+// A name that is proposed or typed stays for the folder that is entered; the folder's own goes.
+void FileNameDialog::EnterFolder(const QString& folder, QLineEdit& name) {
+    if (QDir::cleanPath(directory().absoluteFilePath(name.text())) == folder) name.clear();
+    setDirectory(folder);
 }
 
 // Counted from 1. Some versions of the library tell the filter without its patterns.

@@ -6,6 +6,8 @@
 
 #include "services/FileNameRules.h"
 
+class QLineEdit;
+
 namespace kestrel::desktop {
 
 // The desktop library's own file dialog, on every desktop: it takes names by the rules of this
@@ -28,6 +30,7 @@ class FileNameDialog : public QFileDialog {
     bool Asks(std::uint32_t flag) const { return (record_.flags & flag) != 0; }
     void ShowFolderAndName();
     void MakeReadable();
+    void EnterFolder(const QString& folder, QLineEdit& name);
     int SelectedFilter() const;
     void NoteAnswer(const std::vector<std::string>& paths);
 

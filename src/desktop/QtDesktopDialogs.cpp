@@ -3,9 +3,11 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QElapsedTimer>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <filesystem>
 
 #include "desktop/Pictures.h"
 #include "i18n/Language.h"
@@ -102,7 +104,7 @@ std::int32_t QtDesktopDialogs::GetSaveFileName(FileRecord& record) {
 
 std::int32_t QtDesktopDialogs::ChooseFile(FilePurpose purpose, FileRecord& record) {
     if (record.initialFolder.empty()) record.initialFolder = lastFolder_;
-    // The kinds of files come from the system's list, in the language of this.
+    // The library words the kinds of files by the default locale.
     QLocale::setDefault(i18n::UiLanguage() == i18n::kChinese
                             ? QLocale(QLocale::Chinese, QLocale::China)
                             : QLocale(QLocale::English));
@@ -111,8 +113,8 @@ std::int32_t QtDesktopDialogs::ChooseFile(FilePurpose purpose, FileRecord& recor
     record = dialog.Record();
     // Several files come with their folder in front.
     const bool isOne = !record.fileTitle.empty();
-    lastFolder_ = isOne ? system::FolderOf(record.file) : record.file.c_str();
-    lastFolder_ += '/';
+    const std::filesystem::path chosen(record.file.c_str());
+    lastFolder_ = (isOne ? chosen.parent_path() : chosen).string() + '/';
     return services::kConfirmed;
 }
 

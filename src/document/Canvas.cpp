@@ -85,13 +85,9 @@ void Canvas::RedrawAll() {
 
 void Canvas::PreviewIcon() {
     PicIcon.Clear();
-    DrawIconOver(PicIcon);
+    gdi::DrawOver(PicIcon, document_.Planes().Bounds(), document_.Planes());
     if (overlay_ != nullptr) overlay_->DrawOnPreview(PicIcon);
     preview_.RepaintPreview(PicIcon.Bounds());
-}
-
-void Canvas::DrawIconOver(gdi::Surface& ground) const {
-    gdi::DrawOver(ground, document_.Planes().Bounds(), document_.Planes());
 }
 
 void Canvas::ShowEmptyIcon() {

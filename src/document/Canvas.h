@@ -48,16 +48,10 @@ class Canvas {
     // The icon in actual size.
     gdi::Surface PicIcon;
 
-    // Shows an all-transparent icon, without lines until OverlayGrid.
-    void ClearView();
-    // Blackens the grid lines and repaints the grid.
-    void OverlayGrid();
     // Rebuilds every view from the planes.
     void RedrawAll();
     // Recomposes the preview from the planes and what lies over them.
     void PreviewIcon();
-    // Composes the icon over a ground of 32 x 32 pixels.
-    void DrawIconOver(gdi::Surface& ground) const;
     // Empties the preview and the grid; the planes are the caller's.
     void ShowEmptyIcon();
     // Redraws the grid from its backing copy and what lies over it.
@@ -76,6 +70,10 @@ class Canvas {
     void SetPenColor(gdi::COLORREF color);
 
   private:
+    // Shows an all-transparent icon, without lines until OverlayGrid.
+    void ClearView();
+    // Blackens the grid lines and repaints the grid.
+    void OverlayGrid();
     void MakeGridLines();
     void MakeTransparentGrid();
     void RebuildBackingCopy();

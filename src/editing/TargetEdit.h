@@ -24,7 +24,7 @@ class TargetEdit {
     EditParts parts_;
     Selection& selection_;
     Leaves leaves_;
-    // The whole icon is changed; none: the selection is.
+    // The edit of the whole icon; empty while the selection is edited.
     std::optional<IconEdit> icon_;
 };
 

@@ -11,7 +11,7 @@ namespace kestrel::imaging {
 
 namespace {
 
-// Of a function that lets no events run.
+// Adapts a function that needs no message loop.
 template <auto change, auto... arguments>
 void Quietly(gdi::IconPlanes& planes, services::MessageLoop& /*loop*/) {
     change(planes, arguments...);

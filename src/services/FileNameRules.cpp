@@ -21,12 +21,21 @@ bool IsFolder(const std::string& path) {
     return std::filesystem::is_directory(path, ignored);
 }
 
+// A path on the disk is parted by '/' alone; a backslash may be part of a name.
+std::string TitleOf(const std::string& path) {
+    return std::filesystem::path(path).filename().string();
+}
+
+std::string FolderOf(const std::string& path) {
+    return std::filesystem::path(path).parent_path().string();
+}
+
 // The path, or the folder and the names.
 std::string AnswerOf(const std::vector<std::string>& paths) {
     if (paths.size() == 1) return paths[0];
-    std::string answer = std::string(system::FolderOf(paths[0])) + '\0';
+    std::string answer = FolderOf(paths[0]) + '\0';
     for (const std::string& path : paths)
-        answer.append(system::FileTitleOf(path)) += '\0';
+        answer.append(TitleOf(path)) += '\0';
     return answer;
 }
 
@@ -52,8 +61,8 @@ FileNameRules::Verdict FileNameRules::Judge(std::vector<std::string>& paths,
 // An existing file that is to be opened need not have an extension.
 std::string FileNameRules::WithExtension(const std::string& path) const {
     const std::string& extension = record_.defaultExtension;
-    if (extension.empty() || system::FileTitleOf(path).find('.') != std::string_view::npos ||
-        IsFolder(path) || (purpose_ == FilePurpose::Open && Exists(path))) {
+    if (extension.empty() || TitleOf(path).find('.') != std::string::npos || IsFolder(path) ||
+        (purpose_ == FilePurpose::Open && Exists(path))) {
         return path;
     }
     return system::ResolvePath(path + (extension.starts_with('.') ? "" : ".") + extension);
@@ -67,23 +76,22 @@ bool FileNameRules::IsName(const std::string& path, const std::string& typed) co
 }
 
 bool FileNameRules::MayOpen(const std::string& path) const {
-    return !Asks(kFileMustExist) || Exists(path) ||
-           Refuse(i18n::kFileNotFound, system::FileTitleOf(path));
+    return !Asks(kFileMustExist) || Exists(path) || Refuse(i18n::kFileNotFound, TitleOf(path));
 }
 
 bool FileNameRules::MaySaveAs(const std::string& path) const {
-    const std::string folder(system::FolderOf(path));
+    const std::string folder = FolderOf(path);
     if (Asks(kPathMustExist) && !IsFolder(folder + '/'))
         return Refuse(i18n::kFolderNotFound, folder);
     if (!Asks(kOverwritePrompt) || !Exists(path)) return true;
-    const std::string question = i18n::Filled(i18n::kReplaceFile, system::FileTitleOf(path));
+    const std::string question = i18n::Filled(i18n::kReplaceFile, TitleOf(path));
     return boxes_.Show(BoxIcon::Exclamation, BoxButtons::YesNo, question, record_.title) ==
            Answer::Yes;
 }
 
 bool FileNameRules::FitsBuffer(const std::vector<std::string>& paths) const {
     return record_.maxFile == 0 || system::CountCharacters(AnswerOf(paths)) < record_.maxFile ||
-           Refuse(i18n::kFileNameTooLong, system::FileTitleOf(paths[0]));
+           Refuse(i18n::kFileNameTooLong, TitleOf(paths[0]));
 }
 
 // Tells why, and is false.
@@ -94,7 +102,7 @@ bool FileNameRules::Refuse(const i18n::Text& sentence, std::string_view name) co
 
 void AnswerIn(FileRecord& record, const std::vector<std::string>& paths) {
     record.file = AnswerOf(paths);
-    record.fileTitle = paths.size() > 1 ? std::string_view() : system::FileTitleOf(paths[0]);
+    record.fileTitle = paths.size() > 1 ? "" : TitleOf(paths[0]);
 }
 
 }  // namespace kestrel::services

@@ -46,7 +46,7 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
 FrmIcoEd::~FrmIcoEd() {
     editor_.EndGesture();
     clipboard_.onChanged = nullptr;
-    // No event comes to what is taken down.
+    // Hidden first: no event must reach panes whose editor is gone.
     hide();
 }
 
@@ -61,7 +61,7 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
 
     LayOutControls();
     BuildToolbar();
-    // The box was there before the buttons.
+    // Tab goes from the last button of the toolbar to the check box.
     setTabOrder(toolbar1_->Button(commands::ToolbarRows().back().key), &colors_.ChkPal());
     ShowTextControls(false);
     commands::ApplyMainCaptions(i18n::UiLanguage(), controls_);

@@ -94,7 +94,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     widgets::MenuView barView_;
     widgets::MenuView popupView_;
 
-    // What the editor shows itself in stands before it.
+    // The panes stand before the editor, which draws into them at once.
     std::unique_ptr<QMenuBar> menuBar_;
     widgets::StatusBar statusBar_{this};
     std::unique_ptr<widgets::ToolBar> toolbar1_;
