@@ -67,8 +67,6 @@ void ModRecent::LoadRecentFiles() {
         const std::string_view path = system::Trimmed(*value);
         if (!path.empty()) RecentFiles.emplace_back(path);
     }
-    // A registry that cannot be written keeps the list of an earlier run.
-    static_cast<void>(registry_.ChangeValues(RegistryRoot::CurrentUser, kKey, Values({})));
     ShowInMenu();
 }
 
@@ -77,7 +75,7 @@ void ModRecent::AddRecentFile(const std::string& path) {
     if (known != RecentFiles.end()) RecentFiles.erase(known);
     RecentFiles.insert(RecentFiles.begin(), path);
     if (RecentFiles.size() > kSlots) RecentFiles.pop_back();
-    ShowInMenu();
+    Change();
 }
 
 std::string ModRecent::GetRecentFile(int slot) {
@@ -86,9 +84,14 @@ std::string ModRecent::GetRecentFile(int slot) {
     std::string path = *entry;
     if (files_.FileExists(path)) return path;
     RecentFiles.erase(entry);
-    ShowInMenu();
+    Change();
     ShowError(boxes_, i18n::CannotLocate(path), i18n::kErrorTitle.english);
     return {};
+}
+
+void ModRecent::Change() {
+    ShowInMenu();
+    SaveRecentFiles();
 }
 
 void ModRecent::SaveRecentFiles() {

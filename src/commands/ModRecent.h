@@ -11,8 +11,8 @@
 
 namespace kestrel::commands {
 
-// The icon files used last, in the File menu, the latest first. The registry keeps them between
-// runs; its failures are silent. Slots count from 1 and have no gaps; paths are compared exactly.
+// The icon files used last, in the File menu, the latest first. The registry holds every change at
+// once, so that a run that is killed loses nothing; its failures are silent. Slots count from 1 and have no gaps; paths are compared exactly.
 class ModRecent {
   public:
     static constexpr int kSlots = 4;
@@ -21,18 +21,18 @@ class ModRecent {
     ModRecent(controls::SmartMenuXP& menu, system::Registry& registry, system::FileSystem& files,
               services::MessageBoxes& boxes, std::uint32_t systemLcid);
 
-    // Takes the list out of the registry.
+    // Shows the list that the registry holds.
     void LoadRecentFiles();
     // Puts a file that was opened or saved in slot 1; the one after slot 4 is dropped.
     void AddRecentFile(const std::string& path);
     // The path of a slot, empty for an empty one. A file that is gone is reported, leaves the list
     // and gives an empty path.
     std::string GetRecentFile(int slot);
-    // Puts the list back into the registry.
-    void SaveRecentFiles();
 
   private:
     void ShowInMenu();
+    void Change();
+    void SaveRecentFiles();
 
     controls::SmartMenuXP& menu_;
     system::Registry& registry_;

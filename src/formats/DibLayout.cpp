@@ -90,6 +90,16 @@ bool ReadChannels(const ByteReader& reader, std::uint32_t headerSize, DibLayout&
     return std::all_of(channels.begin(), channels.end(), IsRunOfBits);
 }
 
+// Where palette, colours and mask lie, of an image whose size is known.
+void Place(DibLayout& layout) {
+    const auto rows = static_cast<std::uint64_t>(layout.info.height);
+    layout.colorOffset = layout.paletteOffset + 4 * layout.paletteColors;
+    layout.colorStride = Stride(layout.info.width, layout.info.bitsPerPixel);
+    layout.maskOffset = layout.colorOffset + rows * layout.colorStride;
+    layout.maskStride = Stride(layout.info.width, 1);
+    layout.end = layout.maskOffset + rows * layout.maskStride;
+}
+
 }  // namespace
 
 std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int directoryHeight) {
@@ -110,12 +120,14 @@ std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int dire
         const std::uint64_t used = reader.U32(kColorsUsed);
         layout.paletteColors = used == 0 || used > most ? most : used;
     }
-    const auto rows = static_cast<std::uint64_t>(info.height);
-    layout.colorOffset = layout.paletteOffset + 4 * layout.paletteColors;
-    layout.colorStride = Stride(info.width, info.bitsPerPixel);
-    layout.maskOffset = layout.colorOffset + rows * layout.colorStride;
-    layout.maskStride = Stride(info.width, 1);
-    layout.end = layout.maskOffset + rows * layout.maskStride;
+    Place(layout);
+    // What looks as if it were not doubled is so all the same where the rows are not there: some
+    // writers double the directory's height too.
+    const bool asStored = std::abs(std::int64_t{reader.S32(kHeight)}) == info.height;
+    if (asStored && info.height > 1 && layout.maskOffset > image.size()) {
+        layout.info.height /= 2;
+        Place(layout);
+    }
     return layout;
 }
 

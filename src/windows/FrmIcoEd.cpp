@@ -79,7 +79,6 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
 bool FrmIcoEd::Form_Unload() {
     if (!commands_.documents.PromptSaveChanges()) return false;
     editor_.History().ClearUndoHistory();
-    commands_.recent.SaveRecentFiles();
     help_.Close();
     return true;
 }

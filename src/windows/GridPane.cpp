@@ -81,7 +81,8 @@ void GridPane::ShowEditingPopup() {
 void GridPane::EnableGrid(bool enabled) {
     // A tick that is still due belongs to an earlier Open.
     tmr_.stop();
-    picMain_.setEnabled(enabled);
+    // A disabled widget would be painted twice, for nothing.
+    picMain_.IgnoreMouse(!enabled);
 }
 
 void GridPane::paintEvent(QPaintEvent* /*event*/) {

@@ -138,6 +138,12 @@ TEST(DibImage, ReadsOddFilesAndRefusesBadFields) {
     }
 }
 
+TEST(DibImage, AHeightIsDoubledWhereTheDirectoryDoublesItToo) {
+    ByteList file = kGood;
+    file.at(7) = 4;
+    ExpectReads(file, kPicture);
+}
+
 TEST(DibImage, CountsACutMaskAsOpaqueAndRefusesCutColors) {
     for (std::size_t length = 0; length <= kGood.size(); ++length) {
         SCOPED_TRACE(length);

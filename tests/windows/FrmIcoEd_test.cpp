@@ -73,7 +73,7 @@ TEST_F(FrmIcoEdTest, ADropOpensTheFirstFileAndGuardsTheGridForAMoment) {
     EXPECT_EQ(window_.windowTitle(), "KestrelIconEditor - a.ico");
     QTest::mouseClick(Grid(), Qt::LeftButton, {}, QPoint(5, 5));
     EXPECT_FALSE(Icon().Modified) << "the grid still ignores the mouse";
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Grid()->isEnabled(); }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window_.GridWidget().IgnoresMouse(); }, 2000));
 }
 
 }  // namespace

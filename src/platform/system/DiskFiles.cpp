@@ -112,6 +112,7 @@ Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std
     const std::size_t slash = target->rfind('/');
     TemporaryFile replacement(calls_, slash == std::string::npos ? "." : target->substr(0, slash));
     int error = replacement.Create(exists ? kReplacementMode : kNewFileMode);
+    if (error == EACCES && exists) return Fail(EACCES, "Permission denied in the file's folder");
     if (error == 0) error = replacement.Write(bytes);
     if (error == 0 && exists) error = replacement.Inherit(old);
     if (error == 0) error = replacement.Finish();

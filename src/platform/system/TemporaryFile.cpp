@@ -72,7 +72,8 @@ int TemporaryFile::Inherit(const struct stat& old) {
 }
 
 int TemporaryFile::Finish() {
-    if (Retry([&] { return calls_.Sync(file_); }) < 0) return errno;
+    // Some file systems cannot flush a file, and say so.
+    if (Retry([&] { return calls_.Sync(file_); }) < 0 && errno != EINVAL) return errno;
     // An interrupted close has closed the file all the same.
     const int closed = calls_.Close(std::exchange(file_, -1));
     return closed < 0 && errno != EINTR ? errno : 0;

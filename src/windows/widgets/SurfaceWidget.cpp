@@ -49,7 +49,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
     doubleClicked_ = Qt::NoButton;
-    if (onMouseDown) onMouseDown(event->button(), PointOf(*event));
+    if (!mouseIgnored_ && onMouseDown) onMouseDown(event->button(), PointOf(*event));
 }
 
 // The second press of a quick pair is a press like any other.
@@ -59,12 +59,13 @@ void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
-    if (onMouseMove) onMouseMove(event->buttons(), PointOf(*event));
+    if (!mouseIgnored_ && onMouseMove) onMouseMove(event->buttons(), PointOf(*event));
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
     const bool ofDoubleClick = event->button() == doubleClicked_;
     if (ofDoubleClick) doubleClicked_ = Qt::NoButton;
+    if (mouseIgnored_) return;
     if (ofDoubleClick && onDoubleClick) {
         onDoubleClick();
     } else if (onMouseUp) {

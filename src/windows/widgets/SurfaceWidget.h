@@ -19,6 +19,10 @@ class SurfaceWidget : public QWidget {
     // Shows this surface from now on, which outlives the widget or is shown no longer than it is.
     void Show(const gdi::Surface& surface);
 
+    // From now on the mouse does nothing here, or something again.
+    void IgnoreMouse(bool ignored) { mouseIgnored_ = ignored; }
+    bool IgnoresMouse() const { return mouseIgnored_; }
+
     // These pixels changed.
     void Repaint(gdi::Rect area);
 
@@ -37,6 +41,7 @@ class SurfaceWidget : public QWidget {
 
   private:
     const gdi::Surface* surface_ = nullptr;
+    bool mouseIgnored_ = false;
     // The button of a quick pair whose second press is held; NoButton for none.
     Qt::MouseButton doubleClicked_ = Qt::NoButton;
 };
