@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034
 # What the tests of this folder share: the program, a scratch folder to stand in, and comparisons.
 # Sourced by them.
 set -euo pipefail
@@ -28,9 +28,6 @@ SamePixels() {
     shift 2
     cmp <(Pixels "$first") <(Pixels "$@") || Fail "$what"
 }
-
-# Levels <picture> <geometry>: the decimal red, green and blue of these pixels.
-Levels() { Magick "$1" -crop "$2" +repage -alpha off -depth 8 rgb:- | od -An -v -tu1 | xargs; }
 
 # An opaque picture in which no two halves are alike, and one with a transparent corner.
 Magick -size 32x32 gradient:'#20C040'-'#6010E0' -distort SRT 30 -fill '#F02010' \
