@@ -22,13 +22,20 @@ picture() {
         -define png:exclude-chunks=date,time "$work/$name.png"
 }
 
-# witness <file> <n>: image n as ImageMagick decodes it; of a large one the middle 32 x 32.
+# witness <file>: its images as ImageMagick decodes them, and those that it wrote itself as icotool
+# does; of large ones the middle 32 x 32.
 witness() {
-    crop=
-    case $1-$2 in several.ico-3 | magick.ico-2) crop='-crop 32x32+112+112 +repage' ;; esac
     case $1 in *.cur) kind=cur ;; png-named.ico) kind=png ;; *) kind=ico ;; esac
-    # shellcheck disable=SC2086  # the crop is several words
-    convert "$kind:$1[$2]" $crop -alpha set -type TrueColorAlpha -depth 8 "pam:${1%.*}-$2.pam"
+    for image in $(identify-im6.q16 -format '%s\n' "$kind:$1"); do
+        crop='' shown="$kind:$1[$image]"
+        case $1-$image in several.ico-3 | magick.ico-2) crop='-crop 32x32+112+112 +repage' ;; esac
+        if [ "$1" = magick.ico ]; then
+            icotool -x -i $((image + 1)) -o "$work/shown.png" "$1"
+            shown=$work/shown.png
+        fi
+        # shellcheck disable=SC2086  # the crop is several words
+        convert "$shown" $crop -alpha set -type TrueColorAlpha -depth 8 "pam:${1%.*}-$image.pam"
+    done
 }
 
 picture 24 24 24
@@ -50,9 +57,8 @@ icotool -c --cursor --hotspot-x=3 --hotspot-y=5 -b 24 -o pointer.cur "$work/24.p
 icotool -c -o several.ico -b 4 "$work/16.png" -b 8 "$work/48.png" -b 32 "$work/32.png" \
     -r "$work/big.png"
 
-# PNGs of every type: 1-bit grey, 8-bit grey, RGB, palette with transparency (which is left to
-# ImageMagick: asked for a palette it drops the transparency), 16 bits a sample, grey with alpha,
-# interlaced with an alpha ramp, RGB with one colour transparent.
+# PNGs of every type. The palette with transparency is left to ImageMagick: asked for a palette it
+# drops the transparency.
 picture kind0 16 16 -alpha off -monochrome -define png:color-type=0 -define png:bit-depth=1
 picture kind1 48 48 -alpha off -colorspace Gray -define png:color-type=0
 picture kind2 32 32 -alpha off -define png:color-type=2
@@ -61,23 +67,10 @@ picture kind4 24 24 -depth 16 -define png:color-type=6 -define png:bit-depth=16
 picture kind5 24 24 -colorspace Gray -define png:color-type=4
 picture kind6 24 24 -channel A -fx 'i/w' +channel -interlace PNG -define png:color-type=6
 picture kind7 16 16 -background magenta -alpha background -define png:color-type=2
-icotool -c -o png-kinds.ico -r "$work/kind0.png" -r "$work/kind1.png" -r "$work/kind2.png" \
-    -r "$work/kind3.png" -r "$work/kind4.png" -r "$work/kind5.png" -r "$work/kind6.png" \
-    -r "$work/kind7.png"
+for kind in 0 1 2 3 4 5 6 7; do set -- "$@" -r "$work/kind$kind.png"; done
+icotool -c -o png-kinds.ico "$@"
 cp "$work/kind3.png" png-named.ico
 
 convert "$work/16.png" "$work/48.png" "$work/bigrgba.png" magick.ico
 
-for file in bits1 bits4 bits8 bits24 bits32 wide png-named; do witness $file.ico 0; done
-witness pointer.cur 0
-for image in 0 1 2; do witness several.ico $image && witness png-kinds.ico $image; done
-for image in 3 4 5 6 7; do witness png-kinds.ico $image; done
-witness several.ico 3
-# ImageMagick wrote this file, so icotool has to read it.
-for image in 0 1 2; do
-    icotool -x -i $((image + 1)) -o "$work/shown.png" magick.ico
-    crop=
-    [ $image -eq 2 ] && crop='-crop 32x32+112+112 +repage'
-    # shellcheck disable=SC2086
-    convert "$work/shown.png" $crop -alpha set -type TrueColorAlpha -depth 8 "pam:magick-$image.pam"
-done
+for file in *.ico *.cur; do witness "$file"; done
