@@ -7,17 +7,11 @@ for script in run test .ci/run $(find tools tests bench help -name '*.sh'); do
     bash -n "$script"
 done
 
-for entry in share/*.desktop; do
-    desktop-file-validate "$entry"
-done
+desktop-file-validate share/*.desktop
 
 # The MIME database's own tool reads the package; it prints nothing when all is well.
 data=$(mktemp -d)
 trap 'rm -rf "$data"' EXIT
-mkdir -p "$data/mime/packages"
-cp share/mime/*.xml "$data/mime/packages"
+install -D -t "$data/mime/packages" share/mime/*.xml
 complaints=$(XDG_DATA_HOME=$data update-mime-database "$data/mime" 2>&1)
-if [[ -n $complaints ]]; then
-    echo "$complaints" >&2
-    exit 1
-fi
+[[ -z $complaints ]] || { echo "$complaints" >&2; exit 1; }
