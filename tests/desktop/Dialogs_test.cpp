@@ -1,22 +1,23 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QLibraryInfo>
 #include <QLineEdit>
 #include <QPrintDialog>
+#include <QPushButton>
 #include <QSettings>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTimer>
+#include <QtTest/QTest>
 
 #include "desktop/LibraryTranslator.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "i18n/Language.h"
 #include "tests/support/Recorders.h"
+#include "tests/system/TemporaryFolder.h"
 
 namespace kestrel::desktop {
 namespace {
@@ -25,15 +26,13 @@ using namespace std::string_literals;
 using services::FileRecord;
 using services::kConfirmed;
 
-// Dialogs, and a folder with the empty files "bird.ico" and "plain" and the folder "sub".
-class DialogsTest : public testing::Test {
+// Dialogs, and a folder with empty files and a folder.
+class DialogsTest : public system::TemporaryFolder {
   protected:
     DialogsTest() {
-        QDir(folder_.path()).mkdir("sub");
-        for (const char* name : {"bird.ico", "plain"})
-            QFile(folder_.filePath(name)).open(QIODevice::WriteOnly);
+        for (const char* name : {"bird.ico", "plain", "sub/kite.ico"})
+            system::MakeFile(Path(name), "");
     }
-    std::string Path(const char* name) const { return folder_.filePath(name).toStdString(); }
     // A user in the dialog that comes up next: acts, confirms or cancels; cancels when it stays.
     template <class Dialog>
     static void InNext(bool confirms, std::function<void(Dialog& dialog)> act) {
@@ -46,7 +45,6 @@ class DialogsTest : public testing::Test {
         });
     }
 
-    const QTemporaryDir folder_;
     test::ScriptedBoxes boxes_;
     QtDesktopDialogs dialogs_{boxes_};
 };
@@ -58,30 +56,30 @@ TEST_F(DialogsTest, SaveBeginsAsToldAndAnswers) {
     asked.filterIndex = 2;
     asked.defaultExtension = ".ico";
     asked.flags = services::kOverwritePrompt;
-    boxes_.answers = {services::Answer::No, services::Answer::Yes};
-    struct {
-        const char *proposed, *typed, *chosen;  // none: cancelled
-    } const cases[] = {{"one.ico", "BIRD", nullptr}, {"", "BIRD", "bird.ico"},
-                       {"*.ico", "sub", nullptr},    {"", "SUB/two", "sub/two.ico"},
-                       {"", "/", nullptr},           {"", "three", "sub/three.ico"}};
-    for (const auto& [proposed, typed, chosen] : cases) {
-        SCOPED_TRACE(typed);
+    // The file that is chosen; nothing where the dialog has to be cancelled.
+    const auto save = [&](const char* proposed, const char* typed) {
         FileRecord record = asked;
         record.file = proposed;
-        InNext<QFileDialog>(true, [proposed = proposed, typed = typed](QFileDialog& dialog) {
+        InNext<QFileDialog>(true, [=](QFileDialog& dialog) {
             EXPECT_EQ(dialog.windowTitle(), "Save As");
             EXPECT_EQ(dialog.nameFilters().join('|'),
                       "Icon Files (*.ico) (*.ico *.cur)|All Files (*.*) (*)");
             EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), proposed);
             dialog.findChild<QLineEdit*>()->setText(typed);
         });
-        EXPECT_EQ(dialogs_.GetSaveFileName(record) == kConfirmed, chosen != nullptr);
-        EXPECT_EQ(record.file, chosen == nullptr ? proposed : Path(chosen));
+        const bool confirmed = dialogs_.GetSaveFileName(record) == kConfirmed;
         EXPECT_EQ(record.filterIndex, 2);
-        // From now on where a file was chosen last; folders that were only looked at do not count.
-        if (chosen != nullptr) asked.initialFolder.clear();
-    }
+        return confirmed ? record.file : "";
+    };
+    boxes_.answers = {services::Answer::No, services::Answer::Yes};
+    EXPECT_EQ(save("one.ico", "BIRD"), "");
+    EXPECT_EQ(save("*.ico", "BIRD"), Path("bird.ico"));
     EXPECT_EQ(boxes_.shown.at(1).title, "Save As");
+    // From now on where a file was chosen last; folders that were only looked at do not count.
+    asked.initialFolder.clear();
+    EXPECT_EQ(save("", "SUB/two"), Path("sub/two.ico"));
+    EXPECT_EQ(save("", "/"), "");
+    EXPECT_EQ(save("", "three"), Path("sub/three.ico"));
 }
 
 TEST_F(DialogsTest, OpenReturnsSeveralFilesAndTheReadOnlyMark) {
@@ -93,7 +91,7 @@ TEST_F(DialogsTest, OpenReturnsSeveralFilesAndTheReadOnlyMark) {
         dialog.findChild<QCheckBox*>()->click();
     });
     EXPECT_EQ(dialogs_.GetOpenFileName(record), kConfirmed);
-    EXPECT_EQ(record.file, folder_.path().toStdString() + "\0bird.ico\0plain\0"s);
+    EXPECT_EQ(record.file, folder_ + "\0bird.ico\0plain\0"s);
     EXPECT_EQ(record.flags, services::kMultiSelect);
 }
 
@@ -108,6 +106,13 @@ TEST_F(DialogsTest, ColourAndCustomColoursAreGivenUnlessCancelled) {
             EXPECT_EQ(QColorDialog::customColor(15), Qt::black);
             QColorDialog::setCustomColor(15, Qt::red);
             dialog.setCurrentColor(QColor(1, 2, 3));
+            // It may have come up under the pointer.
+            auto* cancel = dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel);
+            dialog.move(dialog.pos() + QCursor::pos() - cancel->mapToGlobal(QPoint(9, 9)));
+            QTest::mouseClick(cancel, Qt::LeftButton, {}, QPoint(9, 9));
+            QTest::mouseDClick(cancel, Qt::LeftButton, {}, QPoint(9, 9));
+            QTest::mouseRelease(cancel, Qt::LeftButton, {}, QPoint(9, 9));
+            EXPECT_TRUE(dialog.isVisible()) << "closed by the second half of a double click";
         });
         EXPECT_EQ(dialogs_.ChooseColor(record) == kConfirmed, confirms);
         EXPECT_EQ(record.color, confirms ? 0x030201U : 0x123456U);
