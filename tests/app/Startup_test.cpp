@@ -40,8 +40,8 @@ TEST_F(StartupTest, FailedChecksEndTheStartWithTheirMessage) {
     for (const auto& [facts, box] :
          {std::pair{StartupFacts{1033, false, 639, 480, 24, "", ""},
                     "KestrelIconEditor - Error|KestrelIconEditor requires a screen resolution of "
-                    "at least "
-                    "640 x 480 pixels.\r\n\r\nPlease adjust your screen resolution and try again."},
+                    "at least 640 x 480 pixels.\r\n\r\nPlease adjust your screen resolution and "
+                    "try again."},
           {{2052, false, 640, 479, 24, "", ""},
            "KestrelIconEditor - 错误|KestrelIconEditor 显示屏分辨率需设置为640×480以上.\r\n\r\n"
            "请在调整分辨率后重新运行程序."},
@@ -58,7 +58,6 @@ TEST_F(StartupTest, FailedChecksEndTheStartWithTheirMessage) {
         EXPECT_EQ(shown.icon, services::BoxIcon::Critical);
         EXPECT_EQ(shown.title + "|" + shown.text, box);
     }
-    EXPECT_TRUE(given_.registry.values.empty());
 }
 
 TEST_F(StartupTest, RegistersTheAssociationAndMakesTheWindowsFolder) {
