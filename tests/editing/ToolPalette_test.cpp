@@ -126,9 +126,6 @@ TEST_F(WellsTest, ButtonsDoWhatTheySay) {
         EXPECT_EQ(views_.Wells(), s.wells);
     }
     EXPECT_EQ(views_.application.beeps, 4);
-    wells_.SetTransparent(Button::Left);
-    wells_.ResetDefaultColors();
-    EXPECT_EQ(views_.Wells(), "FFFFFFT FFFFFF ");
 }
 
 }  // namespace
