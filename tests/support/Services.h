@@ -29,16 +29,15 @@ class MemoryRegistry : public system::Registry {
     }
     Result<void> WriteValue(system::RegistryRoot root, std::string_view key, std::string_view name,
                             std::string_view value) override {
-        if (Path(root, key) == refused) return Fail(13, "Permission denied");
-        values[Path(root, key)][std::string(name)] = value;
-        return {};
+        const system::NamedValue change{std::string(name), std::string(value)};
+        return ChangeValues(root, key, {&change, 1});
     }
     Result<void> ChangeValues(system::RegistryRoot root, std::string_view key,
                               std::span<const system::NamedValue> changes) override {
         if (Path(root, key) == refused) return Fail(13, "Permission denied");
         for (const auto& [name, text] : changes) {
+            values[Path(root, key)].erase(name);
             if (text) values[Path(root, key)][name] = *text;
-            if (!text && values.contains(Path(root, key))) values[Path(root, key)].erase(name);
         }
         return {};
     }

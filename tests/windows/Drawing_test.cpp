@@ -1,5 +1,4 @@
 #include "desktop/Pictures.h"
-#include "tests/support/ListedTexts.h"
 #include "tests/windows/WindowTest.h"
 
 namespace kestrel::windows {
@@ -16,25 +15,20 @@ class DrawingTest : public test::WindowTest {
     }
 };
 
-TEST_F(DrawingTest, AStrokeIsShownWhileItIsDrawn) {
-    ClickTool(ToolId::Rectangle);
-    QTest::mousePress(Grid(), Qt::LeftButton, {}, QPoint(12, 18));
-    QTest::mouseMove(Grid(), QPoint(94, 61));
-    EXPECT_TRUE(ScreenIsFresh()) << "rubber band and readouts";
-    QTest::mouseRelease(Grid(), Qt::LeftButton, {}, QPoint(94, 61));
-    EXPECT_TRUE(ScreenIsFresh()) << "grid and preview";
-    EXPECT_FALSE(Icon().IsTransparent(9, 6));
-}
-
-TEST_F(DrawingTest, ToolsAreChosenByMouse) {
+TEST_F(DrawingTest, AToolIsChosenAndItsStrokeShownWhileItIsDrawn) {
     ClickTool(ToolId::FloodFill);
-    EXPECT_TRUE(ScreenIsFresh());
     EXPECT_EQ(Grid()->cursor().shape(), Qt::BitmapCursor);
-    ClickTool(ToolId::Line);
+    ClickTool(ToolId::Rectangle);
     EXPECT_EQ(Grid()->cursor().shape(), Qt::CrossCursor);
     QTest::mouseMove(&window_.PicTools(), QPoint(30, 30));
     EXPECT_EQ(window_.PicTools().toolTip(), "Line");
     EXPECT_EQ(Hint(), "Draws a straight line");
+    QTest::mousePress(Grid(), Qt::LeftButton, {}, QPoint(12, 18));
+    QTest::mouseMove(Grid(), QPoint(94, 61));
+    EXPECT_TRUE(ScreenIsFresh()) << "tool, rubber band and readouts";
+    QTest::mouseRelease(Grid(), Qt::LeftButton, {}, QPoint(94, 61));
+    EXPECT_TRUE(ScreenIsFresh()) << "grid and preview";
+    EXPECT_FALSE(Icon().IsTransparent(9, 6));
 }
 
 TEST_F(DrawingTest, WellsFollowTheirControls) {
@@ -56,17 +50,6 @@ TEST_F(DrawingTest, WellsFollowTheirControls) {
     EXPECT_EQ(shown(kFore), gdi::kWhite);
     QTest::mouseClick(Control("ImgDefaultColor"), Qt::LeftButton);
     EXPECT_EQ(shown(kFore), gdi::kBlack);
-}
-
-TEST_F(DrawingTest, TheControlsHintAtWhatTheyDo) {
-    for (const auto& [code, column] :
-         {std::pair{i18n::kChinese, test::Chinese}, {i18n::kEnglish, test::English}}) {
-        i18n::SetUiLanguage(code);
-        for (const test::Row& row : test::ListedTexts("well")) {
-            QTest::mouseMove(Control(row[test::Key]));
-            EXPECT_EQ(Hint(), row[column]) << row[test::Key];
-        }
-    }
 }
 
 }  // namespace

@@ -57,6 +57,10 @@ TEST_F(MenusTest, SwitchingLanguageChangesWhatIsShownAndIsKept) {
                                 : Control(row[test::Key])->toolTip();
             EXPECT_EQ(shown.replace("\n", " ").toStdString(), row[column]);
         }
+        for (const test::Row& row : test::ListedTexts("well")) {
+            QTest::mouseMove(Control(row[test::Key]));
+            EXPECT_EQ(Hint(), row[column]) << row[test::Key];
+        }
         QTest::mouseMove(window_.Toolbar1().Button("Help"), QPoint(27, 10));
         return QStringList{settings::ReadSavedLanguage(given_.settings).c_str(),
                            window_.windowTitle(),
