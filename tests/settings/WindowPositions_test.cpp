@@ -37,7 +37,6 @@ TEST(WindowPositions, SavesNormalBoundsAndRestoresWhatFitsTheScreen) {
         EXPECT_EQ(given.settings.ReadSetting("Positions", "frmZoom", "", kFile), stored);
     }
     const std::tuple<const char*, WindowBounds, bool> cases[] = {
-        {"1,2,3,4", kDesigned, false},
         {"150, 300 ,6000,149, tRUE ", {150, 300, 6000, 3000}, true},
         {"0,0,99999,99999,False", {0, 0, 15360, 11520}, false},
         {"20000,20000,6000,4500,False", {9360, 7020, 6000, 4500}, false},
