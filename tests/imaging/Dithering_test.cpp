@@ -99,10 +99,13 @@ TEST(Dithering, OrderedAndAllBlack) {
 }
 
 TEST(SpatialFilters, PixelizeAveragesBlocksAlsoCutOnes) {
-    const gdi::Surface made = Filtered(
-        GreyPicture(4, {0, 30, 60, 90, 9, 9, 9, 91, 0, 0, 0, 90, 16, 17, 17, 7}), "mnuPixelize");
-    EXPECT_TRUE(ComparePicture(
-        made, GreyPicture(4, {13, 13, 13, 90, 13, 13, 13, 90, 13, 13, 13, 90, 16, 16, 16, 7})));
+    const gdi::Surface green =
+        PictureOf(4, {0x0000, 0x1E00, 0x3C00, 0x5A00, 0x0900, 0x0900, 0x0900, 0x5B00, 0x0000,
+                      0x0000, 0x0000, 0x5A00, 0x1000, 0x1100, 0x1100, 0x0700});
+    const gdi::Surface blocks =
+        PictureOf(4, {0x0D00, 0x0D00, 0x0D00, 0x5A00, 0x0D00, 0x0D00, 0x0D00, 0x5A00, 0x0D00,
+                      0x0D00, 0x0D00, 0x5A00, 0x1000, 0x1000, 0x1000, 0x0700});
+    EXPECT_TRUE(ComparePicture(Filtered(green, "mnuPixelize"), blocks));
 }
 
 TEST(SpatialFilters, AquaByDefinition) {
