@@ -19,14 +19,11 @@ TEST(PasteFit, LargePicturesAreShrunkToTheNearestPixelsAboveLeft) {
         // Target pixel, and the source pixel in its place.
         test::At target, source;
     } cases[] = {
-        {{64, 32}, imaging::PasteFit::KeepAspect, {32, 16}, {31, 15}, {62, 30}},
         {{64, 32}, imaging::PasteFit::Shrink, {32, 32}, {5, 31}, {10, 31}},
         {{33, 10}, imaging::PasteFit::KeepAspect, {32, 10}, {31, 9}, {31, 9}},
-        {{33, 10}, imaging::PasteFit::Shrink, {32, 32}, {16, 31}, {16, 9}},
         {{1, 4000}, imaging::PasteFit::KeepAspect, {1, 32}, {0, 31}, {0, 3875}},
         {{20000, 32}, imaging::PasteFit::KeepAspect, {32, 1}, {31, 0}, {19375, 0}},
         {{100, 99}, imaging::PasteFit::KeepAspect, {32, 32}, {9, 11}, {28, 34}},
-        {{100, 99}, imaging::PasteFit::Shrink, {32, 32}, {31, 31}, {96, 95}},
         {{33, 64}, imaging::PasteFit::KeepAspect, {17, 32}, {16, 31}, {31, 62}},
     };
     for (const auto& c : cases) {

@@ -58,26 +58,6 @@ TEST_F(PaletteTest, APressCountsWhereItBegan) {
     }
 }
 
-TEST_F(PaletteTest, EveryGlyphStandsInItsCellOnTheWindowsColour) {
-    // The first pixel of each glyph's first row, read from its picture, with the glyph at (4, 3).
-    const struct {
-        int tool, x, y;
-        gdi::COLORREF color;
-    } cases[] = {
-        {1, 5, 4, 0x000000},   {2, 15, 4, 0x000080}, {3, 13, 4, 0x800000},   {4, 14, 4, 0x000080},
-        {5, 8, 4, 0x808080},   {6, 17, 4, 0x808000}, {7, 5, 6, 0x808000},    {8, 11, 11, 0x808000},
-        {9, 11, 11, 0x00FFFF}, {10, 9, 6, 0x808000}, {11, 11, 11, 0x808000}, {12, 11, 11, 0x00FFFF},
-    };
-    for (const gdi::COLORREF ground : {kGround, gdi::COLORREF{0x302010}}) {
-        palette_.SetWindowColor(ground);
-        for (const auto& c : cases) {
-            const auto [left, top] = CellOf(c.tool);
-            EXPECT_EQ(palette_.PicTools().GetPixel(left + c.x, top + c.y), c.color) << c.tool;
-            EXPECT_EQ(palette_.PicTools().GetPixel(left + 3, top + 11), ground) << c.tool;
-        }
-    }
-}
-
 TEST_F(PaletteTest, EveryCellSelectsItsToolWhichSpeaksTheLanguageInForce) {
     using enum GridCursor;
     constexpr std::array kCursors{Cross, Pencil, Eraser, Picker, FloodFill, Cross,
@@ -107,14 +87,6 @@ TEST_F(PaletteTest, EveryCellSelectsItsToolWhichSpeaksTheLanguageInForce) {
 
 class WellsTest : public testing::Test {
   protected:
-    // Both wells as they are shown: hexadecimal colours, T for a transparent one.
-    std::string Wells() const {
-        std::ostringstream text;
-        for (const auto& [button, well] : views_.wells)
-            text << std::hex << std::uppercase << well.first << (well.second ? "T " : " ");
-        return text.str();
-    }
-
     test::EditorRecorder views_;
     test::OwnerOfDialogs owner_;
     test::ScriptedDialogs desktop_;
@@ -151,12 +123,9 @@ TEST_F(WellsTest, ButtonsDoWhatTheySay) {
         SCOPED_TRACE(s.wells);
         desktop_.color = s.choice;
         (commands_.*s.event)(s.button);
-        EXPECT_EQ(Wells(), s.wells);
+        EXPECT_EQ(views_.Wells(), s.wells);
     }
     EXPECT_EQ(views_.application.beeps, 4);
-    wells_.SetTransparent(Button::Left);
-    wells_.ResetDefaultColors();
-    EXPECT_EQ(Wells(), "FFFFFFT FFFFFF ");
 }
 
 }  // namespace

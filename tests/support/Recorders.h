@@ -5,13 +5,11 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
 #include "commands/MainWindow.h"
 #include "platform/system/FileSystem.h"
-#include "platform/system/LetterCase.h"
 #include "services/Clipboard.h"
 #include "services/MessageBoxes.h"
 #include "tests/support/EditorRecorder.h"
@@ -31,8 +29,7 @@ class AnsweredDialogs : public commands::Dialogs {
   public:
     bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override {
         shown = preview;
-        if (adjust) adjust(colors);
-        return adjust && accepts;
+        return adjust && adjust(colors);
     }
     std::optional<int> AskGamma() override { return gamma; }
     std::optional<gdi::Surface> AskGradient() override { return gradient; }
@@ -42,8 +39,7 @@ class AnsweredDialogs : public commands::Dialogs {
     void ShowAbout() override {}
 
     gdi::Surface shown{0, 0};
-    std::function<void(imaging::ColorAdjustment& colors)> adjust;
-    bool accepts = true;
+    std::function<bool(imaging::ColorAdjustment& colors)> adjust;
     std::optional<int> gamma;
     std::optional<gdi::Surface> gradient;
     std::optional<imaging::PasteFit> fit;
@@ -97,10 +93,9 @@ class MemoryClipboard : public services::Clipboard {
 class MemoryFiles : public system::FileSystem {
   public:
     Result<std::vector<std::uint8_t>> ReadFile(const std::string& path,
-                                               std::size_t limit) override {
+                                               std::size_t /*limit*/) override {
         const auto found = contents.find(path);
         if (found == contents.end()) return Fail(2, "No such file or directory");
-        if (found->second.size() > limit) return Fail(27, "File too large");
         return found->second;
     }
     Result<void> ReplaceFile(const std::string& path,
@@ -110,32 +105,18 @@ class MemoryFiles : public system::FileSystem {
         return {};
     }
     std::optional<std::string> Find(const std::string& path) override {
-        if (contents.contains(path)) return path;
-        for (const auto& [name, bytes] : contents)
-            if (system::SameName(name, path)) return name;
-        return std::nullopt;
+        return FileExists(path) ? std::optional(path) : std::nullopt;
     }
     bool FileExists(const std::string& path) override { return contents.contains(path); }
-    Result<void> RemoveFile(const std::string& path) override {
-        contents.erase(path);
+    // For a real disk alone.
+    Result<void> RemoveFile(const std::string& /*path*/) override { return {}; }
+    Result<void> RenameFile(const std::string& /*from*/, const std::string& /*to*/) override {
         return {};
     }
-    Result<void> RenameFile(const std::string& from, const std::string& to) override {
-        const auto found = contents.find(from);
-        if (found == contents.end()) return Fail(2, "No such file or directory");
-        contents[to] = std::move(found->second);
-        contents.erase(from);
-        return {};
-    }
-    bool MakeFolder(const std::string& folder) override {
-        folders.insert(folder);
-        return true;
-    }
-    bool CanWriteIn(const std::string& folder) override { return folders.contains(folder); }
+    bool MakeFolder(const std::string& /*folder*/) override { return true; }
+    bool CanWriteIn(const std::string& /*folder*/) override { return true; }
 
     std::map<std::string, std::vector<std::uint8_t>> contents;
-    // Those that can be written.
-    std::set<std::string> folders;
     Error writeError;
 };
 

@@ -28,17 +28,9 @@ class ScriptedDialogs : public services::DesktopDialogs {
         record.customColors[3] = *color;
         return services::kConfirmed;
     }
-    std::int32_t ChoosePrinter(services::PrinterRecord& record) override {
-        printers.push_back(record);
-        if (choice.empty()) return 0;
-        record.choice.file = choice;
-        record.choice.copies += 2;
-        return services::kConfirmed;
-    }
+    std::int32_t ChoosePrinter(services::PrinterRecord& /*record*/) override { return 0; }
     std::int32_t CommDlgExtendedError() const override { return error; }
-    gdi::COLORREF GetSysColor(int role) const override {
-        return 0x102000U + static_cast<gdi::COLORREF>(role);
-    }
+    gdi::COLORREF GetSysColor(int /*role*/) const override { return 0; }
 
     std::string choice;
     std::optional<gdi::COLORREF> color;
@@ -49,7 +41,6 @@ class ScriptedDialogs : public services::DesktopDialogs {
     std::vector<services::FileRecord> opens;
     std::vector<services::FileRecord> saves;
     std::vector<services::ColorRecord> colors;
-    std::vector<services::PrinterRecord> printers;
 
   private:
     std::int32_t ChooseFile(services::FileRecord& record) const {

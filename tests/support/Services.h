@@ -2,7 +2,6 @@
 
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -30,16 +29,15 @@ class MemoryRegistry : public system::Registry {
     }
     Result<void> WriteValue(system::RegistryRoot root, std::string_view key, std::string_view name,
                             std::string_view value) override {
-        if (Path(root, key) == refused) return Fail(13, "Permission denied");
-        values[Path(root, key)][std::string(name)] = value;
-        return {};
+        const system::NamedValue change{std::string(name), std::string(value)};
+        return ChangeValues(root, key, {&change, 1});
     }
     Result<void> ChangeValues(system::RegistryRoot root, std::string_view key,
                               std::span<const system::NamedValue> changes) override {
         if (Path(root, key) == refused) return Fail(13, "Permission denied");
         for (const auto& [name, text] : changes) {
+            values[Path(root, key)].erase(name);
             if (text) values[Path(root, key)][name] = *text;
-            if (!text && values.contains(Path(root, key))) values[Path(root, key)].erase(name);
         }
         return {};
     }
@@ -55,47 +53,36 @@ class MemoryRegistry : public system::Registry {
     }
 };
 
-// Notes what is started and opened; with `failure` set nothing can be.
+// Notes what it should open, but opens and starts nothing.
 class RecordingShell : public services::Shell {
   public:
-    Result<void> RunProgram(const std::string& program,
+    Result<void> RunProgram(const std::string& /*program*/,
                             const std::vector<std::string>& /*arguments*/) override {
-        started.push_back(program);
-        return Outcome();
+        return Fail(2, "No such file or directory");
     }
     Result<void> Open(const std::string& target) override {
         opened.push_back(target);
-        return Outcome();
+        return Fail(2, "No such file or directory");
     }
 
-    std::string failure;
-    std::vector<std::string> started;
     std::vector<std::string> opened;
-
-  private:
-    Result<void> Outcome() const {
-        if (failure.empty()) return {};
-        return Fail(2, failure);
-    }
 };
 
-// Shows the help files that `known` has.
+// Shows the help file that `known` names.
 class RecordingHelp : public services::HelpViewer {
   public:
     bool ShowHelp(const std::string& file, const std::string& title) override {
         shown = file;
         shownTitle = title;
-        return known.contains(file);
+        return known == file;
     }
     void ChangePage(const std::string& file, const std::string& title) override {
-        changedTo = file;
-        shownTitle = title;
+        ShowHelp(file, title);
     }
     void Close() override { shown.clear(); }
 
-    std::set<std::string> known;
+    std::string known;
     std::string shown;
-    std::string changedTo;
     std::string shownTitle;
 };
 

@@ -27,7 +27,6 @@ class CommandWindow : public test::WindowTest {
         picture.Row(0)[0] = 0xFF000000;
         given_.clipboard.Offer(picture);
         given_.desktop.choice = "/none";
-        given_.shell.failure = "none";
         Icon().FilePath = "/b.ico";
         Icon().Modified = false;
     }

@@ -38,7 +38,7 @@ void Show(QWidget& dialog) {
     QApplication::setActiveWindow(&dialog);
     QApplication::processEvents();
 }
-// What the window shows at a pixel of a picture.
+// The colour at a pixel of a picture.
 gdi::COLORREF Shown(const QWidget& dialog, const char* picture, int x, int y) {
     return desktop::ToColorRef(Find<QWidget>(dialog, picture)->grab().toImage().pixelColor(x, y));
 }
@@ -71,7 +71,7 @@ class FrmColAdjTest : public testing::Test {
     QScrollBar* red_ = Bar(dialog_, "VsbRed");
 };
 
-TEST_F(FrmColAdjTest, ADragIsOneStepAndTheLabelFollowsIt) {
+TEST_F(FrmColAdjTest, ADragIsOneStepAndResetTakesAllStepsBack) {
     QScrollBar* green = Bar(dialog_, "VsbGreen");
     const QPoint thumb = green->rect().center();
     QTest::mousePress(green, Qt::LeftButton, {}, thumb);
@@ -79,46 +79,25 @@ TEST_F(FrmColAdjTest, ADragIsOneStepAndTheLabelFollowsIt) {
     EXPECT_GT(std::stoi(LabelOf(dialog_, "LblGreen")), 50);
     EXPECT_EQ(Pixel(), kGround);
     QTest::mouseRelease(green, Qt::LeftButton, {}, thumb - QPoint(0, 40));
-    EXPECT_EQ(LabelOf(dialog_, "LblGreen"), std::to_string(green->value()));
     EXPECT_EQ(Pixel(), gdi::Rgb(252, 105, 3));
-}
-
-TEST_F(FrmColAdjTest, EveryControlRaisesTowardsTheTop) {
-    const auto wheel = [&](int angle) {
-        QWheelEvent event({5, 5}, red_->mapToGlobal(QPointF(5, 5)), {}, {0, angle}, {}, {},
-                          Qt::NoScrollPhase, false);
-        QApplication::sendEvent(red_, &event);
-    };
-    const auto after = [&](const auto& act, auto what) {
-        red_->setValue(0);
-        act(what);
-        return red_->value();
-    };
-    const auto key = [&](Qt::Key pressed) { QTest::keyClick(red_, pressed); };
-    const auto click = [&](int y) { QTest::mouseClick(red_, Qt::LeftButton, {}, {5, y}); };
-    EXPECT_EQ(after(key, Qt::Key_Up), 5);
-    EXPECT_EQ(after(key, Qt::Key_PageDown), -5);
-    EXPECT_EQ(after(key, Qt::Key_Home), 255);
-    EXPECT_EQ(after(click, 24), 5);  // above the thumb
-    EXPECT_EQ(after(wheel, 120), 5);
-}
-
-TEST_F(FrmColAdjTest, RestoresWhatWentTooFarAndLeavesTransparentPixels) {
-    red_->setFocus();
-    QTest::keyClick(red_, Qt::Key_Up);
-    EXPECT_EQ(Pixel(), gdi::Rgb(252, 100, 3));
-    QTest::keyClick(red_, Qt::Key_Down);
-    EXPECT_EQ(Pixel(), gdi::Rgb(252, 100, 3));
-    Bar(dialog_, "VsbBrightness")->setValue(-255);
-    EXPECT_EQ(Pixel(), gdi::Rgb(247, 95, 3));
     red_->setValue(-10);
+    Bar(dialog_, "VsbBrightness")->setValue(-255);
+    EXPECT_EQ(Pixel(), gdi::Rgb(242, 100, 3)) << "blue would have gone too far";
     Find<QPushButton>(dialog_, "CmdReset")->click();
-    EXPECT_EQ(Pixel(), gdi::Rgb(252, 100, 3));
     EXPECT_EQ(LabelOf(dialog_, "LblRed") + LabelOf(dialog_, "LblBrightness"), "00");
-    // One step from where it all began.
     Bar(dialog_, "VsbBlue")->setValue(40);
     EXPECT_EQ(Pixel(), gdi::Rgb(252, 100, 8));
     EXPECT_EQ(Shown(dialog_, "PicShade", 0, 0), kGround);
+}
+
+TEST_F(FrmColAdjTest, EveryControlRaisesTowardsTheTop) {
+    QTest::keyClick(red_, Qt::Key_PageUp);
+    QTest::mouseClick(red_, Qt::LeftButton, {}, {5, 24});  // above the thumb
+    EXPECT_EQ(red_->value(), 10);
+    QWheelEvent up({5, 5}, red_->mapToGlobal(QPointF(5, 5)), {}, {0, 120}, {}, {},
+                   Qt::NoScrollPhase, false);
+    QApplication::sendEvent(red_, &up);
+    EXPECT_EQ(red_->value(), 15);
 }
 
 TEST(FrmGammaTest, TakesDigitsAlone) {
@@ -127,15 +106,10 @@ TEST(FrmGammaTest, TakesDigitsAlone) {
     auto* box = Find<QLineEdit>(dialog, "txtGamma");
     Type(box, "-1a.2\b +:/035");
     EXPECT_EQ(box->text(), "1203");
-    QTest::keyClick(box, Qt::Key_Home);
-    QTest::sendKeyEvent(QTest::Click, box, Qt::Key_Delete, "\x7f", {});
-    EXPECT_EQ(box->text(), "203");
-    for (const char* text : {"7", "-"}) {
-        QApplication::clipboard()->setText(text);
-        QTest::sendKeyEvent(QTest::Click, box, Qt::Key_V, "\x16", Qt::ControlModifier);
-    }
+    QApplication::clipboard()->setText("7");
+    QTest::sendKeyEvent(QTest::Click, box, Qt::Key_V, "\x16", Qt::ControlModifier);
     box->paste();
-    EXPECT_EQ(box->text(), "203");
+    EXPECT_EQ(box->text(), "1203");
 }
 
 TEST(FrmShadesTest, BarFollowsTheTextAndTheTextTheBar) {
@@ -145,12 +119,11 @@ TEST(FrmShadesTest, BarFollowsTheTextAndTheTextTheBar) {
         const char *typed, *text, *selected;
         int bar;
     } const cases[] = {
-        {"255", "255", "", 255}, {"300", "30", "30", 30}, {"2550", "25", "25", 25},
-        {"007", "007", "", 7},   {"-1x2", "12", "", 12},  {"3007", "7", "", 7},
-        {"12\b", "1", "", 1},    {"1\b", "", "", 0},
+        {"255", "255", "", 255}, {"2550", "25", "25", 25}, {"007", "007", "", 7},
+        {"-1x2", "12", "", 12},  {"3007", "7", "", 7},     {"1\b", "", "", 0},
     };
     auto* box = Find<QLineEdit>(dialog, "TxtColor1");
-    QScrollBar* bar = Bar(dialog, "Hsb1");
+    const QScrollBar* bar = Bar(dialog, "Hsb1");
     for (const auto& c : cases) {
         box->setFocus();
         box->selectAll();
@@ -161,21 +134,17 @@ TEST(FrmShadesTest, BarFollowsTheTextAndTheTextTheBar) {
         QTest::keyClick(box, Qt::Key_Tab);
         EXPECT_EQ(box->text(), QString::number(c.bar)) << c.typed;
     }
-    QTest::keyClick(bar, Qt::Key_Right);
-    EXPECT_EQ(box->text(), "1");
     box->setText("99999999999");
     EXPECT_EQ(bar->value(), 99);
 }
 
 TEST(FrmShadesTest, ShowsTheGradientOfItsBars) {
     const FrmShades dialog(nullptr);
-    for (const char* angle : {"45", "90", "135"}) {
+    for (int steps = 0; steps < 3; ++steps)
         QTest::keyClick(Bar(dialog, "VsbDegrees"), Qt::Key_Up);
-        EXPECT_EQ(LabelOf(dialog, "LblDegrees"), angle);
-    }
-    Bar(dialog, "Hsb0")->setValue(64);
-    Bar(dialog, "Hsb3")->setValue(0);
-    Bar(dialog, "Hsb5")->setValue(128);
+    EXPECT_EQ(LabelOf(dialog, "LblDegrees"), "135");
+    for (const auto& [bar, value] : {std::pair{"Hsb0", 64}, {"Hsb3", 0}, {"Hsb5", 128}})
+        Bar(dialog, bar)->setValue(value);
     // 62 of 64 steps from the upper right: red 64 - 62, green 255 * 62 / 64, blue 2 * 62.
     EXPECT_EQ(Shown(dialog, "PicSml", 0, 31), gdi::Rgb(2, 247, 124));
 }
@@ -207,6 +176,10 @@ TEST_F(ImagingDialogsTest, GivesTheAnswerOrNone) {
     EXPECT_EQ(dialogs_.AskGamma(), std::nullopt);
     type("TxtColor2", "4\r");
     EXPECT_EQ(dialogs_.AskGradient().value().GetPixel(0, 31), gdi::Rgb(0, 0, 4));
+    type("Opt0", "\r");
+    EXPECT_EQ(dialogs_.AskFit({48, 48}), imaging::PasteFit::Shrink);
+    type("Opt1", " \r");
+    EXPECT_EQ(dialogs_.AskFit({48, 48}), imaging::PasteFit::KeepAspect);
 }
 
 TEST_F(ImagingDialogsTest, SpeaksBothLanguages) {
@@ -223,13 +196,14 @@ TEST_F(ImagingDialogsTest, SpeaksBothLanguages) {
         i18n::SetUiLanguage(language);
         texts.clear();
         Then(read);
-        EXPECT_FALSE(Adjust());
+        bool answered = Adjust();
         Then(read);
-        EXPECT_EQ(dialogs_.AskGamma(), std::nullopt);
+        answered |= dialogs_.AskGamma().has_value();
         Then(read);
-        EXPECT_FALSE(dialogs_.AskGradient().has_value());
+        answered |= dialogs_.AskGradient().has_value();
         Then(read);
-        EXPECT_FALSE(dialogs_.AskFit({48, 48}).has_value());
+        answered |= dialogs_.AskFit({48, 48}).has_value();
+        EXPECT_FALSE(answered) << "closed";
         return texts.join('|').toStdString();
     };
     EXPECT_EQ(textsIn(i18n::kEnglish),
