@@ -12,7 +12,8 @@
 namespace kestrel::commands {
 
 // The icon files used last, in the File menu, the latest first. The registry holds every change at
-// once, so that a run that is killed loses nothing; its failures are silent. Slots count from 1 and have no gaps; paths are compared exactly.
+// once, so that a run that is killed loses nothing; its failures are silent. Slots count from 1 and
+// have no gaps; paths are compared exactly.
 class ModRecent {
   public:
     static constexpr int kSlots = 4;
