@@ -24,6 +24,9 @@ TEST_F(EditorTest, TheCellsUnderThePointerArePaintedInOneEntry) {
     EXPECT_FALSE(icon_.IsTransparent(0, 0));
     EXPECT_FALSE(icon_.IsTransparent(6, 0));
     EXPECT_EQ(OpaquePixels(), 4);
+    editor_.PopUndoSnapshot();
+    editor_.PicMain_MouseDown(Button::Left, 5, 5);
+    EXPECT_FALSE(editor_.CanRedo()) << "from the press on";
 }
 
 TEST_F(EditorTest, AGestureBelongsToTheButtonThatBeganIt) {
