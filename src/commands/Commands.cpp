@@ -41,7 +41,6 @@ Commands::Commands(editing::Editor& openEditor, const MainParts& mainParts,
 void Commands::Click(std::span<const CommandRow> rows, std::string_view key) {
     const auto row = std::ranges::find(rows, key, &CommandRow::key);
     if (row != rows.end() && row->run != kNotBuilt) row->run(*this, key);
-    RefreshStates();
 }
 
 void Commands::RefreshStates() {

@@ -41,7 +41,7 @@ struct Commands {
     Commands(editing::Editor& openEditor, const MainParts& mainParts, const MainServices& services);
 
     // What a click on an item or a button does: runs the row with this key among `rows`, if there
-    // is one, and refreshes the states.
+    // is one. Whoever calls it refreshes the states afterwards.
     void Click(std::span<const CommandRow> rows, std::string_view key);
     // Enables and marks items and buttons as they are now.
     void RefreshStates();

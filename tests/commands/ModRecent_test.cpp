@@ -45,6 +45,7 @@ TEST_F(ModRecentTest, KeepsTheLastFourInOrderOfUse) {
         {{"a && b&c"}, {"a &&&& b&&c"}},
     };
     for (const auto& [added, shown] : cases) {
+        stored_.clear();
         ModRecent list = NewList();
         for (const std::string& path : added)
             list.AddRecentFile(path);
