@@ -18,7 +18,7 @@ class NamedControls : public commands::MainControls {
 
     explicit NamedControls(widgets::ToolBar& toolbar) : toolbar_(toolbar) {}
 
-    void AddCaption(const std::string& control, ShowText show) { captions_[control] = show; }
+    void AddCaption(const std::string& control, const ShowText& show) { captions_[control] = show; }
     // Under the name of its object.
     void AddToolTip(QWidget& control);
 
