@@ -23,6 +23,7 @@ void Refuse(services::MessageBoxes& boxes, BoxIcon icon, const i18n::Text& text,
 
 // The folder is made on the first start, with the tray picture in it.
 void PrepareWindowsFolder(const std::string& folder, system::FileSystem& files) {
+    if (folder.empty()) return;
     const std::string trayIcon = folder + "/kestrel.ico";
     if (files.FileExists(trayIcon) || !files.MakeFolder(folder)) return;
     static_cast<void>(formats::WriteIcoCopy(files, document::ApplicationIcon(), trayIcon));

@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <limits>
 
-#include "platform/system/Folders.h"
 #include "platform/system/PathText.h"
 #include "platform/system/SystemError.h"
 #include "platform/system/TemporaryFile.h"
@@ -145,11 +144,17 @@ Result<void> DiskFiles::RenameFile(const std::string& from, const std::string& t
 }
 
 bool DiskFiles::MakeFolder(const std::string& folder) {
-    return system::MakeFolder(folder);
+    constexpr mode_t kOwnerOnly = 0700;
+    for (std::size_t end = 0; end < folder.size();) {
+        end = std::min(folder.find('/', end + 1), folder.size());
+        mkdir(folder.substr(0, end).c_str(), kOwnerOnly);
+    }
+    std::error_code unreachable;
+    return std::filesystem::is_directory(folder, unreachable);
 }
 
 bool DiskFiles::CanWriteIn(const std::string& folder) {
-    return system::CanWriteIn(folder);
+    return ::access(folder.c_str(), W_OK | X_OK) == 0;
 }
 
 }  // namespace kestrel::system
