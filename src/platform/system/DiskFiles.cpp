@@ -48,6 +48,26 @@ Result<std::string> FollowLinks(std::filesystem::path path) {
     return SystemFailure(ELOOP);
 }
 
+// 0 or an errno value. `old` is the file that is to be replaced, if there is one.
+int Fill(TemporaryFile& replacement, const struct stat* old, std::span<const std::uint8_t> bytes) {
+    int error = replacement.Write(bytes);
+    if (error == 0 && old != nullptr) error = replacement.Inherit(*old);
+    return error == 0 ? replacement.Finish() : error;
+}
+
+// Writes a file that is ready to replace the old one. Not every file system makes files without a
+// name, and without /proc they cannot be given one: there the file is named from the start.
+int Prepare(TemporaryFile& replacement, const struct stat* old,
+            std::span<const std::uint8_t> bytes) {
+    const mode_t mode = old != nullptr ? kReplacementMode : kNewFileMode;
+    if (replacement.CreateUnnamed(mode) == 0) {
+        if (const int error = Fill(replacement, old, bytes); error != 0) return error;
+        if (replacement.GiveName() == 0) return 0;
+    }
+    const int error = replacement.CreateNamed(mode);
+    return error == 0 ? Fill(replacement, old, bytes) : error;
+}
+
 }  // namespace
 
 DiskFiles::DiskFiles(PathNames names) : calls_(systemCalls_), names_(names) {}
@@ -108,14 +128,11 @@ Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std
             return SystemFailure(refusal);
         }
     }
-    const std::size_t slash = target->rfind('/');
-    TemporaryFile replacement(calls_, slash == std::string::npos ? "." : target->substr(0, slash));
-    int error = replacement.Create(exists ? kReplacementMode : kNewFileMode);
+    RemoveLeftovers(calls_, *target);
+    TemporaryFile replacement(calls_, *target);
+    int error = Prepare(replacement, exists ? &old : nullptr, bytes);
+    if (error == 0) error = replacement.ReplaceTarget();
     if (error == EACCES && exists) return Fail(EACCES, "Permission denied in the file's folder");
-    if (error == 0) error = replacement.Write(bytes);
-    if (error == 0 && exists) error = replacement.Inherit(old);
-    if (error == 0) error = replacement.Finish();
-    if (error == 0) error = replacement.MoveTo(*target);
     if (error != 0) return SystemFailure(error);
     return {};
 }

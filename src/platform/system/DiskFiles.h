@@ -18,9 +18,9 @@ class DiskFiles : public FileSystem {
     DiskFiles& operator=(const DiskFiles&) = delete;
 
     Result<std::vector<std::uint8_t>> ReadFile(const std::string& path, std::size_t limit) override;
-    // The new content is written to a hidden file beside the old one, which it then replaces under
-    // its name, with the old one's permissions. Other hard links to the old file keep the old
-    // content. Needs write permission to the folder too.
+    // The new content is written to a file without a name (else to a hidden one) in the old one's
+    // folder, which then replaces the old one under its name, with its permissions. Other hard
+    // links to the old file keep the old content. Needs write permission to the folder too.
     Result<void> ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
     std::optional<std::string> Find(const std::string& path) override;
     bool FileExists(const std::string& path) override;
