@@ -55,7 +55,7 @@ class DocumentCommands {
 
   private:
     void OpenChosenFile();
-    bool OpenFile(const services::ChosenFile& file);
+    bool OpenFile(const std::string& path);
     void SaveUnderNewName();
     void SaveInPlace();
     void WriteIcoFile(const std::string& path);

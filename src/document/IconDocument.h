@@ -13,6 +13,7 @@ inline constexpr std::string_view kUntitled = "Untitled";
 // The one open icon: its planes of 32 x 32 pixels and what is known of its file.
 class IconDocument {
   public:
+    // Otherwise the absolute path, spelled as on the disk, of the file opened or saved last.
     std::string FilePath{kUntitled};
     // The file-name part of FilePath; empty for a new icon. During and after a save that failed,
     // the name that was tried.

@@ -136,11 +136,10 @@ TEST_F(DocumentCommandsTest, UnsavedChangesAreAskedAbout) {
 }
 
 TEST_F(DocumentCommandsTest, SavesInPlaceAndUnderANewName) {
-    commands_.OpenNamed("/icons/red.ico");
+    commands_.OpenNamed("/ICONS/Red.ICO");
     Draw();
     commands_.mnuSave_Click();
-    EXPECT_TRUE(HoldsTheIcon("/icons/red.ico"));
-    EXPECT_FALSE(icon_.Modified);
+    EXPECT_TRUE(HoldsTheIcon("/icons/red.ico") && !icon_.Modified);
     given_.desktop.choice = "/icons/other.ico";
     commands_.mnuSaveAs_Click();
     EXPECT_EQ(given_.desktop.saves.at(0).file, "/icons/red.ico");

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <limits>
+#include <utility>
 
 #include "platform/system/PathText.h"
 #include "platform/system/SystemError.h"
@@ -35,6 +36,16 @@ int RefusalToReplace(const std::string& path, const struct stat& status) {
     if (const int refusal = RefusalOf(status); refusal != 0) return refusal;
     if ((status.st_mode & kAnyWrite) == 0) return EACCES;
     return access(path.c_str(), W_OK) < 0 ? errno : 0;
+}
+
+// The absolute path of a file that was found. What "." and ".." say goes, unless a link before
+// them leads elsewhere.
+std::string AbsolutePath(const std::string& found) {
+    std::error_code failed;
+    const std::filesystem::path absolute = std::filesystem::absolute(found, failed);
+    if (failed) return found;  // the current folder is gone
+    const std::filesystem::path plain = absolute.lexically_normal();
+    return (std::filesystem::equivalent(plain, absolute, failed) ? plain : absolute).string();
 }
 
 // The place that a chain of links ends at, also when nothing is there yet.
@@ -78,7 +89,7 @@ std::string DiskFiles::Resolved(const std::string& path) const {
     return names_ == PathNames::AnyCase ? ResolvePath(path) : path;
 }
 
-Result<std::vector<std::uint8_t>> DiskFiles::ReadFile(const std::string& path, std::size_t limit) {
+Result<LoadedFile> DiskFiles::LoadFile(const std::string& path, std::size_t limit) {
     const std::string found = Resolved(path);
     // Looked at before it is opened too: opening alone can move a device or wake a pipe's writer.
     struct stat status {};
@@ -87,12 +98,13 @@ Result<std::vector<std::uint8_t>> DiskFiles::ReadFile(const std::string& path, s
     constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
     const int file = Retry([&] { return calls_.Open(found, kFlags, 0); });
     if (file < 0) return SystemFailure(errno);
-    Result<std::vector<std::uint8_t>> content = ReadOpened(file, limit);
+    Result<LoadedFile> loaded = ReadOpened(file, limit);
     calls_.Close(file);
-    return content;
+    if (loaded) loaded->path = AbsolutePath(found);
+    return loaded;
 }
 
-Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t limit) {
+Result<LoadedFile> DiskFiles::ReadOpened(int file, std::size_t limit) {
     struct stat status {};
     if (fstat(file, &status) < 0) return SystemFailure(errno);
     if (const int refusal = RefusalOf(status); refusal != 0) return SystemFailure(refusal);
@@ -113,12 +125,13 @@ Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t li
         if (filled == bytes.size()) bytes.resize(std::min(filled * 2, limit) + 1);
     }
     bytes.resize(filled);
-    return bytes;
+    return LoadedFile{{}, IdentityOf(status), std::move(bytes)};
 }
 
-Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+Result<FileIdentity> DiskFiles::ReplaceFile(const std::string& path,
+                                            std::span<const std::uint8_t> bytes) {
     if (path.empty()) return SystemFailure(ENOENT);
-    const Result<std::string> target = FollowLinks(Resolved(path));
+    const Result<std::string> target = FollowLinks(path);
     if (!target) return tl::unexpected(target.error());
     struct stat old {};
     const bool exists = stat(target->c_str(), &old) == 0;
@@ -134,16 +147,20 @@ Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std
     if (error == 0) error = replacement.ReplaceTarget();
     if (error == EACCES && exists) return Fail(EACCES, "Permission denied in the file's folder");
     if (error != 0) return SystemFailure(error);
-    return {};
+    return replacement.Identity();
 }
 
 std::optional<std::string> DiskFiles::Find(const std::string& path) {
     const std::string found = Resolved(path);
     struct stat status {};
     if (stat(found.c_str(), &status) < 0 || RefusalOf(status) != 0) return std::nullopt;
-    std::error_code noCurrentFolder;
-    const std::filesystem::path absolute = std::filesystem::absolute(found, noCurrentFolder);
-    return noCurrentFolder ? found : absolute.string();
+    return AbsolutePath(found);
+}
+
+std::optional<FileIdentity> DiskFiles::Identify(const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) < 0 || RefusalOf(status) != 0) return std::nullopt;
+    return IdentityOf(status);
 }
 
 bool DiskFiles::FileExists(const std::string& path) {

@@ -178,6 +178,12 @@ int TemporaryFile::ReplaceTarget() {
     return 0;
 }
 
+FileIdentity TemporaryFile::Identity() const {
+    struct stat status {};
+    fstat(file_, &status);
+    return IdentityOf(status);
+}
+
 void RemoveLeftovers(FileCalls& calls, const std::string& target) {
     for (int number = 0; number < kCommonNames; ++number)
         RemoveUnlocked(calls, PathFor(target, number));

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/system/FileCalls.h"
+#include "platform/system/FileIdentity.h"
 
 namespace kestrel::system {
 
@@ -37,6 +38,7 @@ class TemporaryFile {
     // Gives the file the target's name. That the folder reaches the disk is tried, not asserted:
     // the new content is in place by then.
     int ReplaceTarget();
+    FileIdentity Identity() const;
 
   private:
     int TryNames(const std::function<int(const std::string& path)>& use);
