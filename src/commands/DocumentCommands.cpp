@@ -97,6 +97,7 @@ bool DocumentCommands::OpenFile(const std::string& path) {
     editor_.ResetDocument();
     document_.FilePath = file->path;
     document_.FileTitle = system::NameOnDisk(file->path);
+    document_.FileOnDisk = file->identity;
     editor_.ShowTitle();
     editor_.ReadIconIntoDocument(*icon);
     document_.MultipleIcons = formats::DetectMultipleIcons(file->bytes);
@@ -142,7 +143,19 @@ void DocumentCommands::SaveInPlace() {
         SaveUnderNewName();
         return;
     }
+    if (ChangedOutside() && parts_.boxes.Show(BoxIcon::Question, BoxButtons::YesNo,
+                                              i18n::ChangedOutside(document_.FileTitle),
+                                              std::string(i18n::kProgramName)) != Answer::Yes) {
+        document_.SaveSucceeded = false;
+        return;
+    }
     WriteIcoFile(document_.FilePath);
+}
+
+// Whether another file, or another content, is now where this icon was opened or saved last.
+bool DocumentCommands::ChangedOutside() {
+    const auto now = parts_.files.Identify(document_.FilePath);
+    return now && now != document_.FileOnDisk;
 }
 
 void DocumentCommands::WriteIcoFile(const std::string& path) {
@@ -161,6 +174,7 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
     // What floated over the icon is in the file; what is only marked stays so.
     if (editor_.Selected().SelectionFloating()) editor_.Selected().DropSelection();
     document_.FilePath = path;
+    document_.FileOnDisk = *written;
     document_.Modified = false;
     document_.MultipleIcons = false;
     parts_.recent.AddRecentFile(path);

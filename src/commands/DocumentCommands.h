@@ -58,6 +58,7 @@ class DocumentCommands {
     bool OpenFile(const std::string& path);
     void SaveUnderNewName();
     void SaveInPlace();
+    bool ChangedOutside();
     void WriteIcoFile(const std::string& path);
 
     editing::Editor& editor_;

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/gdi/IconPlanes.h"
+#include "platform/system/FileIdentity.h"
 
 namespace kestrel::document {
 
@@ -15,6 +17,8 @@ class IconDocument {
   public:
     // Otherwise the absolute path, spelled as on the disk, of the file opened or saved last.
     std::string FilePath{kUntitled};
+    // That file as it was then.
+    std::optional<system::FileIdentity> FileOnDisk;
     // The file-name part of FilePath; empty for a new icon. During and after a save that failed,
     // the name that was tried.
     std::string FileTitle;
