@@ -50,7 +50,7 @@ Content ReadAnything(const std::string& name) {
 
 // At the top left of the icon.
 void PastePng(gdi::IconPlanes& icon, const formats::IconImage& png, imaging::PasteFit fit) {
-    imaging::PictureSize size{png.info.width, png.info.height};
+    gdi::Size size{png.info.width, png.info.height};
     if (!imaging::FitsIcon(size)) size = imaging::FittedSize(size, fit);
     const gdi::IconPlanes fitted = gdi::Stretched(png.planes, size.width, size.height);
     for (const auto& [to, from] :

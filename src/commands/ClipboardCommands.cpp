@@ -38,7 +38,7 @@ void ClipboardCommands::Cut() {
 Result<void> ClipboardCommands::Paste(imaging::PasteMode mode) {
     const Result<gdi::Surface> picture = clipboard_.GetImage();
     if (!picture) return tl::unexpected(picture.error());
-    imaging::PictureSize size{picture->Width(), picture->Height()};
+    gdi::Size size{picture->Width(), picture->Height()};
     if (!imaging::FitsIcon(size)) {
         const auto fit = dialogs_.AskFit(size);
         if (!fit) return Fail(kDialogCancelled, "Cancel was selected");

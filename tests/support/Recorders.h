@@ -34,9 +34,7 @@ class AnsweredDialogs : public commands::Dialogs {
     }
     std::optional<int> AskGamma() override { return gamma; }
     std::optional<gdi::Surface> AskGradient() override { return gradient; }
-    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize /*picture*/) override {
-        return fit;
-    }
+    std::optional<imaging::PasteFit> AskFit(gdi::Size /*picture*/) override { return fit; }
     void ShowAbout() override {}
 
     gdi::Surface shown{0, 0};
