@@ -62,6 +62,8 @@ TEST(Witness, AgreesOnEveryImage) {
             const std::string witness = path.stem().string() + "-" + std::to_string(i) + ".pam";
             SCOPED_TRACE(witness);
             ExpectSamePixels(*icon, ReadFile(path.parent_path() / witness));
+            const auto small = DecodeImage(file, images->at(i), gdi::Size{13, 35});
+            EXPECT_TRUE(small && small->planes.SamePixels(gdi::Stretched(icon->planes, 13, 35)));
         }
         const std::string beyond = path.stem().string() + "-" + std::to_string(images->size());
         EXPECT_FALSE(exists(path.parent_path() / (beyond + ".pam"))) << beyond << " is not listed";
@@ -72,7 +74,11 @@ TEST(Witness, AgreesOnEveryImage) {
 TEST(BadInput, TruncationsAndChangedBytesAreRefusedOrRead) {
     const auto expectSound = [](const ByteList& file) {
         const auto icon = ReadBestImage(file);
-        ASSERT_TRUE(icon || icon.error().number == kInvalidPicture);
+        ASSERT_TRUE(icon || icon.error().number >= kInvalidPicture);
+        const auto whole = ListWholeImages(file);
+        ASSERT_EQ(whole.has_value(), icon.has_value()) << "told to be readable exactly when it is";
+        for (std::size_t i = 0; whole && i < whole->size(); ++i)
+            ASSERT_TRUE(DecodeImage(file, whole->at(i)));
         ASSERT_TRUE(!icon || std::ranges::max(icon->planes.image.Pixels()) <= gdi::kWhite);
     };
     // Every byte of the headers matters; in the pixels after them a sample does.
