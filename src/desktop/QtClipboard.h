@@ -21,7 +21,7 @@ class QtClipboard : public QObject, public services::Clipboard {
     ~QtClipboard() override;
 
     bool HasImage() const override { return !format_.empty(); }
-    Result<gdi::Surface> GetImage() override;
+    Result<gdi::SampledPicture> GetImage() override;
     void SetImage(const gdi::Surface& pixels) override;
 
   private:
@@ -39,7 +39,7 @@ class QtClipboard : public QObject, public services::Clipboard {
     std::atomic<int> question_ = 0;
     std::chrono::milliseconds recovery_{};
     // The image that is being fetched, and for which state of the clipboard.
-    std::future<Result<gdi::Surface>> coming_;
+    std::future<Result<gdi::SampledPicture>> coming_;
     int comingFor_ = 0;
     // One thread; ends before the rest.
     QThreadPool aside_;

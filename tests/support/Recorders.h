@@ -74,9 +74,9 @@ class ScriptedBoxes : public services::MessageBoxes {
 class MemoryClipboard : public services::Clipboard {
   public:
     bool HasImage() const override { return image.has_value(); }
-    Result<gdi::Surface> GetImage() override {
+    Result<gdi::SampledPicture> GetImage() override {
         if (!image) return Fail(kInvalidPicture, "Invalid picture");
-        return *image;
+        return gdi::SampledPicture(*image);
     }
     void SetImage(const gdi::Surface& pixels) override { Offer(pixels); }
     // As another program does.
