@@ -16,7 +16,8 @@ namespace {
 // No screen is wider or higher.
 constexpr int kLongestSide = 32767;
 constexpr gdi::COLORREF kOpaque = 0xFF000000;
-constexpr qint64 kMostMemory = qint64{48} << 20;
+// Of the file and what is unpacked of it.
+constexpr qint64 kMostMemory = qint64{52} << 20;
 
 constexpr qsizetype kBmpFileHeader = 14;
 constexpr quint32 kCoreHeader = 12;
@@ -69,15 +70,38 @@ bool IsCut(const QByteArray& file, const QByteArray& format) {
     return false;
 }
 
-// What the desktop library needs for a pixel while it reads: of GIF the frame and the one before
-// it, of JPEG all levels at once besides. 0 for formats that nobody copies, some of them costly to
-// read.
-qint64 BytesAPixel(const QByteArray& format) {
-    if (format == "gif") return 8;
-    return format == "jpeg" ? 12 : 0;
+// Whether a JPEG is stored in several scans, so that what they say of all pixels is kept until the
+// last one. Marker segments: ITU-T T.81, B.1.1 and B.2.
+bool ComesInScans(const QByteArray& file) {
+    constexpr quint8 kMarker = 0xFF;
+    constexpr quint8 kFirstFrame = 0xC0;
+    constexpr quint8 kExtendedFrame = 0xC1;
+    constexpr quint8 kScan = 0xDA;
+    constexpr qsizetype kLongestField = 9;
+    const auto byte = [&](qsizetype at) { return static_cast<quint8>(file[at]); };
+    quint8 components = 0;
+    for (qsizetype at = 2; at + kLongestField < file.size() && byte(at) == kMarker;) {
+        const quint8 marker = byte(at + 1);
+        if (marker == kScan) return components == 0 || byte(at + 4) < components;
+        if (marker == kFirstFrame || marker == kExtendedFrame) components = byte(at + 9);
+        // Markers may be filled up.
+        at += marker == kMarker ? 1 : 2 + 0x100 * byte(at + 2) + byte(at + 3);
+    }
+    return true;
 }
 
-// Of a JPEG that comes in scans, each of them goes over the whole picture.
+// What the desktop library needs for a pixel while it reads; 0 for formats that nobody copies, some
+// of them costly to read.
+qint64 BytesAPixel(const QByteArray& format, const QByteArray& file) {
+    constexpr qint64 kPixel = 4;
+    constexpr qint64 kTwoFrames = 8;
+    constexpr qint64 kPixelAndScans = 10;
+    if (format == "gif") return kTwoFrames;
+    if (format == "jpeg") return ComesInScans(file) ? kPixelAndScans : kPixel;
+    return 0;
+}
+
+// Each scan of a JPEG goes over the whole picture.
 bool HasManyScans(const QByteArray& file) {
     constexpr qsizetype kMostScans = 100;
     return file.count("\xFF\xDA") > kMostScans;
@@ -133,13 +157,13 @@ Result<gdi::SampledPicture> ReadByLibrary(const QByteArray& file) {
     QImageReader reader(&buffer);
     const QByteArray format = reader.format();
     const bool isBmp = format == "bmp";
-    const qint64 bytesAPixel = BytesAPixel(format);
+    const qint64 bytesAPixel = BytesAPixel(format, file);
     if (!isBmp && bytesAPixel == 0) return Unreadable();
     // Asked before anything is allocated for it. Rows from the top make the height negative.
     const QSize told = reader.size();
     const QSize size(told.width(), std::abs(told.height()));
-    if (size.isEmpty() || qint64{size.width()} * size.height() * bytesAPixel > kMostMemory)
-        return Unreadable();
+    const qint64 unpacked = qint64{size.width()} * size.height() * bytesAPixel;
+    if (size.isEmpty() || unpacked + file.size() > kMostMemory) return Unreadable();
     gdi::SampledPicture picture(gdi::Size{size.width(), size.height()});
     QImage image;
     if (isBmp) {
