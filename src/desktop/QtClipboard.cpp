@@ -32,7 +32,7 @@ constexpr milliseconds kFirstRecovery{2000};
 constexpr milliseconds kLastRecovery{32000};
 // What is taken of an image or of an image's file, and of a list of files.
 constexpr std::size_t kMostBytes = formats::kMaxIconFileBytes;
-constexpr std::size_t kMostListBytes = std::size_t{1} << 16;
+constexpr std::size_t kMostListBytes = std::size_t{1} << 20;
 
 constexpr const char* kPng = "image/png";
 constexpr const char* kBmp = "image/bmp";
@@ -60,11 +60,12 @@ bool IsAtHand() {
 std::string FormatAtHand() {
     const QMimeData* data = System().mimeData();
     if (data == nullptr) return {};
-    for (const char* format : kFormats) {
-        if (!data->hasFormat(format)) continue;
-        return format != kFileList || !CopiedPicture(data->data(format)).empty() ? format : "";
-    }
-    return {};
+    const auto* const format =
+        std::ranges::find_if(kFormats, [data](const char* each) { return data->hasFormat(each); });
+    if (format == kFormats.end()) return {};
+    const bool holdsNone =
+        *format == std::string_view(kFileList) && CopiedPicture(data->data(*format)).empty();
+    return holdsNone ? std::string() : *format;
 }
 
 QByteArray ViewOf(const std::vector<std::uint8_t>& bytes) {
@@ -77,8 +78,8 @@ std::optional<std::string> OfferedFormat(XSelection& selection) {
     auto format = selection.FirstOffered(kFormats);
     if (format != kFileList) return format;
     const auto list = selection.Read(kFileList, kMostListBytes);
-    if (!list || CopiedPicture(ViewOf(*list)).empty()) return std::string();
-    return format;
+    if (!list) return std::nullopt;
+    return CopiedPicture(ViewOf(*list)).empty() ? std::string() : format;
 }
 
 // What the clipboard holds in this format as an image, or the file that it names.
@@ -129,7 +130,7 @@ QByteArray ToFile(const QImage& image, const char* format) {
 }  // namespace
 
 QtClipboard::QtClipboard() {
-    aside_.setMaxThreadCount(1);
+    aside_->setMaxThreadCount(1);
     const auto change = [this] {
         recovery_ = kFirstRecovery;
         Ask();
@@ -140,7 +141,10 @@ QtClipboard::QtClipboard() {
 
 QtClipboard::~QtClipboard() {
     ++question_;
-    aside_.clear();
+    aside_->clear();
+    // A file on a server that does not answer can hold it for ever; it ends with the process then.
+    if (!aside_->waitForDone(static_cast<int>(kFirstRecovery.count())))
+        static_cast<void>(aside_.release());
 }
 
 std::function<bool()> QtClipboard::WantedFor(int question, milliseconds patience) const {
@@ -152,7 +156,7 @@ std::function<bool()> QtClipboard::WantedFor(int question, milliseconds patience
 void QtClipboard::Ask() {
     const int question = ++question_;
     if (IsAtHand()) return Learn(FormatAtHand());
-    aside_.start([this, question] {
+    aside_->start([this, question] {
         if (question != question_) return;
         XSelection selection(WantedFor(question, kPatience));
         const auto format = OfferedFormat(selection);
@@ -198,7 +202,7 @@ void QtClipboard::StartFetching() {
         work = [format = format_, content = data->data(QString::fromStdString(format_))] {
             return ReadContent(format, content);
         };
-    aside_.start([answer, work] { answer->set_value(OrRunOut(work)); });
+    aside_->start([answer, work] { answer->set_value(OrRunOut(work)); });
 }
 
 void QtClipboard::SetImage(const gdi::Surface& pixels) {

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <chrono>
 #include <future>
+#include <memory>
 #include <string>
 
 #include "services/Clipboard.h"
@@ -41,8 +42,8 @@ class QtClipboard : public QObject, public services::Clipboard {
     // The image that is being fetched, and for which state of the clipboard.
     std::future<Result<gdi::SampledPicture>> coming_;
     int comingFor_ = 0;
-    // One thread; ends before the rest.
-    QThreadPool aside_;
+    // One thread. A pool waits for its thread when it goes, so it goes only when that is idle.
+    std::unique_ptr<QThreadPool> aside_ = std::make_unique<QThreadPool>();
 };
 
 }  // namespace kestrel::desktop
