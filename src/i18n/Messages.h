@@ -23,6 +23,19 @@ inline constexpr Text kTooFewColors{
     "Please adjust your color mode and try again.",
     "KestrelIconEditor 颜色模式需设置为真彩色.\r\n\r\n请在调整颜色模式后重新运行程序."};
 
+// What --help prints.
+inline constexpr Text kUsage{
+    "Usage: KestrelIconEditor [/open FILE]\n\n"
+    "Edits icons of 32 x 32 pixels.\n\n"
+    "  /open FILE   opens an icon, cursor or PNG file\n"
+    "  --help       prints this\n"
+    "  --version    prints the version\n",
+    "用法: KestrelIconEditor [/open 文件]\n\n"
+    "编辑 32 x 32 像素的图标.\n\n"
+    "  /open 文件   打开图标, 光标或 PNG 文件\n"
+    "  --help       显示本说明\n"
+    "  --version    显示版本\n"};
+
 // Document commands.
 inline constexpr Text kSaveChanges{"Save changes to current icon?", "是否保存当前编辑的图标?"};
 inline constexpr Text kOpenTitle{"KestrelIconEditor - Open", "KestrelIconEditor - 打开"};
