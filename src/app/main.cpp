@@ -75,8 +75,6 @@ std::uint32_t SeedOfClock() {
     return static_cast<std::uint32_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
-}  // namespace
-
 // Answers what needs no window, in the system's language. False when there is nothing to answer.
 bool PrintWhatIsAsked(const std::string& commandLine) {
     i18n::SetUiLanguage(i18n::LanguageOfLocale(std::to_string(system::GetSystemDefaultLCID())));
@@ -84,6 +82,8 @@ bool PrintWhatIsAsked(const std::string& commandLine) {
     std::fputs(text.c_str(), stdout);
     return !text.empty();
 }
+
+}  // namespace
 
 int main(int argc, char* argv[]) {
     if (argc == 2 && PrintWhatIsAsked(argv[1])) return 0;
