@@ -27,7 +27,7 @@ convert -size 1x1 xc:red "$scratch/dot.png"
 
 Press ctrl+o
 AnswerDialog '* - Open' "$files/Bomb.ico"
-ExpectError 'Unable to open the file Bomb.ico' '* - Untitled'
+ExpectError 'Unable to open the file Bomb.ico*The image is damaged.' '* - Untitled'
 ExpectMemory 300000
 
 convert -size 32x32 xc:'#204060' "$files/Drawn.ico"
