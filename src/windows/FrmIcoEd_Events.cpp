@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "windows/FrmIcoEd.h"
+#include "windows/widgets/MousePoint.h"
 
 namespace kestrel::windows {
 
@@ -68,7 +69,8 @@ void FrmIcoEd::mouseMoveEvent(QMouseEvent* /*event*/) {
 
 // On the background it puts the selection down. Controls hand on what they do not use.
 void FrmIcoEd::mouseReleaseEvent(QMouseEvent* event) {
-    if (!rect().contains(event->pos()) || !IsBackground(event->pos())) return;
+    const QPoint at = widgets::UnitOf(*event);
+    if (!rect().contains(at) || !IsBackground(at)) return;
     runner_.Run([this] { editor_.Selected().DropSelection(); });
 }
 

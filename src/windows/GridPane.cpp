@@ -66,8 +66,7 @@ void GridPane::Show(editing::Editor& editor) {
 }
 
 void GridPane::FollowPointer() {
-    if (picMain_.underMouse())
-        picMain_.onMouseMove(Qt::NoButton, picMain_.mapFromGlobal(QCursor::pos()));
+    if (picMain_.underMouse()) picMain_.onMouseMove(Qt::NoButton, picMain_.PointerAt());
 }
 
 void GridPane::SetGridCursor(GridCursor cursor) {

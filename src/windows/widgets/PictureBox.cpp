@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "windows/widgets/MousePoint.h"
+
 namespace kestrel::widgets {
 
 PictureBox::PictureBox(Edge edge, QWidget* parent) : QWidget(parent), edge_(edge) {
@@ -41,7 +43,7 @@ void PictureBox::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent* event) {
-    const bool inside = rect().contains(event->pos());
+    const bool inside = rect().contains(UnitOf(*event));
     // A button may come up where nobody sees it.
     SetPressed(inside && event->buttons() != Qt::NoButton);
     if (inside && onMouseMove) onMouseMove();
@@ -49,7 +51,7 @@ void PictureBox::mouseMoveEvent(QMouseEvent* event) {
 
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
     SetPressed(false);
-    if (rect().contains(event->pos()) && onMouseUp) onMouseUp(event->button());
+    if (rect().contains(UnitOf(*event)) && onMouseUp) onMouseUp(event->button());
 }
 
 void PictureBox::SetPressed(bool pressed) {

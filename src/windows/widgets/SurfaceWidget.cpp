@@ -1,22 +1,13 @@
 #include "windows/widgets/SurfaceWidget.h"
 
+#include <QCursor>
 #include <QPaintEvent>
 #include <QPainter>
-#include <cmath>
 
 #include "desktop/Pictures.h"
+#include "windows/widgets/MousePoint.h"
 
 namespace kestrel::widgets {
-
-namespace {
-
-// Left of or above the widget rounds away from it, so that -0.5 is not its first pixel.
-QPoint PointOf(const QMouseEvent& event) {
-    return {static_cast<int>(std::floor(event.position().x())),
-            static_cast<int>(std::floor(event.position().y()))};
-}
-
-}  // namespace
 
 SurfaceWidget::SurfaceWidget(QWidget* parent) : QWidget(parent) {
     setFixedSize(0, 0);
@@ -47,9 +38,14 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
     }
 }
 
+QPoint SurfaceWidget::PointerAt() const {
+    const QPoint rounded = mapFromGlobal(QCursor::pos());
+    return rounded == lastRounded_ ? lastPoint_ : rounded;
+}
+
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
     doubleClicked_ = Qt::NoButton;
-    if (!mouseIgnored_ && onMouseDown) onMouseDown(event->button(), PointOf(*event));
+    if (!mouseIgnored_ && onMouseDown) onMouseDown(event->button(), UnitOf(*event));
 }
 
 // The second press of a quick pair is a press like any other.
@@ -59,7 +55,9 @@ void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
-    if (!mouseIgnored_ && onMouseMove) onMouseMove(event->buttons(), PointOf(*event));
+    lastPoint_ = UnitOf(*event);
+    lastRounded_ = mapFromGlobal(event->globalPosition().toPoint());
+    if (!mouseIgnored_ && onMouseMove) onMouseMove(event->buttons(), lastPoint_);
 }
 
 void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -69,7 +67,7 @@ void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (ofDoubleClick && onDoubleClick) {
         onDoubleClick();
     } else if (onMouseUp) {
-        onMouseUp(event->button(), PointOf(*event));
+        onMouseUp(event->button(), UnitOf(*event));
     }
 }
 

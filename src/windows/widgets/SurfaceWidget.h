@@ -23,6 +23,9 @@ class SurfaceWidget : public QWidget {
     void IgnoreMouse(bool ignored) { mouseIgnored_ = ignored; }
     bool IgnoresMouse() const { return mouseIgnored_; }
 
+    // The pixel under the pointer, wherever that is.
+    QPoint PointerAt() const;
+
     // These pixels changed.
     void Repaint(gdi::Rect area);
 
@@ -42,6 +45,9 @@ class SurfaceWidget : public QWidget {
   private:
     const gdi::Surface* surface_ = nullptr;
     bool mouseIgnored_ = false;
+    // Where the pointer moved last, and what the cursor's own point, which is rounded, made of it.
+    QPoint lastPoint_;
+    QPoint lastRounded_;
     // The button of a quick pair whose second press is held; NoButton for none.
     Qt::MouseButton doubleClicked_ = Qt::NoButton;
 };
