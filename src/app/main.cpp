@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "app/Startup.h"
+#include "desktop/DialogStyle.h"
 #include "desktop/LibraryTranslator.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtApplication.h"
@@ -91,11 +92,13 @@ int main(int argc, char* argv[]) {
     // programs that are started would inherit that.
     std::signal(SIGXFSZ, [](int /*signal*/) {});
     QApplication application(argc, argv);
+    QApplication::setStyle(new desktop::DialogStyle);
     desktop::LibraryTranslator translator;
     QApplication::installTranslator(&translator);
     QApplication::setApplicationName(QStringLiteral("KestrelIconEditor"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("KestrelIconEditor"));
+    // Before the boxes that may come up before the window.
     QGuiApplication::setWindowIcon(
         QPixmap::fromImage(desktop::ToImage(document::ApplicationIcon())));
     desktop::TwoColorWindows twoColorWindows;
