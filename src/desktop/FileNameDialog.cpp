@@ -2,9 +2,11 @@
 
 #include <QLayout>
 #include <QLineEdit>
+#include <QListView>
 #include <QScreen>
 #include <QSplitter>
 #include <QTreeView>
+#include <QUrl>
 
 #include "desktop/Text.h"
 #include "i18n/Messages.h"
@@ -16,6 +18,13 @@ namespace {
 
 using services::FilePurpose;
 using services::FileRecord;
+
+// Where none is given, that of the dialogs for icons.
+FileRecord WithTitle(FileRecord record, FilePurpose purpose) {
+    const i18n::Text& title = purpose == FilePurpose::Open ? i18n::kOpenTitle : i18n::kSaveAsTitle;
+    if (record.title.empty()) record.title = title.Now();
+    return record;
+}
 
 // Each description with its patterns behind it, which the dialog does not show.
 QStringList NameFilters(const std::string& filter) {
@@ -35,18 +44,18 @@ QStringList NameFilters(const std::string& filter) {
 
 FileNameDialog::FileNameDialog(FilePurpose purpose, FileRecord record,
                                services::MessageBoxes& boxes, QWidget* owner)
-    : QFileDialog(owner, QString::fromStdString(record.title)),
-      record_(std::move(record)),
+    : QFileDialog(owner),
+      record_(WithTitle(std::move(record), purpose)),
       rules_(boxes, purpose, record_) {
+    setWindowTitle(QString::fromStdString(record_.title));
     setOption(DontUseNativeDialog);
     setOption(HideNameFilterDetails);
     setAcceptMode(purpose == FilePurpose::Open ? AcceptOpen : AcceptSave);
     setFileMode(Asks(services::kMultiSelect) ? ExistingFiles : AnyFile);
     setNameFilters(NameFilters(record_.filter));
     selectNameFilter(nameFilters().value(record_.filterIndex - 1));
-    // The library has one where none is given.
-    record_.title = windowTitle().toStdString();
     ShowFolderAndName();
+    MarkPlace();
     MakeReadable();
     if (purpose == FilePurpose::Open && !Asks(services::kHideReadOnly)) {
         readOnly_ = new QCheckBox(ToText(i18n::kOpenReadOnly.Now()), this);
@@ -70,6 +79,19 @@ void FileNameDialog::ShowFolderAndName() {
     // A path may differ in letter case from the file it names; a mere name is only a proposal.
     const bool isPath = !system::FolderOf(record_.file).empty();
     selectFile(isPath ? resolved(record_.file) : QString::fromStdString(record_.file));
+}
+
+// The library restores its places after it has shown the folder, and shows no folder twice.
+void FileNameDialog::MarkPlace() {
+    constexpr int kUrl = Qt::UserRole + 1;  // in its model of places
+    const auto* places = findChild<QListView*>(QStringLiteral("sidebar"));
+    if (places == nullptr) return;
+    const QUrl folder = QUrl::fromLocalFile(directory().absolutePath());
+    for (int row = 0; row < places->model()->rowCount(); ++row) {
+        const QModelIndex place = places->model()->index(row, 0);
+        if (place.data(kUrl).toUrl() == folder)
+            places->selectionModel()->select(place, QItemSelectionModel::ClearAndSelect);
+    }
 }
 
 // The library cuts its side bar and the dates.
