@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QTextBoundaryFinder>
 
 namespace kestrel::desktop {
 
@@ -53,6 +54,26 @@ Answer ToAnswer(int button, BoxButtons asked) {
     }
 }
 
+// A name without blanks may be wider than the screen: long words may end a line after any letter.
+QString Breakable(const QString& text) {
+    constexpr qsizetype kLongWord = 30;
+    constexpr QChar kZeroWidthSpace(u'\x200B');
+    QString breakable;
+    QTextBoundaryFinder words(QTextBoundaryFinder::Line, text);
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, text);
+    qsizetype endOfWord = words.toNextBoundary();
+    bool isLong = endOfWord > kLongWord;
+    for (qsizetype at = 0, next = 0; at < text.size(); at = next) {
+        next = letters.toNextBoundary();
+        breakable += QStringView(text).sliced(at, next - at);
+        if (isLong) breakable += kZeroWidthSpace;
+        if (next < endOfWord) continue;
+        endOfWord = words.toNextBoundary();
+        isLong = endOfWord - next > kLongWord;
+    }
+    return breakable;
+}
+
 // A short sentence makes a box whose frame cuts the title.
 void MakeRoomForTitle(QMessageBox& box) {
     constexpr int kButtonsOfFrame = 120;  // pixels, with the icon
@@ -71,8 +92,8 @@ Answer QtMessageBoxes::Show(BoxIcon icon, BoxButtons buttons, const std::string&
                             const std::string& title) {
     QWidget* dialog = QApplication::activeModalWidget();
     QMessageBox box(ToIcon(icon), QString::fromStdString(title),
-                    QString::fromStdString(text).remove(QLatin1Char('\r')), ToButtons(buttons),
-                    dialog == nullptr ? owner_ : dialog);
+                    Breakable(QString::fromStdString(text).remove(QLatin1Char('\r'))),
+                    ToButtons(buttons), dialog == nullptr ? owner_ : dialog);
     if (buttons == BoxButtons::YesNo) box.setDefaultButton(QMessageBox::No);
     box.setTextFormat(Qt::PlainText);
     MakeRoomForTitle(box);

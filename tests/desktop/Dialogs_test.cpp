@@ -6,6 +6,7 @@
 #include <QFileIconProvider>
 #include <QLibraryInfo>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QSettings>
@@ -13,8 +14,10 @@
 #include <QTimer>
 #include <QtTest/QTest>
 
+#include "desktop/DialogStyle.h"
 #include "desktop/LibraryTranslator.h"
 #include "desktop/QtDesktopDialogs.h"
+#include "desktop/QtMessageBoxes.h"
 #include "i18n/Language.h"
 #include "tests/support/Recorders.h"
 #include "tests/system/TemporaryFolder.h"
@@ -61,7 +64,7 @@ TEST_F(DialogsTest, SaveBeginsAsToldAndAnswers) {
         FileRecord record = asked;
         record.file = proposed;
         InNext<QFileDialog>(true, [=](QFileDialog& dialog) {
-            EXPECT_EQ(dialog.windowTitle(), "Save As");
+            EXPECT_EQ(dialog.windowTitle(), "KestrelIconEditor - Save As");
             EXPECT_EQ(dialog.nameFilters().join('|'),
                       "Icon Files (*.ico) (*.ico *.cur)|All Files (*.*) (*)");
             EXPECT_EQ(dialog.findChild<QLineEdit*>()->text(), proposed);
@@ -74,12 +77,24 @@ TEST_F(DialogsTest, SaveBeginsAsToldAndAnswers) {
     boxes_.answers = {services::Answer::No, services::Answer::Yes};
     EXPECT_EQ(save("one.ico", "BIRD"), "");
     EXPECT_EQ(save("*.ico", "BIRD"), Path("bird.ico"));
-    EXPECT_EQ(boxes_.shown.at(1).title, "Save As");
+    EXPECT_EQ(boxes_.shown.at(1).title, "KestrelIconEditor - Save As");
     // From now on where a file was chosen last; folders that were only looked at do not count.
     asked.initialFolder.clear();
     EXPECT_EQ(save("", "SUB/two"), Path("sub/two.ico"));
     EXPECT_EQ(save("", "/"), "");
     EXPECT_EQ(save("", "three"), Path("sub/three.ico"));
+}
+
+TEST(QtMessageBoxes, WrapNamesWithoutBlanksAndHaveNoPicturesInButtons) {
+    QApplication::setStyle(new DialogStyle);
+    QTimer::singleShot(0, [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        EXPECT_LT(box->width(), 640);
+        for (const QAbstractButton* button : box->buttons())
+            EXPECT_TRUE(button->icon().isNull());
+        box->reject();
+    });
+    QtMessageBoxes().Show({}, services::BoxButtons::YesNoCancel, std::string(255, 'x'), "title");
 }
 
 TEST_F(DialogsTest, OpenReturnsSeveralFilesAndTheReadOnlyMark) {
