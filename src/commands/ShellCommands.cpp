@@ -1,5 +1,6 @@
 #include "commands/ShellCommands.h"
 
+#include <array>
 #include <utility>
 
 #include "commands/ErrorBox.h"
@@ -13,17 +14,17 @@ namespace {
 
 constexpr std::string_view kHomePage = "https://brinmoor.example/KestrelIconEditor";
 
-std::string ProgramOf(Sibling sibling, const ProgramFolders& folders) {
-    switch (sibling) {
-        case Sibling::ScreenCapture:
-            return folders.application + "/Quillet.exe";
-        case Sibling::IconBrowser:
-            return folders.windows + "/Varnel.exe";
-        case Sibling::ClipboardViewer:
-            break;
-    }
-    return folders.windows + "/Ormsby Extender.exe";
-}
+struct SiblingRow {
+    std::string_view name;
+    i18n::Text purpose;
+    std::string ProgramFolders::*folder;
+};
+
+// In the order of Sibling.
+constexpr std::array kSiblings{
+    SiblingRow{"Quillet", i18n::kCapturesScreen, &ProgramFolders::application},
+    SiblingRow{"Varnel", i18n::kBrowsesIcons, &ProgramFolders::windows},
+    SiblingRow{"Ormsby Extender", i18n::kShowsClipboard, &ProgramFolders::windows}};
 
 }  // namespace
 
@@ -60,9 +61,10 @@ void ShellCommands::mnuHomePage_Click() {
 }
 
 void ShellCommands::StartSibling(Sibling program) {
-    const std::string file = ProgramOf(program, folders_);
+    const auto& [name, purpose, folder] = kSiblings.at(static_cast<std::size_t>(program));
+    const std::string file = (folders_.*folder + "/").append(name) + ".exe";
     if (!services_.shell.RunProgram(file, {})) {
-        ShowError(services_.boxes, i18n::CannotStart(file));
+        ShowError(services_.boxes, i18n::CannotStart(name, purpose, file));
     }
 }
 

@@ -9,15 +9,15 @@ namespace kestrel::i18n {
 
 namespace {
 
-// Puts `name` in the place of every "%1".
-std::string Fill(std::string_view pattern, std::string_view name) {
+// Puts `name` in the place of every `mark`.
+std::string Fill(std::string_view pattern, std::string_view name, std::string_view mark = "%1") {
     std::string text;
     for (std::size_t start = 0; start < pattern.size();) {
-        const std::size_t hole = pattern.find("%1", start);
+        const std::size_t hole = pattern.find(mark, start);
         text += pattern.substr(start, hole - start);
         if (hole == std::string_view::npos) break;
         text += name;
-        start = hole + 2;
+        start = hole + mark.size();
     }
     return text;
 }
@@ -45,8 +45,10 @@ constexpr Text kCannotOpenHelp{"Unable to open the help file %1", "不能打开�
 constexpr Text kCannotOpenHomePage{"No web browser could be started.\r\n\r\nUnable to open %1",
                                    "无法启动网页浏览器.\r\n\r\n不能打开 %1"};
 constexpr Text kCannotStart{
-    "The program is not installed or cannot be run.\r\n\r\nUnable to start %1",
-    "该程序尚未安装, 或无法运行.\r\n\r\n不能运行 %1"};
+    "Unable to start %1: it is not installed or cannot be run.\r\n\r\n"
+    "%1 is a companion program that %2. It is looked for here:\r\n%3",
+    "不能运行 %1: 该程序尚未安装, 或无法运行.\r\n\r\n"
+    "%1 是用于%2的配套程序, 应位于:\r\n%3"};
 constexpr Text kChangedOutside{"\"%1\" has been changed by another program.\r\nOverwrite it?",
                                "\"%1\" 已被其它程序修改.\r\n是否覆盖?"};
 constexpr Text kSeveralIcons{
@@ -109,8 +111,9 @@ std::string CannotOpenHomePage(std::string_view url) {
     return Fill(kCannotOpenHomePage.Now(), url);
 }
 
-std::string CannotStart(std::string_view program) {
-    return Fill(kCannotStart.Now(), program);
+std::string CannotStart(std::string_view program, const Text& purpose, std::string_view file) {
+    // The file comes last: its name may hold what looks like a mark.
+    return Fill(Fill(Fill(kCannotStart.Now(), program), purpose.Now(), "%2"), file, "%3");
 }
 
 std::string ChangedOutside(std::string_view fileTitle) {

@@ -101,7 +101,11 @@ std::string CannotSavePalette(std::string_view reason);
 inline constexpr Text kHelpTitle{"KestrelIconEditor - Help", "KestrelIconEditor - 帮助"};
 std::string CannotOpenHelp(std::string_view path);
 std::string CannotOpenHomePage(std::string_view url);
-std::string CannotStart(std::string_view program);
+// A companion program that cannot be started: its name, what it would do, and its file.
+std::string CannotStart(std::string_view program, const Text& purpose, std::string_view file);
+inline constexpr Text kCapturesScreen{"takes pictures of the screen", "截取屏幕图像"};
+inline constexpr Text kBrowsesIcons{"browses pictures and icons", "浏览图像和图标"};
+inline constexpr Text kShowsClipboard{"shows what the clipboard holds", "查看剪切板内容"};
 
 // Clipboard.
 inline constexpr Text kCannotPaste{

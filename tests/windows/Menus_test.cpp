@@ -98,11 +98,13 @@ TEST_F(MenusTest, HelpSpeaksTheLanguageAndLiesInEitherPlace) {
 TEST_F(MenusTest, WhatCannotBeStartedIsSaid) {
     Item("mnuHomePage")->trigger();
     EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "the hourglass stays";
-    for (const auto& [key, program] : {std::pair{"mnuToolsOpts5", "/program/Quillet.exe"},
-                                       {"mnuToolsOpts6", "/windows/Varnel.exe"},
-                                       {"mnuToolsOpts7", "/windows/Ormsby Extender.exe"}}) {
+    for (const auto& [key, folder, program] :
+         {std::tuple{"mnuToolsOpts5", "/program/", std::string("Quillet")},
+          {"mnuToolsOpts6", "/windows/", "Varnel"},
+          {"mnuToolsOpts7", "/windows/", "Ormsby Extender"}}) {
         BarMenu().onClick(key);  // also of the hidden item
-        EXPECT_TRUE(LastMessage().ends_with(std::string("Unable to start ") + program));
+        EXPECT_TRUE(LastMessage().starts_with("Unable to start " + program + ": "));
+        EXPECT_TRUE(LastMessage().ends_with(folder + program + ".exe"));
     }
 }
 
