@@ -54,7 +54,7 @@ bool WritePictures(const std::string& folder, const char* prefix, const controls
 bool WriteHelpPictures(const std::string& folder) {
     using namespace resources;
     bool written = WritePictures(folder, "", {kImageList, kImageListInks});
-    written = WritePictures(folder, "tool-", {kToolStrip, kToolStripInks}) && written;
+    written = WritePictures(folder, "tool-", {kToolStrip, kImageListInks}) && written;
     return WritePictures(folder, "well-", {kWellPictures, kImageListInks}) && written;
 }
 

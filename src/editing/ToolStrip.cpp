@@ -2,13 +2,14 @@
 
 #include "platform/controls/ImageList.h"
 #include "platform/gdi/Blit.h"
+#include "resources/ImageList.h"
 #include "resources/ToolStrip.h"
 
 namespace kestrel::editing {
 
 gdi::Surface ToolStrip() {
     constexpr int kSlots = 14;
-    const controls::ImageList glyphs(resources::kToolStrip, resources::kToolStripInks);
+    const controls::ImageList glyphs(resources::kToolStrip, resources::kImageListInks);
     gdi::Surface strip(kSlots * kGlyphSize, 2 * kGlyphSize, gdi::kWhite);
     gdi::PatBlt(strip, {0, kGlyphSize, strip.Width(), kGlyphSize}, gdi::kBlack);
     for (int slot = 0; slot < glyphs.Count(); ++slot) {

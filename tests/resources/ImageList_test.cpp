@@ -6,6 +6,8 @@
 #include <sstream>
 #include <string>
 
+#include "resources/ToolStrip.h"
+
 namespace kestrel::resources {
 namespace {
 
@@ -14,14 +16,16 @@ TEST(ImageList, PicturesAreSixteenSquareInTheInksOfTheTable) {
     std::string known = ".";
     for (const gdi::ArtInk& ink : kImageListInks)
         known += ink.letter;
-    for (const std::string_view picture : kImageList) {
+    std::set<std::string_view> pictures(kImageList.begin(), kImageList.end());
+    pictures.insert(kToolStrip.begin(), kToolStrip.end());
+    for (const std::string_view picture : pictures) {
         std::istringstream text{std::string(picture)};
         int rows = 0;
         for (std::string row; text >> row; ++rows)
             EXPECT_TRUE(row.size() == 16 && row.find_first_not_of(known) == std::string::npos);
         EXPECT_EQ(rows, 16) << picture;
     }
-    EXPECT_EQ(std::set(kImageList.begin(), kImageList.end()).size(), 40U);
+    EXPECT_EQ(pictures.size(), 52U);
 }
 
 }  // namespace
