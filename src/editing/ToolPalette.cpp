@@ -17,6 +17,18 @@ constexpr int kCellHeight = 22;
 constexpr int kGlyphX = 4;
 constexpr int kGlyphY = 3;
 
+// The colour that the tool in use has from behind, a part in three.
+constexpr gdi::COLORREF kTint = gdi::Rgb(92, 152, 220);
+
+constexpr std::uint8_t Tinted(std::uint8_t ground, std::uint8_t tint) {
+    return static_cast<std::uint8_t>((2 * ground + tint) / 3);
+}
+constexpr gdi::COLORREF Tinted(gdi::COLORREF ground) {
+    return gdi::Rgb(Tinted(gdi::Red(ground), gdi::Red(kTint)),
+                    Tinted(gdi::Green(ground), gdi::Green(kTint)),
+                    Tinted(gdi::Blue(ground), gdi::Blue(kTint)));
+}
+
 constexpr int SlotOf(ToolId tool) {
     return static_cast<int>(tool) - 1;
 }
@@ -101,6 +113,8 @@ void ToolPalette::ShowPressed(bool shown) {
 
 void ToolPalette::Paint() {
     picTools_.Clear();
+    gdi::PatBlt(picTools_, {LeftOf(currentTool_), TopOf(currentTool_), kCellWidth, kCellHeight},
+                Tinted(picTools_.BackColor()));
     for (const ToolRow& row : ToolTable()) {
         // Two of the glyphs stand one pixel further left.
         const bool further = row.id == ToolId::ColorPicker || row.id == ToolId::FloodFill;

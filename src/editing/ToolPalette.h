@@ -11,7 +11,8 @@
 namespace kestrel::editing {
 
 // The palette of tools: 4 columns and 3 rows of glyphs, the current tool and one that is being
-// pressed with a sunken edge. Points are in pixels of the palette.
+// pressed with a sunken edge, the current one on a tinted ground. Points are in pixels of the
+// palette.
 class ToolPalette {
   public:
     ToolPalette(const EditorViews& views, Selection& selection, gdi::COLORREF windowColor);
