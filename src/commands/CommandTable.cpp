@@ -21,6 +21,11 @@ constexpr CommandRow Button(std::string_view key, i18n::Text toolTip, i18n::Text
     return {key, {}, IconItem, toolTip, {}, picture, run, enabled, Never, hint};
 }
 
+constexpr CommandRow FirstOfGroup(CommandRow button) {
+    button.beginsGroup = true;
+    return button;
+}
+
 // One row a line, however long.
 // clang-format off
 constexpr auto kPopup = std::to_array<CommandRow>({
@@ -44,15 +49,15 @@ constexpr auto kToolbar = std::to_array<CommandRow>({
     Button("Open", {"Open (Ctrl+O)", "打开(Ctrl+O)"}, {"Open a file", "打开文件"}, 2, kOpen),
     Button("Extract", {"New icon library", "图标库(Ctrl+L)"}, {"System icon library and Extract library", "系统图标库 提取图标"}, 3, kExtract),
     Button("Save", {"Save (Ctrl+s)", "保存(Ctrl+S)"}, {"Save  current file", "保存当前文件"}, 4, kSave),
-    Button("Undo", {"Undo (Ctrl+Z)", "撤消(Ctrl+Z)"}, {"Reverses the last command", "取消最后的命令"}, 5, kUndo, kCanUndo),
+    FirstOfGroup(Button("Undo", {"Undo (Ctrl+Z)", "撤消(Ctrl+Z)"}, {"Reverses the last command", "取消最后的命令"}, 5, kUndo, kCanUndo)),
     Button("Redo", {"Redo (Ctrl+Y)", "恢复(Ctrl+Y)"}, {"Reapplies the last undo action", "恢复最后的撤消命令"}, 6, kRedo, kCanRedo),
-    Button("Cut", {"Cut (Ctrl+X)", "剪切(Ctrl+X)"}, {"Cuts the selection and puts it on the Clipboard ", "删除选择内容并放置到剪切板"}, 7, kCut, kIsSelected),
+    FirstOfGroup(Button("Cut", {"Cut (Ctrl+X)", "剪切(Ctrl+X)"}, {"Cuts the selection and puts it on the Clipboard ", "删除选择内容并放置到剪切板"}, 7, kCut, kIsSelected)),
     Button("Copy", {"Copy (Ctrl+C)", "复制(Ctrl+C)"}, {"Copies the selection and puts it on the Clipboard ", "复制选择内容到剪切板"}, 8, kCopy, kIsSelected),
     Button("Paste", {"Paste (Ctrl+V)", "粘贴(Ctrl+V)"}, {"Inserts Clipboard contents", "插入剪切板内容"}, 9, kPaste, kCanPaste),
     Button("Delete", {"Delete Image (Del)", "清除图像(Del)"}, {"Clears the image", "删除所选择的内容"}, 10, kDelete, kIsSelected),
-    Button("Capture", {"Capture Image(Ctrl+Q)", "捕捉图像(Ctrl+Q)"}, {"Dynamic Capture Image", "动态捕获图标"}, 11, kCapture),
+    FirstOfGroup(Button("Capture", {"Capture Image(Ctrl+Q)", "捕捉图像(Ctrl+Q)"}, {"Dynamic Capture Image", "动态捕获图标"}, 11, kCapture)),
     Button("ScreenZoom", {"Screen Zoom", "屏幕放大工具"}, {"ZoomIn or zoomout Screen Zoom", "缩放显示屏幕"}, 13, kScreenZoom),
-    Button("Help", {"Help ", "帮助"}, {"Display the help  contents", "显示帮助主题"}, 12, kHelp),
+    FirstOfGroup(Button("Help", {"Help ", "帮助"}, {"Display the help  contents", "显示帮助主题"}, 12, kHelp)),
 });
 // clang-format on
 

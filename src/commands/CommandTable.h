@@ -43,6 +43,8 @@ struct CommandRow {
     i18n::Text hint = {};
     // A hidden item is in the menu, runs its command, and is not seen.
     bool visible = true;
+    // Of a button: a line parts it from the one before.
+    bool beginsGroup = false;
 };
 
 std::span<const CommandRow> MenuBarRows();

@@ -30,6 +30,7 @@ void FrmIcoEd::BuildMenus() {
 
 void FrmIcoEd::BuildToolbar() {
     for (const commands::CommandRow& button : commands::ToolbarRows()) {
+        if (button.beginsGroup) toolbar1_->BeginGroup();
         toolbar1_->AddButton(button.key, button.picture);
         toolbar1_->SetEnabled(button.key, button.run != commands::kNotBuilt);
     }

@@ -17,7 +17,7 @@ void ExpectListed(const char* what, std::span<const CommandRow> rows) {
     ASSERT_EQ(rows.size(), listed.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const auto& [key, parent, kind, caption, shortcut, picture, run, enabled, checked, hint,
-                     visible] = rows[i];
+                     visible, beginsGroup] = rows[i];
         const std::string flag = listed[i][test::Flag] == "checked" ? "checked" : "";
         EXPECT_EQ((Row{what, std::string(key), std::string(parent), kKinds[static_cast<int>(kind)],
                        std::string(caption.english), std::string(caption.chinese),

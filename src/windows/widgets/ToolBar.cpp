@@ -1,18 +1,24 @@
 #include "windows/widgets/ToolBar.h"
 
+#include <qdrawutil.h>
+
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include "desktop/Text.h"
+#include "windows/widgets/MousePoint.h"
 #include "windows/widgets/PictureIcon.h"
 
 namespace kestrel::widgets {
 
 namespace {
 
+// On either side of a button; a line between groups takes those of its two neighbours.
+constexpr int kGap = 1;
 // Leaves room for twice the pictures on screens of one and a half device pixels.
 constexpr int kMargin = 3;
+// Of the lines between groups, above and below.
+constexpr int kLineMargin = 4;
 
 // The style's own sign of the keyboard is lost on dark desktops.
 class ToolBarButton : public QToolButton {
@@ -39,11 +45,14 @@ class ToolBarButton : public QToolButton {
 }  // namespace
 
 ToolBar::ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget* parent)
-    : QWidget(parent), pictures_(pictures), buttonSize_(buttonSize) {}
+    : QWidget(parent), pictures_(pictures), buttonSize_(buttonSize) {
+    setMouseTracking(true);
+}
 
 void ToolBar::AddButton(std::string_view key, int picture) {
     auto* button = new ToolBarButton(this);
-    button->setGeometry(QRect(QPoint(ButtonCount() * ButtonWidth(), 0), buttonSize_));
+    const QRect place(QPoint(ButtonCount() * ButtonWidth(), 0), buttonSize_);
+    button->setGeometry(place.adjusted(kGap, 0, -kGap, 0));
     button->setIcon(PictureIcon(pictures_, picture));
     button->setIconSize(buttonSize_.shrunkBy(QMargins(kMargin, kMargin, kMargin, kMargin)));
     button->setAutoRaise(true);
@@ -51,8 +60,8 @@ void ToolBar::AddButton(std::string_view key, int picture) {
     button->setFocusPolicy(Qt::TabFocus);
     button->setMouseTracking(true);
     button->installEventFilter(this);
-    const auto place = buttons_.emplace(key, button).first;
-    connect(button, &QToolButton::clicked, this, [this, &name = place->first] {
+    const auto entry = buttons_.emplace(key, button).first;
+    connect(button, &QToolButton::clicked, this, [this, &name = entry->first] {
         if (onClick) onClick(name);
     });
     resize(ButtonCount() * ButtonWidth(), buttonSize_.height());
@@ -76,12 +85,24 @@ QToolButton* ToolBar::Button(std::string_view key) const {
 
 bool ToolBar::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::MouseMove && onMouseMove) {
-        const QPoint inButton = static_cast<QMouseEvent*>(event)->position().toPoint();
+        const QPoint inButton = UnitOf(*static_cast<QMouseEvent*>(event));
         const QPoint point = static_cast<QToolButton*>(object)->mapToParent(inButton);
         // With a button held down the pointer may be anywhere.
         if (rect().contains(point)) onMouseMove(point.x());
     }
     return false;
+}
+
+void ToolBar::mouseMoveEvent(QMouseEvent* event) {
+    if (onMouseMove) onMouseMove(UnitOf(*event).x());
+}
+
+void ToolBar::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    for (const int before : groups_) {
+        const int x = before * ButtonWidth();
+        qDrawShadeLine(&painter, x, kLineMargin, x, height() - 1 - kLineMargin, palette());
+    }
 }
 
 void ToolBar::leaveEvent(QEvent* /*event*/) {

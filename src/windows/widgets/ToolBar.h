@@ -6,17 +6,20 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/controls/ImageList.h"
 
 namespace kestrel::widgets {
 
-// A row of flat picture buttons, each known by its key, all of one size.
+// A row of flat picture buttons, each known by its key, all of one size; lines part groups of them.
 class ToolBar : public QWidget {
   public:
-    // `pictures` must outlive the toolbar.
+    // `pictures` must outlive the toolbar. A button's place takes `buttonSize`.
     ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget* parent);
 
+    // The next button will be the first of a group.
+    void BeginGroup() { groups_.push_back(ButtonCount()); }
     // Adds a button at the right end.
     void AddButton(std::string_view key, int picture);
     void SetToolTip(std::string_view key, std::string_view text) const;
@@ -29,17 +32,22 @@ class ToolBar : public QWidget {
     int ButtonWidth() const { return buttonSize_.width(); }
 
     std::function<void(std::string_view key)> onClick;
-    // The pointer moved to this x within the toolbar, disabled buttons included, or left it.
+    // The pointer moved to this x within the toolbar, disabled buttons and gaps included, or left
+    // it.
     std::function<void(int x)> onMouseMove;
     std::function<void()> onLeave;
 
   protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
   private:
     const controls::ImageList& pictures_;
     QSize buttonSize_;
+    // How many buttons stand before each group but the first.
+    std::vector<int> groups_;
     std::map<std::string, QToolButton*, std::less<>> buttons_;
 };
 
