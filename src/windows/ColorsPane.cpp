@@ -21,12 +21,12 @@ using editing::Button;
 using editing::StatusPanel;
 using widgets::PictureBox;
 
-constexpr QSize kSize(208, 251);
+constexpr QSize kSize(208, 252);
 constexpr QRect kWells(0, 0, 208, 20);
 // Boxes of the pen colours, both corners included.
 constexpr std::array kIndicators{QRect(3, 4, 11, 11), QRect(21, 4, 11, 11)};
-constexpr QPoint kPicPal(0, 28);
-constexpr QRect kChkPal(0, 237, 208, 14);
+constexpr QPoint kPicPal(0, 25);
+constexpr QRect kChkPal(0, 237, 208, 15);
 
 enum class Pictures { Wells, Menus };
 

@@ -17,10 +17,10 @@ constexpr QSize kWindowSize(571, 457);
 constexpr QPoint kMenuBar(0, 2);
 constexpr QPoint kToolbar(8, 31);
 constexpr QPoint kGrid(8, 65);
-constexpr QPoint kPreview(346, 65);
-constexpr QPoint kTools(454, 65);
+constexpr QPoint kPreview(344, 65);
+constexpr QPoint kTools(452, 65);
 constexpr QPoint kColors(344, 156);
-constexpr QRect kStatusBar(2, 408, 561, 22);
+constexpr QRect kStatusBar(2, 411, 561, 20);
 
 constexpr int kFontPixels = 12;
 

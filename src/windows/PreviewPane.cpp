@@ -26,10 +26,10 @@ struct Readout {
     QRect text;
 };
 constexpr std::array kReadouts{
-    Readout{StatusPanel::Cell, QRect(8, 48, 11, 11), resources::kPointerPicture,
-            QRect(25, 46, 60, 16)},
-    Readout{StatusPanel::DragSize, QRect(8, 70, 11, 11), resources::kDragSizePicture,
-            QRect(25, 68, 60, 16)},
+    Readout{StatusPanel::Cell, QRect(4, 48, 11, 11), resources::kPointerPicture,
+            QRect(21, 46, 60, 16)},
+    Readout{StatusPanel::DragSize, QRect(4, 70, 11, 11), resources::kDragSizePicture,
+            QRect(21, 68, 60, 16)},
 };
 
 // The place is narrow: the depth stands below the size, which is the first three words.
