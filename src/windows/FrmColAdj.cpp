@@ -24,15 +24,15 @@ constexpr int kBetweenLabels = 6;
 constexpr std::array kNames{"Brightness", "Red", "Green", "Blue"};
 constexpr std::array kCaptions{i18n::kBrightness, i18n::kRed, i18n::kGreen, i18n::kBlue};
 
-// All of one width, so that the bars stand at even distances.
-QLabel* NewCaption(const i18n::Text& text) {
-    auto* caption = new QLabel(ToText(text.Now()));
-    caption->setAlignment(Qt::AlignCenter);
-    for (const i18n::Text& other : kCaptions) {
-        const int width = caption->fontMetrics().horizontalAdvance(ToText(other.Now()));
-        caption->setMinimumWidth(std::max(caption->minimumWidth(), width));
-    }
-    return caption;
+// All of one width, so that the bars and the preview stand at even distances.
+QVBoxLayout* NewColumn(const QDialog& dialog) {
+    int width = 0;
+    for (const i18n::Text& caption : kCaptions)
+        width = std::max(width, dialog.fontMetrics().horizontalAdvance(ToText(caption.Now())));
+    auto* column = new QVBoxLayout;
+    column->setSpacing(kBetweenLabels);
+    column->addStrut(width);
+    return column;
 }
 
 QLabel* NewValueLabel(const char* name) {
@@ -54,16 +54,19 @@ FrmColAdj::FrmColAdj(QWidget* owner, imaging::ColorAdjustment& colors, gdi::Surf
     auto* columns = new QHBoxLayout;
     columns->setSpacing(kBetweenColumns);
     for (int bar = 0; bar < imaging::kAdjustmentBars; ++bar)
-        columns->addLayout(NewColumn(static_cast<imaging::AdjustmentBar>(bar)));
-    columns->addWidget(NewFrame(PicShade_));
+        columns->addLayout(NewBarColumn(static_cast<imaging::AdjustmentBar>(bar)));
+    QVBoxLayout* last = NewColumn(*this);
+    last->addWidget(NewFrame(PicShade_), 0, Qt::AlignCenter);
+    columns->addLayout(last);
     rows->addLayout(columns);
     rows->addLayout(NewCommands());
     PlaceDialog(*this);
 }
 
-QLayout* FrmColAdj::NewColumn(imaging::AdjustmentBar bar) {
+QLayout* FrmColAdj::NewBarColumn(imaging::AdjustmentBar bar) {
     const auto index = static_cast<std::size_t>(bar);
-    QLabel* caption = NewCaption(kCaptions[index]);
+    auto* caption = new QLabel(ToText(kCaptions[index].Now()));
+    caption->setAlignment(Qt::AlignCenter);
     QLabel* value = NewValueLabel(kNames[index]);
     auto* vsb = new widgets::ValueBar(Qt::Vertical);
     vsb->setObjectName(QStringLiteral("Vsb%1").arg(kNames[index]));
@@ -79,8 +82,7 @@ QLayout* FrmColAdj::NewColumn(imaging::AdjustmentBar bar) {
     connect(vsb, &QScrollBar::valueChanged, this, [this, bar](int now) { VsbChange(bar, now); });
     vsb_[index] = vsb;
 
-    auto* column = new QVBoxLayout;
-    column->setSpacing(kBetweenLabels);
+    QVBoxLayout* column = NewColumn(*this);
     column->addWidget(caption);
     column->addWidget(vsb, 0, Qt::AlignHCenter);
     column->addWidget(value);

@@ -16,7 +16,7 @@ class FrmColAdj : public QDialog {
     FrmColAdj(QWidget* owner, imaging::ColorAdjustment& colors, gdi::Surface preview);
 
   private:
-    QLayout* NewColumn(imaging::AdjustmentBar bar);
+    QLayout* NewBarColumn(imaging::AdjustmentBar bar);
     QLayout* NewCommands();
     void VsbChange(imaging::AdjustmentBar bar, int value);
     void CmdReset_Click();
