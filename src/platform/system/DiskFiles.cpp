@@ -97,6 +97,10 @@ Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t li
     return bytes;
 }
 
+Result<std::unique_ptr<ByteSource>> DiskFiles::OpenSource(const std::string& path) {
+    return OpenByteSource(Resolved(path));
+}
+
 Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
     if (path.empty()) return SystemFailure(ENOENT);
     const Result<std::string> target = FollowLinks(Resolved(path));

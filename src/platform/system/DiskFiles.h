@@ -18,6 +18,7 @@ class DiskFiles : public FileSystem {
     DiskFiles& operator=(const DiskFiles&) = delete;
 
     Result<std::vector<std::uint8_t>> ReadFile(const std::string& path, std::size_t limit) override;
+    Result<std::unique_ptr<ByteSource>> OpenSource(const std::string& path) override;
     // The new content is written to a hidden file beside the old one, which it then replaces under
     // its name, with the old one's permissions. Other hard links to the old file keep the old
     // content. Needs write permission to the folder too.

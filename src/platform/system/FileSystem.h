@@ -2,16 +2,18 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "platform/Result.h"
+#include "platform/system/ByteSource.h"
 
 namespace kestrel::system {
 
-// Whole-file access. Paths are UTF-8 with '\' or '/' between components; an existing file is found
+// Access to files. Paths are UTF-8 with '\' or '/' between components; an existing file is found
 // as written or else by a match of each component without regard to letter case. Errors carry the
 // errno value and the system's description of it.
 class FileSystem {
@@ -22,6 +24,9 @@ class FileSystem {
     // EINVAL for anything that is no regular file).
     virtual Result<std::vector<std::uint8_t>> ReadFile(const std::string& path,
                                                        std::size_t limit) = 0;
+
+    // The same file for reading in parts, whatever its size up to 4 GB (EFBIG beyond it).
+    virtual Result<std::unique_ptr<ByteSource>> OpenSource(const std::string& path) = 0;
 
     // Makes `bytes` the content of the file, wholly or not at all: after a failure the old file,
     // or its absence, is as it was. A file without write permission is refused (EACCES), links are
