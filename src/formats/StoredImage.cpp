@@ -1,0 +1,97 @@
+#include "formats/StoredImage.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "formats/BestImage.h"
+#include "formats/DibImage.h"
+#include "formats/PngImage.h"
+
+namespace kestrel::formats {
+namespace {
+
+// The largest bitmap header with all that is read of it; more than a PNG's.
+constexpr std::uint64_t kHeadBytes = 124;
+// Of the chunks of a PNG: the signature before them, length and name, and the checksum after each.
+constexpr std::uint64_t kPngSignature = 8;
+constexpr std::uint64_t kChunkHead = 8;
+constexpr std::uint64_t kChunkEnds = 12;
+constexpr std::uint32_t kLastChunk = 0x49454E44;  // "IEND"
+// A PNG of the largest size that is read has some thousands.
+constexpr int kMostChunks = 65536;
+
+// What DecodeBest may spend on damaged images before it gives up, in bytes read and decoded. Real
+// files stay far below it.
+constexpr std::size_t kTrialBudget = std::size_t{128} << 20;
+constexpr std::size_t kTrialOverhead = 4096;
+
+// Damaged bitmaps are refused by their header; only a PNG must be decoded to know.
+std::size_t TrialCost(const ImageEntry& entry) {
+    if (!entry.info.png) return kTrialOverhead;
+    const auto pixels =
+        static_cast<std::size_t>(entry.info.width) * static_cast<std::size_t>(entry.info.height);
+    return kTrialOverhead + std::min(entry.size, kMaxIconFileBytes) + 4 * pixels;
+}
+
+// A bare bitmap is read as a directory would call it that doubles nothing: a second half is taken
+// for the mask only where the rows of the first are not there otherwise.
+DirectorySize OwnSize(Bytes head) {
+    const ByteReader reader(head);
+    const std::int64_t height = reader.S32(8);
+    return {reader.S32(4), static_cast<int>(std::min<std::int64_t>(std::abs(height), INT32_MAX))};
+}
+
+std::uint64_t PngLength(SourceReader& file, Extent place) {
+    std::uint64_t at = kPngSignature;
+    for (int chunk = 0; chunk < kMostChunks && at + kChunkEnds <= place.size; ++chunk) {
+        const auto head = file.Record<kChunkHead>(place.offset + at);
+        const ByteReader reader(head.bytes);
+        at += kChunkEnds + reader.BigEndianU32(0);
+        if (reader.BigEndianU32(4) == kLastChunk) break;
+    }
+    return std::min(at, place.size);
+}
+
+}  // namespace
+
+std::optional<ImageEntry> ReadImageHead(SourceReader& file, Extent place, DirectorySize told,
+                                        int longestPngSide) {
+    place = file.Inside(place);
+    const auto start = static_cast<std::size_t>(place.offset);
+    const auto head = file.Part({place.offset, std::min(place.size, kHeadBytes)});
+    if (const auto png = ReadPngInfo(head, longestPngSide))
+        return ImageEntry{start, static_cast<std::size_t>(place.size), *png};
+    if (told.width == 0) told = OwnSize(head);
+    const auto dib = ReadDibLayout(head, place.size, told.width, told.height);
+    if (!dib || dib->maskOffset > place.size) return std::nullopt;
+    return ImageEntry{start, static_cast<std::size_t>(std::min(dib->end, place.size)), dib->info};
+}
+
+std::vector<std::uint8_t> ReadStoredImage(SourceReader& file, const ImageEntry& entry) {
+    Extent place{entry.offset, entry.size};
+    if (entry.info.png) place.size = PngLength(file, place);
+    if (place.size > kMaxIconFileBytes) return {};
+    return file.Part(place);
+}
+
+std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info) {
+    if (info.png) return DecodePng(image, info);
+    const auto dib = ReadDibLayout(image, image.size(), info.width, info.height);
+    if (!dib || dib->info != info) return std::nullopt;
+    return DecodeDib(image, *dib);
+}
+
+std::optional<IconImage> DecodeBest(
+    std::vector<ImageEntry> entries,
+    const std::function<std::optional<IconImage>(const ImageEntry&)>& decode) {
+    std::size_t spent = 0;
+    for (const ImageEntry& entry : BestFirst(std::move(entries))) {
+        if (spent > kTrialBudget) break;
+        spent += TrialCost(entry);
+        if (auto icon = decode(entry)) return icon;
+    }
+    return std::nullopt;
+}
+
+}  // namespace kestrel::formats
