@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "formats/AniFrames.h"
 #include "formats/IconDirectory.h"
+#include "formats/NeIcons.h"
 #include "formats/PeIcons.h"
 #include "formats/PngImage.h"
 #include "formats/ResourceIcons.h"
@@ -37,6 +39,8 @@ constexpr std::array kFormats{
     Format{SourceKind::Cur, "CUR", IsCursorFile, ListDirectory, DirectoryEntryImages, nullptr},
     Format{SourceKind::Png, "PNG", SniffPng, ListPng, PngImages, nullptr},
     Format{SourceKind::Pe, "PE", IsPe, ListPe, ResourceImages, PeText},
+    Format{SourceKind::Ne, "NE", IsNe, ListNe, ResourceImages, NeText},
+    Format{SourceKind::Ani, "ANI", IsAni, ListAni, FrameImages, nullptr},
 };
 
 }  // namespace

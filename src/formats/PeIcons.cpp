@@ -26,6 +26,9 @@ constexpr std::uint64_t kSectionSize = 40;
 // The system loads no program with more.
 constexpr std::uint64_t kMostSections = 96;
 
+// Resource compilers allow a quarter of it.
+constexpr std::uint16_t kLongestName = 1024;
+
 // A node of the resource tree: 16 bytes, then entries of 8.
 constexpr std::uint64_t kNodeHead = 16;
 constexpr std::uint64_t kNodeEntry = 8;
@@ -86,9 +89,13 @@ class ResourceTree {
         return found;
     }
 
-    bool HasType(std::string_view name) const {
-        return std::ranges::any_of(types_, [&](const NodeEntry& type) {
-            return (type.name & kHighBit) != 0 && PeText(file_, Offset(type.name)) == name;
+    // Whether there is the type of resource that leads to the program's translations, "MUI".
+    bool HasTranslations() const {
+        return std::ranges::any_of(types_, [this](const NodeEntry& type) {
+            if ((type.name & kHighBit) == 0) return false;
+            const auto text = file_.Record<8>(Offset(type.name));
+            return text.U16(0) == 3 && text.U16(2) == 'M' && text.U16(4) == 'U' &&
+                   text.U16(6) == 'I';
         });
     }
 
@@ -158,14 +165,14 @@ IconTable ListPe(SourceReader& file) {
     const ResourceTree tree(file, addresses, *root);
     IconTable table =
         ListResources(file, tree.Resources(kIconGroupResource), tree.Resources(kIconResource));
-    // Newer systems keep what their own libraries show in a file beside them, whose name ends in
-    // ".mun"; what is left names its translations.
-    table.elsewhere = table.icons.empty() && tree.HasType("MUI");
+    // Newer systems keep what their own programs and libraries show in files of their own, whose
+    // names end in ".mun"; what is left of the resources leads to the translations.
+    table.elsewhere = table.icons.empty() && tree.HasTranslations();
     return table;
 }
 
 std::string PeText(SourceReader& file, std::uint64_t offset) {
-    const std::uint64_t units = file.Record<2>(offset).U16(0);
+    const std::uint64_t units = std::min(file.Record<2>(offset).U16(0), kLongestName);
     return Utf8OfUtf16(file.Part({offset + 2, 2 * units}));
 }
 
