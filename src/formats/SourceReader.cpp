@@ -24,9 +24,4 @@ void SourceReader::Read(std::uint64_t offset, std::span<std::uint8_t> out) {
     }
 }
 
-Result<void> SourceReader::Check() {
-    if (failure_) return tl::unexpected(*failure_);
-    return source_.CheckUnchanged();
-}
-
 }  // namespace kestrel::formats

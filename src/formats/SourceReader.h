@@ -27,13 +27,12 @@ struct SourceRecord {
 };
 
 // Takes copies of parts of an untrusted file. What lies outside reads as 0 or is cut off. Once the
-// file itself fails everything reads so, and Failure() tells why.
+// file itself fails everything reads so, and Check() tells why.
 class SourceReader {
   public:
     explicit SourceReader(system::ByteSource& source) : source_(source) {}
 
     std::uint64_t Size() const { return source_.Size(); }
-    const std::optional<Error>& Failure() const { return failure_; }
 
     // What of the extent lies in the file.
     Extent Inside(Extent extent) const;
@@ -48,8 +47,11 @@ class SourceReader {
     // The caller caps the size.
     std::vector<std::uint8_t> Part(Extent extent);
 
-    // Fails where the file failed or was changed since it was opened.
-    Result<void> Check();
+    // Whether all reading so far went well.
+    Result<void> Check() const {
+        if (failure_) return tl::unexpected(*failure_);
+        return {};
+    }
 
   private:
     void Read(std::uint64_t offset, std::span<std::uint8_t> out);

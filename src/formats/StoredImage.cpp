@@ -59,7 +59,8 @@ std::optional<ImageEntry> ReadImageHead(SourceReader& file, Extent place, Direct
                                         int longestPngSide) {
     place = file.Inside(place);
     const auto start = static_cast<std::size_t>(place.offset);
-    const auto head = file.Part({place.offset, std::min(place.size, kHeadBytes)});
+    const auto record = file.Record<kHeadBytes>(place.offset);
+    const auto head = ByteReader(record.bytes).Part(0, place.size);
     if (const auto png = ReadPngInfo(head, longestPngSide))
         return ImageEntry{start, static_cast<std::size_t>(place.size), *png};
     if (told.width == 0) told = OwnSize(head);

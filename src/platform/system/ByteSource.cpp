@@ -14,8 +14,10 @@
 namespace kestrel::system {
 namespace {
 
-constexpr std::size_t kBlockSize = 4096;
-constexpr std::size_t kBlocks = 64;
+// Records of a table and the heads of pictures lie close enough for a block to hold several;
+// reading it takes hardly longer than asking the system for a few bytes of it.
+constexpr std::size_t kBlockSize = 32768;
+constexpr std::size_t kBlocks = 8;
 
 bool SameTime(const timespec& one, const timespec& other) {
     return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
@@ -25,8 +27,7 @@ tl::unexpected<Error> Changed() {
     return Fail(kFileChanged, "The file was changed while it was read");
 }
 
-// An open file. Small parts, the records of a table above all, are taken from the blocks that were
-// read last.
+// An open file. Small parts are taken from the blocks that were asked for last.
 class FileBytes : public ByteSource {
   public:
     FileBytes(int file, const struct stat& status) : file_(file), status_(status) {}
@@ -36,20 +37,27 @@ class FileBytes : public ByteSource {
 
     std::uint64_t Size() const override { return static_cast<std::uint64_t>(status_.st_size); }
     Result<void> Read(std::uint64_t offset, std::span<std::uint8_t> out) override;
-    Result<void> CheckUnchanged() override;
 
   private:
+    struct Block {
+        std::uint64_t start = UINT64_MAX;
+        std::uint64_t lastUse = 0;
+        std::span<std::uint8_t> bytes{};
+    };
+
     Result<void> ReadFromDisk(std::uint64_t offset, std::span<std::uint8_t> out) const;
     Result<std::span<const std::uint8_t>> BlockAt(std::uint64_t offset);
+    Block& PlaceFor(std::uint64_t start);
 
     int file_;
     struct stat status_;
-    // Which block lies in each place, by its number in the file plus one, and the bytes of all.
-    std::array<std::uint64_t, kBlocks> held_{};
-    std::unique_ptr<std::uint8_t[]> blocks_ =
+    std::unique_ptr<std::uint8_t[]> memory_ =
         std::make_unique_for_overwrite<std::uint8_t[]>(kBlocks * kBlockSize);
+    std::array<Block, kBlocks> blocks_{};
+    std::uint64_t uses_ = 0;
 };
 
+// The file must be the same after it was read as it was when it was opened.
 Result<void> FileBytes::ReadFromDisk(std::uint64_t offset, std::span<std::uint8_t> out) const {
     while (!out.empty()) {
         const ssize_t count =
@@ -59,22 +67,34 @@ Result<void> FileBytes::ReadFromDisk(std::uint64_t offset, std::span<std::uint8_
         offset += static_cast<std::uint64_t>(count);
         out = out.subspan(static_cast<std::size_t>(count));
     }
+    struct stat now {};
+    if (fstat(file_, &now) < 0) return SystemFailure(errno);
+    if (now.st_size != status_.st_size || !SameTime(now.st_mtim, status_.st_mtim)) return Changed();
     return {};
+}
+
+// The block that begins here, or else the one that has not been used for the longest.
+FileBytes::Block& FileBytes::PlaceFor(std::uint64_t start) {
+    const auto found = std::ranges::find(blocks_, start, &Block::start);
+    return found != blocks_.end() ? *found
+                                  : *std::ranges::min_element(blocks_, {}, &Block::lastUse);
 }
 
 // What the block that holds this byte has from it on.
 Result<std::span<const std::uint8_t>> FileBytes::BlockAt(std::uint64_t offset) {
-    const std::uint64_t number = offset / kBlockSize;
-    const std::uint64_t start = number * kBlockSize;
-    const std::uint64_t place = number % kBlocks;
-    const std::uint64_t size = std::min<std::uint64_t>(kBlockSize, Size() - start);
-    const std::span bytes(&blocks_[place * kBlockSize], static_cast<std::size_t>(size));
-    if (held_[place] != number + 1) {
-        held_[place] = 0;
-        if (auto read = ReadFromDisk(start, bytes); !read) return tl::unexpected(read.error());
-        held_[place] = number + 1;
+    const std::uint64_t start = offset - offset % kBlockSize;
+    Block& block = PlaceFor(start);
+    block.lastUse = ++uses_;
+    if (block.start != start) {
+        const auto place = static_cast<std::size_t>(&block - blocks_.data());
+        const auto size = std::min<std::uint64_t>(kBlockSize, Size() - start);
+        block.start = UINT64_MAX;
+        block.bytes = {&memory_[place * kBlockSize], static_cast<std::size_t>(size)};
+        if (auto read = ReadFromDisk(start, block.bytes); !read)
+            return tl::unexpected(read.error());
+        block.start = start;
     }
-    return bytes.subspan(static_cast<std::size_t>(offset - start));
+    return block.bytes.subspan(static_cast<std::size_t>(offset - start));
 }
 
 Result<void> FileBytes::Read(std::uint64_t offset, std::span<std::uint8_t> out) {
@@ -88,13 +108,6 @@ Result<void> FileBytes::Read(std::uint64_t offset, std::span<std::uint8_t> out) 
         offset += count;
         out = out.subspan(count);
     }
-    return {};
-}
-
-Result<void> FileBytes::CheckUnchanged() {
-    struct stat now {};
-    if (fstat(file_, &now) < 0) return SystemFailure(errno);
-    if (now.st_size != status_.st_size || !SameTime(now.st_mtim, status_.st_mtim)) return Changed();
     return {};
 }
 

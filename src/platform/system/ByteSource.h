@@ -15,7 +15,7 @@ namespace kestrel::system {
 inline constexpr std::uint64_t kLargestSource = UINT32_MAX;
 
 // The bytes of a file, read in the parts that are asked for. Nothing is mapped: a file that another
-// program cuts short ends in an error.
+// program writes to or cuts short meanwhile ends in kFileChanged.
 class ByteSource {
   public:
     virtual ~ByteSource() = default;
@@ -23,8 +23,6 @@ class ByteSource {
     virtual std::uint64_t Size() const = 0;
     // Fills `out` with the bytes from `offset` on; all of them lie below Size().
     virtual Result<void> Read(std::uint64_t offset, std::span<std::uint8_t> out) = 0;
-    // Fails with kFileChanged when the file was written to since it was opened.
-    virtual Result<void> CheckUnchanged() = 0;
 };
 
 // Bytes in memory; a span must outlive its source.
@@ -38,7 +36,6 @@ class MemoryBytes : public ByteSource {
 
     std::uint64_t Size() const override { return bytes_.size(); }
     Result<void> Read(std::uint64_t offset, std::span<std::uint8_t> out) override;
-    Result<void> CheckUnchanged() override { return {}; }
 
   private:
     std::vector<std::uint8_t> owned_;
