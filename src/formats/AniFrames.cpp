@@ -63,13 +63,16 @@ class ChunkWalk {
         return true;
     }
 
+    bool IsChunk(std::uint64_t at) {
+        const auto head = file_.Record<kChunkHead>(at);
+        return IsName(head.U32(0)) && at + kChunkHead + head.U32(4) <= file_.Size();
+    }
+
     // Chunks are filled up to an even length, which some writers forget.
     std::uint64_t NextChunk(std::uint64_t at, std::uint32_t size) {
         const std::uint64_t end = at + kChunkHead + size;
         if (size % 2 == 0) return end;
-        const bool padForgotten =
-            !IsName(file_.Record<4>(end + 1).U32(0)) && IsName(file_.Record<4>(end).U32(0));
-        return padForgotten ? end : end + 1;
+        return !IsChunk(end + 1) && IsChunk(end) ? end : end + 1;
     }
 
     // Of a second header or sequence nothing is known; the first counts.

@@ -8,6 +8,7 @@
 namespace kestrel::formats {
 namespace {
 
+// Numbers in a group have 16 bits.
 constexpr std::size_t kMostImages = 65535;
 constexpr std::uint64_t kMostBytes = INT32_MAX;
 
@@ -175,7 +176,7 @@ Result<std::vector<std::uint8_t>> LibraryBytes(std::span<const LibraryIcon> icon
             size += image.bytes.size();
         }
     }
-    if (icons.size() > kMostIcons || images.size() > kMostImages || size > kMostBytes)
+    if (icons.size() > kMostImages || images.size() > kMostImages || size > kMostBytes)
         return Fail(EFBIG, "The library would be too large");
     // The system looks names up by halving.
     std::ranges::stable_sort(groups, [](const Resource& one, const Resource& other) {

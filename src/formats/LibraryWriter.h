@@ -17,7 +17,7 @@ struct LibraryIcon {
 
 // A library of 32 bits that holds nothing but these icons. Those with names come first, sorted as
 // the format wants them; the others keep their order. Fails with EFBIG where there are more than
-// 32,767 icons or 65,535 images, or more than 2 GB.
+// 65,535 icons or images, or more than 2 GB.
 Result<std::vector<std::uint8_t>> LibraryBytes(std::span<const LibraryIcon> icons);
 
 }  // namespace kestrel::formats

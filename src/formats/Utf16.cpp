@@ -17,8 +17,8 @@ void AppendUtf8(std::string& text, char32_t character) {
         return;
     }
     const int following = character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
-    const char32_t lead = (0xF00U >> following) & 0xFF;
-    text += static_cast<char>(lead | character >> (6 * following));
+    constexpr char32_t kLeads[] = {0, 0xC0, 0xE0, 0xF0};
+    text += static_cast<char>(kLeads[following] | character >> (6 * following));
     for (int left = following - 1; left >= 0; --left)
         text += static_cast<char>(0x80 | (character >> (6 * left) & 0x3F));
 }
