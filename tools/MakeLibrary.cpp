@@ -39,11 +39,12 @@ Result<formats::ImageBytes> ReadPicture(system::FileSystem& files, const std::st
 // The small pictures among the paths are left when all icons have taken theirs.
 Result<std::vector<formats::LibraryIcon>> ReadIcons(system::FileSystem& files,
                                                     std::vector<std::string> paths) {
-    const auto firstSmall = std::ranges::stable_partition(
-        paths, [](const std::string& path) { return !StemOf(path).ends_with(kSmall); });
-    std::vector<std::string> small(firstSmall.begin(), firstSmall.end());
+    const auto firstSmall = std::stable_partition(
+        paths.begin(), paths.end(),
+        [](const std::string& path) { return !StemOf(path).ends_with(kSmall); });
+    std::vector<std::string> small(firstSmall, paths.end());
     std::vector<formats::LibraryIcon> icons;
-    for (const std::string& path : std::span(paths.begin(), firstSmall.begin())) {
+    for (const std::string& path : std::span(paths.begin(), firstSmall)) {
         auto image = ReadPicture(files, path, gdi::kIconSize);
         if (!image) return tl::unexpected(image.error());
         formats::LibraryIcon& icon = icons.emplace_back();

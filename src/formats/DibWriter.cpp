@@ -22,7 +22,7 @@ std::vector<COLORREF> PaletteOf(const gdi::IconPlanes& icon) {
         for (int x = 0; x < icon.Width(); ++x)
             colors.push_back(ShownAt(icon, x, y));
     std::ranges::sort(colors);
-    colors.erase(std::ranges::unique(colors).begin(), colors.end());
+    colors.erase(std::unique(colors.begin(), colors.end()), colors.end());
     if (colors.size() > kMostPaletteColors) colors.clear();
     return colors;
 }

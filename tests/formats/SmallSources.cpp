@@ -61,9 +61,11 @@ ByteList Ne(unsigned shift) {
     file.FillTo(0x80);
     file.U16(shift);
     file.Append(Hex("0380 0200 00000000"));
-    file.Append(entry(kDib, "0000 0180 00000000") + entry(kDib, "0000 0280 00000000"));
+    file.Append(entry(kDib, "0000 0180 00000000"));
+    file.Append(entry(kDib, "0000 0280 00000000"));
     file.Append(Hex("0E80 0200 00000000"));
-    file.Append(entry(group, "0000 0780 00000000") + entry(named, "0000 4400 00000000"));
+    file.Append(entry(group, "0000 0780 00000000"));
+    file.Append(entry(named, "0000 4400 00000000"));
     file.Append(Hex("0000 024142"));
     file.FillTo(0x200);
     file.Append(data.Take());
