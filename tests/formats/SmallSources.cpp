@@ -96,7 +96,8 @@ std::string Listing(const ByteList& file) {
     for (std::size_t i = 0; i < source->count; ++i) {
         text += " " + *source->NameOf(i);
         char before = ':';
-        for (const auto& [offset, size, info, index] : *source->Images(i)) {
+        const auto images = source->Images(i);
+        for (const auto& [offset, size, info, index] : *images) {
             text += before + std::to_string(info.width) + "x" + std::to_string(info.height) + "x" +
                     std::to_string(info.bitsPerPixel) + (info.png ? "p" : "");
             before = ',';
