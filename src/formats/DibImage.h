@@ -32,6 +32,12 @@ struct DibLayout {
 std::optional<DibLayout> ReadDibLayout(Bytes head, std::uint64_t length, int directoryWidth,
                                        int directoryHeight);
 
+// The same of an image that is there as a whole.
+inline std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth,
+                                              int directoryHeight) {
+    return ReadDibLayout(image, image.size(), directoryWidth, directoryHeight);
+}
+
 // Decodes the image; nothing when the colour data is cut. A cut mask counts as opaque.
 std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout);
 

@@ -5,10 +5,11 @@
 #include <optional>
 #include <string_view>
 
+#include "formats/BestImage.h"
 #include "formats/ByteReader.h"
 #include "formats/DibImage.h"
+#include "formats/IconPixels.h"
 #include "formats/PngImage.h"
-#include "formats/StoredImage.h"
 
 namespace kestrel::formats {
 namespace {
@@ -17,6 +18,11 @@ constexpr std::uint64_t kDirectorySize = 6;
 constexpr std::uint64_t kEntrySize = 16;
 constexpr std::uint16_t kIconType = 1;
 constexpr std::uint16_t kCursorType = 2;
+
+// What ReadBestImage may spend on damaged images before it gives up, in bytes read and decoded;
+// about a second's worth. Real files stay far below it.
+constexpr std::size_t kTrialBudget = std::size_t{128} << 20;
+constexpr std::size_t kTrialOverhead = 4096;
 
 // A PNG that is no image of an icon may be a photograph.
 constexpr int kMaxPngSide = 8192;
@@ -36,6 +42,11 @@ bool IsIconDirectory(Bytes file) {
            (type == kIconType || type == kCursorType);
 }
 
+// A side in the directory is one byte, in which 0 means 256.
+int DirectorySide(std::uint8_t stored) {
+    return stored == 0 ? 256 : stored;
+}
+
 // An image's own header is believed; the directory only tells where the image begins and whether
 // its height is doubled. Its planes, depth (a cursor's hotspot) and length are often wrong.
 std::optional<ImageEntry> ReadEntry(const ByteReader& file, std::uint64_t entry) {
@@ -45,8 +56,8 @@ std::optional<ImageEntry> ReadEntry(const ByteReader& file, std::uint64_t entry)
     const auto start = static_cast<std::size_t>(offset);
     if (const auto info = ReadPngInfo(image, kMaxImageSide))
         return ImageEntry{start, image.size(), *info};
-    const auto dib = ReadDibLayout(image, image.size(), DirectorySide(file.U8(entry)),
-                                   DirectorySide(file.U8(entry + 1)));
+    const auto dib =
+        ReadDibLayout(image, DirectorySide(file.U8(entry)), DirectorySide(file.U8(entry + 1)));
     if (!dib) return std::nullopt;
     const std::uint64_t size = std::min<std::uint64_t>(dib->end, image.size());
     return ImageEntry{start, static_cast<std::size_t>(size), dib->info};
@@ -73,17 +84,29 @@ std::vector<ImageEntry> ListPng(Bytes file) {
     return {ImageEntry{0, file.size(), *info}};
 }
 
-std::optional<IconImage> DecodePart(Bytes file, const ImageEntry& entry) {
-    return DecodeStored(ByteReader(file).Part(entry.offset, entry.size), entry.info);
+// A bitmap or a PNG that lies in the file as it is.
+std::optional<IconImage> DecodeStored(Bytes file, const ImageEntry& entry) {
+    const Bytes image = ByteReader(file).Part(entry.offset, entry.size);
+    if (entry.info.png) return DecodePng(image, entry.info);
+    const auto dib = ReadDibLayout(image, entry.info.width, entry.info.height);
+    return dib ? DecodeDib(image, *dib) : std::nullopt;
 }
 
 constexpr std::array kKinds{
-    IconKind{"icon or cursor", IsIconDirectory, ListDirectory, DecodePart},
-    IconKind{"PNG", IsPng, ListPng, DecodePart},
+    IconKind{"icon or cursor", IsIconDirectory, ListDirectory, DecodeStored},
+    IconKind{"PNG", IsPng, ListPng, DecodeStored},
 };
 
 tl::unexpected<Error> NoPicture() {
     return Fail(kInvalidPicture, "Invalid picture");
+}
+
+// Damaged bitmaps are refused by their header; only a PNG must be decoded to know.
+std::size_t TrialCost(const ImageEntry& entry) {
+    const std::size_t pixels = entry.info.png ? static_cast<std::size_t>(entry.info.width) *
+                                                    static_cast<std::size_t>(entry.info.height)
+                                              : 0;
+    return kTrialOverhead + (entry.info.png ? entry.size : 0) + 4 * pixels;
 }
 
 }  // namespace
@@ -108,12 +131,13 @@ Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEnt
 Result<IconImage> ReadBestImage(std::span<const std::uint8_t> file) {
     const auto entries = ListImages(file);
     if (!entries) return tl::unexpected<Error>(entries.error());
-    auto icon = DecodeBest(*entries, [&](const ImageEntry& entry) {
-        auto image = DecodeImage(file, entry);
-        return image ? std::optional(*std::move(image)) : std::nullopt;
-    });
-    if (!icon) return NoPicture();
-    return *std::move(icon);
+    std::size_t spent = 0;
+    for (const ImageEntry& entry : BestFirst(*entries)) {
+        if (spent > kTrialBudget) break;
+        spent += TrialCost(entry);
+        if (auto icon = DecodeImage(file, entry)) return icon;
+    }
+    return NoPicture();
 }
 
 }  // namespace kestrel::formats

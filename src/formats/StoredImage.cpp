@@ -78,7 +78,7 @@ std::vector<std::uint8_t> ReadStoredImage(SourceReader& file, const ImageEntry& 
 
 std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info) {
     if (info.png) return DecodePng(image, info);
-    const auto dib = ReadDibLayout(image, image.size(), info.width, info.height);
+    const auto dib = ReadDibLayout(image, info.width, info.height);
     if (!dib || dib->info != info) return std::nullopt;
     return DecodeDib(image, *dib);
 }
