@@ -12,7 +12,7 @@ namespace {
 
 using namespace test;
 
-struct Oddity {
+struct OddSource {
     const char* name;
     std::vector<Patch> patches;
     const char* expected;
@@ -21,7 +21,7 @@ struct Oddity {
 // The library's tree of resources: types at 210, images at 230, groups at 258, languages at 268,
 // places at 2E0, the text of the name at 330; data: images at 338, 380 and 3C8, groups at 410, 434.
 constexpr auto kPe = "PE AB:3x2x24,1x1x32p 2:3x2x24";
-const Oddity kPeOddities[] = {
+const OddSource kOddPrograms[] = {
     {"as it is", {}, kPe},
     {"another processor", {{0x44, "64AA"}}, kPe},
     {"resource directory without a size", {{0xCC, "00000000"}}, kPe},
@@ -76,7 +76,7 @@ ByteList PeAtFour() {
 }
 
 TEST(Pe, ListsOddPrograms) {
-    for (const auto& [name, patches, expected] : kPeOddities)
+    for (const auto& [name, patches, expected] : kOddPrograms)
         EXPECT_EQ(Listing(Patched(Pe(), patches)), expected) << name;
     EXPECT_EQ(Listing(Pe64()), kPe);
     EXPECT_EQ(Listing(PeAtFour()), kPe);
@@ -84,7 +84,7 @@ TEST(Pe, ListsOddPrograms) {
 
 // The header at 40; the table at 80: the shift, icons at 82, groups at A2.
 constexpr auto kNe = "NE AB:3x2x24,3x2x24 7:3x2x24";
-const Oddity kNeOddities[] = {
+const OddSource kOdd16Bits[] = {
     {"as it is", {}, kNe},
     {"for no system", {{0x76, "00"}}, kNe},
     {"for OS/2", {{0x76, "01"}}, "none"},
@@ -100,7 +100,7 @@ const Oddity kNeOddities[] = {
 TEST(Ne, ListsOddPrograms) {
     for (const unsigned shift : {1U, 4U, 9U})
         EXPECT_EQ(Listing(Ne(shift)), kNe) << shift;
-    for (const auto& [name, patches, expected] : kNeOddities)
+    for (const auto& [name, patches, expected] : kOdd16Bits)
         EXPECT_EQ(Listing(Patched(Ne(4), patches)), expected) << name;
 }
 
