@@ -34,12 +34,14 @@ std::size_t TrialCost(const ImageEntry& entry) {
     return kTrialOverhead + std::min(entry.size, kMaxIconFileBytes) + 4 * pixels;
 }
 
-// A bare bitmap is read as a directory would call it that doubles nothing: a second half is taken
-// for the mask only where the rows of the first are not there otherwise.
-DirectorySize OwnSize(Bytes head) {
+// What a directory would say of a bitmap that has none. Icons are square: a height of twice the
+// width counts the mask; any other does so only where its rows are not there otherwise.
+DirectorySize LikelySize(Bytes head) {
     const ByteReader reader(head);
-    const std::int64_t height = reader.S32(8);
-    return {reader.S32(4), static_cast<int>(std::min<std::int64_t>(std::abs(height), INT32_MAX))};
+    const std::int64_t width = reader.S32(4);
+    const std::int64_t height = std::abs(std::int64_t{reader.S32(8)});
+    if (height == 2 * width || height > kMaxImageSide) return {-1, -1};
+    return {static_cast<int>(width), static_cast<int>(height)};
 }
 
 std::uint64_t PngLength(SourceReader& file, Extent place) {
@@ -63,7 +65,7 @@ std::optional<ImageEntry> ReadImageHead(SourceReader& file, Extent place, Direct
     const auto head = ByteReader(record.bytes).Part(0, place.size);
     if (const auto png = ReadPngInfo(head, longestPngSide))
         return ImageEntry{start, static_cast<std::size_t>(place.size), *png};
-    if (told.width == 0) told = OwnSize(head);
+    if (told.width == 0) told = LikelySize(head);
     const auto dib = ReadDibLayout(head, place.size, told.width, told.height);
     if (!dib || dib->maskOffset > place.size) return std::nullopt;
     return ImageEntry{start, static_cast<std::size_t>(std::min(dib->end, place.size)), dib->info};

@@ -138,6 +138,8 @@ const Animation kAnimations[] = {
     {"bare bitmap", Chunk("icon", kDib) + kFrame, "ANI 1:3x2x24 2:3x2x24"},
     {"bare bitmap without a mask",
      Chunk("icon", Patched({kDib.begin(), kDib.end() - 8}, {{8, "02"}})), "ANI 1:3x2x24"},
+    {"bare bitmap of a bit", Chunk("icon", Patched(kDib, {{4, "02"}, {14, "01"}, {32, "02"}})),
+     "ANI 1:2x2x1"},
     {"a frame cannot be read", kFrame + Chunk("icon", {}) + kFrame, "ANI 1:3x2x24"},
     {"no frames", kHeader, "none"},
 };
