@@ -10,9 +10,9 @@ namespace {
 
 constexpr std::uint64_t kHeadSize = 6;
 constexpr std::uint64_t kEntrySize = 14;
-// Entries of groups that are looked at while the icons are listed. Large libraries have a tenth of
-// it; groups that overlap could have thousands of millions.
-constexpr std::size_t kMostEntries = 1U << 20;
+// Entries of groups that are looked at while the icons are listed: of the largest libraries, one a
+// group and some whose images are missing. Groups that overlap could have thousands of millions.
+constexpr std::size_t kMostEntries = 1U << 17;
 
 std::size_t EntryCount(SourceReader& file, const IconPlace& group) {
     const std::uint64_t room = file.Inside(group.Where()).size;
@@ -32,14 +32,34 @@ const IconPlace* FindImage(const IconTable& table, std::uint32_t number) {
     return found != table.images.end() && found->name == number ? &*found : nullptr;
 }
 
+// An entry tells a size, as one of an icon file does, and an image's number in place of its offset.
+// Each that is looked at takes one off `budget`.
+std::vector<ImageEntry> GroupImages(SourceReader& file, const IconTable& table,
+                                    const IconPlace& group, std::size_t most, std::size_t& budget) {
+    const std::size_t count = EntryCount(file, group);
+    std::vector<ImageEntry> images;
+    for (std::size_t i = 0; i < count && images.size() < most && budget > 0; ++i, --budget) {
+        const auto entry = file.Record<kEntrySize>(group.offset + kHeadSize + i * kEntrySize);
+        const IconPlace* stored = FindImage(table, entry.U16(12));
+        if (stored == nullptr) continue;
+        auto image = ReadImageHead(file, stored->Where(),
+                                   {DirectorySide(entry.bytes[0]), DirectorySide(entry.bytes[1])});
+        if (!image) continue;
+        image->index = i;
+        images.push_back(*image);
+    }
+    return images;
+}
+
 void KeepReadable(SourceReader& file, IconTable& table, std::vector<IconPlace> candidates) {
     std::stable_partition(candidates.begin(), candidates.end(),
                           [](const IconPlace& icon) { return icon.named; });
-    std::size_t entries = 0;
+    std::size_t budget = kMostEntries;
     for (const IconPlace& icon : candidates) {
-        if (table.grouped) entries += EntryCount(file, icon);
-        if (entries > kMostEntries || table.icons.size() == kMostIcons) break;
-        if (!ResourceImages(file, table, icon, 1).empty()) table.icons.push_back(icon);
+        if (budget == 0 || table.icons.size() == kMostIcons) break;
+        const auto first =
+            table.grouped ? GroupImages(file, table, icon, 1, budget) : LoneImage(file, icon);
+        if (!first.empty()) table.icons.push_back(icon);
     }
 }
 
@@ -60,26 +80,10 @@ IconTable ListResources(SourceReader& file, std::vector<IconPlace> groups,
     return table;
 }
 
-// An entry tells a size, as one of an icon file does, and an image's number in place of its offset.
 std::vector<ImageEntry> ResourceImages(SourceReader& file, const IconTable& table,
                                        const IconPlace& icon, std::size_t most) {
-    if (!table.grouped) return LoneImage(file, icon);
-    const std::size_t count = EntryCount(file, icon);
-    const auto bytes = file.Part({icon.offset + kHeadSize, count * kEntrySize});
-    const ByteReader entries(bytes);
-    std::vector<ImageEntry> images;
-    for (std::size_t i = 0; i < count && images.size() < most; ++i) {
-        const std::size_t at = i * kEntrySize;
-        const IconPlace* stored = FindImage(table, entries.U16(at + 12));
-        if (stored == nullptr) continue;
-        auto image =
-            ReadImageHead(file, stored->Where(),
-                          {DirectorySide(entries.U8(at)), DirectorySide(entries.U8(at + 1))});
-        if (!image) continue;
-        image->index = i;
-        images.push_back(*image);
-    }
-    return images;
+    std::size_t budget = SIZE_MAX;
+    return table.grouped ? GroupImages(file, table, icon, most, budget) : LoneImage(file, icon);
 }
 
 }  // namespace kestrel::formats
