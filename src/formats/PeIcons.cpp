@@ -20,7 +20,7 @@ constexpr std::uint16_t kMagic64 = 0x20B;
 constexpr std::uint64_t kHeadersSize = 60;
 constexpr std::uint64_t kDirectories32 = 96;
 constexpr std::uint64_t kDirectories64 = 112;
-constexpr std::uint32_t kResourceDirectory = 2;
+constexpr std::uint64_t kResourceDirectory = 2;
 
 constexpr std::uint64_t kSectionSize = 40;
 // The system loads no program with more.

@@ -40,7 +40,9 @@ std::vector<std::string_view> Strings(std::string_view text) {
 std::vector<std::string_view> Words(std::string_view line) {
     constexpr std::string_view kBlanks = " \t";
     std::vector<std::string_view> words;
-    while ((line = line.substr(std::min(line.find_first_not_of(kBlanks), line.size()))) != "") {
+    for (;;) {
+        line.remove_prefix(std::min(line.find_first_not_of(kBlanks), line.size()));
+        if (line.empty()) break;
         words.push_back(line.substr(0, line.find_first_of(kBlanks)));
         line.remove_prefix(words.back().size());
     }

@@ -75,7 +75,7 @@ Result<void> FileBytes::ReadFromDisk(std::uint64_t offset, std::span<std::uint8_
 
 // The block that begins here, or else the one that has not been used for the longest.
 FileBytes::Block& FileBytes::PlaceFor(std::uint64_t start) {
-    const auto found = std::ranges::find(blocks_, start, &Block::start);
+    auto* const found = std::ranges::find(blocks_, start, &Block::start);
     return found != blocks_.end() ? *found
                                   : *std::ranges::min_element(blocks_, {}, &Block::lastUse);
 }
