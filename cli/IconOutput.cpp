@@ -82,7 +82,9 @@ Result<void> WriteAnywhere(const std::string& name, std::span<const std::uint8_t
         case Way::Replace:
             break;
     }
-    return system::DiskFiles(system::PathNames::AsWritten).ReplaceFile(name, bytes);
+    const auto written = system::DiskFiles().ReplaceFile(name, bytes);
+    if (!written) return tl::unexpected(written.error());
+    return {};
 }
 
 }  // namespace

@@ -66,7 +66,9 @@ Result<void> WriteLibrary(const std::string& library, std::vector<std::string> p
     if (!icons) return tl::unexpected(icons.error());
     const auto bytes = formats::LibraryBytes(*icons);
     if (!bytes) return tl::unexpected(bytes.error());
-    return files.ReplaceFile(library, *bytes);
+    if (const auto written = files.ReplaceFile(library, *bytes); !written)
+        return Fail(written.error().number, library + ": " + written.error().description);
+    return {};
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "app/Startup.h"
 
 #include <array>
+#include <utility>
 
 #include "document/ApplicationIcon.h"
 #include "formats/IcoFile.h"
@@ -23,6 +24,7 @@ void Refuse(services::MessageBoxes& boxes, BoxIcon icon, const i18n::Text& text,
 
 // The folder is made on the first start, with the tray picture in it.
 void PrepareWindowsFolder(const std::string& folder, system::FileSystem& files) {
+    if (folder.empty()) return;
     const std::string trayIcon = folder + "/kestrel.ico";
     if (files.FileExists(trayIcon) || !files.MakeFolder(folder)) return;
     static_cast<void>(formats::WriteIcoCopy(files, document::ApplicationIcon(), trayIcon));
@@ -80,12 +82,11 @@ std::string PathOfCommandLine(std::string_view commandLine, system::FileSystem& 
     constexpr std::string_view kOpen = "/open ";
     if (!system::SameName(commandLine.substr(0, kOpen.size()), kOpen)) return {};
     const std::string typed(commandLine.substr(kOpen.size()));
-    std::string proper = system::ProperCase(typed);
     // Where two files differ in letter case alone, the one that was typed is meant.
-    const auto typedFile = files.Find(typed);
-    const bool spelledSo = typedFile && typedFile->ends_with(system::FileTitleOf(typed));
-    const bool otherFile = spelledSo && typedFile != files.Find(proper);
-    return otherFile ? typed : proper;
+    if (auto file = files.Find(typed); file && file->ends_with(system::FileTitleOf(typed)))
+        return *std::move(file);
+    const std::string proper = system::ProperCase(typed);
+    return files.Find(proper).value_or(proper);
 }
 
 }  // namespace kestrel::app

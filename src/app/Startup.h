@@ -50,8 +50,8 @@ bool CheckColorDepth(const StartupFacts& facts, services::MessageBoxes& boxes);
 // Makes the program the opener of .ico files. A key that cannot be written is skipped.
 void RegisterIcoAssociation(system::Registry& registry, const std::string& applicationFolder);
 
-// The icon file that a command line of "/open <path>" names, in proper case as long as that still
-// names the same file; empty for any other command line.
+// The path of the file that a command line of "/open <path>" names; where it names none, what was
+// typed in proper case. Empty for any other command line.
 std::string PathOfCommandLine(std::string_view commandLine, system::FileSystem& files);
 
 }  // namespace kestrel::app

@@ -1,16 +1,21 @@
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 #include <chrono>
 #include <csignal>
+#include <filesystem>
 
 #include "app/Startup.h"
 #include "desktop/LibraryTranslator.h"
+#include "desktop/Pictures.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtClipboard.h"
 #include "desktop/QtDesktopDialogs.h"
 #include "desktop/QtHelpViewer.h"
 #include "desktop/QtMessageBoxes.h"
 #include "desktop/QtShell.h"
+#include "desktop/TwoColorWindows.h"
+#include "document/ApplicationIcon.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
 #include "platform/system/Folders.h"
@@ -37,12 +42,20 @@ app::StartupFacts FactsOf(const QScreen* screen, bool anotherInstanceRuns) {
     return facts;
 }
 
-// Named after the executable: in its folder or, where that cannot be written, in the user's
-// configuration folder.
+// A file in a folder; none where there is no folder.
+std::string FileIn(const std::string& folder, const std::string& name) {
+    return folder.empty() ? "" : folder + (folder.ends_with('/') ? "" : "/") + name;
+}
+
+// Named after the executable. In its folder while it is one's own copy of the program, else in the
+// user's configuration folder.
 std::string SettingsFile(system::FileSystem& files) {
     std::string folder = system::ApplicationFolder();
-    if (!files.CanWriteIn(folder)) folder = system::ConfigFolder();
-    return (folder.ends_with('/') ? folder : folder + "/") + system::ExecutableName() + ".ini";
+    std::error_code unknown;
+    const bool installed =
+        std::filesystem::is_directory(system::InstalledDataFolder(folder), unknown);
+    if (installed || !files.CanWriteIn(folder)) folder = system::ConfigFolder();
+    return FileIn(folder, system::ExecutableName() + ".ini");
 }
 
 // The arguments as the one line that was typed, byte for byte: file names need not be UTF-8.
@@ -52,6 +65,9 @@ std::string CommandLine(int argc, char* argv[]) {
         line += (i > 1 ? " " : "") + std::string(argv[i]);
     return line;
 }
+
+// After this long the window has been drawn.
+constexpr std::chrono::milliseconds kSettled{500};
 
 std::uint32_t SeedOfClock() {
     return static_cast<std::uint32_t>(std::chrono::system_clock::now().time_since_epoch().count());
@@ -63,17 +79,21 @@ int main(int argc, char* argv[]) {
     // A write beyond the file size limit is a failed save, not the end of the program. Not ignored:
     // programs that are started would inherit that.
     std::signal(SIGXFSZ, [](int /*signal*/) {});
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     desktop::LibraryTranslator translator;
     QApplication::installTranslator(&translator);
     QApplication::setApplicationName(QStringLiteral("KestrelIconEditor"));
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("KestrelIconEditor"));
+    QGuiApplication::setWindowIcon(
+        QPixmap::fromImage(desktop::ToImage(document::ApplicationIcon())));
+    desktop::TwoColorWindows twoColorWindows;
+    if (desktop::TwoColorWindows::IsNeeded()) application.installEventFilter(&twoColorWindows);
 
     const auto lock = system::InstanceLock::Take(system::RuntimeFolder(), "KestrelIconEditor",
                                                  system::CurrentDisplay());
     system::DiskFiles files;
-    system::FileRegistry registry(files, system::ConfigFolder() + "/registry.ini");
+    system::FileRegistry registry(files, FileIn(system::ConfigFolder(), "registry.ini"));
     settings::Settings settings(files, SettingsFile(files));
     desktop::QtMessageBoxes boxes;
     const app::StartupFacts facts = FactsOf(QGuiApplication::primaryScreen(), !lock);
@@ -93,5 +113,10 @@ int main(int argc, char* argv[]) {
     boxes.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv), files));
     window.show();
+    QTimer settled;
+    settled.callOnTimeout([&] {
+        if (registry.CatchUp()) settled.stop();
+    });
+    settled.start(kSettled);
     return QApplication::exec();
 }

@@ -69,7 +69,7 @@ void DocumentCommands::OpenChosenFile() {
         return;
     }
     parts_.application.DoEvents();
-    if (OpenFile(*chosen)) return;
+    if (OpenFile(chosen->path)) return;
     parts_.grid.EnableGrid(true);
     ShowError(parts_.boxes, i18n::CannotOpenChosen(chosen->fileTitle));
 }
@@ -77,10 +77,9 @@ void DocumentCommands::OpenChosenFile() {
 void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
     if (!PromptSaveChanges()) return;
     parts_.grid.EnableGrid(false);
-    const std::string titleToOpen(system::FileTitleOf(pathToOpen));
-    if (OpenFile({pathToOpen, titleToOpen})) return;
+    if (OpenFile(pathToOpen)) return;
     parts_.grid.EnableGrid(true);
-    ShowError(parts_.boxes, i18n::CannotOpenNamed(titleToOpen));
+    ShowError(parts_.boxes, i18n::CannotOpenNamed(system::FileTitleOf(pathToOpen)));
 }
 
 void DocumentCommands::mnuRecent_Click(int slot) {
@@ -89,18 +88,19 @@ void DocumentCommands::mnuRecent_Click(int slot) {
 }
 
 // False, with nothing changed, when the file is no icon.
-bool DocumentCommands::OpenFile(const services::ChosenFile& file) {
-    const auto bytes = parts_.files.ReadFile(file.path, formats::kMaxIconFileBytes);
-    if (!bytes) return false;
-    const Result<formats::IconImage> icon = formats::ReadBestImage(*bytes);
+bool DocumentCommands::OpenFile(const std::string& path) {
+    const auto file = parts_.files.LoadFile(path, formats::kMaxIconFileBytes);
+    if (!file) return false;
+    const Result<formats::IconImage> icon = formats::ReadBestImage(file->bytes);
     if (!icon) return false;
 
     editor_.ResetDocument();
-    document_.FilePath = file.path;
-    document_.FileTitle = file.fileTitle;
+    document_.FilePath = file->path;
+    document_.FileTitle = system::NameOnDisk(file->path);
+    document_.FileOnDisk = file->identity;
     editor_.ShowTitle();
     editor_.ReadIconIntoDocument(*icon);
-    document_.MultipleIcons = formats::DetectMultipleIcons(*bytes);
+    document_.MultipleIcons = formats::DetectMultipleIcons(file->bytes);
     parts_.recent.AddRecentFile(document_.FilePath);
     parts_.grid.StartTmr();
     return true;
@@ -143,14 +143,26 @@ void DocumentCommands::SaveInPlace() {
         SaveUnderNewName();
         return;
     }
+    if (ChangedOutside() && parts_.boxes.Show(BoxIcon::Question, BoxButtons::YesNo,
+                                              i18n::ChangedOutside(document_.FileTitle),
+                                              std::string(i18n::kProgramName)) != Answer::Yes) {
+        document_.SaveSucceeded = false;
+        return;
+    }
     WriteIcoFile(document_.FilePath);
+}
+
+// Whether another file, or another content, is now where this icon was opened or saved last.
+bool DocumentCommands::ChangedOutside() {
+    const auto now = parts_.files.Identify(document_.FilePath);
+    return now && now != document_.FileOnDisk;
 }
 
 void DocumentCommands::WriteIcoFile(const std::string& path) {
     parts_.application.ShowHourglass(true);
-    document_.FileTitle = system::FileTitleOf(path);
+    document_.FileTitle = system::NameOnDisk(path);
     editor_.ShowTitle();
-    const Result<void> written = formats::WriteIcoCopy(parts_.files, editor_.Composited(), path);
+    const auto written = formats::WriteIcoCopy(parts_.files, editor_.Composited(), path);
     parts_.application.ShowHourglass(false);
     document_.SaveSucceeded = written.has_value();
     if (!written) {
@@ -162,6 +174,7 @@ void DocumentCommands::WriteIcoFile(const std::string& path) {
     // What floated over the icon is in the file; what is only marked stays so.
     if (editor_.Selected().SelectionFloating()) editor_.Selected().DropSelection();
     document_.FilePath = path;
+    document_.FileOnDisk = *written;
     document_.Modified = false;
     document_.MultipleIcons = false;
     parts_.recent.AddRecentFile(path);

@@ -55,9 +55,10 @@ class DocumentCommands {
 
   private:
     void OpenChosenFile();
-    bool OpenFile(const services::ChosenFile& file);
+    bool OpenFile(const std::string& path);
     void SaveUnderNewName();
     void SaveInPlace();
+    bool ChangedOutside();
     void WriteIcoFile(const std::string& path);
 
     editing::Editor& editor_;

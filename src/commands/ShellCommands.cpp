@@ -5,6 +5,7 @@
 #include "commands/ErrorBox.h"
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
+#include "platform/system/Folders.h"
 
 namespace kestrel::commands {
 
@@ -33,7 +34,7 @@ ShellCommands::ShellCommands(const ShellServices& services, ProgramFolders folde
 std::string ShellCommands::HelpFile() const {
     const std::string page = "/help/" + std::string(i18n::UiLanguage()) + "/index.html";
     const std::string beside = folders_.application + page;
-    const std::string installed = folders_.application + "/" KESTREL_DATA_FROM_PROGRAM + page;
+    const std::string installed = system::InstalledDataFolder(folders_.application) + page;
     return !services_.files.FileExists(beside) && services_.files.FileExists(installed) ? installed
                                                                                         : beside;
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/gdi/IconPlanes.h"
+#include "platform/system/FileIdentity.h"
 
 namespace kestrel::document {
 
@@ -13,7 +15,10 @@ inline constexpr std::string_view kUntitled = "Untitled";
 // The one open icon: its planes of 32 x 32 pixels and what is known of its file.
 class IconDocument {
   public:
+    // Otherwise the absolute path, spelled as on the disk, of the file opened or saved last.
     std::string FilePath{kUntitled};
+    // That file as it was then.
+    std::optional<system::FileIdentity> FileOnDisk;
     // The file-name part of FilePath; empty for a new icon. During and after a save that failed,
     // the name that was tried.
     std::string FileTitle;

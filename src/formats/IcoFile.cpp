@@ -90,8 +90,8 @@ IcoBytes EncodeIco(const gdi::IconPlanes& icon) {
     return file;
 }
 
-Result<void> WriteIcoCopy(system::FileSystem& files, const gdi::IconPlanes& icon,
-                          const std::string& path) {
+Result<system::FileIdentity> WriteIcoCopy(system::FileSystem& files, const gdi::IconPlanes& icon,
+                                          const std::string& path) {
     return files.ReplaceFile(path, EncodeIco(icon));
 }
 

@@ -25,8 +25,8 @@ IcoBytes EncodeIco(const gdi::IconPlanes& icon);
 std::uint8_t BitsToByte(std::string_view bits);
 
 // Writes such a file.
-Result<void> WriteIcoCopy(system::FileSystem& files, const gdi::IconPlanes& icon,
-                          const std::string& path);
+Result<system::FileIdentity> WriteIcoCopy(system::FileSystem& files, const gdi::IconPlanes& icon,
+                                          const std::string& path);
 
 // Whether the directory at the head of an icon or cursor file counts more than one image. Bytes
 // that are too few, or no directory, count as one.

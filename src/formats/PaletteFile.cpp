@@ -100,7 +100,7 @@ Result<void> WritePaletteFile(system::FileSystem& files, const gdi::PaletteColor
                               const std::string& path) {
     const std::string text = PaletteText(colors);
     const std::vector<std::uint8_t> bytes(text.begin(), text.end());
-    const Result<void> written = files.ReplaceFile(path, bytes);
+    const auto written = files.ReplaceFile(path, bytes);
     if (!written) return FromPalette(written.error());
     return {};
 }

@@ -34,6 +34,8 @@ constexpr Text kCannotOpenHomePage{"No web browser could be started.\r\n\r\nUnab
 constexpr Text kCannotStart{
     "The program is not installed or cannot be run.\r\n\r\nUnable to start %1",
     "该程序尚未安装, 或无法运行.\r\n\r\n不能运行 %1"};
+constexpr Text kChangedOutside{"\"%1\" has been changed by another program.\r\nOverwrite it?",
+                               "\"%1\" 已被其它程序修改.\r\n是否覆盖?"};
 constexpr Text kSeveralIcons{
     "The file \"%1\" contains multiple icons.\r\n"
     "This \"Save\" will overwrite the other icons in the file.\r\n\r\n"
@@ -90,6 +92,10 @@ std::string CannotOpenHomePage(std::string_view url) {
 
 std::string CannotStart(std::string_view program) {
     return Fill(kCannotStart.Now(), program);
+}
+
+std::string ChangedOutside(std::string_view fileTitle) {
+    return Fill(kChangedOutside.Now(), fileTitle);
 }
 
 std::string SeveralIcons(std::string_view fileTitle) {

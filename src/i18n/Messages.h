@@ -80,6 +80,9 @@ inline constexpr Text kCannotPaste{
     "Unable to paste.",
     "剪切板中的图像已不存在, 已损坏, 过大或未能及时送达.\r\n\r\n不能粘贴."};
 
+// The question before a save replaces a file that another program has changed since it was opened.
+std::string ChangedOutside(std::string_view fileTitle);
+
 // The warning before a save replaces a file that held several icons.
 std::string SeveralIcons(std::string_view fileTitle);
 

@@ -11,6 +11,8 @@ namespace kestrel::services {
 
 namespace {
 
+using system::NameOnDisk;
+
 bool Exists(const std::string& path) {
     std::error_code ignored;
     return std::filesystem::exists(path, ignored);
@@ -19,11 +21,6 @@ bool Exists(const std::string& path) {
 bool IsFolder(const std::string& path) {
     std::error_code ignored;
     return std::filesystem::is_directory(path, ignored);
-}
-
-// A path on the disk is parted by '/' alone; a backslash may be part of a name.
-std::string TitleOf(const std::string& path) {
-    return std::filesystem::path(path).filename().string();
 }
 
 std::string FolderOf(const std::string& path) {
@@ -35,7 +32,7 @@ std::string AnswerOf(const std::vector<std::string>& paths) {
     if (paths.size() == 1) return paths[0];
     std::string answer = FolderOf(paths[0]) + '\0';
     for (const std::string& path : paths)
-        answer.append(TitleOf(path)) += '\0';
+        answer.append(NameOnDisk(path)) += '\0';
     return answer;
 }
 
@@ -61,7 +58,7 @@ FileNameRules::Verdict FileNameRules::Judge(std::vector<std::string>& paths,
 // An existing file that is to be opened need not have an extension.
 std::string FileNameRules::WithExtension(const std::string& path) const {
     const std::string& extension = record_.defaultExtension;
-    if (extension.empty() || TitleOf(path).find('.') != std::string::npos || IsFolder(path) ||
+    if (extension.empty() || NameOnDisk(path).find('.') != std::string::npos || IsFolder(path) ||
         (purpose_ == FilePurpose::Open && Exists(path))) {
         return path;
     }
@@ -76,7 +73,7 @@ bool FileNameRules::IsName(const std::string& path, const std::string& typed) co
 }
 
 bool FileNameRules::MayOpen(const std::string& path) const {
-    return !Asks(kFileMustExist) || Exists(path) || Refuse(i18n::kFileNotFound, TitleOf(path));
+    return !Asks(kFileMustExist) || Exists(path) || Refuse(i18n::kFileNotFound, NameOnDisk(path));
 }
 
 bool FileNameRules::MaySaveAs(const std::string& path) const {
@@ -84,14 +81,14 @@ bool FileNameRules::MaySaveAs(const std::string& path) const {
     if (Asks(kPathMustExist) && !IsFolder(folder + '/'))
         return Refuse(i18n::kFolderNotFound, folder);
     if (!Asks(kOverwritePrompt) || !Exists(path)) return true;
-    const std::string question = i18n::Filled(i18n::kReplaceFile, TitleOf(path));
+    const std::string question = i18n::Filled(i18n::kReplaceFile, NameOnDisk(path));
     return boxes_.Show(BoxIcon::Exclamation, BoxButtons::YesNo, question, record_.title) ==
            Answer::Yes;
 }
 
 bool FileNameRules::FitsBuffer(const std::vector<std::string>& paths) const {
     return record_.maxFile == 0 || system::CountCharacters(AnswerOf(paths)) < record_.maxFile ||
-           Refuse(i18n::kFileNameTooLong, TitleOf(paths[0]));
+           Refuse(i18n::kFileNameTooLong, NameOnDisk(paths[0]));
 }
 
 // Tells why, and is false.
@@ -102,7 +99,7 @@ bool FileNameRules::Refuse(const i18n::Text& sentence, std::string_view name) co
 
 void AnswerIn(FileRecord& record, const std::vector<std::string>& paths) {
     record.file = AnswerOf(paths);
-    record.fileTitle = paths.size() > 1 ? "" : TitleOf(paths[0]);
+    record.fileTitle = paths.size() > 1 ? "" : NameOnDisk(paths[0]);
 }
 
 }  // namespace kestrel::services

@@ -4,7 +4,6 @@
 
 #include "commands/CommandTable.h"
 #include "desktop/Pictures.h"
-#include "document/ApplicationIcon.h"
 #include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
@@ -21,11 +20,6 @@ gdi::COLORREF WindowColor() {
     const gdi::COLORREF color =
         desktop::ToColorRef(QApplication::palette().color(QPalette::Window));
     return color == gdi::kWhite ? kGreyForWhite : color;
-}
-
-QIcon ProgramIcon() {
-    const gdi::IconPlanes icon = document::ApplicationIcon();
-    return QIcon(QPixmap::fromImage(desktop::ToImage(icon)));
 }
 
 }  // namespace
@@ -52,7 +46,6 @@ FrmIcoEd::~FrmIcoEd() {
 
 void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     FollowDesktopColors();
-    QApplication::setWindowIcon(ProgramIcon());
     setMouseTracking(true);
     setAcceptDrops(true);
     // The keyboard starts at the window itself, not at the first button.

@@ -10,6 +10,7 @@
 
 #include "commands/MainWindow.h"
 #include "platform/system/FileSystem.h"
+#include "platform/system/LetterCase.h"
 #include "services/Clipboard.h"
 #include "services/MessageBoxes.h"
 #include "tests/support/EditorRecorder.h"
@@ -89,25 +90,29 @@ class MemoryClipboard : public services::Clipboard {
     std::optional<gdi::Surface> image;
 };
 
-// A disk in memory; with `writeError` set every write fails with it.
+// A disk in memory that tells files by their size; with `writeError` set every write fails with it.
 class MemoryFiles : public system::FileSystem {
   public:
-    Result<std::vector<std::uint8_t>> ReadFile(const std::string& path,
-                                               std::size_t /*limit*/) override {
-        const auto found = contents.find(path);
+    Result<system::LoadedFile> LoadFile(const std::string& path, std::size_t /*limit*/) override {
+        const auto found = std::ranges::find_if(
+            contents, [&](const auto& file) { return system::SameName(file.first, path); });
         if (found == contents.end()) return Fail(2, "No such file or directory");
-        return found->second;
+        return system::LoadedFile{found->first, *Identify(found->first), found->second};
     }
     Result<std::unique_ptr<system::ByteSource>> OpenSource(const std::string& path) override {
         auto content = ReadFile(path, SIZE_MAX);
         if (!content) return tl::unexpected(content.error());
         return std::make_unique<system::MemoryBytes>(*std::move(content));
     }
-    Result<void> ReplaceFile(const std::string& path,
-                             std::span<const std::uint8_t> bytes) override {
+    Result<system::FileIdentity> ReplaceFile(const std::string& path,
+                                             std::span<const std::uint8_t> bytes) override {
         if (writeError.number != 0) return Fail(writeError.number, writeError.description);
         contents[path].assign(bytes.begin(), bytes.end());
-        return {};
+        return *Identify(path);
+    }
+    std::optional<system::FileIdentity> Identify(const std::string& path) override {
+        if (!FileExists(path)) return std::nullopt;
+        return system::FileIdentity{.size = contents.at(path).size()};
     }
     std::optional<std::string> Find(const std::string& path) override {
         return FileExists(path) ? std::optional(path) : std::nullopt;

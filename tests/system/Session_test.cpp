@@ -27,17 +27,24 @@ TEST_F(SessionTest, TheLocaleGivesTheIdentifier) {
 }
 
 TEST_F(SessionTest, FoldersFollowTheEnvironmentButForUnfitOnes) {
-    SetVariable("HOME", "/home/u/");
+    SetVariable("HOME", folder_ + "/");
     SetVariable("XDG_DATA_HOME", "relative");
-    SetVariable("XDG_CONFIG_HOME", "/config/");
-    EXPECT_EQ(WindowsDirectory(), "/home/u/.local/share/KestrelIconEditor/Windows");
-    EXPECT_EQ(ConfigFolder(), "/config/KestrelIconEditor");
+    EXPECT_EQ(WindowsDirectory(), Path(".local/share/KestrelIconEditor/Windows"));
+    MakeFile(Path("config/KestrelIconEditor/a"), "");
+    // Where others can write, they can plant what the program would write to.
+    for (const mode_t mode : {0777U, 0755U}) {
+        chmod(Path("config/KestrelIconEditor").c_str(), mode);
+        SetVariable("XDG_CONFIG_HOME", Path("config/"));
+        EXPECT_EQ(ConfigFolder(), mode == 0755 ? Path("config/KestrelIconEditor") : "");
+        chmod(Path("config").c_str(), mode);
+        SetVariable("XDG_CONFIG_HOME", Path("config/none/yet"));
+        EXPECT_EQ(ConfigFolder(), mode == 0755 ? Path("config/none/yet/KestrelIconEditor") : "");
+    }
     SetVariable("XDG_RUNTIME_DIR", folder_ + "/");
     EXPECT_EQ(RuntimeFolder(), folder_);
-    std::filesystem::create_symlink(folder_, Path("link"));
     MakeFile(Path("open/a"), "");
     chmod(Path("open").c_str(), 0777);
-    for (const char* unfit : {"open", "link", "none"}) {
+    for (const char* unfit : {"open", "none"}) {
         SetVariable("XDG_RUNTIME_DIR", Path(unfit));
         EXPECT_EQ(RuntimeFolder(), "/tmp/KestrelIconEditor-" + std::to_string(geteuid()));
     }

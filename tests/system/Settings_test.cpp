@@ -5,6 +5,7 @@
 
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
+#include "platform/system/LockFile.h"
 #include "platform/system/Profile.h"
 #include "tests/system/TemporaryFolder.h"
 
@@ -82,7 +83,21 @@ TEST_F(SettingsTest, RegistryWritesOnlyWhatIsNew) {
     EXPECT_EQ(ContentOf(file_), "[ClassesRoot\\.ico]\n@=icofile\n");
 }
 
+TEST_F(SettingsTest, RegistryPutsOffWhatAnotherSessionsLockIsInTheWayOf) {
+    files_.MakeFolder(Path("new/folder"));
+    auto lock = LockFile(file_ + ".lock", {});
+    for (const char* value : {"1", "2"})
+        EXPECT_TRUE(registry_.WriteValue(kUser, kKey, "a", value)) << "at once";
+    EXPECT_FALSE(registry_.CatchUp());
+    EXPECT_FALSE(files_.FileExists(file_));
+    lock = tl::unexpected(Error{});
+    EXPECT_TRUE(registry_.WriteValue(kUser, kKey, "b", "3"));
+    EXPECT_EQ(registry_.ReadValue(kUser, kKey, "a"), "2");
+    EXPECT_TRUE(registry_.CatchUp());
+}
+
 TEST_F(SettingsTest, RegistryKeepsTheValuesOfTwoSessions) {
+    registry_.CatchUp();
     const pid_t other = fork();
     const std::string session = other == 0 ? "a" : "b";
     int failures = 0;

@@ -8,8 +8,8 @@
 #include <cerrno>
 #include <filesystem>
 #include <limits>
+#include <utility>
 
-#include "platform/system/Folders.h"
 #include "platform/system/PathText.h"
 #include "platform/system/SystemError.h"
 #include "platform/system/TemporaryFile.h"
@@ -38,6 +38,16 @@ int RefusalToReplace(const std::string& path, const struct stat& status) {
     return access(path.c_str(), W_OK) < 0 ? errno : 0;
 }
 
+// The absolute path of a file that was found. What "." and ".." say goes, unless a link before
+// them leads elsewhere.
+std::string AbsolutePath(const std::string& found) {
+    std::error_code failed;
+    const std::filesystem::path absolute = std::filesystem::absolute(found, failed);
+    if (failed) return found;  // the current folder is gone
+    const std::filesystem::path plain = absolute.lexically_normal();
+    return (std::filesystem::equivalent(plain, absolute, failed) ? plain : absolute).string();
+}
+
 // The place that a chain of links ends at, also when nothing is there yet.
 Result<std::string> FollowLinks(std::filesystem::path path) {
     for (int links = 0; links < kMaxLinks; ++links) {
@@ -47,6 +57,26 @@ Result<std::string> FollowLinks(std::filesystem::path path) {
         path = path.parent_path() / target;
     }
     return SystemFailure(ELOOP);
+}
+
+// 0 or an errno value. `old` is the file that is to be replaced, if there is one.
+int Fill(TemporaryFile& replacement, const struct stat* old, std::span<const std::uint8_t> bytes) {
+    int error = replacement.Write(bytes);
+    if (error == 0 && old != nullptr) error = replacement.Inherit(*old);
+    return error == 0 ? replacement.Finish() : error;
+}
+
+// Writes a file that is ready to replace the old one. Not every file system makes files without a
+// name, and without /proc they cannot be given one: there the file is named from the start.
+int Prepare(TemporaryFile& replacement, const struct stat* old,
+            std::span<const std::uint8_t> bytes) {
+    const mode_t mode = old != nullptr ? kReplacementMode : kNewFileMode;
+    if (replacement.CreateUnnamed(mode) == 0) {
+        if (const int error = Fill(replacement, old, bytes); error != 0) return error;
+        if (replacement.GiveName() == 0) return 0;
+    }
+    const int error = replacement.CreateNamed(mode);
+    return error == 0 ? Fill(replacement, old, bytes) : error;
 }
 
 }  // namespace
@@ -59,7 +89,7 @@ std::string DiskFiles::Resolved(const std::string& path) const {
     return names_ == PathNames::AnyCase ? ResolvePath(path) : path;
 }
 
-Result<std::vector<std::uint8_t>> DiskFiles::ReadFile(const std::string& path, std::size_t limit) {
+Result<LoadedFile> DiskFiles::LoadFile(const std::string& path, std::size_t limit) {
     const std::string found = Resolved(path);
     // Looked at before it is opened too: opening alone can move a device or wake a pipe's writer.
     struct stat status {};
@@ -68,12 +98,13 @@ Result<std::vector<std::uint8_t>> DiskFiles::ReadFile(const std::string& path, s
     constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
     const int file = Retry([&] { return calls_.Open(found, kFlags, 0); });
     if (file < 0) return SystemFailure(errno);
-    Result<std::vector<std::uint8_t>> content = ReadOpened(file, limit);
+    Result<LoadedFile> loaded = ReadOpened(file, limit);
     calls_.Close(file);
-    return content;
+    if (loaded) loaded->path = AbsolutePath(found);
+    return loaded;
 }
 
-Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t limit) {
+Result<LoadedFile> DiskFiles::ReadOpened(int file, std::size_t limit) {
     struct stat status {};
     if (fstat(file, &status) < 0) return SystemFailure(errno);
     if (const int refusal = RefusalOf(status); refusal != 0) return SystemFailure(refusal);
@@ -94,16 +125,17 @@ Result<std::vector<std::uint8_t>> DiskFiles::ReadOpened(int file, std::size_t li
         if (filled == bytes.size()) bytes.resize(std::min(filled * 2, limit) + 1);
     }
     bytes.resize(filled);
-    return bytes;
+    return LoadedFile{{}, IdentityOf(status), std::move(bytes)};
 }
 
 Result<std::unique_ptr<ByteSource>> DiskFiles::OpenSource(const std::string& path) {
     return OpenByteSource(Resolved(path));
 }
 
-Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) {
+Result<FileIdentity> DiskFiles::ReplaceFile(const std::string& path,
+                                            std::span<const std::uint8_t> bytes) {
     if (path.empty()) return SystemFailure(ENOENT);
-    const Result<std::string> target = FollowLinks(Resolved(path));
+    const Result<std::string> target = FollowLinks(path);
     if (!target) return tl::unexpected(target.error());
     struct stat old {};
     const bool exists = stat(target->c_str(), &old) == 0;
@@ -113,25 +145,26 @@ Result<void> DiskFiles::ReplaceFile(const std::string& path, std::span<const std
             return SystemFailure(refusal);
         }
     }
-    const std::size_t slash = target->rfind('/');
-    TemporaryFile replacement(calls_, slash == std::string::npos ? "." : target->substr(0, slash));
-    int error = replacement.Create(exists ? kReplacementMode : kNewFileMode);
+    RemoveLeftovers(calls_, *target);
+    TemporaryFile replacement(calls_, *target);
+    int error = Prepare(replacement, exists ? &old : nullptr, bytes);
+    if (error == 0) error = replacement.ReplaceTarget();
     if (error == EACCES && exists) return Fail(EACCES, "Permission denied in the file's folder");
-    if (error == 0) error = replacement.Write(bytes);
-    if (error == 0 && exists) error = replacement.Inherit(old);
-    if (error == 0) error = replacement.Finish();
-    if (error == 0) error = replacement.MoveTo(*target);
     if (error != 0) return SystemFailure(error);
-    return {};
+    return replacement.Identity();
 }
 
 std::optional<std::string> DiskFiles::Find(const std::string& path) {
     const std::string found = Resolved(path);
     struct stat status {};
     if (stat(found.c_str(), &status) < 0 || RefusalOf(status) != 0) return std::nullopt;
-    std::error_code noCurrentFolder;
-    const std::filesystem::path absolute = std::filesystem::absolute(found, noCurrentFolder);
-    return noCurrentFolder ? found : absolute.string();
+    return AbsolutePath(found);
+}
+
+std::optional<FileIdentity> DiskFiles::Identify(const std::string& path) {
+    struct stat status {};
+    if (stat(path.c_str(), &status) < 0 || RefusalOf(status) != 0) return std::nullopt;
+    return IdentityOf(status);
 }
 
 bool DiskFiles::FileExists(const std::string& path) {
@@ -149,11 +182,17 @@ Result<void> DiskFiles::RenameFile(const std::string& from, const std::string& t
 }
 
 bool DiskFiles::MakeFolder(const std::string& folder) {
-    return system::MakeFolder(folder);
+    constexpr mode_t kOwnerOnly = 0700;
+    for (std::size_t end = 0; end < folder.size();) {
+        end = std::min(folder.find('/', end + 1), folder.size());
+        mkdir(folder.substr(0, end).c_str(), kOwnerOnly);
+    }
+    std::error_code unreachable;
+    return std::filesystem::is_directory(folder, unreachable);
 }
 
 bool DiskFiles::CanWriteIn(const std::string& folder) {
-    return system::CanWriteIn(folder);
+    return ::access(folder.c_str(), W_OK | X_OK) == 0;
 }
 
 }  // namespace kestrel::system

@@ -17,13 +17,15 @@ class DiskFiles : public FileSystem {
     DiskFiles(const DiskFiles&) = delete;
     DiskFiles& operator=(const DiskFiles&) = delete;
 
-    Result<std::vector<std::uint8_t>> ReadFile(const std::string& path, std::size_t limit) override;
+    Result<LoadedFile> LoadFile(const std::string& path, std::size_t limit) override;
     Result<std::unique_ptr<ByteSource>> OpenSource(const std::string& path) override;
-    // The new content is written to a hidden file beside the old one, which it then replaces under
-    // its name, with the old one's permissions. Other hard links to the old file keep the old
-    // content. Needs write permission to the folder too.
-    Result<void> ReplaceFile(const std::string& path, std::span<const std::uint8_t> bytes) override;
+    // The new content is written to a file without a name (else to a hidden one) in the old one's
+    // folder, which then replaces the old one under its name, with its permissions. Other hard
+    // links to the old file keep the old content. Needs write permission to the folder too.
+    Result<FileIdentity> ReplaceFile(const std::string& path,
+                                     std::span<const std::uint8_t> bytes) override;
     std::optional<std::string> Find(const std::string& path) override;
+    std::optional<FileIdentity> Identify(const std::string& path) override;
     bool FileExists(const std::string& path) override;
     Result<void> RemoveFile(const std::string& path) override;
     Result<void> RenameFile(const std::string& from, const std::string& to) override;
@@ -32,7 +34,7 @@ class DiskFiles : public FileSystem {
 
   private:
     std::string Resolved(const std::string& path) const;
-    Result<std::vector<std::uint8_t>> ReadOpened(int file, std::size_t limit);
+    Result<LoadedFile> ReadOpened(int file, std::size_t limit);
 
     FileCalls systemCalls_;
     FileCalls& calls_;

@@ -29,6 +29,11 @@ int FileCalls::Sync(int file) {
 int FileCalls::Close(int file) {
     return close(file);
 }
+int FileCalls::Link(int file, const std::string& path) {
+    // The kernel's own way by descriptor needs privileges, or Linux 6.10.
+    const std::string opened = "/proc/self/fd/" + std::to_string(file);
+    return linkat(AT_FDCWD, opened.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW);
+}
 int FileCalls::Rename(const std::string& from, const std::string& to) {
     return rename(from.c_str(), to.c_str());
 }

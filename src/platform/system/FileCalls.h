@@ -20,6 +20,8 @@ class FileCalls {
     virtual int ChangeMode(int file, mode_t mode);
     virtual int Sync(int file);
     virtual int Close(int file);
+    // Gives an open file that has no name this one.
+    virtual int Link(int file, const std::string& path);
     virtual int Rename(const std::string& from, const std::string& to);
     virtual int Unlink(const std::string& path);
 };

@@ -133,9 +133,10 @@ Result<void> FileRegistry::ChangeValues(RegistryRoot root, std::string_view key,
             return SystemFailure(EINVAL);
         }
     }
-    return Change([&](IniText& ini) {
+    const std::vector<NamedValue> kept(values.begin(), values.end());
+    return Change([section, kept](IniText& ini) {
         bool changed = false;
-        for (const auto& [name, text] : values) {
+        for (const auto& [name, text] : kept) {
             changed |= text ? ini.Set(section, WrittenName(name), Escaped(*text))
                             : ini.Erase(section, WrittenName(name));
         }
@@ -144,19 +145,42 @@ Result<void> FileRegistry::ChangeValues(RegistryRoot root, std::string_view key,
 }
 
 Result<void> FileRegistry::Change(const ProfileEdit& edit) {
+    if (path_.empty()) return SystemFailure(ENOENT);
     // Most changes at a program's start change nothing: those need neither lock nor folder.
     Result<IniText> now = ReadProfile(files_, path_);
     if (!now) return tl::unexpected(now.error());
-    if (!edit(*now)) return {};
+    if (putOff_.empty() && !edit(*now)) return {};
 
     files_.MakeFolder(std::string(FolderOf(path_)));
-    const Result<FileHandle> lock = LockFile(path_ + ".lock", lockPatience_);
-    if (!lock) {
-        // A session that was stopped in the middle of a change must not stop this one for good.
-        if (lock.error().number == EWOULDBLOCK) lockPatience_ = {};
-        return tl::unexpected(lock.error());
+    const Result<FileHandle> lock = LockFile(path_ + ".lock", patience_);
+    if (lock) {
+        putOff_.push_back(edit);
+        return MakePutOff();
     }
-    return ChangeProfile(files_, path_, edit);
+    if (lock.error().number != EWOULDBLOCK) return tl::unexpected(lock.error());
+    // A session that was stopped in the middle of a change must not stop this one for good.
+    patience_ = {};
+    putOff_.push_back(edit);
+    return {};
+}
+
+Result<void> FileRegistry::MakePutOff() {
+    return ChangeProfile(files_, path_, [edits = std::exchange(putOff_, {})](IniText& ini) {
+        bool changed = false;
+        for (const ProfileEdit& edit : edits) {
+            changed |= edit(ini);
+        }
+        return changed;
+    });
+}
+
+bool FileRegistry::CatchUp() {
+    constexpr std::chrono::milliseconds kPatience{2000};
+    patience_ = kPatience;
+    if (putOff_.empty()) return true;
+    const Result<FileHandle> lock = LockFile(path_ + ".lock", {});
+    if (lock) static_cast<void>(MakePutOff());
+    return putOff_.empty();
 }
 
 }  // namespace kestrel::system

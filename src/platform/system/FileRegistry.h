@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <string>
+#include <vector>
 
 #include "platform/system/FileSystem.h"
 #include "platform/system/Profile.h"
@@ -19,10 +20,12 @@ namespace kestrel::system {
 // and names that an INI file cannot hold are refused (EINVAL), and so is the name "@".
 //
 // The sessions of one user may share the file: it is read anew for every question, and changed
-// under a lock beside it.
+// under a lock beside it. A change that another session's lock is in the way of counts as made, and
+// is made with the next one or by CatchUp.
 class FileRegistry : public Registry {
   public:
-    // `files` must outlive this object; the disk is not touched yet.
+    // `files` must outlive this object; the disk is not touched yet. A registry without a path is
+    // empty and takes no change.
     FileRegistry(FileSystem& files, std::string path);
 
     std::optional<std::string> ReadValue(RegistryRoot root, std::string_view key,
@@ -35,13 +38,19 @@ class FileRegistry : public Registry {
     Result<void> ChangeValues(RegistryRoot root, std::string_view key,
                               std::span<const NamedValue> values) override;
 
+    // Makes what was put off, unless it still has to be: false then. Never waits; but from the
+    // first call on a change does, for up to 2 s, until that was in vain. A program that starts has
+    // more urgent things to do.
+    bool CatchUp();
+
   private:
     Result<void> Change(const ProfileEdit& edit);
+    Result<void> MakePutOff();
 
     FileSystem& files_;
     std::string path_;
-    // Spent on a lock that another session holds; after that nothing waits any more.
-    std::chrono::milliseconds lockPatience_{2000};
+    std::chrono::milliseconds patience_{};
+    std::vector<ProfileEdit> putOff_;
 };
 
 }  // namespace kestrel::system

@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <string_view>
@@ -45,27 +44,40 @@ std::string HomeFromAccount() {
     return found != nullptr && found->pw_dir[0] == '/' ? found->pw_dir : "";
 }
 
-std::string HomeFolder() {
-    std::string home = FolderFromEnvironment("HOME");
-    if (home.empty()) home = HomeFromAccount();
-    return home.empty() ? "/tmp" : home;
-}
-
-std::string UserFolder(const char* variable, const char* belowHome) {
-    const std::string folder = FolderFromEnvironment(variable);
-    return (folder.empty() ? HomeFolder() + belowHome : folder) + "/" + kProgram;
-}
-
-// A real folder, not a link, that belongs to the user and that nobody else may write to.
+// The user's, and nobody else may write to it, be it a folder or a link to one.
 bool IsOurs(const std::string& folder) {
+    struct stat link {};
     struct stat status {};
-    return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+    return lstat(folder.c_str(), &link) == 0 && link.st_uid == geteuid() &&
+           stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
            status.st_uid == geteuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
-bool IsFolder(const std::string& path) {
+// Whether a folder that is not there yet can be made where nobody else could have put another one.
+// The group may be the user's own alone.
+bool WouldBeOurs(std::filesystem::path folder) {
     struct stat status {};
-    return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+    while (lstat(folder.c_str(), &status) < 0) {
+        if (!folder.has_relative_path()) return false;
+        folder = folder.parent_path();
+    }
+    return stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+           status.st_uid == geteuid() && (status.st_mode & S_IWOTH) == 0;
+}
+
+// Empty where nothing may be kept.
+std::string UserFolder(const char* variable, const char* belowHome) {
+    std::string parent = FolderFromEnvironment(variable);
+    if (parent.empty()) {
+        std::string home = FolderFromEnvironment("HOME");
+        if (home.empty()) home = HomeFromAccount();
+        if (home.empty()) return {};
+        parent = home + belowHome;
+    }
+    std::string folder = parent + "/" + kProgram;
+    struct stat status {};
+    const bool exists = lstat(folder.c_str(), &status) == 0;
+    return (exists ? IsOurs(folder) : WouldBeOurs(folder)) ? folder : "";
 }
 
 }  // namespace
@@ -78,8 +90,13 @@ std::string ExecutableName() {
     return ExecutablePath().stem().string();
 }
 
+std::string InstalledDataFolder(const std::string& applicationFolder) {
+    return applicationFolder + "/" KESTREL_DATA_FROM_PROGRAM;
+}
+
 std::string WindowsDirectory() {
-    return UserFolder("XDG_DATA_HOME", "/.local/share") + "/Windows";
+    const std::string folder = UserFolder("XDG_DATA_HOME", "/.local/share");
+    return folder.empty() ? "" : folder + "/Windows";
 }
 
 std::string ConfigFolder() {
@@ -92,18 +109,6 @@ std::string RuntimeFolder() {
     folder = std::string("/tmp/") + kProgram + "-" + std::to_string(geteuid());
     mkdir(folder.c_str(), kOwnerOnly);
     return IsOurs(folder) ? folder : "";
-}
-
-bool MakeFolder(const std::string& folder) {
-    for (std::size_t end = 0; end < folder.size();) {
-        end = std::min(folder.find('/', end + 1), folder.size());
-        mkdir(folder.substr(0, end).c_str(), kOwnerOnly);
-    }
-    return IsFolder(folder);
-}
-
-bool CanWriteIn(const std::string& folder) {
-    return ::access(folder.c_str(), W_OK | X_OK) == 0;
 }
 
 }  // namespace kestrel::system

@@ -11,18 +11,15 @@ namespace kestrel::system {
 std::string ApplicationFolder();
 // The executable's file name without extension.
 std::string ExecutableName();
-// The per-user data folder that stands for the Windows directory.
+// Where an installation keeps what is not a program, seen from the folder of the executable; a
+// program that was merely built has no such folder.
+std::string InstalledDataFolder(const std::string& applicationFolder);
+// The per-user data folder that stands for the Windows directory, and the one for settings,
+// registry included. Empty for a user without a home, and where others could put files or links of
+// their own in the program's way: nothing is kept then.
 std::string WindowsDirectory();
-// The per-user folder for settings, registry included.
 std::string ConfigFolder();
 // The user's own short-lived folder for locks (the runtime directory, else one below /tmp).
 std::string RuntimeFolder();
-
-// Creates the folder and those above it, for this user only where it creates them. False when it
-// does not exist afterwards.
-bool MakeFolder(const std::string& folder);
-
-// Whether this user may create files in the folder.
-bool CanWriteIn(const std::string& folder);
 
 }  // namespace kestrel::system

@@ -66,6 +66,10 @@ std::string_view FileTitleOf(std::string_view path) {
     return separator == std::string_view::npos ? path : path.substr(separator + 1);
 }
 
+std::string_view NameOnDisk(std::string_view path) {
+    return path.substr(path.rfind('/') + 1);
+}
+
 std::string_view FolderOf(std::string_view path) {
     const std::size_t separator = path.find_last_of(kSeparators);
     return separator == std::string_view::npos ? std::string_view() : path.substr(0, separator);

@@ -8,6 +8,9 @@ namespace kestrel::system {
 // The part of a path after its last '\' or '/'; the whole path when it has none.
 std::string_view FileTitleOf(std::string_view path);
 
+// The last component of a path as it stands on the disk, where '\' may be part of a name.
+std::string_view NameOnDisk(std::string_view path);
+
 // The part of a path before its last '\' or '/', without it; empty when it has none.
 std::string_view FolderOf(std::string_view path);
 

@@ -34,10 +34,13 @@ Result<std::optional<IniText>> Load(FileSystem& files, const std::string& file) 
 
 Result<void> Store(FileSystem& files, const std::string& file, const std::string& text) {
     const std::vector<std::uint8_t> bytes(text.begin(), text.end());
-    Result<void> stored = files.ReplaceFile(file, bytes);
-    if (stored || stored.error().number != ENOENT) return stored;
-    if (!files.MakeFolder(std::string(FolderOf(file)))) return stored;
-    return files.ReplaceFile(file, bytes);
+    Result<FileIdentity> stored = files.ReplaceFile(file, bytes);
+    if (!stored && stored.error().number == ENOENT &&
+        files.MakeFolder(std::string(FolderOf(file)))) {
+        stored = files.ReplaceFile(file, bytes);
+    }
+    if (!stored) return tl::unexpected(stored.error());
+    return {};
 }
 
 }  // namespace
