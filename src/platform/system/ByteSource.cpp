@@ -14,9 +14,10 @@
 namespace kestrel::system {
 namespace {
 
-// Records of a table and the heads of pictures lie close enough for a block to hold several;
-// reading it takes hardly longer than asking the system for a few bytes of it.
-constexpr std::size_t kBlockSize = 32768;
+// Records of a table and the heads of pictures mostly follow each other closely: a block that goes
+// on from the last one is large, which takes hardly longer to read; any other is a page.
+constexpr std::uint64_t kPage = 4096;
+constexpr std::size_t kBlockSize = 8 * kPage;
 constexpr std::size_t kBlocks = 8;
 
 bool SameTime(const timespec& one, const timespec& other) {
@@ -40,14 +41,18 @@ class FileBytes : public ByteSource {
 
   private:
     struct Block {
-        std::uint64_t start = UINT64_MAX;
+        bool Has(std::uint64_t offset) const {
+            return offset >= start && offset - start < bytes.size();
+        }
+
+        std::uint64_t start = 0;
         std::uint64_t lastUse = 0;
         std::span<std::uint8_t> bytes{};
     };
 
     Result<void> ReadFromDisk(std::uint64_t offset, std::span<std::uint8_t> out) const;
     Result<std::span<const std::uint8_t>> BlockAt(std::uint64_t offset);
-    Block& PlaceFor(std::uint64_t start);
+    Block& PlaceFor(std::uint64_t offset);
 
     int file_;
     struct stat status_;
@@ -55,6 +60,8 @@ class FileBytes : public ByteSource {
         std::make_unique_for_overwrite<std::uint8_t[]>(kBlocks * kBlockSize);
     std::array<Block, kBlocks> blocks_{};
     std::uint64_t uses_ = 0;
+    // Where the block ends that was read last.
+    std::uint64_t readTo_ = 0;
 };
 
 // The file must be the same after it was read as it was when it was opened.
@@ -73,28 +80,30 @@ Result<void> FileBytes::ReadFromDisk(std::uint64_t offset, std::span<std::uint8_
     return {};
 }
 
-// The block that begins here, or else the one that has not been used for the longest.
-FileBytes::Block& FileBytes::PlaceFor(std::uint64_t start) {
-    auto* const found = std::ranges::find(blocks_, start, &Block::start);
+// The block that holds this byte, or else the one that has not been used for the longest.
+FileBytes::Block& FileBytes::PlaceFor(std::uint64_t offset) {
+    auto* const found =
+        std::ranges::find_if(blocks_, [offset](const Block& block) { return block.Has(offset); });
     return found != blocks_.end() ? *found
                                   : *std::ranges::min_element(blocks_, {}, &Block::lastUse);
 }
 
 // What the block that holds this byte has from it on.
 Result<std::span<const std::uint8_t>> FileBytes::BlockAt(std::uint64_t offset) {
-    const std::uint64_t start = offset - offset % kBlockSize;
-    Block& block = PlaceFor(start);
+    Block& block = PlaceFor(offset);
     block.lastUse = ++uses_;
-    if (block.start != start) {
+    if (!block.Has(offset)) {
         const auto place = static_cast<std::size_t>(&block - blocks_.data());
-        const auto size = std::min<std::uint64_t>(kBlockSize, Size() - start);
-        block.start = UINT64_MAX;
-        block.bytes = {&memory_[place * kBlockSize], static_cast<std::size_t>(size)};
-        if (auto read = ReadFromDisk(start, block.bytes); !read)
-            return tl::unexpected(read.error());
-        block.start = start;
+        const std::uint64_t start = offset - offset % kPage;
+        const bool goesOn = start >= readTo_ && start - readTo_ < kBlockSize;
+        const auto size = std::min(goesOn ? kBlockSize : kPage, Size() - start);
+        block = {start, uses_, {}};
+        const std::span bytes(&memory_[place * kBlockSize], static_cast<std::size_t>(size));
+        if (auto read = ReadFromDisk(start, bytes); !read) return tl::unexpected(read.error());
+        block.bytes = bytes;
+        readTo_ = start + size;
     }
-    return block.bytes.subspan(static_cast<std::size_t>(offset - start));
+    return block.bytes.subspan(static_cast<std::size_t>(offset - block.start));
 }
 
 Result<void> FileBytes::Read(std::uint64_t offset, std::span<std::uint8_t> out) {
