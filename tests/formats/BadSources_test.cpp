@@ -46,8 +46,9 @@ TEST(BadSources, EveryCutAndEveryChangedByteEndsSoon) {
 ByteList OverlappingGroups() {
     ByteList file = Patched(Ne(4), {{4, "FFFF"}, {0x82, "0E80 FFFF"}});
     file.resize(0x8A);
+    const ByteList entry = Hex("0000 FFFF 0000 0180 00000000");
     for (int i = 0; i < 65535; ++i)
-        file = std::move(file) + Hex("0000 FFFF 0000 0180 00000000");
+        file.insert(file.end(), entry.begin(), entry.end());
     return file;
 }
 
