@@ -42,8 +42,8 @@ Result<std::uint32_t> ReadSeed(const std::optional<std::string>& text) {
 Result<void> Info(const Arguments& arguments) {
     const auto bytes = ReadInput(arguments.in);
     if (!bytes) return tl::unexpected(bytes.error());
-    const auto images = formats::ListImages(*bytes);
-    if (!images) return UnreadableInput(arguments.in, images.error());
+    const auto images = formats::ListWholeImages(*bytes);
+    if (!images) return InputFailure(arguments.in, images.error());
     std::string lines;
     for (const formats::ImageEntry& image : *images)
         lines += Line(image);

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <span>
 #include <utility>
 
 #include "cli/Streams.h"
@@ -22,10 +23,6 @@ using system::SystemFailure;
 using Content = Result<std::vector<std::uint8_t>>;
 
 constexpr std::size_t kLimit = formats::kMaxIconFileBytes;
-
-std::string InputName(const std::string& name) {
-    return name == kStandardStream ? "standard input" : name;
-}
 
 // Pipes and devices have no size and are read as they come.
 bool IsStream(const std::string& name) {
@@ -48,40 +45,38 @@ Content ReadAnything(const std::string& name) {
     return system::DiskFiles(system::PathNames::AsWritten).ReadFile(name, kLimit);
 }
 
-// At the top left of the icon.
-void PastePng(gdi::IconPlanes& icon, const formats::IconImage& png, imaging::PasteFit fit) {
-    imaging::PictureSize size{png.info.width, png.info.height};
-    if (!imaging::FitsIcon(size)) size = imaging::FittedSize(size, fit);
-    const gdi::IconPlanes fitted = gdi::Stretched(png.planes, size.width, size.height);
-    for (const auto& [to, from] :
-         {std::pair{&icon.image, &fitted.image}, {&icon.mask, &fitted.mask}}) {
-        gdi::BitBlt(*to, 0, 0, size.width, size.height, *from, 0, 0, gdi::RasterOp::Copy);
-    }
+// The size in which the image of a file is read: that of an icon, or what Paste makes of a PNG.
+gdi::Size WantedSize(std::span<const std::uint8_t> file, imaging::PasteFit fit) {
+    const auto png = formats::ReadPngHeader(file);
+    if (!png) return {gdi::kIconSize, gdi::kIconSize};
+    const gdi::Size size{png->width, png->height};
+    return imaging::FitsIcon(size) ? size : imaging::FittedSize(size, fit);
 }
 
 }  // namespace
 
 Result<std::vector<std::uint8_t>> ReadInput(const std::string& name) {
     Content bytes = ReadAnything(name);
-    if (!bytes) return FailureOf(InputName(name), bytes.error());
+    if (!bytes) return InputFailure(name, bytes.error());
     return bytes;
 }
 
 Result<gdi::IconPlanes> ReadIcon(const std::string& name, imaging::PasteFit fit) {
     const auto bytes = ReadInput(name);
     if (!bytes) return tl::unexpected(bytes.error());
-    const auto image = formats::ReadBestImage(*bytes);
-    if (!image) return UnreadableInput(name, image.error());
-    if (!formats::IsPng(*bytes))
-        return gdi::Stretched(image->planes, gdi::kIconSize, gdi::kIconSize);
+    const gdi::Size size = WantedSize(*bytes, fit);
+    const auto image = formats::ReadBestImage(*bytes, size);
+    if (!image) return InputFailure(name, image.error());
     gdi::IconPlanes icon;
-    PastePng(icon, *image, fit);
+    for (const auto& [to, from] :
+         {std::pair{&icon.image, &image->planes.image}, {&icon.mask, &image->planes.mask}}) {
+        gdi::BitBlt(*to, 0, 0, size.width, size.height, *from, 0, 0, gdi::RasterOp::Copy);
+    }
     return icon;
 }
 
-tl::unexpected<Error> UnreadableInput(const std::string& name, const Error& error) {
-    if (error.number != kInvalidPicture) return FailureOf(InputName(name), error);
-    return FailureOf(InputName(name), {error.number, "no icon or PNG that can be read"});
+tl::unexpected<Error> InputFailure(const std::string& name, const Error& error) {
+    return FailureOf(name == kStandardStream ? "standard input" : name, error);
 }
 
 }  // namespace kestrel::cli

@@ -19,7 +19,7 @@ Result<std::vector<std::uint8_t>> ReadInput(const std::string& name);
 // of an empty icon instead: a larger one is fitted, a smaller one leaves the rest transparent.
 Result<gdi::IconPlanes> ReadIcon(const std::string& name, imaging::PasteFit fit);
 
-// A reader's failure in words for this file.
-tl::unexpected<Error> UnreadableInput(const std::string& name, const Error& error);
+// A reader's failure for this file.
+tl::unexpected<Error> InputFailure(const std::string& name, const Error& error);
 
 }  // namespace kestrel::cli

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 
 #include "platform/system/SystemError.h"
@@ -12,20 +13,15 @@ using system::Retry;
 using system::SystemFailure;
 
 Result<std::vector<std::uint8_t>> ReadStream(int file, std::size_t limit) {
-    constexpr std::size_t kFirstRoom = 1U << 14;
-    std::vector<std::uint8_t> bytes(kFirstRoom);
-    std::size_t filled = 0;
+    std::array<std::uint8_t, 1U << 16> part{};
+    std::vector<std::uint8_t> bytes;
     for (;;) {
-        const ssize_t count =
-            Retry([&] { return read(file, bytes.data() + filled, bytes.size() - filled); });
+        const ssize_t count = Retry([&] { return read(file, part.data(), part.size()); });
         if (count < 0) return SystemFailure(errno);
-        if (count == 0) break;
-        filled += static_cast<std::size_t>(count);
-        if (filled > limit) return SystemFailure(EFBIG);
-        if (filled == bytes.size()) bytes.resize(2 * filled);
+        if (count == 0) return bytes;
+        bytes.insert(bytes.end(), part.begin(), part.begin() + count);
+        if (bytes.size() > limit) return SystemFailure(EFBIG);
     }
-    bytes.resize(filled);
-    return bytes;
 }
 
 Result<void> WriteStream(int file, std::span<const std::uint8_t> bytes) {

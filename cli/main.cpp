@@ -14,6 +14,7 @@
 #include "cli/IconCommands.h"
 #include "cli/IconOutput.h"
 #include "cli/Streams.h"
+#include "platform/system/Characters.h"
 
 namespace {
 
@@ -133,11 +134,9 @@ Result<void> Run(int argc, char* argv[]) {
     return subcommand->run(arguments);
 }
 
-// One line, whatever a file's name holds.
-void Complain(std::string message) {
-    std::ranges::replace_if(
-        message, [](char letter) { return letter == '\n' || letter == '\r'; }, ' ');
-    const std::string line = "kestrel-icon: " + message + "\n";
+// One line that a terminal only shows, whatever a file's name or an argument holds.
+void Complain(std::string_view message) {
+    const std::string line = "kestrel-icon: " + system::Printable(message) + "\n";
     // When even this cannot be written, the exit code is left to tell.
     (void)cli::WriteStream(STDERR_FILENO, std::vector<std::uint8_t>(line.begin(), line.end()));
 }

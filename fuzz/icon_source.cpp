@@ -15,8 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (std::size_t icon = 0; icon < std::min<std::size_t>(source->count, 8); ++icon) {
         static_cast<void>(source->NameOf(icon).has_value());
         static_cast<void>(formats::ExportIcon(*source, icon).has_value());
-        if (const auto image = source->Icon(icon))
-            static_cast<void>(gdi::Stretched(image->planes, gdi::kIconSize, gdi::kIconSize));
+        static_cast<void>(source->Icon(icon, gdi::Size{gdi::kIconSize, gdi::kIconSize}));
     }
     return 0;
 }

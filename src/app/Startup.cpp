@@ -89,4 +89,10 @@ std::string PathOfCommandLine(std::string_view commandLine, system::FileSystem& 
     return files.Find(proper).value_or(proper);
 }
 
+std::string PrintedFor(std::string_view commandLine, std::string_view version) {
+    if (commandLine == "--help") return std::string(i18n::kUsage.Now());
+    if (commandLine != "--version") return {};
+    return std::string(i18n::kProgramName).append(" ").append(version).append("\n");
+}
+
 }  // namespace kestrel::app

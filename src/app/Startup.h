@@ -54,4 +54,7 @@ void RegisterIcoAssociation(system::Registry& registry, const std::string& appli
 // typed in proper case. Empty for any other command line.
 std::string PathOfCommandLine(std::string_view commandLine, system::FileSystem& files);
 
+// What "--help" and "--version" print, each alone on the command line; empty for any other one.
+std::string PrintedFor(std::string_view commandLine, std::string_view version);
+
 }  // namespace kestrel::app

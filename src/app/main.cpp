@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 
 #include "app/Startup.h"
@@ -16,6 +17,7 @@
 #include "desktop/QtShell.h"
 #include "desktop/TwoColorWindows.h"
 #include "document/ApplicationIcon.h"
+#include "i18n/Language.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
 #include "platform/system/Folders.h"
@@ -73,9 +75,18 @@ std::uint32_t SeedOfClock() {
     return static_cast<std::uint32_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
+// Answers what needs no window, in the system's language. False when there is nothing to answer.
+bool PrintWhatIsAsked(const std::string& commandLine) {
+    i18n::SetUiLanguage(i18n::LanguageOfLocale(std::to_string(system::GetSystemDefaultLCID())));
+    const std::string text = app::PrintedFor(commandLine, KESTREL_VERSION);
+    std::fputs(text.c_str(), stdout);
+    return !text.empty();
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    if (argc == 2 && PrintWhatIsAsked(argv[1])) return 0;
     // A write beyond the file size limit is a failed save, not the end of the program. Not ignored:
     // programs that are started would inherit that.
     std::signal(SIGXFSZ, [](int /*signal*/) {});

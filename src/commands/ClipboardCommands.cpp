@@ -36,15 +36,15 @@ void ClipboardCommands::Cut() {
 }
 
 Result<void> ClipboardCommands::Paste(imaging::PasteMode mode) {
-    const Result<gdi::Surface> picture = clipboard_.GetImage();
+    const Result<gdi::SampledPicture> picture = clipboard_.GetImage();
     if (!picture) return tl::unexpected(picture.error());
-    imaging::PictureSize size{picture->Width(), picture->Height()};
+    gdi::Size size = picture->FullSize();
     if (!imaging::FitsIcon(size)) {
         const auto fit = dialogs_.AskFit(size);
         if (!fit) return Fail(kDialogCancelled, "Cancel was selected");
         size = imaging::FittedSize(size, *fit);
     }
-    editor_.FloatSelection(imaging::PlanesOf(*picture, size, mode));
+    editor_.FloatSelection(imaging::PlanesOf(picture->In(size), size, mode));
     return {};
 }
 

@@ -20,7 +20,7 @@ class Dialogs {
     // The pixels of the gradient; none when cancelled.
     virtual std::optional<gdi::Surface> AskGradient() = 0;
     // How a picture that is larger than the icon is pasted; none when cancelled.
-    virtual std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) = 0;
+    virtual std::optional<imaging::PasteFit> AskFit(gdi::Size picture) = 0;
     virtual void ShowAbout() = 0;
 };
 

@@ -28,6 +28,10 @@ std::string ProposedName(const document::IconDocument& document) {
     return document.MultipleIcons ? "*.ico" : document.FilePath;
 }
 
+std::string_view ReasonOf(const Error& error) {
+    return i18n::ReasonOf(error.number, error.description);
+}
+
 }  // namespace
 
 DocumentCommands::DocumentCommands(editing::Editor& editor, const DocumentParts& parts)
@@ -69,17 +73,20 @@ void DocumentCommands::OpenChosenFile() {
         return;
     }
     parts_.application.DoEvents();
-    if (OpenFile(chosen->path)) return;
+    const Result<void> opened = OpenFile(chosen->path);
+    if (opened) return;
     parts_.grid.EnableGrid(true);
-    ShowError(parts_.boxes, i18n::CannotOpenChosen(chosen->fileTitle));
+    ShowError(parts_.boxes, i18n::CannotOpenChosen(chosen->fileTitle, ReasonOf(opened.error())));
 }
 
 void DocumentCommands::OpenNamed(const std::string& pathToOpen) {
     if (!PromptSaveChanges()) return;
     parts_.grid.EnableGrid(false);
-    if (OpenFile(pathToOpen)) return;
+    const Result<void> opened = OpenFile(pathToOpen);
+    if (opened) return;
     parts_.grid.EnableGrid(true);
-    ShowError(parts_.boxes, i18n::CannotOpenNamed(system::FileTitleOf(pathToOpen)));
+    ShowError(parts_.boxes,
+              i18n::CannotOpenNamed(system::FileTitleOf(pathToOpen), ReasonOf(opened.error())));
 }
 
 void DocumentCommands::mnuRecent_Click(int slot) {
@@ -87,12 +94,13 @@ void DocumentCommands::mnuRecent_Click(int slot) {
     if (!pathToOpen.empty()) OpenNamed(pathToOpen);
 }
 
-// False, with nothing changed, when the file is no icon.
-bool DocumentCommands::OpenFile(const std::string& path) {
+// Fails, with nothing changed, when the file cannot be read or is no icon.
+Result<void> DocumentCommands::OpenFile(const std::string& path) {
     const auto file = parts_.files.LoadFile(path, formats::kMaxIconFileBytes);
-    if (!file) return false;
-    const Result<formats::IconImage> icon = formats::ReadBestImage(file->bytes);
-    if (!icon) return false;
+    if (!file) return tl::unexpected(file.error());
+    const auto icon =
+        formats::ReadBestImage(file->bytes, gdi::Size{gdi::kIconSize, gdi::kIconSize});
+    if (!icon) return tl::unexpected(icon.error());
 
     editor_.ResetDocument();
     document_.FilePath = file->path;
@@ -103,7 +111,7 @@ bool DocumentCommands::OpenFile(const std::string& path) {
     document_.MultipleIcons = formats::DetectMultipleIcons(file->bytes);
     parts_.recent.AddRecentFile(document_.FilePath);
     parts_.grid.StartTmr();
-    return true;
+    return {};
 }
 
 void DocumentCommands::mnuSave_Click() {

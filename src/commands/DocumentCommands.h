@@ -55,7 +55,7 @@ class DocumentCommands {
 
   private:
     void OpenChosenFile();
-    bool OpenFile(const std::string& path);
+    Result<void> OpenFile(const std::string& path);
     void SaveUnderNewName();
     void SaveInPlace();
     bool ChangedOutside();

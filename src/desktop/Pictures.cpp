@@ -46,14 +46,8 @@ QImage ToImage(const gdi::Surface& pixels) {
     return image;
 }
 
-gdi::Surface ToSurface(const QImage& image) {
-    gdi::Surface pixels(image.width(), image.height());
-    for (int y = 0; y < image.height(); ++y) {
-        const auto* source = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (gdi::COLORREF& pixel : pixels.Row(y))
-            pixel = SwapRedAndBlue(*source++);
-    }
-    return pixels;
+gdi::COLORREF ToPixel(QRgb pixel) {
+    return SwapRedAndBlue(pixel);
 }
 
 QColor ToColor(gdi::COLORREF color) {

@@ -15,10 +15,9 @@ QImage ToImage(const gdi::Surface& surface, gdi::Rect area);
 // An icon's two planes as one picture: transparent where the mask is white.
 QImage ToImage(const gdi::IconPlanes& icon);
 
-// Pixels of 0xAABBGGRR, as pictures with half-transparent pixels have them, and back. The picture
-// of the desktop is in the format ARGB32.
+// Pixels of 0xAABBGGRR, as pictures with half-transparent pixels have them, and back.
 QImage ToImage(const gdi::Surface& pixels);
-gdi::Surface ToSurface(const QImage& image);
+gdi::COLORREF ToPixel(QRgb pixel);
 
 QColor ToColor(gdi::COLORREF color);
 gdi::COLORREF ToColorRef(const QColor& color);

@@ -9,15 +9,19 @@
 #include <array>
 #include <new>
 
+#include "desktop/CopiedFiles.h"
 #include "desktop/PictureFile.h"
 #include "desktop/Pictures.h"
 #include "desktop/XSelection.h"
+#include "formats/IconFile.h"
+#include "platform/system/DiskFiles.h"
 
 namespace kestrel::desktop {
 
 namespace {
 
 using std::chrono::milliseconds;
+using Picture = Result<gdi::SampledPicture>;
 using Clock = std::chrono::steady_clock;
 
 // How long the window waits for an owner's answer, and how long anybody does.
@@ -26,14 +30,18 @@ constexpr milliseconds kLongest{10000};
 // When an owner that gave no answer is asked again; each time twice as late, up to the last.
 constexpr milliseconds kFirstRecovery{2000};
 constexpr milliseconds kLastRecovery{32000};
-// No picture that can be read takes more, not even uncompressed.
-constexpr std::size_t kMostBytes = std::size_t{128} << 20;
+// What is taken of an image or of an image's file, and of a list of files.
+constexpr std::size_t kMostBytes = formats::kMaxIconFileBytes;
+constexpr std::size_t kMostListBytes = std::size_t{1} << 20;
 
 constexpr const char* kPng = "image/png";
 constexpr const char* kBmp = "image/bmp";
 // What is read; those that keep every pixel as it was come first.
-constexpr std::array kFormats{kPng,        kBmp,        "image/x-bmp", "image/x-MS-bmp",
-                              "image/gif", "image/jpeg"};
+constexpr std::array kFormats{kPng,           kBmp,
+                              "image/x-bmp",  "image/x-MS-bmp",
+                              "image/x-icon", "image/vnd.microsoft.icon",
+                              "image/gif",    "image/jpeg",
+                              kFileList};
 
 tl::unexpected<Error> Unreadable() {
     return Fail(kInvalidPicture, "Invalid picture");
@@ -51,34 +59,52 @@ bool IsAtHand() {
 
 std::string FormatAtHand() {
     const QMimeData* data = System().mimeData();
-    for (const char* format : kFormats) {
-        if (data != nullptr && data->hasFormat(format)) return format;
-    }
-    return {};
+    if (data == nullptr) return {};
+    const auto* const format =
+        std::ranges::find_if(kFormats, [data](const char* each) { return data->hasFormat(each); });
+    if (format == kFormats.end()) return {};
+    const bool holdsNone =
+        *format == std::string_view(kFileList) && CopiedPicture(data->data(*format)).empty();
+    return holdsNone ? std::string() : *format;
 }
 
-Result<gdi::Surface> ImageAtHand(const std::string& format) {
-    const QMimeData* data = System().mimeData();
-    if (data == nullptr) return Unreadable();
-    const QByteArray file = data->data(QString::fromStdString(format));
-    if (static_cast<std::size_t>(file.size()) > kMostBytes) return Unreadable();
-    return ReadPicture(file);
+QByteArray ViewOf(const std::vector<std::uint8_t>& bytes) {
+    return QByteArray::fromRawData(reinterpret_cast<const char*>(bytes.data()),
+                                   static_cast<qsizetype>(bytes.size()));
+}
+
+// The first format that holds an image; empty for none, nothing when the owner does not answer.
+std::optional<std::string> OfferedFormat(XSelection& selection) {
+    auto format = selection.FirstOffered(kFormats);
+    if (format != kFileList) return format;
+    const auto list = selection.Read(kFileList, kMostListBytes);
+    if (!list) return std::nullopt;
+    return CopiedPicture(ViewOf(*list)).empty() ? std::string() : format;
+}
+
+// What the clipboard holds in this format as an image, or the file that it names.
+Picture ReadContent(const std::string& format, const QByteArray& content) {
+    if (static_cast<std::size_t>(content.size()) > kMostBytes) return Unreadable();
+    if (format != kFileList) return ReadPicture(content);
+    const auto file = system::DiskFiles(system::PathNames::AsWritten)
+                          .ReadFile(CopiedPicture(content), kMostBytes);
+    if (!file) return Unreadable();
+    return ReadPicture(ViewOf(*file));
 }
 
 // The owner may have changed since it was asked what it has.
-Result<gdi::Surface> Fetch(const XSelection::Wanted& wanted) {
+Picture Fetch(const XSelection::Wanted& wanted) {
     XSelection selection(wanted);
-    const auto format = selection.FirstOffered(kFormats);
+    const auto format = OfferedFormat(selection);
     if (!format || format->empty()) return Unreadable();
     const auto bytes = selection.Read(*format, kMostBytes);
     if (!bytes) return Unreadable();
-    return ReadPicture(QByteArray::fromRawData(reinterpret_cast<const char*>(bytes->data()),
-                                               static_cast<qsizetype>(bytes->size())));
+    return ReadContent(*format, ViewOf(*bytes));
 }
 
-Result<gdi::Surface> FetchOrRunOut(const XSelection::Wanted& wanted) {
+Picture OrRunOut(const std::function<Picture()>& work) {
     try {
-        return Fetch(wanted);
+        return work();
     } catch (const std::bad_alloc&) {
         return Unreadable();
     }
@@ -104,7 +130,7 @@ QByteArray ToFile(const QImage& image, const char* format) {
 }  // namespace
 
 QtClipboard::QtClipboard() {
-    aside_.setMaxThreadCount(1);
+    aside_->setMaxThreadCount(1);
     const auto change = [this] {
         recovery_ = kFirstRecovery;
         Ask();
@@ -115,7 +141,10 @@ QtClipboard::QtClipboard() {
 
 QtClipboard::~QtClipboard() {
     ++question_;
-    aside_.clear();
+    aside_->clear();
+    // A file on a server that does not answer can hold it for ever; it ends with the process then.
+    if (!aside_->waitForDone(static_cast<int>(kFirstRecovery.count())))
+        static_cast<void>(aside_.release());
 }
 
 std::function<bool()> QtClipboard::WantedFor(int question, milliseconds patience) const {
@@ -127,9 +156,10 @@ std::function<bool()> QtClipboard::WantedFor(int question, milliseconds patience
 void QtClipboard::Ask() {
     const int question = ++question_;
     if (IsAtHand()) return Learn(FormatAtHand());
-    aside_.start([this, question] {
+    aside_->start([this, question] {
         if (question != question_) return;
-        const auto format = XSelection(WantedFor(question, kPatience)).FirstOffered(kFormats);
+        XSelection selection(WantedFor(question, kPatience));
+        const auto format = OfferedFormat(selection);
         QMetaObject::invokeMethod(this, [this, question, format] {
             if (question != question_) return;
             Learn(format.value_or(std::string()));
@@ -150,25 +180,29 @@ void QtClipboard::Learn(const std::string& format) {
     if (onChanged) onChanged();
 }
 
-Result<gdi::Surface> QtClipboard::GetImage() {
+Picture QtClipboard::GetImage() {
     if (!HasImage()) return Unreadable();
-    if (IsAtHand()) return ImageAtHand(format_);
     // What came too late for the last call may be there by now.
     if (!coming_.valid() || comingFor_ != question_) StartFetching();
     if (coming_.wait_for(kPatience) != std::future_status::ready) return Unreadable();
-    Result<gdi::Surface> picture = coming_.get();
+    Picture picture = coming_.get();
     if (!picture) Ask();
     return picture;
 }
 
 void QtClipboard::StartFetching() {
-    const auto answer = std::make_shared<std::promise<Result<gdi::Surface>>>();
+    const auto answer = std::make_shared<std::promise<Picture>>();
     coming_ = answer->get_future();
     // An owner that is slow to say what it has must not keep the image waiting.
     comingFor_ = ++question_;
-    aside_.start([answer, wanted = WantedFor(comingFor_, kLongest)] {
-        answer->set_value(FetchOrRunOut(wanted));
-    });
+    std::function<Picture()> work = [wanted = WantedFor(comingFor_, kLongest)] {
+        return Fetch(wanted);
+    };
+    if (const QMimeData* data = IsAtHand() ? System().mimeData() : nullptr)
+        work = [format = format_, content = data->data(QString::fromStdString(format_))] {
+            return ReadContent(format, content);
+        };
+    aside_->start([answer, work] { answer->set_value(OrRunOut(work)); });
 }
 
 void QtClipboard::SetImage(const gdi::Surface& pixels) {

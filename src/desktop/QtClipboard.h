@@ -5,6 +5,7 @@
 #include <atomic>
 #include <chrono>
 #include <future>
+#include <memory>
 #include <string>
 
 #include "services/Clipboard.h"
@@ -21,7 +22,7 @@ class QtClipboard : public QObject, public services::Clipboard {
     ~QtClipboard() override;
 
     bool HasImage() const override { return !format_.empty(); }
-    Result<gdi::Surface> GetImage() override;
+    Result<gdi::SampledPicture> GetImage() override;
     void SetImage(const gdi::Surface& pixels) override;
 
   private:
@@ -39,10 +40,10 @@ class QtClipboard : public QObject, public services::Clipboard {
     std::atomic<int> question_ = 0;
     std::chrono::milliseconds recovery_{};
     // The image that is being fetched, and for which state of the clipboard.
-    std::future<Result<gdi::Surface>> coming_;
+    std::future<Result<gdi::SampledPicture>> coming_;
     int comingFor_ = 0;
-    // One thread; ends before the rest.
-    QThreadPool aside_;
+    // One thread. A pool waits for its thread when it goes, so it goes only when that is idle.
+    std::unique_ptr<QThreadPool> aside_ = std::make_unique<QThreadPool>();
 };
 
 }  // namespace kestrel::desktop

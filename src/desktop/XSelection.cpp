@@ -60,7 +60,12 @@ std::optional<XSelection::Property> XSelection::Convert(xcb_atom_t target, std::
     while (const auto event = WaitFor(XCB_SELECTION_NOTIFY)) {
         const auto* answer = reinterpret_cast<const xcb_selection_notify_event_t*>(event.get());
         if (answer->selection != clipboard_ || answer->target != target) continue;
-        return answer->property == XCB_ATOM_NONE ? Property{} : TakeProperty(limit);
+        Property content;
+        if (answer->property == XCB_ATOM_NONE) return content;
+        const auto type = TakeProperty(content.bytes, limit);
+        if (!type) return std::nullopt;
+        content.type = *type;
+        return content;
     }
     return std::nullopt;
 }
@@ -69,30 +74,38 @@ std::optional<XSelection::Property> XSelection::Convert(xcb_atom_t target, std::
 // empty one is the end.
 std::optional<std::vector<std::uint8_t>> XSelection::ReadParts(std::size_t limit) {
     std::vector<std::uint8_t> whole;
+    // Memory that is not used costs nothing; what grows is twice there while it is moved.
+    whole.reserve(limit);
     while (const auto event = WaitFor(XCB_PROPERTY_NOTIFY)) {
         const auto* change = reinterpret_cast<const xcb_property_notify_event_t*>(event.get());
         if (change->atom != property_ || change->state != XCB_PROPERTY_NEW_VALUE) continue;
-        const auto part = TakeProperty(limit - whole.size());
-        if (!part) return std::nullopt;
-        if (part->type == XCB_ATOM_NONE) continue;
-        if (part->bytes.empty()) return whole;
-        whole.insert(whole.end(), part->bytes.begin(), part->bytes.end());
+        const std::size_t before = whole.size();
+        const auto type = TakeProperty(whole, limit);
+        if (!type) return std::nullopt;
+        if (*type != XCB_ATOM_NONE && whole.size() == before) return whole;
     }
     return std::nullopt;
 }
 
-std::optional<XSelection::Property> XSelection::TakeProperty(std::size_t limit) {
-    constexpr std::size_t kUnit = 4;  // bytes
-    const auto units = static_cast<std::uint32_t>(limit / kUnit + 1);
-    const auto cookie = xcb_get_property(connection_.get(), 1, window_, property_,
-                                         XCB_GET_PROPERTY_TYPE_ANY, 0, units);
-    const Owned<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(connection_.get(), cookie, nullptr));
-    if (!reply) return std::nullopt;
-    const auto* bytes = static_cast<const std::uint8_t*>(xcb_get_property_value(reply.get()));
-    const auto size = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
-    if (reply->bytes_after > 0 || size > limit) return std::nullopt;
-    return Property{reply->type, {bytes, bytes + size}};
+std::optional<xcb_atom_t> XSelection::TakeProperty(std::vector<std::uint8_t>& bytes,
+                                                   std::size_t limit) {
+    constexpr std::uint32_t kUnit = 4;  // bytes
+    constexpr std::uint32_t kUnitsAtOnce = 1U << 18;
+    // The last request takes it away.
+    for (std::uint32_t units = 0;; units += kUnitsAtOnce) {
+        const auto cookie = xcb_get_property(connection_.get(), 1, window_, property_,
+                                             XCB_GET_PROPERTY_TYPE_ANY, units, kUnitsAtOnce);
+        const Owned<xcb_get_property_reply_t> reply(
+            xcb_get_property_reply(connection_.get(), cookie, nullptr));
+        if (!reply) return std::nullopt;
+        const auto* part = static_cast<const std::uint8_t*>(xcb_get_property_value(reply.get()));
+        const auto size = static_cast<std::size_t>(xcb_get_property_value_length(reply.get()));
+        if (size + reply->bytes_after > limit - bytes.size()) return std::nullopt;
+        if (bytes.empty()) bytes.reserve(size + reply->bytes_after);
+        bytes.insert(bytes.end(), part, part + size);
+        if (reply->bytes_after == 0) return reply->type;
+        if (size != std::size_t{kUnit} * kUnitsAtOnce) return std::nullopt;
+    }
 }
 
 XSelection::Owned<xcb_generic_event_t> XSelection::WaitFor(std::uint8_t kind) {

@@ -49,7 +49,8 @@ class XSelection {
     xcb_atom_t Atom(std::string_view name);
     std::optional<Property> Convert(xcb_atom_t target, std::size_t limit);
     std::optional<std::vector<std::uint8_t>> ReadParts(std::size_t limit);
-    std::optional<Property> TakeProperty(std::size_t limit);
+    // Takes the property out, its bytes behind those that are there already, and returns its type.
+    std::optional<xcb_atom_t> TakeProperty(std::vector<std::uint8_t>& bytes, std::size_t limit);
     // The next event of this kind; null when it is not wanted any more.
     Owned<xcb_generic_event_t> WaitFor(std::uint8_t kind);
 

@@ -45,13 +45,6 @@ Palette ReadPalette(const ByteReader& reader, const DibLayout& layout) {
     return palette;
 }
 
-// Pixel `x` of a row whose pixels are `bits` (1, 4 or 8) wide, the first in the highest bits.
-unsigned PackedPixel(Bytes row, std::size_t x, unsigned bits) {
-    const std::size_t firstBit = x * bits;
-    const unsigned below = 8 - bits - static_cast<unsigned>(firstBit % 8);
-    return static_cast<unsigned>(row[firstBit / 8]) >> below & ((1U << bits) - 1);
-}
-
 // Reads the rows of both planes of one image; colours of 32-bit images carry alpha in the top byte.
 class DibDecoder {
   public:

@@ -3,13 +3,16 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <set>
 #include <string_view>
+#include <utility>
 
 #include "formats/BestImage.h"
 #include "formats/ByteReader.h"
 #include "formats/DibImage.h"
 #include "formats/IconPixels.h"
 #include "formats/PngImage.h"
+#include "formats/UnreadableFile.h"
 
 namespace kestrel::formats {
 namespace {
@@ -19,20 +22,19 @@ constexpr std::uint64_t kEntrySize = 16;
 constexpr std::uint16_t kIconType = 1;
 constexpr std::uint16_t kCursorType = 2;
 
-// What ReadBestImage may spend on damaged images before it gives up, in bytes read and decoded;
-// about a second's worth. Real files stay far below it.
-constexpr std::size_t kTrialBudget = std::size_t{128} << 20;
-constexpr std::size_t kTrialOverhead = 4096;
-
-// A PNG that is no image of an icon may be a photograph.
-constexpr int kMaxPngSide = 8192;
+// How much is read and unpacked to find images that are whole, in bytes; about half a second's
+// worth. Real files stay far below it.
+constexpr std::size_t kMostWork = std::size_t{128} << 20;
+constexpr std::size_t kWorkAnImage = 4096;
 
 // One kind of file that holds icons, told by its content and never by its name.
 struct IconKind {
     std::string_view name;
     bool (*sniff)(Bytes file);
     std::vector<ImageEntry> (*list)(Bytes file);
-    std::optional<IconImage> (*decode)(Bytes file, const ImageEntry& entry);
+    // Adds to `work` what it has read and unpacked, in bytes.
+    std::optional<IconImage> (*decode)(Bytes file, const ImageEntry& entry, gdi::Size size,
+                                       std::size_t& work);
 };
 
 bool IsIconDirectory(Bytes file) {
@@ -58,7 +60,7 @@ std::optional<ImageEntry> ReadEntry(const ByteReader& file, std::uint64_t entry)
         return ImageEntry{start, image.size(), *info};
     const auto dib =
         ReadDibLayout(image, DirectorySide(file.U8(entry)), DirectorySide(file.U8(entry + 1)));
-    if (!dib) return std::nullopt;
+    if (!dib || dib->maskOffset > image.size()) return std::nullopt;
     const std::uint64_t size = std::min<std::uint64_t>(dib->end, image.size());
     return ImageEntry{start, static_cast<std::size_t>(size), dib->info};
 }
@@ -84,12 +86,21 @@ std::vector<ImageEntry> ListPng(Bytes file) {
     return {ImageEntry{0, file.size(), *info}};
 }
 
+gdi::Size OwnSize(const ImageEntry& entry) {
+    return {entry.info.width, entry.info.height};
+}
+
 // A bitmap or a PNG that lies in the file as it is.
-std::optional<IconImage> DecodeStored(Bytes file, const ImageEntry& entry) {
+std::optional<IconImage> DecodeStored(Bytes file, const ImageEntry& entry, gdi::Size size,
+                                      std::size_t& work) {
     const Bytes image = ByteReader(file).Part(entry.offset, entry.size);
-    if (entry.info.png) return DecodePng(image, entry.info);
+    work += kWorkAnImage;
+    if (entry.info.png) return DecodePng(image, entry.info, size, work);
     const auto dib = ReadDibLayout(image, entry.info.width, entry.info.height);
-    return dib ? DecodeDib(image, *dib) : std::nullopt;
+    auto icon = dib ? DecodeDib(image, *dib) : std::nullopt;
+    if (icon && size != OwnSize(entry))
+        icon->planes = gdi::Stretched(icon->planes, size.width, size.height);
+    return icon;
 }
 
 constexpr std::array kKinds{
@@ -97,47 +108,69 @@ constexpr std::array kKinds{
     IconKind{"PNG", IsPng, ListPng, DecodeStored},
 };
 
-tl::unexpected<Error> NoPicture() {
-    return Fail(kInvalidPicture, "Invalid picture");
+const IconKind* FindKind(Bytes file) {
+    const auto* const kind =
+        std::ranges::find_if(kKinds, [file](const IconKind& each) { return each.sniff(file); });
+    return kind == kKinds.end() ? nullptr : kind;
 }
 
-// Damaged bitmaps are refused by their header; only a PNG must be decoded to know.
-std::size_t TrialCost(const ImageEntry& entry) {
-    const std::size_t pixels = entry.info.png ? static_cast<std::size_t>(entry.info.width) *
-                                                    static_cast<std::size_t>(entry.info.height)
-                                              : 0;
-    return kTrialOverhead + (entry.info.png ? entry.size : 0) + 4 * pixels;
+tl::unexpected<Error> Refuse(Bytes file) {
+    return tl::unexpected<Error>(WhyUnreadable(file));
+}
+
+std::optional<IconImage> Decode(Bytes file, const ImageEntry& entry, gdi::Size size,
+                                std::size_t& work) {
+    if (std::max(size.width, size.height) > kMaxImageSide) return std::nullopt;
+    const IconKind* kind = FindKind(file);
+    auto icon = kind != nullptr ? kind->decode(file, entry, size, work) : std::nullopt;
+    return icon && icon->info == entry.info ? std::move(icon) : std::nullopt;
 }
 
 }  // namespace
 
 Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file) {
-    for (const IconKind& kind : kKinds) {
-        if (!kind.sniff(file)) continue;
-        auto entries = kind.list(file);
+    if (const IconKind* kind = FindKind(file)) {
+        auto entries = kind->list(file);
         if (!entries.empty()) return entries;
     }
-    return NoPicture();
+    return Refuse(file);
 }
 
-Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEntry& entry) {
-    const auto* const kind =
-        std::ranges::find_if(kKinds, [file](const IconKind& each) { return each.sniff(file); });
-    auto icon = kind == kKinds.end() ? std::nullopt : kind->decode(file, entry);
-    if (!icon || icon->info != entry.info) return NoPicture();
+Result<std::vector<ImageEntry>> ListWholeImages(std::span<const std::uint8_t> file) {
+    auto entries = ListImages(file);
+    if (!entries) return entries;
+    std::size_t work = 0;
+    std::set<std::pair<std::size_t, int>> whole;
+    // The best comes first, so that it is never missing.
+    for (const ImageEntry& entry : BestFirst(*entries)) {
+        if (work > kMostWork) break;
+        if (!entry.info.png || Decode(file, entry, {1, 1}, work))
+            whole.insert({entry.offset, entry.info.height});
+    }
+    std::erase_if(*entries, [&](const ImageEntry& entry) {
+        return !whole.contains({entry.offset, entry.info.height});
+    });
+    if (entries->empty()) return Refuse(file);
+    return entries;
+}
+
+Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEntry& entry,
+                              std::optional<gdi::Size> size) {
+    std::size_t work = 0;
+    auto icon = Decode(file, entry, size.value_or(OwnSize(entry)), work);
+    if (!icon) return Refuse(file);
     return *std::move(icon);
 }
 
-Result<IconImage> ReadBestImage(std::span<const std::uint8_t> file) {
+Result<IconImage> ReadBestImage(std::span<const std::uint8_t> file, std::optional<gdi::Size> size) {
     const auto entries = ListImages(file);
     if (!entries) return tl::unexpected<Error>(entries.error());
-    std::size_t spent = 0;
+    std::size_t work = 0;
     for (const ImageEntry& entry : BestFirst(*entries)) {
-        if (spent > kTrialBudget) break;
-        spent += TrialCost(entry);
-        if (auto icon = DecodeImage(file, entry)) return icon;
+        if (work > kMostWork) break;
+        if (auto icon = Decode(file, entry, size.value_or(OwnSize(entry)), work)) return *icon;
     }
-    return NoPicture();
+    return Refuse(file);
 }
 
 }  // namespace kestrel::formats

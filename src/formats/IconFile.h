@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -23,18 +24,26 @@ struct ImageEntry {
 inline constexpr std::size_t kMaxIconFileBytes = std::size_t{32} << 20;
 
 // Lists the images of an icon or cursor file, or of a PNG that bears an icon's name, in the order
-// of the directory. Entries whose image header cannot be used are left out. Fails with
-// kInvalidPicture when the bytes are no such file or nothing is left.
+// of the directory. Entries whose image cannot be read are left out, of PNG images as far as their
+// header tells. When nothing is left it fails with the reason (see UnreadableFile.h).
 // Formats: the ICO/CUR directory with BITMAPINFOHEADER images (sizes 40..124), and PNG images. A
 // side is at most 1024 pixels, that of a PNG alone 8192.
 Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file);
 
-// Decodes one listed image, or fails with kInvalidPicture.
-Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEntry& entry);
+// The same without the PNG images that turn out to be damaged, which takes as long as to read all
+// of them: exactly those that DecodeImage reads. After about half a second's work the others are
+// left out too.
+Result<std::vector<ImageEntry>> ListWholeImages(std::span<const std::uint8_t> file);
+
+// Decodes one listed image, or fails with kDamagedPicture. Its planes have the size that is asked
+// for, by repeating or dropping pixels, or else its own; neither may have a side above 1024.
+Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEntry& entry,
+                              std::optional<gdi::Size> size = std::nullopt);
 
 // Decodes the image that suits a 32 x 32 icon best: 32 x 32 with the most bits per pixel, else the
 // smallest max(|w - 32|, |h - 32|), ties to the larger, the deeper, the first. A damaged image is
-// skipped and the next best taken; fails with kInvalidPicture when none can be read.
-Result<IconImage> ReadBestImage(std::span<const std::uint8_t> file);
+// skipped and the next best taken; fails with the reason when none can be read.
+Result<IconImage> ReadBestImage(std::span<const std::uint8_t> file,
+                                std::optional<gdi::Size> size = std::nullopt);
 
 }  // namespace kestrel::formats

@@ -13,7 +13,7 @@ struct ImageInfo {
     bool operator==(const ImageInfo&) const = default;
 };
 
-// One decoded image of an icon.
+// One decoded image of an icon. Its planes may be asked for in another size than its own.
 struct IconImage {
     ImageInfo info;
     gdi::IconPlanes planes;

@@ -2,12 +2,15 @@
 
 #include <cstdint>
 
+#include "formats/ByteReader.h"
 #include "formats/IconImage.h"
 
 namespace kestrel::formats {
 
 // Larger images are refused before anything is allocated for them; 256 is the usual most.
 inline constexpr int kMaxImageSide = 1024;
+// A PNG that is no image of an icon may be a photograph.
+inline constexpr int kMaxPngSide = 8192;
 // The least alpha that counts as opaque.
 inline constexpr std::uint32_t kOpaqueAlpha = 128;
 
@@ -17,5 +20,12 @@ IconImage EmptyImage(const ImageInfo& info);
 // Splits pixels that still carry alpha in their top byte into the two planes: opaque pixels keep
 // their 24-bit colour, the others turn transparent and black.
 void SplitAlpha(IconImage& image);
+
+// Pixel `x` of a row whose pixels are `bits` (1, 2, 4 or 8) wide, the first in the highest bits.
+inline unsigned PackedPixel(Bytes row, std::size_t x, unsigned bits) {
+    const std::size_t firstBit = x * bits;
+    const unsigned below = 8 - bits - static_cast<unsigned>(firstBit % 8);
+    return static_cast<unsigned>(row[firstBit / 8]) >> below & ((1U << bits) - 1);
+}
 
 }  // namespace kestrel::formats

@@ -1,16 +1,17 @@
 #include "formats/IconSource.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <utility>
 
 #include "formats/StoredImage.h"
+#include "formats/UnreadableFile.h"
+#include "i18n/Messages.h"
 
 namespace kestrel::formats {
 namespace {
 
 tl::unexpected<Error> Damaged() {
-    return Fail(kInvalidPicture, "Invalid picture");
+    return Fail(kDamagedPicture, std::string(i18n::kDamagedPicture.Now()));
 }
 
 tl::unexpected<Error> WithoutIcons(const IconTable& table) {
@@ -27,13 +28,11 @@ Result<IconSource> IconSource::Open(std::unique_ptr<system::ByteSource> bytes, s
     if (bytes->Size() > system::kLargestSource) return Fail(EFBIG, "The file is larger than 4 GB");
     SourceReader file(*bytes);
     IconSource source(std::move(bytes));
-    const auto formats = Formats();
-    const auto format =
-        std::ranges::find_if(formats, [&](const Format& each) { return each.sniff(file); });
-    if (format != formats.end()) source.table_ = format->list(file);
+    const Format* format = FormatOf(file);
+    if (format != nullptr) source.table_ = format->list(file);
     if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
     if (source.table_.icons.empty()) return WithoutIcons(source.table_);
-    source.format_ = &*format;
+    source.format_ = format;
     source.kind = format->kind;
     source.name = std::move(name);
     source.count = source.table_.icons.size();
@@ -56,22 +55,24 @@ Result<std::vector<ImageEntry>> IconSource::Images(std::size_t icon) const {
     return images;
 }
 
-Result<IconImage> IconSource::Icon(std::size_t icon) const {
+Result<IconImage> IconSource::Icon(std::size_t icon, std::optional<gdi::Size> size) const {
     auto images = Images(icon);
     if (!images) return tl::unexpected(images.error());
     SourceReader file(*bytes_);
-    auto best = DecodeBest(*std::move(images), [&](const ImageEntry& image) {
-        return DecodeStored(ReadStoredImage(file, image), image.info);
+    auto best = DecodeBest(*std::move(images), [&](const ImageEntry& image, std::size_t& work) {
+        const auto bytes = ReadStoredImage(file, image);
+        return DecodeStored(bytes, image.info, size.value_or(SizeOf(image.info)), work);
     });
     if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
     if (!best) return Damaged();
     return *std::move(best);
 }
 
-Result<IconImage> IconSource::Decode(const ImageEntry& image) const {
+Result<IconImage> IconSource::Decode(const ImageEntry& image, std::optional<gdi::Size> size) const {
     const auto bytes = Stored(image);
     if (!bytes) return tl::unexpected(bytes.error());
-    auto icon = DecodeStored(*bytes, image.info);
+    std::size_t work = 0;
+    auto icon = DecodeStored(*bytes, image.info, size.value_or(SizeOf(image.info)), work);
     if (!icon) return Damaged();
     return *std::move(icon);
 }

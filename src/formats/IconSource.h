@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,12 +40,15 @@ class IconSource {
     // The icon's images in the order of its directory, without those that cannot be used.
     Result<std::vector<ImageEntry>> Images(std::size_t icon) const;
     // The image that suits 32 x 32 best, as ReadBestImage chooses among a file's images; damaged
-    // ones give way to the next best. Fails with kInvalidPicture when none can be decoded.
-    Result<IconImage> Icon(std::size_t icon) const;
+    // ones give way to the next best. Fails with kDamagedPicture when none can be decoded. Planes
+    // have the size that is asked for, by repeating or dropping pixels, or else their own; neither
+    // may have a side above 1024, which only that of a PNG file can.
+    Result<IconImage> Icon(std::size_t icon, std::optional<gdi::Size> size = std::nullopt) const;
 
-    // One of Images(): decoded (or kInvalidPicture), and its bytes as they are stored, trimmed to
+    // One of Images(): decoded (or kDamagedPicture), and its bytes as they are stored, trimmed to
     // the length that its own header tells.
-    Result<IconImage> Decode(const ImageEntry& image) const;
+    Result<IconImage> Decode(const ImageEntry& image,
+                             std::optional<gdi::Size> size = std::nullopt) const;
     Result<std::vector<std::uint8_t>> Stored(const ImageEntry& image) const;
 
   private:

@@ -14,16 +14,13 @@
 namespace kestrel::formats {
 namespace {
 
-// A PNG that is no image of an icon may be a photograph.
-constexpr int kLongestPhotograph = 8192;
-
 bool SniffPng(SourceReader& file) {
     return IsPng(file.Record<8>(0).bytes);
 }
 
 std::vector<ImageEntry> PngImages(SourceReader& file, const IconTable& /*table*/,
                                   const IconPlace& icon, std::size_t /*most*/) {
-    const auto image = ReadImageHead(file, icon.Where(), {}, kLongestPhotograph);
+    const auto image = ReadImageHead(file, icon.Where(), {}, kMaxPngSide);
     return image ? std::vector{*image} : std::vector<ImageEntry>{};
 }
 
@@ -47,6 +44,12 @@ constexpr std::array kFormats{
 
 std::span<const Format> Formats() {
     return kFormats;
+}
+
+const Format* FormatOf(SourceReader& file) {
+    const auto* const found =
+        std::ranges::find_if(kFormats, [&](const Format& format) { return format.sniff(file); });
+    return found != kFormats.end() ? found : nullptr;
 }
 
 std::string_view KindName(SourceKind kind) {

@@ -55,6 +55,9 @@ struct Format {
 
 std::span<const Format> Formats();
 
+// The format that the file's content tells; nullptr when it is none of them.
+const Format* FormatOf(SourceReader& file);
+
 // The format's name: "ICO", "CUR", "PNG", "PE", "NE" or "ANI".
 std::string_view KindName(SourceKind kind);
 

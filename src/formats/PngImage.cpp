@@ -1,94 +1,105 @@
 #include "formats/PngImage.h"
 
-#include <png.h>
-
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <csetjmp>
-#include <vector>
+#include <span>
 
 #include "formats/IconPixels.h"
+#include "formats/PngChunks.h"
+#include "formats/PngColors.h"
+#include "formats/PngRows.h"
 
 namespace kestrel::formats {
 namespace {
 
 constexpr std::array<std::uint8_t, 8> kSignature{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n'};
-constexpr std::uint64_t kFirstChunk = kSignature.size();
-constexpr std::uint64_t kHeader = kFirstChunk + 8;
-constexpr std::uint32_t kHeaderLength = 13;
-constexpr std::uint32_t kHeaderName = 0x49484452;  // "IHDR"
-constexpr png_alloc_size_t kMaxChunkMemory = 1U << 20;
+// Of the header's content; the fields and what they may hold are those of the PNG specification,
+// 11.2.2 "IHDR Image header".
+constexpr std::size_t kHeaderBytes = 13;
+constexpr std::uint64_t kCompression = 10;
+constexpr std::uint64_t kFilters = 11;
+constexpr std::uint64_t kInterlace = 12;
+constexpr std::uint32_t kLongestSide = 0x7FFFFFFF;
+// What the rows of a picture may take when they are unpacked, one after the other.
+constexpr std::uint64_t kMaxUnpacked = std::uint64_t{256} << 20;
 
-// Samples a pixel by colour type (grey, -, RGB, palette, grey + alpha, -, RGBA) and the bits that
-// each may have, as a set of powers of two.
-struct ColorType {
-    unsigned samples;
-    unsigned depths;
+// The bits that each sample may have by colour type (grey, -, RGB, palette, grey + alpha, -, RGBA),
+// as a set of powers of two.
+constexpr std::array<unsigned, 7> kDepths{
+    1 | 2 | 4 | 8 | 16, 0, 8 | 16, 1 | 2 | 4 | 8, 8 | 16, 0, 8 | 16};
+
+// Which pixels one pass over a picture brings. PNG specification, "Interlacing and pass
+// extraction".
+struct Pass {
+    int firstX, distanceX, firstY, distanceY;
 };
-constexpr std::array<ColorType, 7> kColorTypes{{{1, 1 | 2 | 4 | 8 | 16},
-                                                {0, 0},
-                                                {3, 8 | 16},
-                                                {1, 1 | 2 | 4 | 8},
-                                                {2, 8 | 16},
-                                                {0, 0},
-                                                {4, 8 | 16}}};
+constexpr std::array<Pass, 1> kOnePass{{{0, 1, 0, 1}}};
+constexpr std::array<Pass, 7> kAdam7{{{0, 8, 0, 8},
+                                      {4, 8, 0, 8},
+                                      {0, 4, 4, 8},
+                                      {2, 4, 0, 4},
+                                      {0, 2, 2, 4},
+                                      {1, 2, 0, 2},
+                                      {0, 1, 1, 2}}};
 
-// What libpng's callbacks and the frame that catches its jumps share. Nothing in it has to be
-// unwound by a jump: the owner frees it afterwards.
-struct PngDecoder {
-    explicit PngDecoder(Bytes image);
-    ~PngDecoder() { png_destroy_read_struct(&png, &info, nullptr); }
-    PngDecoder(const PngDecoder&) = delete;
-    PngDecoder& operator=(const PngDecoder&) = delete;
-
-    png_structp png = nullptr;
-    png_infop info = nullptr;
-    Bytes unread;
-    std::vector<png_byte> pixels;  // red, green, blue, alpha
-    std::vector<png_bytep> rows;
-};
-
-[[noreturn]] void OnError(png_structp png, png_const_charp) {
-    png_longjmp(png, 1);
-}
-void OnWarning(png_structp, png_const_charp) {}
-
-void ReadBytes(png_structp png, png_bytep out, std::size_t count) {
-    auto& unread = static_cast<PngDecoder*>(png_get_io_ptr(png))->unread;
-    if (count > unread.size()) png_error(png, "cut");
-    std::copy_n(unread.begin(), count, out);
-    unread = unread.subspan(count);
+std::size_t RowBytes(int width, unsigned bitsPerPixel) {
+    return (static_cast<std::size_t>(width) * bitsPerPixel + 7) / 8;
 }
 
-PngDecoder::PngDecoder(Bytes image) : unread(image) {
-    png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, OnError, OnWarning);
-    if (png == nullptr) return;
-    info = png_create_info_struct(png);
-    png_set_read_fn(png, this, ReadBytes);
+std::uint64_t UnpackedBytes(const ImageInfo& info) {
+    return std::uint64_t{RowBytes(info.width, static_cast<unsigned>(info.bitsPerPixel))} *
+           static_cast<std::uint64_t>(info.height);
 }
 
-// Everything in libpng that may jump, in the order it asks for. The image's size must be known and
-// its buffers must be there, so that nothing is allocated on our side of a jump.
-bool RunDecoder(PngDecoder& decoder, const ImageInfo& size) {
-    png_structp png = decoder.png;
-    if (setjmp(png_jmpbuf(png)) != 0) return false;
-    png_set_user_limits(png, static_cast<png_uint_32>(size.width),
-                        static_cast<png_uint_32>(size.height));
-    png_set_chunk_malloc_max(png, kMaxChunkMemory);
-    png_set_keep_unknown_chunks(png, PNG_HANDLE_CHUNK_NEVER, nullptr, -1);
-    png_read_info(png, decoder.info);
-    png_set_expand(png);
-    png_set_scale_16(png);
-    png_set_gray_to_rgb(png);
-    png_set_add_alpha(png, 0xFF, PNG_FILLER_AFTER);
-    png_set_interlace_handling(png);
-    png_read_update_info(png, decoder.info);
-    if (png_get_rowbytes(png, decoder.info) * decoder.rows.size() != decoder.pixels.size() ||
-        png_get_image_height(png, decoder.info) != decoder.rows.size())
-        return false;
-    png_read_image(png, decoder.rows.data());
-    return true;
+// What the header's content says of the stored pixels.
+PngColors ColorsOf(const ByteReader& header) {
+    PngColors colors;
+    colors.bitDepth = header.U8(8);
+    colors.colorType = header.U8(9);
+    return colors;
+}
+
+// Keeps what is wanted of a row, which holds this pass's pixels of line `y`.
+void KeepPixels(const PngColors& colors, Bytes row, int y, const Pass& pass,
+                const gdi::Samples& samples, gdi::Surface& pixels) {
+    const auto [first, end] = std::ranges::equal_range(samples.rows, y);
+    for (auto kept = first; kept != end; ++kept) {
+        auto out = pixels.Row(static_cast<int>(kept - samples.rows.begin())).begin();
+        for (const int column : samples.columns) {
+            const int x = column - pass.firstX;
+            if (x >= 0 && x % pass.distanceX == 0)
+                *out = colors.At(row, static_cast<std::size_t>(x / pass.distanceX));
+            ++out;
+        }
+    }
+}
+
+// An interlaced picture comes as up to seven smaller ones, each with rows of its own.
+std::optional<gdi::Surface> ReadRows(PngChunks& chunks, const ImageInfo& info,
+                                     const gdi::Samples& samples) {
+    const auto header = chunks.Next();
+    if (!header) return std::nullopt;
+    PngColors colors = ColorsOf(ByteReader(header->content));
+    const bool interlaced = ByteReader(header->content).U8(kInterlace) != 0;
+    const auto first = ReadPngColors(chunks, colors);
+    if (!first) return std::nullopt;
+
+    const auto bits = static_cast<unsigned>(info.bitsPerPixel);
+    gdi::Surface pixels(static_cast<int>(samples.columns.size()),
+                        static_cast<int>(samples.rows.size()), gdi::kBlack);
+    PngRows rows(chunks, *first, RowBytes(info.width, bits), std::max(1U, bits / 8));
+    for (const Pass& pass : interlaced ? std::span<const Pass>(kAdam7) : kOnePass) {
+        const int columns = (info.width - pass.firstX + pass.distanceX - 1) / pass.distanceX;
+        if (columns < 1) continue;
+        rows.BeginImage();
+        for (int y = pass.firstY; y < info.height; y += pass.distanceY) {
+            const Bytes row = rows.Next(RowBytes(columns, bits));
+            if (row.empty()) return std::nullopt;
+            KeepPixels(colors, row, y, pass, samples, pixels);
+        }
+    }
+    return pixels;
 }
 
 }  // namespace
@@ -98,42 +109,47 @@ bool IsPng(Bytes image) {
            std::equal(kSignature.begin(), kSignature.end(), image.begin());
 }
 
-std::optional<ImageInfo> ReadPngInfo(Bytes image, int longestSide) {
-    const ByteReader reader(image);
-    if (!IsPng(image) || !reader.Has(kHeader, kHeaderLength) ||
-        reader.BigEndianU32(kFirstChunk) != kHeaderLength ||
-        reader.BigEndianU32(kFirstChunk + 4) != kHeaderName)
+std::optional<ImageInfo> ReadPngHeader(Bytes image) {
+    const auto header = IsPng(image) ? PngChunks(image).Next() : std::nullopt;
+    if (!header || header->name != kPngHeader || header->content.size() != kHeaderBytes ||
+        !header->IsWhole())
         return std::nullopt;
-    const std::uint32_t width = reader.BigEndianU32(kHeader);
-    const std::uint32_t height = reader.BigEndianU32(kHeader + 4);
-    const unsigned depth = reader.U8(kHeader + 8);
-    const unsigned type = reader.U8(kHeader + 9);
-    const auto most = static_cast<std::uint32_t>(longestSide);
-    if (width < 1 || width > most || height < 1 || height > most) return std::nullopt;
-    if (type >= kColorTypes.size() || !std::has_single_bit(depth) ||
-        (kColorTypes[type].depths & depth) == 0)
+    const ByteReader reader(header->content);
+    const std::uint32_t width = reader.BigEndianU32(0);
+    const std::uint32_t height = reader.BigEndianU32(4);
+    const PngColors colors = ColorsOf(reader);
+    if (width < 1 || width > kLongestSide || height < 1 || height > kLongestSide ||
+        colors.colorType >= kDepths.size() || !std::has_single_bit(colors.bitDepth) ||
+        (kDepths[colors.colorType] & colors.bitDepth) == 0 || reader.U8(kCompression) != 0 ||
+        reader.U8(kFilters) != 0 || reader.U8(kInterlace) > 1)
         return std::nullopt;
     return ImageInfo{static_cast<int>(width), static_cast<int>(height),
-                     static_cast<int>(kColorTypes[type].samples * depth), true};
+                     static_cast<int>(colors.SamplesAPixel() * colors.bitDepth), true};
 }
 
-std::optional<IconImage> DecodePng(Bytes image, const ImageInfo& info) {
-    PngDecoder decoder(image);
-    if (decoder.png == nullptr || decoder.info == nullptr) return std::nullopt;
-    const std::size_t stride = 4 * static_cast<std::size_t>(info.width);
-    decoder.pixels.resize(stride * static_cast<std::size_t>(info.height));
-    for (std::size_t start = 0; start < decoder.pixels.size(); start += stride)
-        decoder.rows.push_back(&decoder.pixels[start]);
-    if (!RunDecoder(decoder, info)) return std::nullopt;
+std::optional<ImageInfo> ReadPngInfo(Bytes image, int longestSide) {
+    const auto info = ReadPngHeader(image);
+    if (!info || info->width > longestSide || info->height > longestSide ||
+        UnpackedBytes(*info) > kMaxUnpacked)
+        return std::nullopt;
+    return info;
+}
 
-    IconImage icon = EmptyImage(info);
-    const png_byte* pixel = decoder.pixels.data();
-    for (int y = 0; y < info.height; ++y) {
-        for (gdi::COLORREF& out : icon.planes.image.Row(y)) {
-            out = gdi::Rgb(pixel[0], pixel[1], pixel[2]) | std::uint32_t{pixel[3]} << 24;
-            pixel += 4;
-        }
-    }
+std::optional<gdi::Surface> ReadPngPixels(Bytes image, const ImageInfo& info,
+                                          const gdi::Samples& samples, std::size_t& work) {
+    PngChunks chunks(image);
+    auto pixels = ReadRows(chunks, info, samples);
+    work += static_cast<std::size_t>(UnpackedBytes(info)) + image.size() - chunks.BytesLeft();
+    return pixels;
+}
+
+std::optional<IconImage> DecodePng(Bytes image, const ImageInfo& info, gdi::Size size,
+                                   std::size_t& work) {
+    const gdi::Samples samples = gdi::StretchSamples({info.width, info.height}, size);
+    auto pixels = ReadPngPixels(image, info, samples, work);
+    if (!pixels) return std::nullopt;
+    IconImage icon{info, gdi::IconPlanes(size.width, size.height)};
+    icon.planes.image = *std::move(pixels);
     SplitAlpha(icon);
     return icon;
 }

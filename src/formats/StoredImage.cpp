@@ -21,18 +21,7 @@ constexpr std::uint32_t kLastChunk = 0x49454E44;  // "IEND"
 // A PNG of the largest size that is read has some thousands.
 constexpr int kMostChunks = 65536;
 
-// What DecodeBest may spend on damaged images before it gives up, in bytes read and decoded. Real
-// files stay far below it.
-constexpr std::size_t kTrialBudget = std::size_t{128} << 20;
-constexpr std::size_t kTrialOverhead = 4096;
-
-// Damaged bitmaps are refused by their header; only a PNG must be decoded to know.
-std::size_t TrialCost(const ImageEntry& entry) {
-    if (!entry.info.png) return kTrialOverhead;
-    const auto pixels =
-        static_cast<std::size_t>(entry.info.width) * static_cast<std::size_t>(entry.info.height);
-    return kTrialOverhead + std::min(entry.size, kMaxIconFileBytes) + 4 * pixels;
-}
+constexpr std::size_t kWorkAnImage = 4096;
 
 // What a directory would say of a bitmap that has none. Icons are square: a height of twice the
 // width counts the mask; any other does so only where its rows are not there otherwise.
@@ -78,21 +67,24 @@ std::vector<std::uint8_t> ReadStoredImage(SourceReader& file, const ImageEntry& 
     return file.Part(place);
 }
 
-std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info) {
-    if (info.png) return DecodePng(image, info);
+std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info, gdi::Size size,
+                                      std::size_t& work) {
+    if (std::max(size.width, size.height) > kMaxImageSide) return std::nullopt;
+    work += kWorkAnImage;
+    if (info.png) return DecodePng(image, info, size, work);
     const auto dib = ReadDibLayout(image, info.width, info.height);
     if (!dib || dib->info != info) return std::nullopt;
-    return DecodeDib(image, *dib);
+    auto icon = DecodeDib(image, *dib);
+    if (icon && size != SizeOf(info))
+        icon->planes = gdi::Stretched(icon->planes, size.width, size.height);
+    return icon;
 }
 
-std::optional<IconImage> DecodeBest(
-    std::vector<ImageEntry> entries,
-    const std::function<std::optional<IconImage>(const ImageEntry&)>& decode) {
-    std::size_t spent = 0;
+std::optional<IconImage> DecodeBest(std::vector<ImageEntry> entries, const ImageDecoder& decode) {
+    std::size_t work = 0;
     for (const ImageEntry& entry : BestFirst(std::move(entries))) {
-        if (spent > kTrialBudget) break;
-        spent += TrialCost(entry);
-        if (auto icon = decode(entry)) return icon;
+        if (work > kMostWork) break;
+        if (auto icon = decode(entry, work)) return icon;
     }
     return std::nullopt;
 }

@@ -7,6 +7,7 @@
 #include "formats/IconFile.h"
 #include "formats/IconPixels.h"
 #include "formats/SourceReader.h"
+#include "platform/gdi/Samples.h"
 
 namespace kestrel::formats {
 
@@ -29,13 +30,23 @@ std::optional<ImageEntry> ReadImageHead(SourceReader& file, Extent place, Direct
 // The bytes of an image as they are stored, a PNG trimmed after its last chunk.
 std::vector<std::uint8_t> ReadStoredImage(SourceReader& file, const ImageEntry& entry);
 
-// Decodes a bitmap or a PNG as it is stored; nothing when it is not what its header said.
-std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info);
+// How much is read and unpacked to find images that are whole, in bytes; about half a second's
+// worth. Real files stay far below it.
+inline constexpr std::size_t kMostWork = std::size_t{128} << 20;
 
-// Decodes the image that suits 32 x 32 best of those that can be decoded. Gives up after about a
-// second's worth of damaged ones.
-std::optional<IconImage> DecodeBest(
-    std::vector<ImageEntry> entries,
-    const std::function<std::optional<IconImage>(const ImageEntry&)>& decode);
+inline gdi::Size SizeOf(const ImageInfo& info) {
+    return {info.width, info.height};
+}
+
+// Decodes a bitmap or a PNG as it is stored, in this size; nothing when it is not what its header
+// said or the size has a side above 1024. Adds to `work` what was read and unpacked, in bytes.
+std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info, gdi::Size size,
+                                      std::size_t& work);
+
+// Decodes one image in the size that is asked for, or else its own.
+using ImageDecoder = std::function<std::optional<IconImage>(const ImageEntry&, std::size_t& work)>;
+
+// Decodes the image that suits 32 x 32 best of those that can be decoded with the work allowed.
+std::optional<IconImage> DecodeBest(std::vector<ImageEntry> entries, const ImageDecoder& decode);
 
 }  // namespace kestrel::formats

@@ -1,5 +1,10 @@
 #include "i18n/Messages.h"
 
+#include <algorithm>
+#include <cerrno>
+#include <iterator>
+#include <utility>
+
 namespace kestrel::i18n {
 
 namespace {
@@ -24,6 +29,14 @@ std::string WithReason(std::string_view reason, std::string_view sentence) {
 constexpr Text kUntitledWindow{"KestrelIconEditor - Untitled", "KestrelIconEditor - 未命名"};
 constexpr Text kCannotOpenChosen{"Unable to open the file %1", "不能打开 %1文件"};
 constexpr Text kCannotOpenNamed{"Unable to open the file %1", "不能打开%1文件"};
+constexpr std::pair<int, Text> kSystemReasons[] = {
+    {ENOENT, {"The file does not exist", "文件不存在"}},
+    {ENOTDIR, {"The folder does not exist", "文件夹不存在"}},
+    {EACCES, {"There is no permission to read it", "没有读取权限"}},
+    {EISDIR, {"It is a folder", "是文件夹"}},
+    {EINVAL, {"It is no ordinary file", "不是普通文件"}},
+    {EFBIG, {"The file is too large", "文件太大"}},
+};
 constexpr Text kCannotSaveUntitled{"Unable to save Untitled.", "不能保存 Untitled.ico 文件."};
 constexpr Text kCannotSave{"Unable to save %1", "不能保存 %1 文件."};
 constexpr Text kCannotLoadPalette{"Unable to load the palette file.", "不能打开调色板文件."};
@@ -53,12 +66,18 @@ std::string WindowTitle(std::string_view fileTitle) {
     return std::string(kProgramName) + " - " + std::string(fileTitle);
 }
 
-std::string CannotOpenChosen(std::string_view fileTitle) {
-    return Fill(kCannotOpenChosen.Now(), fileTitle);
+std::string CannotOpenChosen(std::string_view fileTitle, std::string_view reason) {
+    return Fill(kCannotOpenChosen.Now(), fileTitle).append("\r\n").append(reason).append(".");
 }
 
-std::string CannotOpenNamed(std::string_view fileTitle) {
-    return Fill(kCannotOpenNamed.Now(), fileTitle);
+std::string CannotOpenNamed(std::string_view fileTitle, std::string_view reason) {
+    return Fill(kCannotOpenNamed.Now(), fileTitle).append("\r\n").append(reason).append(".");
+}
+
+std::string_view ReasonOf(int systemError, std::string_view description) {
+    const auto* reason =
+        std::ranges::find(kSystemReasons, systemError, [](const auto& each) { return each.first; });
+    return reason == std::end(kSystemReasons) ? description : reason->second.Now();
 }
 
 std::string CannotSave(std::string_view reason, std::string_view fileTitle) {

@@ -23,6 +23,19 @@ inline constexpr Text kTooFewColors{
     "Please adjust your color mode and try again.",
     "KestrelIconEditor 颜色模式需设置为真彩色.\r\n\r\n请在调整颜色模式后重新运行程序."};
 
+// What --help prints.
+inline constexpr Text kUsage{
+    "Usage: KestrelIconEditor [/open FILE]\n\n"
+    "Edits icons of 32 x 32 pixels.\n\n"
+    "  /open FILE   opens an icon, cursor or PNG file\n"
+    "  --help       prints this\n"
+    "  --version    prints the version\n",
+    "用法: KestrelIconEditor [/open 文件]\n\n"
+    "编辑 32 x 32 像素的图标.\n\n"
+    "  /open 文件   打开图标, 光标或 PNG 文件\n"
+    "  --help       显示本说明\n"
+    "  --version    显示版本\n"};
+
 // Document commands.
 inline constexpr Text kSaveChanges{"Save changes to current icon?", "是否保存当前编辑的图标?"};
 inline constexpr Text kOpenTitle{"KestrelIconEditor - Open", "KestrelIconEditor - 打开"};
@@ -33,8 +46,24 @@ inline constexpr std::string_view kIconFilter = "Icon Files (*.ico)|*.ico";
 std::string WindowTitle(std::string_view fileTitle);
 
 // A file that Open refused: chosen in the dialog, or named by command line, drop or recent list.
-std::string CannotOpenChosen(std::string_view fileTitle);
-std::string CannotOpenNamed(std::string_view fileTitle);
+// `reason` stands on a line of its own.
+std::string CannotOpenChosen(std::string_view fileTitle, std::string_view reason);
+std::string CannotOpenNamed(std::string_view fileTitle, std::string_view reason);
+
+// Why a file could not be read: what the system calls an error of this number, or `description`
+// where there is no text for it.
+std::string_view ReasonOf(int systemError, std::string_view description);
+
+// Why a file that could be read holds no icon to be opened.
+inline constexpr Text kEmptyFile{"The file is empty", "文件是空的"};
+inline constexpr Text kNoPicture{"It is no icon, cursor or PNG file", "不是图标, 光标或 PNG 文件"};
+inline constexpr Text kDamagedPicture{"The image is damaged", "图像已损坏"};
+inline constexpr Text kPictureTooLarge{"The image is too large", "图像太大"};
+inline constexpr Text kOs2Icon{"OS/2 icons cannot be read", "无法读取 OS/2 图标"};
+inline constexpr Text kWindows1Icon{"Icons of Windows 1 and 2 cannot be read",
+                                    "无法读取 Windows 1 和 2 的图标"};
+inline constexpr Text kProgramWithoutIcons{"It is a program without icons that can be read",
+                                           "是程序文件, 其中没有可读取的图标"};
 
 // A save that failed; `reason` is the system's description. Empty file title: a new icon.
 std::string CannotSave(std::string_view reason, std::string_view fileTitle);

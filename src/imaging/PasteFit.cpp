@@ -33,7 +33,7 @@ COLORREF OverWhite(COLORREF pixel) {
 
 // Both sides lose a ten-thousandth of what they were at first until the longer one fits. Every step
 // is rounded to float.
-PictureSize KeepAspect(PictureSize picture) {
+gdi::Size KeepAspect(gdi::Size picture) {
     constexpr float kSteps = 10000;
     auto width = static_cast<float>(picture.width);
     auto height = static_cast<float>(picture.height);
@@ -51,15 +51,15 @@ PictureSize KeepAspect(PictureSize picture) {
 
 }  // namespace
 
-bool FitsIcon(PictureSize picture) {
+bool FitsIcon(gdi::Size picture) {
     return picture.width <= kIconSize && picture.height <= kIconSize;
 }
 
-PictureSize FittedSize(PictureSize picture, PasteFit fit) {
-    return fit == PasteFit::Shrink ? PictureSize{kIconSize, kIconSize} : KeepAspect(picture);
+gdi::Size FittedSize(gdi::Size picture, PasteFit fit) {
+    return fit == PasteFit::Shrink ? gdi::Size{kIconSize, kIconSize} : KeepAspect(picture);
 }
 
-gdi::IconPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode) {
+gdi::IconPlanes PlanesOf(const gdi::Surface& picture, gdi::Size size, PasteMode mode) {
     gdi::IconPlanes planes(size.width, size.height);
     gdi::Surface scaled = planes.image;
     gdi::StretchBlt(scaled, scaled.Bounds(), picture, picture.Bounds(), gdi::RasterOp::Copy);

@@ -11,19 +11,12 @@ enum class PasteFit { Shrink, KeepAspect };
 // through, or nothing, the picture being laid over white.
 enum class PasteMode { Transparent, Opaque };
 
-// In pixels.
-struct PictureSize {
-    int width = 0;
-    int height = 0;
-    bool operator==(const PictureSize&) const = default;
-};
-
-bool FitsIcon(PictureSize picture);
+bool FitsIcon(gdi::Size picture);
 
 // The size to which a picture is shrunk that does not fit; it has at least one pixel.
-PictureSize FittedSize(PictureSize picture, PasteFit fit);
+gdi::Size FittedSize(gdi::Size picture, PasteFit fit);
 
 // A picture of 0xAABBGGRR pixels as planes of another size, by repeating or dropping pixels.
-gdi::IconPlanes PlanesOf(const gdi::Surface& picture, PictureSize size, PasteMode mode);
+gdi::IconPlanes PlanesOf(const gdi::Surface& picture, gdi::Size size, PasteMode mode);
 
 }  // namespace kestrel::imaging

@@ -3,7 +3,7 @@
 #include <functional>
 
 #include "platform/Result.h"
-#include "platform/gdi/Surface.h"
+#include "platform/gdi/Samples.h"
 
 namespace kestrel::services {
 
@@ -16,9 +16,10 @@ class Clipboard {
     // Whether the clipboard holds an image, as far as is known without asking its owner, which
     // takes time.
     virtual bool HasImage() const = 0;
-    // Fetches the image. Never waits longer than a second; fails with kInvalidPicture when it is
-    // gone, late, damaged, empty or too large to be handled.
-    virtual Result<gdi::Surface> GetImage() = 0;
+    // Fetches the image, which may be one in a file that was copied. Never waits longer than a
+    // second; fails with kInvalidPicture when it is gone, late, damaged, empty or too large to be
+    // handled.
+    virtual Result<gdi::SampledPicture> GetImage() = 0;
     // Other programs get the image with its alpha or, where they know none, its colours alone.
     virtual void SetImage(const gdi::Surface& pixels) = 0;
 

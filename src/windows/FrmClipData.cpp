@@ -31,7 +31,7 @@ constexpr int kMessageFontPixels = 11;
 
 }  // namespace
 
-FrmClipData::FrmClipData(QWidget* owner, imaging::PictureSize picture) : QDialog(owner) {
+FrmClipData::FrmClipData(QWidget* owner, gdi::Size picture) : QDialog(owner) {
     widgets::DressDialog(*this, ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
     setFont(widgets::FontOf(*this, kFontPixels));

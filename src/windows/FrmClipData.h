@@ -13,7 +13,7 @@ namespace kestrel::windows {
 // Asks how a picture from the clipboard that is larger than the icon shall be shrunk. Modal.
 class FrmClipData : public QDialog {
   public:
-    FrmClipData(QWidget* owner, imaging::PictureSize picture);
+    FrmClipData(QWidget* owner, gdi::Size picture);
 
     // Shows the dialog; none when it is closed without OK.
     std::optional<imaging::PasteFit> Ask();

@@ -20,7 +20,7 @@ std::optional<gdi::Surface> FrmDialogs::AskGradient() {
     return FrmShades(&owner_).Ask();
 }
 
-std::optional<imaging::PasteFit> FrmDialogs::AskFit(imaging::PictureSize picture) {
+std::optional<imaging::PasteFit> FrmDialogs::AskFit(gdi::Size picture) {
     return FrmClipData(&owner_, picture).Ask();
 }
 

@@ -14,7 +14,7 @@ class FrmDialogs : public commands::Dialogs {
     bool AdjustColors(imaging::ColorAdjustment& colors, const gdi::Surface& preview) override;
     std::optional<int> AskGamma() override;
     std::optional<gdi::Surface> AskGradient() override;
-    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize picture) override;
+    std::optional<imaging::PasteFit> AskFit(gdi::Size picture) override;
     void ShowAbout() override;
 
   private:

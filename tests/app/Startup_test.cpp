@@ -86,6 +86,9 @@ TEST_F(StartupTest, CommandLineNamesAFileInProperCase) {
     std::ofstream(folder + "/Bird.ico").close();
     EXPECT_EQ(named("/open " + folder + "/bird.ico"), folder + "/bird.ico") << "the typed one";
     std::filesystem::remove_all(folder);
+    EXPECT_EQ(PrintedFor("--version", "1.2"), "KestrelIconEditor 1.2\n");
+    EXPECT_TRUE(PrintedFor("--help", "1.2").starts_with("Usage: KestrelIconEditor [/open FILE]\n"));
+    EXPECT_EQ(PrintedFor("--help --version", "1.2"), "");
 }
 
 }  // namespace

@@ -45,12 +45,12 @@ done
 
 # What is read.
 Refused "'': No such file or directory" apply mnuNegative '' old.ico
-Refused '/dev/null: no icon or PNG' info /dev/null
+Refused '/dev/null: The file is empty' info /dev/null
 Refused 'standard input: Bad file descriptor' info - <&-
 Refused 'standard input: File too large' info - < <(head -c 40M /dev/zero)
-Refused 'two  lines: No such file' info $'two\r\nlines'
+Refused 'two\r\nlines\x1b[2J\u202e\\\xff: No such file' info $'two\r\nlines\e[2J\u202e\\\xff'
 # Without its last rows a picture is not read at all.
-Refused 'standard input: no icon or PNG' convert - old.ico < <(head -c -300 ../opaque.png)
+Refused 'standard input: The image is damaged' convert - old.ico < <(head -c -300 ../opaque.png)
 
 # What is written.
 Refused 'none/out.ico: No such file or directory' convert in.ico none/out.ico

@@ -13,9 +13,9 @@ constexpr COLORREF kOpaque = 0xFF000000;
 // Sizes by hand; that of 33 x 64 by another program that rounds every step to 32 bits.
 TEST(PasteFit, LargePicturesAreShrunkToTheNearestPixelsAboveLeft) {
     const struct {
-        imaging::PictureSize picture;
+        gdi::Size picture;
         imaging::PasteFit fit{};
-        imaging::PictureSize size;
+        gdi::Size size;
         // Target pixel, and the source pixel in its place.
         test::At target, source;
     } cases[] = {

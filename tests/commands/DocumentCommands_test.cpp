@@ -95,9 +95,11 @@ TEST_F(DocumentCommandsTest, RefusedFilesChangeNothing) {
     guard_.tmrStarted = false;
     given_.desktop.choice = "/icons/text.ico";
     for (const auto& [language, named, chosen] :
-         {std::tuple{i18n::kEnglish, "Unable to open the file nowhere.ico",
-                     "Unable to open the file text.ico"},
-          {i18n::kChinese, "不能打开nowhere.ico文件", "不能打开 text.ico文件"}}) {
+         {std::tuple{i18n::kEnglish,
+                     "Unable to open the file nowhere.ico\r\nThe file does not exist.",
+                     "Unable to open the file text.ico\r\nIt is no icon, cursor or PNG file."},
+          {i18n::kChinese, "不能打开nowhere.ico文件\r\n文件不存在.",
+           "不能打开 text.ico文件\r\n不是图标, 光标或 PNG 文件."}}) {
         i18n::SetUiLanguage(language);
         commands_.OpenNamed("/nowhere.ico");
         ExpectError(named);

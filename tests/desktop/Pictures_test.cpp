@@ -44,7 +44,7 @@ TEST(PictureFile, BitmapsOfEveryHeaderAreRead) {
             start.leftJustified(start[10], '\0') + QByteArray::fromHex("0102030405060000");
         const auto picture = ReadPicture(file);
         ASSERT_EQ(picture.has_value(), readable) << name;
-        EXPECT_TRUE(!readable || picture->Row(0)[1] == 0xFF040506) << name;
+        EXPECT_TRUE(!readable || picture->Pixels().Row(0)[1] == 0xFF040506) << name;
         EXPECT_FALSE(ReadPicture(file.chopped(1))) << name;
     }
 }

@@ -62,6 +62,18 @@ WaitForWindow '* - Icon.ico'
 ExpectCell 15 31 60ff20
 Press Delete
 
+# An icon, and the file of one among others that were copied.
+convert "$scratch/dot.png" "$scratch/dot.ico"
+Own image/x-icon "$scratch/dot.ico"
+Pastes CellHas 0 0 00ff00
+Press Delete
+convert -size 1x1 xc:'#0000ff' "$files/one dot.ICO"
+printf '# copied\r\nfile://%s\r\n' elsewhere/a.png "$scratch/list" "$files/one%20dot.ICO" \
+    >"$scratch/list"
+Own text/uri-list "$scratch/list"
+Pastes CellHas 0 0 0000ff
+Press Delete
+
 # What has no end: a message, without much memory.
 truncate -s 400M "$scratch/endless.bmp"
 Own image/bmp "$scratch/endless.bmp"

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "formats/BestImage.h"
+#include "formats/UnreadableFile.h"
 #include "tests/formats/HexBytes.h"
 #include "tests/support/PictureText.h"
 
@@ -169,6 +170,31 @@ TEST(BestImage, DamagedImagesGiveWayToTheNextBest) {
                     "89504E470D0A1A0A 0000000D 49484452 00000020 00000020 0806000000 737A7AF4") +
                     ByteList(kGood.begin() + 22, kGood.end()),
                 kPicture);
+}
+
+const std::string kPngHead = "89504E470D0A1A0A 0000000D 49484452 ";
+
+// The check sums are those of an independent program.
+TEST(UnreadableFile, TheReasonIsTold) {
+    const std::pair<std::string, int> cases[] = {
+        {"", kEmptyFile},
+        {"0000 0100 0000", kDamagedPicture},
+        {kPngHead + "00002000 00002000 0806000000", kDamagedPicture},           // cut
+        {kPngHead + "00002000 00002000 0806000000 72AACA59", kDamagedPicture},  // 256 MB of rows
+        {kPngHead + "00002000 00002000 1006000000 223A161A", kPictureTooLarge},
+        {kPngHead + "00002001 00000001 0806000000 99894B5E", kPictureTooLarge},
+        {"4349 1A000000 0000 0000 4E000000 0C000000", kOs2Icon},
+        {"4241 28000000 00000000 0000 0000 4943 1A000000 0000 0000 4E000000 0C000000", kOs2Icon},
+        {"0102 00000000 2000 2000 0400 0000", kWindows1Icon},
+        {"0300 00000000 2000 2000 0400 0000", kWindows1Icon},
+        {"4D5A", kProgramWithoutIcons},
+        {"4943 6F6E73206172652067726561742C20206F6E6573", kInvalidPicture},  // a text
+    };
+    for (const auto& [bytes, number] : cases) {
+        const auto icon = ReadBestImage(Hex(bytes));
+        ASSERT_FALSE(icon) << bytes;
+        EXPECT_EQ(icon.error().number, number) << bytes;
+    }
 }
 
 }  // namespace

@@ -68,7 +68,11 @@ TEST(Witness, AgreesOnEveryImage) {
             const auto images = source->Images(icon);
             for (const ImageEntry& entry : *images) {
                 SCOPED_TRACE(witness());
-                ExpectSamePixels(source->Decode(entry).value(), ReadFile(witness()));
+                const auto image = source->Decode(entry);
+                ExpectSamePixels(image.value(), ReadFile(witness()));
+                const auto small = source->Decode(entry, gdi::Size{13, 35});
+                EXPECT_TRUE(small &&
+                            small->planes.SamePixels(gdi::Stretched(image->planes, 13, 35)));
                 ++number;
             }
         }
@@ -76,12 +80,25 @@ TEST(Witness, AgreesOnEveryImage) {
     }
 }
 
+Result<IconImage> FirstIcon(const ByteList& file) {
+    const auto source = Open(file);
+    if (!source) return tl::unexpected(source.error());
+    return source->Icon(0);
+}
+
 // Nothing else may happen, least of all a fault that a sanitizer sees.
 TEST(BadInput, TruncationsAndChangedBytesAreRefusedOrRead) {
     const auto expectSound = [](const ByteList& file) {
         const auto icon = ReadBestImage(file);
-        ASSERT_TRUE(icon || icon.error().number == kInvalidPicture);
+        ASSERT_TRUE(icon || icon.error().number >= kInvalidPicture);
+        const auto whole = ListWholeImages(file);
+        ASSERT_EQ(whole.has_value(), icon.has_value()) << "told to be readable exactly when it is";
+        for (std::size_t i = 0; whole && i < whole->size(); ++i)
+            ASSERT_TRUE(DecodeImage(file, whole->at(i)));
         ASSERT_TRUE(!icon || std::ranges::max(icon->planes.image.Pixels()) <= gdi::kWhite);
+        // Programs and animations are opened as sources only.
+        const auto first = icon ? icon : FirstIcon(file);
+        ASSERT_TRUE(first || first.error().number > kInvalidPicture);
     };
     // Every byte of the headers matters; in the pixels after them a sample does.
     constexpr std::size_t kHeaders = 90;

@@ -34,9 +34,7 @@ class AnsweredDialogs : public commands::Dialogs {
     }
     std::optional<int> AskGamma() override { return gamma; }
     std::optional<gdi::Surface> AskGradient() override { return gradient; }
-    std::optional<imaging::PasteFit> AskFit(imaging::PictureSize /*picture*/) override {
-        return fit;
-    }
+    std::optional<imaging::PasteFit> AskFit(gdi::Size /*picture*/) override { return fit; }
     void ShowAbout() override {}
 
     gdi::Surface shown{0, 0};
@@ -76,9 +74,9 @@ class ScriptedBoxes : public services::MessageBoxes {
 class MemoryClipboard : public services::Clipboard {
   public:
     bool HasImage() const override { return image.has_value(); }
-    Result<gdi::Surface> GetImage() override {
+    Result<gdi::SampledPicture> GetImage() override {
         if (!image) return Fail(kInvalidPicture, "Invalid picture");
-        return *image;
+        return gdi::SampledPicture(*image);
     }
     void SetImage(const gdi::Surface& pixels) override { Offer(pixels); }
     // As another program does.

@@ -18,6 +18,13 @@ struct Rect {
     bool operator==(const Rect&) const = default;
 };
 
+// In pixels.
+struct Size {
+    int width = 0;
+    int height = 0;
+    bool operator==(const Size&) const = default;
+};
+
 // How lines, boxes and ellipses meet the pixels under them.
 enum class DrawMode { CopyPen, Invert };
 enum class LineStyle { Solid, Dot };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace kestrel::system {
@@ -16,6 +17,11 @@ std::size_t CountCharacters(std::string_view text);
 
 // The first `count` characters of a text, or all that it has.
 std::string_view FirstCharacters(std::string_view text, std::size_t count);
+
+// The text as signs that a terminal only shows. A backslash is doubled, a character that controls
+// or that turns the direction of the text is written "\n", "\x1b" or "\u202e", a byte that is no
+// UTF-8 "\xff".
+std::string Printable(std::string_view text);
 
 // A letter in lower or upper case whatever the locale; what is no ASCII letter stays.
 template <class Letter>
