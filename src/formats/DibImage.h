@@ -25,11 +25,18 @@ struct DibLayout {
     std::array<std::uint32_t, 4> channels{};
 };
 
-// Reads the BITMAPINFOHEADER (40 to 124 bytes, so V4 and V5 too, but not OS/2's 64) at the start of
-// `image`. The height in an icon's header counts colour image and mask together; some writers leave
-// the doubling out, which shows by header and directory naming the same size and the rows being
-// there. Nothing when the header is cut, compressed or out of range.
-std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int directoryHeight);
+// Reads the BITMAPINFOHEADER (40 to 124 bytes, so V4 and V5 too, but not OS/2's 64) in `head`, the
+// start of an image of `length` bytes. The height in an icon's header counts colour image and mask
+// together; some writers leave the doubling out, which shows by header and directory naming the
+// same size and the rows being there. Nothing when the header is cut, compressed or out of range.
+std::optional<DibLayout> ReadDibLayout(Bytes head, std::uint64_t length, int directoryWidth,
+                                       int directoryHeight);
+
+// The same of an image that is there as a whole.
+inline std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth,
+                                              int directoryHeight) {
+    return ReadDibLayout(image, image.size(), directoryWidth, directoryHeight);
+}
 
 // Decodes the image; nothing when the colour data is cut. A cut mask counts as opaque.
 std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout);

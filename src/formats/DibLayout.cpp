@@ -102,8 +102,9 @@ void Place(DibLayout& layout) {
 
 }  // namespace
 
-std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int directoryHeight) {
-    const ByteReader reader(image);
+std::optional<DibLayout> ReadDibLayout(Bytes head, std::uint64_t length, int directoryWidth,
+                                       int directoryHeight) {
+    const ByteReader reader(head);
     const std::uint32_t headerSize = reader.U32(0);
     if (headerSize < kMinHeaderSize || headerSize > kMaxHeaderSize ||
         headerSize == kOs2HeaderSize || !reader.Has(0, headerSize))
@@ -124,7 +125,7 @@ std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth, int dire
     // What looks as if it were not doubled is so all the same where the rows are not there: some
     // writers double the directory's height too.
     const bool asStored = std::abs(std::int64_t{reader.S32(kHeight)}) == info.height;
-    if (asStored && info.height > 1 && layout.maskOffset > image.size()) {
+    if (asStored && info.height > 1 && layout.maskOffset > length) {
         layout.info.height /= 2;
         Place(layout);
     }

@@ -63,7 +63,7 @@ PngColors ColorsOf(const ByteReader& header) {
 // Keeps what is wanted of a row, which holds this pass's pixels of line `y`.
 void KeepPixels(const PngColors& colors, Bytes row, int y, const Pass& pass,
                 const gdi::Samples& samples, gdi::Surface& pixels) {
-    const auto [first, end] = std::ranges::equal_range(samples.rows, y);
+    const auto [first, end] = std::equal_range(samples.rows.begin(), samples.rows.end(), y);
     for (auto kept = first; kept != end; ++kept) {
         auto out = pixels.Row(static_cast<int>(kept - samples.rows.begin())).begin();
         for (const int column : samples.columns) {

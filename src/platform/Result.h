@@ -19,6 +19,12 @@ struct Error {
 inline constexpr int kDialogCancelled = 32755;
 // The bytes are not a picture that the reader understands.
 inline constexpr int kInvalidPicture = 481;
+// The file can be read, but there is no icon in it.
+inline constexpr int kNoIcons = 1001;
+// Nor in this program: its icons are kept in another file.
+inline constexpr int kIconsElsewhere = 1002;
+// Another program wrote to the file while it was read.
+inline constexpr int kFileChanged = 1003;
 
 // A value or the reason why there is none. May not be dropped.
 template <class T>

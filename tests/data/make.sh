@@ -1,7 +1,7 @@
 #!/bin/sh
 # Makes the icon files of this folder and their witnesses anew, in the folder it is run from:
 #     mkdir /tmp/icons && cd /tmp/icons && sh <this file> && diff -r . <this folder>
-# Needs icotool (icoutils 0.32.3) and ImageMagick 6.9.11; other versions may pack PNGs otherwise.
+# Needs icotool (icoutils 0.32.3), ImageMagick 6.9.11 (other versions may pack PNGs otherwise) and this project's make_library, which MAKE_LIBRARY may name.
 set -eu
 
 work=$(mktemp -d)
@@ -73,4 +73,54 @@ cp "$work/kind3.png" png-named.ico
 
 convert "$work/16.png" "$work/48.png" "$work/bigrgba.png" magick.ico
 
+# u16 <number>..., u32 <number>...: the lowest byte first.
+# shellcheck disable=SC2059  # the format is made of the bytes
+u16() { for n; do printf "\\$(printf %o $((n & 255)))\\$(printf %o $((n >> 8 & 255)))"; done; }
+u32() { for n; do u16 $((n & 65535)) $((n >> 16)); done; }
+zeros() { head -c "$1" /dev/zero; }
+
+# The image of an icon file that has one, filled up to units of 16 bytes, and how many these are.
+image() {
+    tail -c +23 "$1"
+    zeros $(((22 - $(wc -c <"$1")) & 15))
+}
+units() { image "$1" | wc -c | awk '{ print $1 / 16 }'; }
+
+# A program of 16 bits: header for DOS, header, from byte 128 on the table of resources (two icons
+# and the group "ICON"), from 192 on the icons and the group, all in units of 16 bytes.
+{
+    printf MZ && zeros 58 && u32 64
+    printf NE && zeros 34 && u16 64 144 && zeros 14 && printf '\2' && zeros 9
+    first=12 second=$((12 + $(units bits4.ico)))
+    group=$((second + $(units bits24.ico)))
+    u16 4
+    u16 32771 2 0 0 && u16 $first $((second - first)) 0 32769 0 0 $second $((group - second)) 0 32770 0 0
+    u16 32782 1 0 0 && u16 $group 3 0 56 0 0
+    u16 0 && printf '\4ICON' && zeros 3
+    image bits4.ico && image bits24.ico
+    u16 0 1 2 && tail -c +7 bits4.ico | head -c 12 && u16 1
+    tail -c +7 bits24.ico | head -c 12 && u16 2 && zeros 14
+} >icons16.icl
+
+# An animation of two frames and three steps: the second, the first, the second.
+chunk() { printf %s "$1" && u32 "$(wc -c <"$work/chunk")" && cat "$work/chunk"; }
+{
+    printf 'RIFF\0\0\0\0ACON'
+    u32 36 2 3 0 0 0 0 10 3 >"$work/chunk" && chunk anih
+    {
+        printf fram
+        for file in bits4.ico bits8.ico; do cp $file "$work/chunk" && chunk icon; done
+    } >"$work/list" && cp "$work/list" "$work/chunk" && chunk LIST
+    u32 1 0 1 >"$work/chunk" && chunk 'seq '
+} >frames.ani
+"${MAKE_LIBRARY:-make_library}" icons32.dll "$(dirname "$0")"/*.xpm
+
 for file in *.ico *.cur; do witness "$file"; done
+cp bits4-0.pam icons16-0.pam
+cp bits24-0.pam icons16-1.pam
+for n in 0 1 2; do cp bits$((8 - 4 * (n & 1)))-0.pam frames-$n.pam; done
+n=0
+for picture in 01-disc 01-disc-16 02-ramp; do
+    convert "$(dirname "$0")/$picture.xpm" -alpha set -type TrueColorAlpha -depth 8 pam:icons32-$n.pam
+    n=$((n + 1))
+done

@@ -1,31 +1,21 @@
 #include "formats/IconFile.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "formats/BestImage.h"
 #include "formats/UnreadableFile.h"
+#include "tests/formats/HexBytes.h"
 #include "tests/support/PictureText.h"
 
 namespace kestrel::formats {
 namespace {
 
+using test::ByteList;
+using test::Hex;
 using test::Inks;
-using ByteList = std::vector<std::uint8_t>;
-
-// Bytes written as hexadecimal digits, two a byte, blanks ignored.
-ByteList Hex(std::string text) {
-    std::erase(text, ' ');
-    ByteList bytes;
-    for (std::size_t i = 0; i + 1 < text.size(); i += 2)
-        bytes.push_back(static_cast<std::uint8_t>(std::stoul(text.substr(i, 2), nullptr, 16)));
-    return bytes;
-}
-
-ByteList operator+(ByteList bytes, const ByteList& more) {
-    bytes.insert(bytes.end(), more.begin(), more.end());
-    return bytes;
-}
+using test::operator+;
 
 // The 24-bit icon of 3 x 2 pixels: entry at 6, bitmap at 22, rows at 62, mask at 86, end at 94.
 const ByteList kGood =

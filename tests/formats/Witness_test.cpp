@@ -5,15 +5,18 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
 #include <vector>
 
 #include "formats/IconFile.h"
+#include "tests/formats/SmallSources.h"
 
 namespace kestrel::formats {
 namespace {
 
-using ByteList = std::vector<std::uint8_t>;
+using test::ByteList;
+using test::Open;
 
 ByteList ReadFile(const std::filesystem::path& path) {
     std::ifstream stream(path, std::ios::binary);
@@ -22,9 +25,9 @@ ByteList ReadFile(const std::filesystem::path& path) {
 
 std::vector<std::filesystem::path> IconFiles() {
     std::vector<std::filesystem::path> files;
+    const std::set<std::string> kinds{".ani", ".cur", ".dll", ".icl", ".ico"};
     for (const auto& entry : std::filesystem::directory_iterator(TEST_DATA))
-        if (entry.path().extension() == ".ico" || entry.path().extension() == ".cur")
-            files.push_back(entry.path());
+        if (kinds.contains(entry.path().extension())) files.push_back(entry.path());
     return files;
 }
 
@@ -54,20 +57,33 @@ TEST(Witness, AgreesOnEveryImage) {
     for (const std::filesystem::path& path : IconFiles()) {
         if (path.stem().string().starts_with("broken-")) continue;
         const ByteList file = ReadFile(path);
-        const auto images = ListImages(file);
-        ASSERT_TRUE(images) << path;
-        for (std::size_t i = 0; i < images->size(); ++i) {
-            const auto icon = DecodeImage(file, images->at(i));
-            ASSERT_TRUE(icon) << path << i;
-            const std::string witness = path.stem().string() + "-" + std::to_string(i) + ".pam";
-            SCOPED_TRACE(witness);
-            ExpectSamePixels(*icon, ReadFile(path.parent_path() / witness));
-            const auto small = DecodeImage(file, images->at(i), gdi::Size{13, 35});
-            EXPECT_TRUE(small && small->planes.SamePixels(gdi::Stretched(icon->planes, 13, 35)));
+        const auto source = Open(file);
+        ASSERT_TRUE(source) << path;
+        std::size_t number = 0;
+        const auto witness = [&] {
+            return path.parent_path() /
+                   (path.stem().string() + "-" + std::to_string(number) + ".pam");
+        };
+        for (std::size_t icon = 0; icon < source->count; ++icon) {
+            const auto images = source->Images(icon);
+            for (const ImageEntry& entry : *images) {
+                SCOPED_TRACE(witness());
+                const auto image = source->Decode(entry);
+                ExpectSamePixels(image.value(), ReadFile(witness()));
+                const auto small = source->Decode(entry, gdi::Size{13, 35});
+                EXPECT_TRUE(small &&
+                            small->planes.SamePixels(gdi::Stretched(image->planes, 13, 35)));
+                ++number;
+            }
         }
-        const std::string beyond = path.stem().string() + "-" + std::to_string(images->size());
-        EXPECT_FALSE(exists(path.parent_path() / (beyond + ".pam"))) << beyond << " is not listed";
+        EXPECT_FALSE(exists(witness())) << witness() << " is not listed";
     }
+}
+
+Result<IconImage> FirstIcon(const ByteList& file) {
+    const auto source = Open(file);
+    if (!source) return tl::unexpected(source.error());
+    return source->Icon(0);
 }
 
 // Nothing else may happen, least of all a fault that a sanitizer sees.
@@ -80,6 +96,9 @@ TEST(BadInput, TruncationsAndChangedBytesAreRefusedOrRead) {
         for (std::size_t i = 0; whole && i < whole->size(); ++i)
             ASSERT_TRUE(DecodeImage(file, whole->at(i)));
         ASSERT_TRUE(!icon || std::ranges::max(icon->planes.image.Pixels()) <= gdi::kWhite);
+        // Programs and animations are opened as sources only.
+        const auto first = icon ? icon : FirstIcon(file);
+        ASSERT_TRUE(first || first.error().number > kInvalidPicture);
     };
     // Every byte of the headers matters; in the pixels after them a sample does.
     constexpr std::size_t kHeaders = 90;

@@ -97,6 +97,11 @@ class MemoryFiles : public system::FileSystem {
         if (found == contents.end()) return Fail(2, "No such file or directory");
         return system::LoadedFile{found->first, *Identify(found->first), found->second};
     }
+    Result<std::unique_ptr<system::ByteSource>> OpenSource(const std::string& path) override {
+        auto content = ReadFile(path, SIZE_MAX);
+        if (!content) return tl::unexpected(content.error());
+        return std::make_unique<system::MemoryBytes>(*std::move(content));
+    }
     Result<system::FileIdentity> ReplaceFile(const std::string& path,
                                              std::span<const std::uint8_t> bytes) override {
         if (writeError.number != 0) return Fail(writeError.number, writeError.description);

@@ -26,7 +26,7 @@ std::vector<int> ForEveryIcon(int length) {
     for (int to = 1; to <= kIconSize && length > 0; ++to)
         std::ranges::copy(Stretch(length, to), std::back_inserter(places));
     std::ranges::sort(places);
-    places.erase(std::ranges::unique(places).begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end()), places.end());
     return places;
 }
 

@@ -128,6 +128,10 @@ Result<LoadedFile> DiskFiles::ReadOpened(int file, std::size_t limit) {
     return LoadedFile{{}, IdentityOf(status), std::move(bytes)};
 }
 
+Result<std::unique_ptr<ByteSource>> DiskFiles::OpenSource(const std::string& path) {
+    return OpenByteSource(Resolved(path));
+}
+
 Result<FileIdentity> DiskFiles::ReplaceFile(const std::string& path,
                                             std::span<const std::uint8_t> bytes) {
     if (path.empty()) return SystemFailure(ENOENT);

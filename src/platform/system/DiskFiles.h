@@ -18,6 +18,7 @@ class DiskFiles : public FileSystem {
     DiskFiles& operator=(const DiskFiles&) = delete;
 
     Result<LoadedFile> LoadFile(const std::string& path, std::size_t limit) override;
+    Result<std::unique_ptr<ByteSource>> OpenSource(const std::string& path) override;
     // The new content is written to a file without a name (else to a hidden one) in the old one's
     // folder, which then replaces the old one under its name, with its permissions. Other hard
     // links to the old file keep the old content. Needs write permission to the folder too.

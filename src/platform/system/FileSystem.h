@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "platform/Result.h"
+#include "platform/system/ByteSource.h"
 #include "platform/system/FileIdentity.h"
 
 namespace kestrel::system {
@@ -22,7 +24,7 @@ struct LoadedFile {
     std::vector<std::uint8_t> bytes;
 };
 
-// Whole-file access. Paths are UTF-8 with '\' or '/' between components; an existing file is found
+// Access to files. Paths are UTF-8 with '\' or '/' between components; an existing file is found
 // as written or else by a match of each component without regard to letter case, unless a function
 // says otherwise. Errors carry the errno value and the system's description of it.
 class FileSystem {
@@ -37,6 +39,9 @@ class FileSystem {
         if (!file) return tl::unexpected(file.error());
         return std::move(file->bytes);
     }
+
+    // The same file for reading in parts, whatever its size up to 4 GB (EFBIG beyond it).
+    virtual Result<std::unique_ptr<ByteSource>> OpenSource(const std::string& path) = 0;
 
     // Makes `bytes` the content of the file of exactly this path, wholly or not at all: after a
     // failure the old file, or its absence, is as it was. A file without write permission is

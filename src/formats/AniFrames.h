@@ -1,0 +1,19 @@
+#pragma once
+
+#include <vector>
+
+#include "formats/IconTable.h"
+
+namespace kestrel::formats {
+
+// Animated cursors: a RIFF file of type "ACON", as "Multimedia Programming Interface and Data
+// Specifications" and the Windows documentation describe it.
+
+bool IsAni(SourceReader& file);
+// One icon a step, in the order of the sequence.
+IconTable ListAni(SourceReader& file);
+// A frame is an icon or cursor file of its own or a bare bitmap.
+std::vector<ImageEntry> FrameImages(SourceReader& file, const IconTable& table,
+                                    const IconPlace& step, std::size_t most);
+
+}  // namespace kestrel::formats

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "formats/ByteWriter.h"
+#include "formats/IconSource.h"
+
+namespace kestrel::formats {
+
+// One image as it is stored in icon files and programs, and what its header says.
+struct ImageBytes {
+    ImageInfo info;
+    std::vector<std::uint8_t> bytes;
+};
+
+// The head of an icon directory, alike in icon files and in programs, and what both say of an image
+// before they tell where it is.
+void WriteDirectoryHead(ByteWriter& out, std::size_t images);
+void WriteDirectoryEntry(ByteWriter& out, const ImageBytes& image);
+
+// An icon file of these images, each byte for byte.
+std::vector<std::uint8_t> IconFileOf(std::span<const ImageBytes> images);
+
+// The icon with all its images as an icon file of its own. Fails as IconSource does, with EFBIG
+// where it would be larger than any icon file that is read.
+Result<std::vector<std::uint8_t>> ExportIcon(const IconSource& source, std::size_t icon);
+
+}  // namespace kestrel::formats

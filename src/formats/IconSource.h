@@ -1,0 +1,62 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "formats/IconFile.h"
+#include "formats/IconTable.h"
+#include "platform/Result.h"
+#include "platform/system/ByteSource.h"
+
+namespace kestrel::formats {
+
+// A file that icons can be taken from: an icon, cursor or PNG file, a program or library of 16, 32
+// or 64 bits, an animated cursor. Which of them it is its content tells, never its name. Opening
+// lists the icons; what they look like is read when it is asked for, and nothing of it is kept.
+//
+// Icons are, of an icon or cursor file, each image in the file's order; of a program each group of
+// images, names before numbers, or each image where there is no group; of an animated cursor each
+// step. Icons of which no image can be read are left out; what cannot be drawn ends an animation.
+//
+// Every question may fail with an errno value or kFileChanged; an icon is counted from 0.
+class IconSource {
+  public:
+    // `name` is the file's name without its folder. Fails also with kNoIcons or kIconsElsewhere for
+    // a file that can be read but holds no icons, and with EFBIG beyond 4 GB.
+    static Result<IconSource> Open(std::unique_ptr<system::ByteSource> bytes, std::string name);
+
+    SourceKind kind = SourceKind::Ico;
+    std::string name;
+    std::size_t count = 0;
+
+    // A program's own name for the icon in UTF-8, or its number in decimal digits. Numbers of
+    // images and steps count from 1.
+    Result<std::string> NameOf(std::size_t icon) const;
+    // The icon's images in the order of its directory, without those that cannot be used.
+    Result<std::vector<ImageEntry>> Images(std::size_t icon) const;
+    // The image that suits 32 x 32 best, as ReadBestImage chooses among a file's images; damaged
+    // ones give way to the next best. Fails with kDamagedPicture when none can be decoded. Planes
+    // have the size that is asked for, by repeating or dropping pixels, or else their own; neither
+    // may have a side above 1024, which only that of a PNG file can.
+    Result<IconImage> Icon(std::size_t icon, std::optional<gdi::Size> size = std::nullopt) const;
+
+    // One of Images(): decoded (or kDamagedPicture), and its bytes as they are stored, trimmed to
+    // the length that its own header tells.
+    Result<IconImage> Decode(const ImageEntry& image,
+                             std::optional<gdi::Size> size = std::nullopt) const;
+    Result<std::vector<std::uint8_t>> Stored(const ImageEntry& image) const;
+
+  private:
+    explicit IconSource(std::unique_ptr<system::ByteSource> bytes);
+
+    std::unique_ptr<system::ByteSource> bytes_;
+    const Format* format_ = nullptr;
+    IconTable table_;
+};
+
+}  // namespace kestrel::formats

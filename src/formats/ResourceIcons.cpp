@@ -1,0 +1,89 @@
+#include "formats/ResourceIcons.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "formats/StoredImage.h"
+
+namespace kestrel::formats {
+namespace {
+
+constexpr std::uint64_t kHeadSize = 6;
+constexpr std::uint64_t kEntrySize = 14;
+// Entries of groups that are looked at while the icons are listed: of the largest libraries, one a
+// group and some whose images are missing. Groups that overlap could have thousands of millions.
+constexpr std::size_t kMostEntries = 1U << 17;
+
+std::size_t EntryCount(SourceReader& file, const IconPlace& group) {
+    const std::uint64_t room = file.Inside(group.Where()).size;
+    if (room < kHeadSize) return 0;
+    const std::uint64_t count = file.Record<kHeadSize>(group.offset).U16(4);
+    return static_cast<std::size_t>(std::min(count, (room - kHeadSize) / kEntrySize));
+}
+
+std::vector<ImageEntry> LoneImage(SourceReader& file, const IconPlace& icon) {
+    const auto image = ReadImageHead(file, icon.Where(), {});
+    return image ? std::vector{*image} : std::vector<ImageEntry>{};
+}
+
+// The first image of this number as stored, if any.
+const IconPlace* FindImage(const IconTable& table, std::uint32_t number) {
+    const auto found = std::ranges::lower_bound(table.images, number, {}, &IconPlace::name);
+    return found != table.images.end() && found->name == number ? &*found : nullptr;
+}
+
+// An entry tells a size, as one of an icon file does, and an image's number in place of its offset.
+// Each that is looked at takes one off `budget`.
+std::vector<ImageEntry> GroupImages(SourceReader& file, const IconTable& table,
+                                    const IconPlace& group, std::size_t most, std::size_t& budget) {
+    const std::size_t count = EntryCount(file, group);
+    std::vector<ImageEntry> images;
+    for (std::size_t i = 0; i < count && images.size() < most && budget > 0; ++i, --budget) {
+        const auto entry = file.Record<kEntrySize>(group.offset + kHeadSize + i * kEntrySize);
+        const IconPlace* stored = FindImage(table, entry.U16(12));
+        if (stored == nullptr) continue;
+        auto image = ReadImageHead(file, stored->Where(),
+                                   {DirectorySide(entry.bytes[0]), DirectorySide(entry.bytes[1])});
+        if (!image) continue;
+        image->index = i;
+        images.push_back(*image);
+    }
+    return images;
+}
+
+void KeepReadable(SourceReader& file, IconTable& table, std::vector<IconPlace> candidates) {
+    std::stable_partition(candidates.begin(), candidates.end(),
+                          [](const IconPlace& icon) { return icon.named; });
+    std::size_t budget = kMostEntries;
+    for (const IconPlace& icon : candidates) {
+        if (budget == 0 || table.icons.size() == kMostIcons) break;
+        const auto first =
+            table.grouped ? GroupImages(file, table, icon, 1, budget) : LoneImage(file, icon);
+        if (!first.empty()) table.icons.push_back(icon);
+    }
+}
+
+}  // namespace
+
+IconTable ListResources(SourceReader& file, std::vector<IconPlace> groups,
+                        std::vector<IconPlace> images) {
+    IconTable table;
+    table.grouped = !groups.empty();
+    if (!table.grouped) {
+        KeepReadable(file, table, std::move(images));
+        return table;
+    }
+    std::erase_if(images, [](const IconPlace& image) { return image.named; });
+    std::ranges::stable_sort(images, {}, &IconPlace::name);
+    table.images = std::move(images);
+    KeepReadable(file, table, std::move(groups));
+    return table;
+}
+
+std::vector<ImageEntry> ResourceImages(SourceReader& file, const IconTable& table,
+                                       const IconPlace& icon, std::size_t most) {
+    std::size_t budget = SIZE_MAX;
+    return table.grouped ? GroupImages(file, table, icon, most, budget) : LoneImage(file, icon);
+}
+
+}  // namespace kestrel::formats

@@ -1,0 +1,92 @@
+#include "formats/StoredImage.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <utility>
+
+#include "formats/BestImage.h"
+#include "formats/DibImage.h"
+#include "formats/PngImage.h"
+
+namespace kestrel::formats {
+namespace {
+
+// The largest bitmap header with all that is read of it; more than a PNG's.
+constexpr std::uint64_t kHeadBytes = 124;
+// Of the chunks of a PNG: the signature before them, length and name, and the checksum after each.
+constexpr std::uint64_t kPngSignature = 8;
+constexpr std::uint64_t kChunkHead = 8;
+constexpr std::uint64_t kChunkEnds = 12;
+constexpr std::uint32_t kLastChunk = 0x49454E44;  // "IEND"
+// A PNG of the largest size that is read has some thousands.
+constexpr int kMostChunks = 65536;
+
+constexpr std::size_t kWorkAnImage = 4096;
+
+// What a directory would say of a bitmap that has none. Icons are square: a height of twice the
+// width counts the mask; any other does so only where its rows are not there otherwise.
+DirectorySize LikelySize(Bytes head) {
+    const ByteReader reader(head);
+    const std::int64_t width = reader.S32(4);
+    const std::int64_t height = std::abs(std::int64_t{reader.S32(8)});
+    if (height == 2 * width || height > kMaxImageSide) return {-1, -1};
+    return {static_cast<int>(width), static_cast<int>(height)};
+}
+
+std::uint64_t PngLength(SourceReader& file, Extent place) {
+    std::uint64_t at = kPngSignature;
+    for (int chunk = 0; chunk < kMostChunks && at + kChunkEnds <= place.size; ++chunk) {
+        const auto head = file.Record<kChunkHead>(place.offset + at);
+        const ByteReader reader(head.bytes);
+        at += kChunkEnds + reader.BigEndianU32(0);
+        if (reader.BigEndianU32(4) == kLastChunk) break;
+    }
+    return std::min(at, place.size);
+}
+
+}  // namespace
+
+std::optional<ImageEntry> ReadImageHead(SourceReader& file, Extent place, DirectorySize told,
+                                        int longestPngSide) {
+    place = file.Inside(place);
+    const auto start = static_cast<std::size_t>(place.offset);
+    const auto record = file.Record<kHeadBytes>(place.offset);
+    const auto head = ByteReader(record.bytes).Part(0, place.size);
+    if (const auto png = ReadPngInfo(head, longestPngSide))
+        return ImageEntry{start, static_cast<std::size_t>(place.size), *png};
+    if (told.width == 0) told = LikelySize(head);
+    const auto dib = ReadDibLayout(head, place.size, told.width, told.height);
+    if (!dib || dib->maskOffset > place.size) return std::nullopt;
+    return ImageEntry{start, static_cast<std::size_t>(std::min(dib->end, place.size)), dib->info};
+}
+
+std::vector<std::uint8_t> ReadStoredImage(SourceReader& file, const ImageEntry& entry) {
+    Extent place{entry.offset, entry.size};
+    if (entry.info.png) place.size = PngLength(file, place);
+    if (place.size > kMaxIconFileBytes) return {};
+    return file.Part(place);
+}
+
+std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info, gdi::Size size,
+                                      std::size_t& work) {
+    if (std::max(size.width, size.height) > kMaxImageSide) return std::nullopt;
+    work += kWorkAnImage;
+    if (info.png) return DecodePng(image, info, size, work);
+    const auto dib = ReadDibLayout(image, info.width, info.height);
+    if (!dib || dib->info != info) return std::nullopt;
+    auto icon = DecodeDib(image, *dib);
+    if (icon && size != SizeOf(info))
+        icon->planes = gdi::Stretched(icon->planes, size.width, size.height);
+    return icon;
+}
+
+std::optional<IconImage> DecodeBest(std::vector<ImageEntry> entries, const ImageDecoder& decode) {
+    std::size_t work = 0;
+    for (const ImageEntry& entry : BestFirst(std::move(entries))) {
+        if (work > kMostWork) break;
+        if (auto icon = decode(entry, work)) return icon;
+    }
+    return std::nullopt;
+}
+
+}  // namespace kestrel::formats

@@ -1,0 +1,116 @@
+#include "tests/formats/SmallSources.h"
+
+#include <algorithm>
+
+#include "formats/ByteWriter.h"
+#include "formats/LibraryWriter.h"
+
+namespace kestrel::test {
+
+ByteList Ico(const std::vector<ByteList>& images) {
+    formats::ByteWriter out;
+    out.Append(Hex("0000 0100"));
+    out.U16(images.size());
+    std::size_t offset = 6 + 16 * images.size();
+    for (const ByteList& image : images) {
+        out.Append(Hex("03020000 0100 1800"));
+        out.U32(image.size());
+        out.U32(offset);
+        offset += image.size();
+    }
+    for (const ByteList& image : images)
+        out.Append(image);
+    return out.Take();
+}
+
+ByteList Pe() {
+    const formats::ImageBytes bitmap{{3, 2, 24, false}, kDib};
+    const formats::ImageBytes png{{1, 1, 32, true}, kPng};
+    const formats::LibraryIcon icons[] = {{"AB", {bitmap, png}}, {"", {bitmap}}};
+    return formats::LibraryBytes(icons).value();
+}
+
+ByteList Ne(unsigned shift) {
+    const ByteList group = Hex("0000 0100 0100 0302000001001800 48000000 0100");
+    const ByteList named =
+        Hex("0000 0100 0200 0302000001001800 48000000 0100"
+            "0302000001001800 48000000 0200");
+    formats::ByteWriter data;
+    // An entry of the table for data that is filled up to the unit.
+    const auto entry = [&](const ByteList& bytes, const char* name) {
+        constexpr std::size_t kDataAt = 0x200;
+        const std::size_t unit = std::size_t{1} << shift;
+        const std::size_t start = data.Size();
+        data.Append(bytes);
+        data.FillTo((data.Size() + unit - 1) / unit * unit);
+        formats::ByteWriter out;
+        out.U16((kDataAt + start) >> shift);
+        out.U16((data.Size() - start) >> shift);
+        out.Append(Hex(name));
+        return out.Take();
+    };
+    formats::ByteWriter file;
+    file.Append(Text("MZ"));
+    file.FillTo(0x3C);
+    file.U32(0x40);
+    file.Append(Text("NE"));
+    file.FillTo(0x40 + 0x24);
+    file.Append(Hex("4000 9000"));  // resources at 0x80, names of functions at 0xD0
+    file.FillTo(0x40 + 0x36);
+    file.U8(2);
+    file.FillTo(0x80);
+    file.U16(shift);
+    file.Append(Hex("0380 0200 00000000"));
+    file.Append(entry(kDib, "0000 0180 00000000"));
+    file.Append(entry(kDib, "0000 0280 00000000"));
+    file.Append(Hex("0E80 0200 00000000"));
+    file.Append(entry(group, "0000 0780 00000000"));
+    file.Append(entry(named, "0000 4400 00000000"));
+    file.Append(Hex("0000 024142"));
+    file.FillTo(0x200);
+    file.Append(data.Take());
+    return file.Take();
+}
+
+ByteList Text(const std::string& text) {
+    return {text.begin(), text.end()};
+}
+
+ByteList Chunk(const std::string& name, const ByteList& content) {
+    formats::ByteWriter out;
+    out.Append(Text(name));
+    out.U32(content.size());
+    out.Append(content);
+    out.FillTo((out.Size() + 1) / 2 * 2);
+    return out.Take();
+}
+
+Result<formats::IconSource> Open(const ByteList& file) {
+    return formats::IconSource::Open(std::make_unique<system::MemoryBytes>(ByteList(file)), "file");
+}
+
+std::string Listing(const ByteList& file) {
+    const auto source = Open(file);
+    if (!source) return source.error().number == kIconsElsewhere ? "elsewhere" : "none";
+    std::string text(formats::KindName(source->kind));
+    for (std::size_t i = 0; i < source->count; ++i) {
+        text += " " + *source->NameOf(i);
+        char before = ':';
+        const auto images = source->Images(i);
+        for (const auto& [offset, size, info, index] : *images) {
+            text += before + std::to_string(info.width) + "x" + std::to_string(info.height) + "x" +
+                    std::to_string(info.bitsPerPixel) + (info.png ? "p" : "");
+            before = ',';
+        }
+        if (!source->Icon(i)) text += "!";
+    }
+    return text;
+}
+
+ByteList Patched(ByteList file, const std::vector<Patch>& patches) {
+    for (const auto& [offset, bytes] : patches)
+        std::ranges::copy(Hex(bytes), &file.at(offset));
+    return file;
+}
+
+}  // namespace kestrel::test
