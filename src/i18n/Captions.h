@@ -49,6 +49,12 @@ inline constexpr Text kGradientGreen{"  (G):", "绿(G):"};
 inline constexpr Text kGradientBlue{"  (B):", "蓝(B):"};
 inline constexpr Text kDegrees{"Degrees:", " 角度:"};
 
+// The extraction of icons: its button, and its line for the first icon of the file that it begins
+// with, and of a file chosen since.
+inline constexpr Text kBrowse{"Browse", "提取"};
+inline constexpr Text kFirstIcon{"Icon No 1 Selected.", "选中第1个图标."};
+inline constexpr Text kFirstChosenIcon{"Icon No. 1 Selected.", "选中第1个图标."};
+
 // The About box.
 inline constexpr Text kAboutTitle{"About KestrelIconEditor", "关于 KestrelIconEditor"};
 inline constexpr Text kAboutVersion{"Version ", "版本 "};

@@ -37,6 +37,10 @@ constexpr std::pair<int, Text> kSystemReasons[] = {
     {EINVAL, {"It is no ordinary file", "不是普通文件"}},
     {EFBIG, {"The file is too large", "文件太大"}},
 };
+constexpr Text kIcons{" Icons", " 图标"};
+constexpr Text kIconSelected{"Icon No. %1 Selected.", "选中第 %1个 图标."};
+constexpr Text kContainsNoIcons{"%1 contains no icons.", "%1 没有图标."};
+constexpr Text kCannotOpenSource{"Unable to open the file %1", "不能打开文件 %1"};
 constexpr Text kCannotSaveUntitled{"Unable to save Untitled.", "不能保存 Untitled.ico 文件."};
 constexpr Text kCannotSave{"Unable to save %1", "不能保存 %1 文件."};
 constexpr Text kCannotLoadPalette{"Unable to load the palette file.", "不能打开调色板文件."};
@@ -80,6 +84,22 @@ std::string_view ReasonOf(int systemError, std::string_view description) {
     const auto* reason =
         std::ranges::find(kSystemReasons, systemError, [](const auto& each) { return each.first; });
     return reason == std::end(kSystemReasons) ? description : reason->second.Now();
+}
+
+std::string ExtractionTitle(std::string_view fileTitle, int count) {
+    return WindowTitle(fileTitle) + " - " + std::to_string(count) + std::string(kIcons.Now());
+}
+
+std::string IconSelected(int number) {
+    return Fill(kIconSelected.Now(), std::to_string(number));
+}
+
+std::string ContainsNoIcons(std::string_view fileTitle) {
+    return Fill(kContainsNoIcons.Now(), fileTitle);
+}
+
+std::string CannotOpenSource(std::string_view path) {
+    return Fill(kCannotOpenSource.Now(), path);
 }
 
 std::string CannotSave(std::string_view reason, std::string_view fileTitle) {

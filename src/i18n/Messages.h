@@ -65,6 +65,18 @@ inline constexpr Text kWindows1Icon{"Icons of Windows 1 and 2 cannot be read",
 inline constexpr Text kProgramWithoutIcons{"It is a program without icons that can be read",
                                            "是程序文件, 其中没有可读取的图标"};
 
+// The extraction of icons.
+inline constexpr std::string_view kSourceFilter =
+    "All Files (*.*)|*.*|Animated Cursor Files (*.ani)|*.ani|"
+    "Dynamic Link Library Files (*.dll)|*.dll|Executable Files (*.exe)|*.exe|"
+    "Icon Library Files (*.icl)|*.icl";
+// The title over so many icons of a file.
+std::string ExtractionTitle(std::string_view fileTitle, int count);
+// Numbers count from 1.
+std::string IconSelected(int number);
+std::string ContainsNoIcons(std::string_view fileTitle);
+std::string CannotOpenSource(std::string_view path);
+
 // A save that failed; `reason` is the system's description. Empty file title: a new icon.
 std::string CannotSave(std::string_view reason, std::string_view fileTitle);
 

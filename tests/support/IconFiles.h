@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "formats/DibWriter.h"
+#include "formats/LibraryWriter.h"
+#include "platform/gdi/Blit.h"
+
+namespace kestrel::test {
+
+// The colour of the icons below by their number, counted from 0: no two are alike.
+inline gdi::COLORREF ColorOf(int icon) {
+    return gdi::Rgb(static_cast<std::uint8_t>(icon), static_cast<std::uint8_t>(icon >> 8), 90);
+}
+
+// Of that colour, but pixel 0, 0 is transparent.
+inline formats::ImageBytes ColoredIcon(int icon) {
+    gdi::IconPlanes planes;
+    gdi::PatBlt(planes.mask, planes.Bounds(), gdi::kBlack);
+    gdi::PatBlt(planes.image, planes.Bounds(), ColorOf(icon));
+    planes.SetTransparent(0, 0);
+    return formats::EncodeDib(planes);
+}
+
+// A library of 32 bits with so many icons.
+inline std::vector<std::uint8_t> LibraryOf(int count) {
+    std::vector<formats::LibraryIcon> icons;
+    for (int i = 0; i < count; ++i)
+        icons.push_back({"", {ColoredIcon(i)}});
+    return formats::LibraryBytes(icons).value();
+}
+
+// An animated cursor of the icons 700 and 701, with no more than a reader needs.
+inline std::vector<std::uint8_t> Animation() {
+    std::string file = "RIFF    ACON";
+    for (const int i : {700, 701}) {
+        const auto frame = formats::IconFileOf(std::vector{ColoredIcon(i)});
+        file += "icon";
+        for (unsigned shift = 0; shift < 32; shift += 8)
+            file += static_cast<char>(frame.size() >> shift);
+        file.append(frame.begin(), frame.end());
+    }
+    return {file.begin(), file.end()};
+}
+
+}  // namespace kestrel::test
