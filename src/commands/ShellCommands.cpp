@@ -6,7 +6,6 @@
 #include "commands/ErrorBox.h"
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
-#include "platform/system/Folders.h"
 
 namespace kestrel::commands {
 
@@ -31,13 +30,9 @@ constexpr std::array kSiblings{
 ShellCommands::ShellCommands(const ShellServices& services, ProgramFolders folders)
     : services_(services), folders_(std::move(folders)) {}
 
-// The help lies beside the program, or where an installation puts what is not a program.
 std::string ShellCommands::HelpFile() const {
-    const std::string page = "/help/" + std::string(i18n::UiLanguage()) + "/index.html";
-    const std::string beside = folders_.application + page;
-    const std::string installed = system::InstalledDataFolder(folders_.application) + page;
-    return !services_.files.FileExists(beside) && services_.files.FileExists(installed) ? installed
-                                                                                        : beside;
+    return ProgramFile(folders_, services_.files,
+                       "/help/" + std::string(i18n::UiLanguage()) + "/index.html");
 }
 
 void ShellCommands::mnuHelp_Click() {

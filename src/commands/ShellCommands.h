@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "commands/ProgramFolders.h"
 #include "platform/system/FileSystem.h"
 #include "services/Application.h"
 #include "services/HelpViewer.h"
@@ -12,12 +13,6 @@ namespace kestrel::commands {
 
 // Programs of the same maker that the Tools menu starts.
 enum class Sibling { ScreenCapture, IconBrowser, ClipboardViewer };
-
-// Where the files beside the program lie.
-struct ProgramFolders {
-    std::string application;
-    std::string windows;
-};
 
 struct ShellServices {
     services::Application& application;
