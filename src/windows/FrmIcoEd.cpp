@@ -7,6 +7,7 @@
 #include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
+#include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
 
@@ -93,9 +94,7 @@ void FrmIcoEd::FollowDesktopColors() {
 }
 
 void FrmIcoEd::SetTitle(const std::string& title) {
-    // "[*]" in a window title is the desktop library's place for a modified mark.
-    setWindowTitle(
-        QString::fromStdString(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+    widgets::ShowTitle(*this, QString::fromStdString(title));
 }
 
 void FrmIcoEd::Unload() {

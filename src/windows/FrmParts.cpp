@@ -32,7 +32,7 @@ QHBoxLayout* NewButtons(QDialog& dialog, const i18n::Text& ok, const i18n::Text&
     return row;
 }
 
-QWidget* NewFrame(widgets::SurfaceWidget* picture) {
+QWidget* NewFrame(QWidget* picture) {
     auto* frame = new QFrame;
     frame->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     auto* inside = new QVBoxLayout(frame);
@@ -42,9 +42,9 @@ QWidget* NewFrame(widgets::SurfaceWidget* picture) {
     return frame;
 }
 
-void PlaceDialog(QDialog& dialog) {
+void PlaceDialog(QDialog& dialog, int parts) {
     dialog.layout()->activate();
-    widgets::PlaceOnScreen(dialog, dialog.size(), 2);
+    widgets::PlaceOnScreen(dialog, dialog.size(), parts);
 }
 
 }  // namespace kestrel::windows

@@ -4,7 +4,6 @@
 #include <QDialog>
 
 #include "i18n/Language.h"
-#include "windows/widgets/SurfaceWidget.h"
 
 namespace kestrel::windows {
 
@@ -18,9 +17,10 @@ QVBoxLayout* NewRows(QDialog& dialog, const i18n::Text& title);
 QHBoxLayout* NewButtons(QDialog& dialog, const i18n::Text& ok, const i18n::Text& cancel);
 
 // A picture in a sunken frame.
-QWidget* NewFrame(widgets::SurfaceWidget* picture);
+QWidget* NewFrame(QWidget* picture);
 
-// The dialog's controls are complete: gives it its size and its place on the screen.
-void PlaceDialog(QDialog& dialog);
+// The dialog's controls are complete: gives it its size and its place on the screen, with one part
+// of so many of the free height above it.
+void PlaceDialog(QDialog& dialog, int parts = 2);
 
 }  // namespace kestrel::windows

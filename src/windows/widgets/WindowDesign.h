@@ -45,6 +45,11 @@ inline void PlaceOnScreen(QWidget& window, QSize size, int parts = 3) {
                 area.y() + (area.height() - size.height()) / parts);
 }
 
+// "[*]" in a window title is the desktop library's place for a modified mark.
+inline void ShowTitle(QWidget& window, QString title) {
+    window.setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+}
+
 // A dialog with a title bar that closes it, and no more.
 inline void DressDialog(QDialog& dialog, const QString& title) {
     dialog.setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
