@@ -22,7 +22,8 @@ template <auto kFunction>
 auto& ObjectOf(Commands& c) {
     using Class = typename ClassOfMember<decltype(kFunction)>::Type;
     return std::get<Class&>(std::tie(c.editor, c.editor.Selected(), c.parts.window, c.parts.dialogs,
-                                     c.palette, c.clipboard, c.images, c.documents, c.shell));
+                                     c.palette, c.clipboard, c.images, c.documents, c.extract,
+                                     c.shell));
 }
 
 template <auto kFunction, auto... kArguments>
@@ -72,7 +73,7 @@ bool Speaks(Commands& /*commands*/) {
 // What several rows name.
 inline constexpr Action kNew = Call<&DocumentCommands::mnuNew_Click>;
 inline constexpr Action kOpen = Call<&DocumentCommands::mnuOpen_Click>;
-inline constexpr Action kExtract = kNotBuilt;
+inline constexpr Action kExtract = Call<&ExtractCommands::mnuExtract_Click>;
 inline constexpr Action kSave = Call<&DocumentCommands::mnuSave_Click>;
 inline constexpr Action kUndo = Call<&editing::Editor::PopUndoSnapshot>;
 inline constexpr Action kRedo = Call<&editing::Editor::PopRedoSnapshot>;

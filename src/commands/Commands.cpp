@@ -34,6 +34,8 @@ Commands::Commands(editing::Editor& openEditor, const MainParts& mainParts,
       recent(parts.menus.SmartMenuXP1, services.registry, services.files, boxes,
              services.systemLcid),
       documents(editor, {parts.grid, recent, cdb, services.application, boxes, services.files}),
+      extract(editor, {services.application, services.dialogs, services.boxes, services.files},
+              {documents, parts.dialogs, services.folders}),
       shell({services.application, boxes, services.help, services.files, services.shell},
             services.folders),
       language(parts, services.settings, shell) {}

@@ -7,6 +7,7 @@
 #include "commands/ClipboardCommands.h"
 #include "commands/CommandTable.h"
 #include "commands/DocumentCommands.h"
+#include "commands/ExtractCommands.h"
 #include "commands/ImageCommands.h"
 #include "commands/LanguageCommands.h"
 #include "commands/MainWindow.h"
@@ -56,6 +57,7 @@ struct Commands {
     ImageCommands images;
     ModRecent recent;
     DocumentCommands documents;
+    ExtractCommands extract;
     ShellCommands shell;
     LanguageCommands language;
 };

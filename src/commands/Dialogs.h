@@ -5,6 +5,7 @@
 #include "imaging/ColorAdjustment.h"
 #include "imaging/PasteFit.h"
 #include "platform/gdi/Surface.h"
+#include "tools/IconExtraction.h"
 
 namespace kestrel::commands {
 
@@ -21,6 +22,8 @@ class Dialogs {
     virtual std::optional<gdi::Surface> AskGradient() = 0;
     // How a picture that is larger than the icon is pasted; none when cancelled.
     virtual std::optional<imaging::PasteFit> AskFit(gdi::Size picture) = 0;
+    // Lets the user select an icon, also in other files; true when it is to be taken.
+    virtual bool PickIcon(tools::IconExtraction& extraction) = 0;
     virtual void ShowAbout() = 0;
 };
 

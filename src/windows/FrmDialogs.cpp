@@ -2,6 +2,7 @@
 
 #include "windows/FrmClipData.h"
 #include "windows/FrmColAdj.h"
+#include "windows/FrmIcons.h"
 #include "windows/FrmShades.h"
 #include "windows/frmAbout.h"
 #include "windows/frmGamma.h"
@@ -22,6 +23,10 @@ std::optional<gdi::Surface> FrmDialogs::AskGradient() {
 
 std::optional<imaging::PasteFit> FrmDialogs::AskFit(gdi::Size picture) {
     return FrmClipData(&owner_, picture).Ask();
+}
+
+bool FrmDialogs::PickIcon(tools::IconExtraction& extraction) {
+    return FrmIcons(&owner_, extraction).exec() == QDialog::Accepted;
 }
 
 void FrmDialogs::ShowAbout() {

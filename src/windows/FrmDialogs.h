@@ -15,6 +15,7 @@ class FrmDialogs : public commands::Dialogs {
     std::optional<int> AskGamma() override;
     std::optional<gdi::Surface> AskGradient() override;
     std::optional<imaging::PasteFit> AskFit(gdi::Size picture) override;
+    bool PickIcon(tools::IconExtraction& extraction) override;
     void ShowAbout() override;
 
   private:

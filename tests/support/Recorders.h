@@ -35,6 +35,7 @@ class AnsweredDialogs : public commands::Dialogs {
     std::optional<int> AskGamma() override { return gamma; }
     std::optional<gdi::Surface> AskGradient() override { return gradient; }
     std::optional<imaging::PasteFit> AskFit(gdi::Size /*picture*/) override { return fit; }
+    bool PickIcon(tools::IconExtraction& /*extraction*/) override { return false; }
     void ShowAbout() override {}
 
     gdi::Surface shown{0, 0};

@@ -32,10 +32,11 @@ class WindowTest : public testing::Test {
     QWidget* Control(const std::string& name) { return window_.findChild<QWidget*>(name.c_str()); }
     std::string Hint() { return window_.StatusText(editing::StatusPanel::Hint); }
     // What is on the screen is what a complete repaint would show.
-    testing::AssertionResult ScreenIsFresh() {
+    testing::AssertionResult ScreenIsFresh() { return ScreenIsFresh(window_); }
+    static testing::AssertionResult ScreenIsFresh(QWidget& window) {
         QApplication::processEvents();
-        const QImage shown = window_.screen()->grabWindow(window_.winId()).toImage();
-        const QImage fresh = window_.grab().toImage().convertToFormat(shown.format());
+        const QImage shown = window.screen()->grabWindow(window.winId()).toImage();
+        const QImage fresh = window.grab().toImage().convertToFormat(shown.format());
         return shown == fresh ? testing::AssertionSuccess() : testing::AssertionFailure();
     }
 

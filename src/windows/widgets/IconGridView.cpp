@@ -1,0 +1,82 @@
+#include "windows/widgets/IconGridView.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/Pictures.h"
+
+namespace kestrel::widgets {
+
+namespace {
+
+using tools::IconGrid;
+
+QRect ToRect(gdi::Rect area) {
+    return {area.left, area.top, area.width, area.height};
+}
+
+// Of the row at this height; a row outside has none.
+int FirstIconAt(int y) {
+    return y / IconGrid::kCellSize * IconGrid::kColumns;
+}
+
+}  // namespace
+
+IconGridView::IconGridView(tools::IconExtraction& extraction, QWidget* parent)
+    : QWidget(parent), extraction_(extraction) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    ShowFile();
+}
+
+void IconGridView::ShowFile() {
+    setFixedSize(IconGrid::kWidth, extraction_.Grid().Height());
+    boxed_ = extraction_.SelectedIndex();
+    update();
+}
+
+void IconGridView::ShowSelection() {
+    UpdateBox(std::exchange(boxed_, extraction_.SelectedIndex()));
+    UpdateBox(boxed_);
+}
+
+void IconGridView::UpdateBox(int icon) {
+    update(ToRect(extraction_.Grid().BoxOf(icon)));
+}
+
+void IconGridView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), Qt::white);
+    const IconGrid& grid = extraction_.Grid();
+    const int end =
+        std::min(FirstIconAt(event->rect().bottom()) + IconGrid::kColumns, grid.Count());
+    for (int icon = FirstIconAt(event->rect().top()); icon < end; ++icon) {
+        const QRect picture = ToRect(grid.PictureOf(icon));
+        if (event->region().intersects(picture))
+            painter.drawImage(picture.topLeft(),
+                              desktop::ToImage(extraction_.PictureOf(icon),
+                                               {0, 0, picture.width(), picture.height()}));
+    }
+    if (!extraction_.HasIcons()) return;
+    // Filled: a line may leave out a side where a unit is no whole number of pixels.
+    const QRect box = ToRect(grid.BoxOf(boxed_));
+    for (const QRect& side : QRegion(box) - box.adjusted(1, 1, -1, -1))
+        painter.fillRect(side, Qt::black);
+}
+
+void IconGridView::mousePressEvent(QMouseEvent* /*event*/) {
+    doubleClicked_ = false;
+}
+
+void IconGridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    doubleClicked_ = event->button() == Qt::LeftButton;
+}
+
+void IconGridView::mouseReleaseEvent(QMouseEvent* event) {
+    const bool second = std::exchange(doubleClicked_, false);
+    if (onMouseUp && visibleRegion().contains(event->pos())) onMouseUp(event->pos(), second);
+}
+
+}  // namespace kestrel::widgets
