@@ -15,8 +15,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
              std::span(*entries).first(std::min<std::size_t>(entries->size(), 16)))
             static_cast<void>(formats::DecodeImage(file, entry).has_value());
     }
-    if (const auto best = formats::ReadBestImage(file)) {
-        static_cast<void>(gdi::Stretched(best->planes, gdi::kIconSize, gdi::kIconSize));
-    }
+    static_cast<void>(formats::ReadBestImage(file, gdi::Size{gdi::kIconSize, gdi::kIconSize}));
     return 0;
 }
