@@ -79,7 +79,7 @@ truncate -s 400M "$scratch/endless.bmp"
 Own image/bmp "$scratch/endless.bmp"
 Pastes HasKeyboard '* - Error'
 ExpectError '*image on the clipboard*' '* - Icon.ico'
-ExpectMemory 400000
+ExpectMemory 130000
 
 # An owner that does not answer any more keeps the editor waiting for less than a second.
 Own image/png "$scratch/dot.png"
