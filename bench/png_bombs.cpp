@@ -7,6 +7,7 @@
 #include <unistd.h>
 #include <zlib.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
@@ -213,10 +214,8 @@ struct Cost {
 
 // Runs a program, whose output is dropped.
 Cost CostOf(std::vector<std::string> words) {
-    std::vector<char*> arguments;
-    for (std::string& word : words)
-        arguments.push_back(word.data());
-    arguments.push_back(nullptr);
+    std::vector<char*> arguments(words.size() + 1);
+    std::ranges::transform(words, arguments.begin(), [](std::string& word) { return word.data(); });
     rusage usage{};
     const auto run = [&] {
         if (std::freopen("/dev/null", "w", stdout) != nullptr &&
@@ -225,20 +224,15 @@ Cost CostOf(std::vector<std::string> words) {
         _exit(127);
     };
     const int exitCode = Apart(run, &usage);
-    double milliseconds = 0;
-    for (const timeval& time : {usage.ru_utime, usage.ru_stime})
-        milliseconds +=
-            static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
-    return {static_cast<double>(usage.ru_maxrss) / 1024, milliseconds, exitCode};
+    const auto seconds = static_cast<double>(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec);
+    const auto micros = static_cast<double>(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec);
+    return {static_cast<double>(usage.ru_maxrss) / 1024, seconds * 1e3 + micros / 1e3, exitCode};
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 2 && argc != 3) {
-        std::fputs("Usage: png_bombs <folder> [<kestrel-icon>]\n", stderr);
-        return 2;
-    }
+    if (argc != 2 && argc != 3) return 2;
     const std::string folder = argv[1];
     if (Apart([&] { WriteAll(folder + "/"); }) != 0) return 1;
     if (argc == 2) return 0;
