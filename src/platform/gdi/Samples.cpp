@@ -10,14 +10,11 @@ namespace kestrel::gdi {
 
 namespace {
 
-int SourceOf(int i, int from, int to) {
-    return static_cast<int>(std::int64_t{i} * from / to);
-}
-
 std::vector<int> Stretch(int from, int to) {
-    std::vector<int> places;
-    for (int i = 0; i < to; ++i)
-        places.push_back(SourceOf(i, from, to));
+    std::vector<int> places(static_cast<std::size_t>(to));
+    std::int64_t i = 0;
+    for (int& place : places)
+        place = static_cast<int>(i++ * from / to);
     return places;
 }
 
