@@ -30,7 +30,7 @@ Result<IconSource> IconSource::Open(std::unique_ptr<system::ByteSource> bytes, s
     IconSource source(std::move(bytes));
     const Format* format = FormatOf(file);
     if (format != nullptr) source.table_ = format->list(file);
-    if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
+    if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
     if (source.table_.icons.empty()) return WithoutIcons(source.table_);
     source.format_ = format;
     source.kind = format->kind;
@@ -63,7 +63,7 @@ Result<IconImage> IconSource::Icon(std::size_t icon, std::optional<gdi::Size> si
         const auto bytes = ReadStoredImage(file, image);
         return DecodeStored(bytes, image.info, size.value_or(SizeOf(image.info)), work);
     });
-    if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
+    if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
     if (!best) return Damaged();
     return *std::move(best);
 }
@@ -80,7 +80,7 @@ Result<IconImage> IconSource::Decode(const ImageEntry& image, std::optional<gdi:
 Result<std::vector<std::uint8_t>> IconSource::Stored(const ImageEntry& image) const {
     SourceReader file(*bytes_);
     auto bytes = ReadStoredImage(file, image);
-    if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
+    if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
     return bytes;
 }
 

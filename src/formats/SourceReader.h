@@ -52,6 +52,8 @@ class SourceReader {
         if (failure_) return tl::unexpected(*failure_);
         return {};
     }
+    // And whether the file is still the same.
+    Result<void> CheckUnchanged() const { return failure_ ? Check() : source_.CheckUnchanged(); }
 
   private:
     void Read(std::uint64_t offset, std::span<std::uint8_t> out);

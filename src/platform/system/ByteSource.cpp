@@ -14,11 +14,17 @@
 namespace kestrel::system {
 namespace {
 
-// Records of a table and the heads of pictures mostly follow each other closely: a block that goes
-// on from the last one is large, which takes hardly longer to read; any other is a page.
-constexpr std::uint64_t kPage = 4096;
-constexpr std::size_t kBlockSize = 8 * kPage;
+// Records of tables follow each other: where one goes on from another, and at the start of the
+// file, a block is read. Heads of pictures lie apart and are read alone: to copy what lies between
+// them takes longer than to ask for each.
+constexpr std::uint64_t kBlockSize = 32768;
 constexpr std::size_t kBlocks = 8;
+constexpr std::size_t kLargestRecord = 256;
+constexpr std::uint64_t kNear = 64;
+// Tables are read side by side: so many records that were read alone are remembered.
+constexpr std::size_t kRecentRecords = 4;
+// To look whether the file is still the same takes as long as to read a record.
+constexpr unsigned kReadsUnwatched = 64;
 
 bool SameTime(const timespec& one, const timespec& other) {
     return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
@@ -28,7 +34,7 @@ tl::unexpected<Error> Changed() {
     return Fail(kFileChanged, "The file was changed while it was read");
 }
 
-// An open file. Small parts are taken from the blocks that were asked for last.
+// An open file. Small parts are taken from the blocks that were used last.
 class FileBytes : public ByteSource {
   public:
     FileBytes(int file, const struct stat& status) : file_(file), status_(status) {}
@@ -38,6 +44,7 @@ class FileBytes : public ByteSource {
 
     std::uint64_t Size() const override { return static_cast<std::uint64_t>(status_.st_size); }
     Result<void> Read(std::uint64_t offset, std::span<std::uint8_t> out) override;
+    Result<void> CheckUnchanged() override;
 
   private:
     struct Block {
@@ -50,22 +57,23 @@ class FileBytes : public ByteSource {
         std::span<std::uint8_t> bytes{};
     };
 
-    Result<void> ReadFromDisk(std::uint64_t offset, std::span<std::uint8_t> out) const;
-    Result<std::span<const std::uint8_t>> BlockAt(std::uint64_t offset);
-    Block& PlaceFor(std::uint64_t offset);
+    Result<void> ReadFromDisk(std::uint64_t offset, std::span<std::uint8_t> out);
+    Block* FindBlock(std::uint64_t offset);
+    Result<Block*> ReadBlock(std::uint64_t offset);
+    bool StandsAlone(std::uint64_t offset, std::size_t size);
 
     int file_;
     struct stat status_;
+    unsigned reads_ = 0;
     std::unique_ptr<std::uint8_t[]> memory_ =
         std::make_unique_for_overwrite<std::uint8_t[]>(kBlocks * kBlockSize);
     std::array<Block, kBlocks> blocks_{};
     std::uint64_t uses_ = 0;
-    // Where the block ends that was read last.
-    std::uint64_t readTo_ = 0;
+    std::array<std::uint64_t, kRecentRecords> recordEnds_{};
+    std::size_t oldestRecord_ = 0;
 };
 
-// The file must be the same after it was read as it was when it was opened.
-Result<void> FileBytes::ReadFromDisk(std::uint64_t offset, std::span<std::uint8_t> out) const {
+Result<void> FileBytes::ReadFromDisk(std::uint64_t offset, std::span<std::uint8_t> out) {
     while (!out.empty()) {
         const ssize_t count =
             Retry([&] { return pread(file_, out.data(), out.size(), static_cast<off_t>(offset)); });
@@ -74,46 +82,59 @@ Result<void> FileBytes::ReadFromDisk(std::uint64_t offset, std::span<std::uint8_
         offset += static_cast<std::uint64_t>(count);
         out = out.subspan(static_cast<std::size_t>(count));
     }
+    if (++reads_ % kReadsUnwatched == 0) return CheckUnchanged();
+    return {};
+}
+
+Result<void> FileBytes::CheckUnchanged() {
     struct stat now {};
     if (fstat(file_, &now) < 0) return SystemFailure(errno);
     if (now.st_size != status_.st_size || !SameTime(now.st_mtim, status_.st_mtim)) return Changed();
     return {};
 }
 
-// The block that holds this byte, or else the one that has not been used for the longest.
-FileBytes::Block& FileBytes::PlaceFor(std::uint64_t offset) {
+FileBytes::Block* FileBytes::FindBlock(std::uint64_t offset) {
     auto* const found =
         std::ranges::find_if(blocks_, [offset](const Block& block) { return block.Has(offset); });
-    return found != blocks_.end() ? *found
-                                  : *std::ranges::min_element(blocks_, {}, &Block::lastUse);
+    return found != blocks_.end() ? found : nullptr;
 }
 
-// What the block that holds this byte has from it on.
-Result<std::span<const std::uint8_t>> FileBytes::BlockAt(std::uint64_t offset) {
-    Block& block = PlaceFor(offset);
-    block.lastUse = ++uses_;
-    if (!block.Has(offset)) {
-        const auto place = static_cast<std::size_t>(&block - blocks_.data());
-        const std::uint64_t start = offset - offset % kPage;
-        const bool goesOn = start >= readTo_ && start - readTo_ < kBlockSize;
-        const auto size = std::min(goesOn ? kBlockSize : kPage, Size() - start);
-        block = {start, uses_, {}};
-        const std::span bytes(&memory_[place * kBlockSize], static_cast<std::size_t>(size));
-        if (auto read = ReadFromDisk(start, bytes); !read) return tl::unexpected(read.error());
-        block.bytes = bytes;
-        readTo_ = start + size;
-    }
-    return block.bytes.subspan(static_cast<std::size_t>(offset - block.start));
+// Reads the block that begins here in place of the one that was not used for the longest.
+Result<FileBytes::Block*> FileBytes::ReadBlock(std::uint64_t offset) {
+    Block* block = std::ranges::min_element(blocks_, {}, &Block::lastUse);
+    const auto place = static_cast<std::size_t>(block - blocks_.data());
+    const std::uint64_t size = std::min(kBlockSize, Size() - offset);
+    *block = {offset, 0, {}};
+    const std::span bytes(&memory_[place * kBlockSize], static_cast<std::size_t>(size));
+    if (auto read = ReadFromDisk(offset, bytes); !read) return tl::unexpected(read.error());
+    block->bytes = bytes;
+    return block;
+}
+
+bool FileBytes::StandsAlone(std::uint64_t offset, std::size_t size) {
+    if (size > kLargestRecord || offset < kBlockSize) return false;
+    for (const std::uint64_t end : recordEnds_)
+        if (offset >= end && offset - end <= kNear) return false;
+    recordEnds_[oldestRecord_] = offset + size;
+    oldestRecord_ = (oldestRecord_ + 1) % kRecentRecords;
+    return true;
 }
 
 Result<void> FileBytes::Read(std::uint64_t offset, std::span<std::uint8_t> out) {
     assert(offset <= Size() && out.size() <= Size() - offset);
     if (out.size() > kBlockSize) return ReadFromDisk(offset, out);
     while (!out.empty()) {
-        const auto block = BlockAt(offset);
-        if (!block) return tl::unexpected(block.error());
-        const std::size_t count = std::min(out.size(), block->size());
-        std::copy_n(block->begin(), count, out.begin());
+        Block* block = FindBlock(offset);
+        if (block == nullptr) {
+            if (StandsAlone(offset, out.size())) return ReadFromDisk(offset, out);
+            const auto read = ReadBlock(offset);
+            if (!read) return tl::unexpected(read.error());
+            block = *read;
+        }
+        block->lastUse = ++uses_;
+        const auto rest = block->bytes.subspan(static_cast<std::size_t>(offset - block->start));
+        const std::size_t count = std::min(out.size(), rest.size());
+        std::copy_n(rest.begin(), count, out.begin());
         offset += count;
         out = out.subspan(count);
     }

@@ -21,8 +21,11 @@ class ByteSource {
     virtual ~ByteSource() = default;
 
     virtual std::uint64_t Size() const = 0;
-    // Fills `out` with the bytes from `offset` on; all of them lie below Size().
+    // Fills `out` with the bytes from `offset` on; all of them lie below Size(). That another
+    // program wrote to the file is noticed by and by.
     virtual Result<void> Read(std::uint64_t offset, std::span<std::uint8_t> out) = 0;
+    // Notices it at once.
+    virtual Result<void> CheckUnchanged() = 0;
 };
 
 // Bytes in memory; a span must outlive its source.
@@ -36,6 +39,7 @@ class MemoryBytes : public ByteSource {
 
     std::uint64_t Size() const override { return bytes_.size(); }
     Result<void> Read(std::uint64_t offset, std::span<std::uint8_t> out) override;
+    Result<void> CheckUnchanged() override { return {}; }
 
   private:
     std::vector<std::uint8_t> owned_;
