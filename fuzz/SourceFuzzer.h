@@ -18,8 +18,8 @@ inline void ReadAs(formats::SourceKind kind, std::span<const std::uint8_t> file)
     const formats::IconTable table = format->list(reader);
     for (const auto& icon :
          std::span(table.icons).first(std::min<std::size_t>(table.icons.size(), 8))) {
-        if (icon.named) static_cast<void>(format->text(reader, icon.name));
-        static_cast<void>(format->images(reader, table, icon, SIZE_MAX));
+        if (icon.place.named) static_cast<void>(format->text(reader, icon.place.name));
+        static_cast<void>(format->others(reader, table, icon));
     }
 }
 

@@ -108,6 +108,13 @@ std::vector<std::uint32_t> Steps(SourceReader& file, const Chunks& chunks) {
     return steps;
 }
 
+// A frame is an icon or cursor file of its own or a bare bitmap.
+std::vector<ImageEntry> FrameImages(SourceReader& file, Extent frame, std::size_t most) {
+    if (IsDirectory(file, frame.offset)) return DirectoryImages(file, frame, most);
+    const auto image = ReadImageHead(file, frame, {});
+    return image ? std::vector{*image} : std::vector<ImageEntry>{};
+}
+
 }  // namespace
 
 bool IsAni(SourceReader& file) {
@@ -115,29 +122,32 @@ bool IsAni(SourceReader& file) {
     return head.U32(0) == Name("RIFF") && head.U32(8) == Name("ACON");
 }
 
-std::vector<ImageEntry> FrameImages(SourceReader& file, const IconTable& /*table*/,
-                                    const IconPlace& step, std::size_t most) {
-    if (IsDirectory(file, step.offset)) return DirectoryImages(file, step.Where(), most);
-    const auto image = ReadImageHead(file, step.Where(), {});
-    return image ? std::vector{*image} : std::vector<ImageEntry>{};
-}
-
 // The first step that cannot be drawn ends the animation.
 IconTable ListAni(SourceReader& file) {
     const Chunks chunks = ChunkWalk(file).Collect();
     IconTable table;
-    std::vector<bool> readable(chunks.frames.size());
+    std::vector<std::optional<ImageEntry>> firsts(chunks.frames.size());
     for (const std::uint32_t frame : Steps(file, chunks)) {
         if (frame >= chunks.frames.size()) break;
         const Extent place = chunks.frames[frame];
-        const IconPlace step{static_cast<std::uint32_t>(place.offset),
-                             static_cast<std::uint32_t>(place.size),
-                             static_cast<std::uint32_t>(table.icons.size()) + 1};
-        if (!readable[frame]) readable[frame] = !FrameImages(file, table, step, 1).empty();
-        if (!readable[frame]) break;
-        table.icons.push_back(step);
+        if (!firsts[frame]) {
+            const auto images = FrameImages(file, place, 1);
+            if (images.empty()) break;
+            firsts[frame] = images.front();
+        }
+        const auto step = static_cast<std::uint32_t>(table.icons.size()) + 1;
+        table.icons.push_back({{static_cast<std::uint32_t>(place.offset),
+                                static_cast<std::uint32_t>(place.size), step},
+                               *firsts[frame]});
     }
     return table;
+}
+
+std::vector<ImageEntry> OtherFrameImages(SourceReader& file, const IconTable& /*table*/,
+                                         const ListedIcon& step) {
+    auto images = FrameImages(file, step.place.Where(), SIZE_MAX);
+    if (!images.empty()) images.erase(images.begin());
+    return images;
 }
 
 }  // namespace kestrel::formats

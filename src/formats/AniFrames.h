@@ -12,8 +12,7 @@ namespace kestrel::formats {
 bool IsAni(SourceReader& file);
 // One icon a step, in the order of the sequence.
 IconTable ListAni(SourceReader& file);
-// A frame is an icon or cursor file of its own or a bare bitmap.
-std::vector<ImageEntry> FrameImages(SourceReader& file, const IconTable& table,
-                                    const IconPlace& step, std::size_t most);
+std::vector<ImageEntry> OtherFrameImages(SourceReader& file, const IconTable& table,
+                                         const ListedIcon& step);
 
 }  // namespace kestrel::formats

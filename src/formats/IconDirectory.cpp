@@ -68,16 +68,10 @@ IconTable ListDirectory(SourceReader& file) {
     IconTable table;
     for (const ImageEntry& image : DirectoryImages(file, {0, file.Size()}, kMostIcons)) {
         const auto entry = static_cast<std::uint32_t>(kHeadSize + kEntrySize * image.index);
-        table.icons.push_back({entry, kEntrySize, static_cast<std::uint32_t>(image.index) + 1});
+        const auto number = static_cast<std::uint32_t>(image.index) + 1;
+        table.icons.push_back({{entry, kEntrySize, number}, image});
     }
     return table;
-}
-
-std::vector<ImageEntry> DirectoryEntryImages(SourceReader& file, const IconTable& /*table*/,
-                                             const IconPlace& icon, std::size_t /*most*/) {
-    const auto entry = file.Record<kEntrySize>(icon.offset);
-    const auto image = EntryImage(file, {0, file.Size()}, icon.name - 1, entry.bytes);
-    return image ? std::vector{*image} : std::vector<ImageEntry>{};
 }
 
 }  // namespace kestrel::formats

@@ -16,8 +16,7 @@ bool IsDirectory(SourceReader& file, std::uint64_t offset);
 // The first `most` usable images of an icon or cursor file that lies in this extent.
 std::vector<ImageEntry> DirectoryImages(SourceReader& file, Extent directory, std::size_t most);
 
+// One icon an image.
 IconTable ListDirectory(SourceReader& file);
-std::vector<ImageEntry> DirectoryEntryImages(SourceReader& file, const IconTable& table,
-                                             const IconPlace& icon, std::size_t most);
 
 }  // namespace kestrel::formats

@@ -1,7 +1,5 @@
 #include "formats/IconFile.h"
 
-#include <algorithm>
-#include <iterator>
 #include <set>
 #include <utility>
 
@@ -37,8 +35,8 @@ Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file) {
     const Format* format = FormatOf(reader);
     if (format != nullptr && IsOneIcon(format->kind)) {
         const IconTable table = format->list(reader);
-        for (const IconPlace& icon : table.icons)
-            std::ranges::move(format->images(reader, table, icon, 1), std::back_inserter(entries));
+        for (const ListedIcon& icon : table.icons)
+            entries.push_back(icon.first);
     }
     if (entries.empty()) return Refuse(file);
     return entries;

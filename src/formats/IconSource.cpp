@@ -40,7 +40,7 @@ Result<IconSource> IconSource::Open(std::unique_ptr<system::ByteSource> bytes, s
 }
 
 Result<std::string> IconSource::NameOf(std::size_t icon) const {
-    const IconPlace& place = table_.icons.at(icon);
+    const IconPlace& place = table_.icons.at(icon).place;
     if (!place.named) return std::to_string(place.name);
     SourceReader file(*bytes_);
     std::string text = format_->text(file, place.name);
@@ -49,9 +49,11 @@ Result<std::string> IconSource::NameOf(std::size_t icon) const {
 }
 
 Result<std::vector<ImageEntry>> IconSource::Images(std::size_t icon) const {
+    const ListedIcon& listed = table_.icons.at(icon);
     SourceReader file(*bytes_);
-    auto images = format_->images(file, table_, table_.icons.at(icon), SIZE_MAX);
+    auto images = format_->others(file, table_, listed);
     if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
+    images.insert(images.begin(), listed.first);
     return images;
 }
 

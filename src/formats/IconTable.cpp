@@ -18,26 +18,26 @@ bool SniffPng(SourceReader& file) {
     return IsPng(file.Record<8>(0).bytes);
 }
 
-std::vector<ImageEntry> PngImages(SourceReader& file, const IconTable& /*table*/,
-                                  const IconPlace& icon, std::size_t /*most*/) {
-    const auto image = ReadImageHead(file, icon.Where(), {}, kMaxPngSide);
-    return image ? std::vector{*image} : std::vector<ImageEntry>{};
-}
-
 IconTable ListPng(SourceReader& file) {
     IconTable table;
     const IconPlace whole{0, static_cast<std::uint32_t>(file.Size()), 1, false};
-    if (!PngImages(file, table, whole, 1).empty()) table.icons.push_back(whole);
+    if (const auto image = ReadImageHead(file, whole.Where(), {}, kMaxPngSide))
+        table.icons.push_back({whole, *image});
     return table;
 }
 
+std::vector<ImageEntry> NoOthers(SourceReader& /*file*/, const IconTable& /*table*/,
+                                 const ListedIcon& /*icon*/) {
+    return {};
+}
+
 constexpr std::array kFormats{
-    Format{SourceKind::Ico, "ICO", IsIconFile, ListDirectory, DirectoryEntryImages, nullptr},
-    Format{SourceKind::Cur, "CUR", IsCursorFile, ListDirectory, DirectoryEntryImages, nullptr},
-    Format{SourceKind::Png, "PNG", SniffPng, ListPng, PngImages, nullptr},
-    Format{SourceKind::Pe, "PE", IsPe, ListPe, ResourceImages, PeText},
-    Format{SourceKind::Ne, "NE", IsNe, ListNe, ResourceImages, NeText},
-    Format{SourceKind::Ani, "ANI", IsAni, ListAni, FrameImages, nullptr},
+    Format{SourceKind::Ico, "ICO", IsIconFile, ListDirectory, NoOthers, nullptr},
+    Format{SourceKind::Cur, "CUR", IsCursorFile, ListDirectory, NoOthers, nullptr},
+    Format{SourceKind::Png, "PNG", SniffPng, ListPng, NoOthers, nullptr},
+    Format{SourceKind::Pe, "PE", IsPe, ListPe, OtherGroupImages, PeText},
+    Format{SourceKind::Ne, "NE", IsNe, ListNe, OtherGroupImages, NeText},
+    Format{SourceKind::Ani, "ANI", IsAni, ListAni, OtherFrameImages, nullptr},
 };
 
 }  // namespace

@@ -29,9 +29,15 @@ struct IconPlace {
     bool named = false;
 };
 
+// An icon of which an image can be read. The first is kept: who lists icons asks for it next.
+struct ListedIcon {
+    IconPlace place;
+    ImageEntry first;
+};
+
 // What listing a file finds.
 struct IconTable {
-    std::vector<IconPlace> icons;
+    std::vector<ListedIcon> icons;
     // Whether the icons are groups, and the images that these name by number, in that order.
     bool grouped = false;
     std::vector<IconPlace> images;
@@ -46,9 +52,9 @@ struct Format {
     std::string_view name;
     bool (*sniff)(SourceReader& file);
     IconTable (*list)(SourceReader& file);
-    // The usable images of a listed icon, the first `most` of them.
-    std::vector<ImageEntry> (*images)(SourceReader& file, const IconTable& table,
-                                      const IconPlace& icon, std::size_t most);
+    // The icon's other usable images.
+    std::vector<ImageEntry> (*others)(SourceReader& file, const IconTable& table,
+                                      const ListedIcon& icon);
     // The text at a name's offset; nullptr where icons have no names.
     std::string (*text)(SourceReader& file, std::uint64_t offset);
 };

@@ -1,6 +1,7 @@
 #include "formats/ResourceIcons.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "formats/StoredImage.h"
@@ -21,11 +22,6 @@ std::size_t EntryCount(SourceReader& file, const IconPlace& group) {
     return static_cast<std::size_t>(std::min(count, (room - kHeadSize) / kEntrySize));
 }
 
-std::vector<ImageEntry> LoneImage(SourceReader& file, const IconPlace& icon) {
-    const auto image = ReadImageHead(file, icon.Where(), {});
-    return image ? std::vector{*image} : std::vector<ImageEntry>{};
-}
-
 // The first image of this number as stored, if any.
 const IconPlace* FindImage(const IconTable& table, std::uint32_t number) {
     const auto found = std::ranges::lower_bound(table.images, number, {}, &IconPlace::name);
@@ -33,22 +29,25 @@ const IconPlace* FindImage(const IconTable& table, std::uint32_t number) {
 }
 
 // An entry tells a size, as one of an icon file does, and an image's number in place of its offset.
-// Each that is looked at takes one off `budget`.
-std::vector<ImageEntry> GroupImages(SourceReader& file, const IconTable& table,
-                                    const IconPlace& group, std::size_t most, std::size_t& budget) {
-    const std::size_t count = EntryCount(file, group);
-    std::vector<ImageEntry> images;
-    for (std::size_t i = 0; i < count && images.size() < most && budget > 0; ++i, --budget) {
-        const auto entry = file.Record<kEntrySize>(group.offset + kHeadSize + i * kEntrySize);
-        const IconPlace* stored = FindImage(table, entry.U16(12));
-        if (stored == nullptr) continue;
-        auto image = ReadImageHead(file, stored->Where(),
-                                   {DirectorySide(entry.bytes[0]), DirectorySide(entry.bytes[1])});
-        if (!image) continue;
-        image->index = i;
-        images.push_back(*image);
-    }
-    return images;
+std::optional<ImageEntry> GroupImage(SourceReader& file, const IconTable& table,
+                                     const IconPlace& group, std::size_t index) {
+    const auto entry = file.Record<kEntrySize>(group.offset + kHeadSize + index * kEntrySize);
+    const IconPlace* stored = FindImage(table, entry.U16(12));
+    if (stored == nullptr) return std::nullopt;
+    auto image = ReadImageHead(file, stored->Where(),
+                               {DirectorySide(entry.bytes[0]), DirectorySide(entry.bytes[1])});
+    if (image) image->index = index;
+    return image;
+}
+
+// Each entry that is looked at takes one off `budget`.
+std::optional<ImageEntry> FirstImage(SourceReader& file, const IconTable& table,
+                                     const IconPlace& icon, std::size_t& budget) {
+    if (!table.grouped) return ReadImageHead(file, icon.Where(), {});
+    const std::size_t count = EntryCount(file, icon);
+    for (std::size_t i = 0; i < count && budget > 0; ++i, --budget)
+        if (const auto image = GroupImage(file, table, icon, i)) return image;
+    return std::nullopt;
 }
 
 void KeepReadable(SourceReader& file, IconTable& table, std::vector<IconPlace> candidates) {
@@ -57,9 +56,8 @@ void KeepReadable(SourceReader& file, IconTable& table, std::vector<IconPlace> c
     std::size_t budget = kMostEntries;
     for (const IconPlace& icon : candidates) {
         if (budget == 0 || table.icons.size() == kMostIcons) break;
-        const auto first =
-            table.grouped ? GroupImages(file, table, icon, 1, budget) : LoneImage(file, icon);
-        if (!first.empty()) table.icons.push_back(icon);
+        if (const auto first = FirstImage(file, table, icon, budget))
+            table.icons.push_back({icon, *first});
     }
 }
 
@@ -80,10 +78,13 @@ IconTable ListResources(SourceReader& file, std::vector<IconPlace> groups,
     return table;
 }
 
-std::vector<ImageEntry> ResourceImages(SourceReader& file, const IconTable& table,
-                                       const IconPlace& icon, std::size_t most) {
-    std::size_t budget = SIZE_MAX;
-    return table.grouped ? GroupImages(file, table, icon, most, budget) : LoneImage(file, icon);
+std::vector<ImageEntry> OtherGroupImages(SourceReader& file, const IconTable& table,
+                                         const ListedIcon& icon) {
+    std::vector<ImageEntry> images;
+    const std::size_t count = table.grouped ? EntryCount(file, icon.place) : 0;
+    for (std::size_t i = icon.first.index + 1; i < count; ++i)
+        if (const auto image = GroupImage(file, table, icon.place, i)) images.push_back(*image);
+    return images;
 }
 
 }  // namespace kestrel::formats
