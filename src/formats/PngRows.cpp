@@ -100,7 +100,8 @@ PngRows::PngRows(PngChunks& chunks, const PngChunk& first, std::size_t mostBytes
       row_(1 + mostBytes + kLargestPixel),
       above_(row_.size()) {
     TakeInput(first.content);
-    usable_ = inflateInit(&stream_) == Z_OK;
+    // The chunks' own sums tell of damage; another one over the pixels takes a fifth of the time.
+    usable_ = inflateInit(&stream_) == Z_OK && inflateValidate(&stream_, 0) == Z_OK;
 }
 
 void PngRows::BeginImage() {
