@@ -5,6 +5,7 @@
 #include <csignal>
 #include <cstdio>
 #include <filesystem>
+#include <optional>
 
 #include "app/Startup.h"
 #include "desktop/DialogStyle.h"
@@ -52,12 +53,12 @@ std::string FileIn(const std::string& folder, const std::string& name) {
 
 // Named after the executable. In its folder while it is one's own copy of the program, else in the
 // user's configuration folder.
-std::string SettingsFile(system::FileSystem& files) {
+std::string SettingsFile() {
     std::string folder = system::ApplicationFolder();
     std::error_code unknown;
     const bool installed =
         std::filesystem::is_directory(system::InstalledDataFolder(folder), unknown);
-    if (installed || !files.CanWriteIn(folder)) folder = system::ConfigFolder();
+    if (installed || !system::IsOwnFolder(folder)) folder = system::ConfigFolder();
     return FileIn(folder, system::ExecutableName() + ".ini");
 }
 
@@ -76,18 +77,21 @@ std::uint32_t SeedOfClock() {
     return static_cast<std::uint32_t>(std::chrono::system_clock::now().time_since_epoch().count());
 }
 
-// Answers what needs no window, in the system's language. False when there is nothing to answer.
-bool PrintWhatIsAsked(const std::string& commandLine) {
+// Answers what needs no window, in the system's language. The program's result; nothing when there
+// is nothing to answer.
+std::optional<int> PrintWhatIsAsked(const std::string& commandLine) {
     i18n::SetUiLanguage(i18n::LanguageOfLocale(std::to_string(system::GetSystemDefaultLCID())));
     const std::string text = app::PrintedFor(commandLine, KESTREL_VERSION);
-    std::fputs(text.c_str(), stdout);
-    return !text.empty();
+    if (text.empty()) return std::nullopt;
+    return std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0 ? 1 : 0;
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc == 2 && PrintWhatIsAsked(argv[1])) return 0;
+    if (argc == 2) {
+        if (const auto result = PrintWhatIsAsked(argv[1])) return *result;
+    }
     // A write beyond the file size limit is a failed save, not the end of the program. Not ignored:
     // programs that are started would inherit that.
     std::signal(SIGXFSZ, [](int /*signal*/) {});
@@ -108,7 +112,7 @@ int main(int argc, char* argv[]) {
                                                  system::CurrentDisplay());
     system::DiskFiles files;
     system::FileRegistry registry(files, FileIn(system::ConfigFolder(), "registry.ini"));
-    settings::Settings settings(files, SettingsFile(files));
+    settings::Settings settings(files, SettingsFile());
     desktop::QtMessageBoxes boxes;
     const app::StartupFacts facts = FactsOf(QGuiApplication::primaryScreen(), !lock);
     const auto values = app::PrepareStart(facts, {boxes, registry, files, settings});
@@ -132,5 +136,7 @@ int main(int argc, char* argv[]) {
         if (registry.CatchUp()) settled.stop();
     });
     settled.start(kSettled);
-    return QApplication::exec();
+    const int result = QApplication::exec();
+    registry.CatchUp();
+    return result;
 }

@@ -123,7 +123,6 @@ class MemoryFiles : public system::FileSystem {
         return {};
     }
     bool MakeFolder(const std::string& /*folder*/) override { return true; }
-    bool CanWriteIn(const std::string& /*folder*/) override { return true; }
 
     std::map<std::string, std::vector<std::uint8_t>> contents;
     Error writeError;

@@ -191,8 +191,4 @@ bool DiskFiles::MakeFolder(const std::string& folder) {
     return std::filesystem::is_directory(folder, unreachable);
 }
 
-bool DiskFiles::CanWriteIn(const std::string& folder) {
-    return ::access(folder.c_str(), W_OK | X_OK) == 0;
-}
-
 }  // namespace kestrel::system

@@ -30,7 +30,6 @@ class DiskFiles : public FileSystem {
     Result<void> RemoveFile(const std::string& path) override;
     Result<void> RenameFile(const std::string& from, const std::string& to) override;
     bool MakeFolder(const std::string& folder) override;
-    bool CanWriteIn(const std::string& folder) override;
 
   private:
     std::string Resolved(const std::string& path) const;

@@ -165,13 +165,15 @@ Result<void> FileRegistry::Change(const ProfileEdit& edit) {
 }
 
 Result<void> FileRegistry::MakePutOff() {
-    return ChangeProfile(files_, path_, [edits = std::exchange(putOff_, {})](IniText& ini) {
+    Result<void> made = ChangeProfile(files_, path_, [this](IniText& ini) {
         bool changed = false;
-        for (const ProfileEdit& edit : edits) {
+        for (const ProfileEdit& edit : putOff_) {
             changed |= edit(ini);
         }
         return changed;
     });
+    if (made) putOff_.clear();
+    return made;
 }
 
 bool FileRegistry::CatchUp() {
@@ -179,8 +181,9 @@ bool FileRegistry::CatchUp() {
     patience_ = kPatience;
     if (putOff_.empty()) return true;
     const Result<FileHandle> lock = LockFile(path_ + ".lock", {});
-    if (lock) static_cast<void>(MakePutOff());
-    return putOff_.empty();
+    if (!lock) return lock.error().number != EWOULDBLOCK;
+    static_cast<void>(MakePutOff());
+    return true;
 }
 
 }  // namespace kestrel::system

@@ -38,9 +38,9 @@ class FileRegistry : public Registry {
     Result<void> ChangeValues(RegistryRoot root, std::string_view key,
                               std::span<const NamedValue> values) override;
 
-    // Makes what was put off, unless it still has to be: false then. Never waits; but from the
-    // first call on a change does, for up to 2 s, until that was in vain. A program that starts has
-    // more urgent things to do.
+    // Makes what was put off as far as that can be; false when a lock is still in the way. Never
+    // waits; but from the first call on a change does, for up to 2 s, until that was in vain. A
+    // program that starts has more urgent things to do.
     bool CatchUp();
 
   private:

@@ -61,8 +61,6 @@ class FileSystem {
     // Creates the folder, named as written, and those above it, for this user only where it creates
     // them. False when it does not exist afterwards.
     virtual bool MakeFolder(const std::string& folder) = 0;
-    // Whether this user may create files in the folder, named as written.
-    virtual bool CanWriteIn(const std::string& folder) = 0;
 };
 
 }  // namespace kestrel::system

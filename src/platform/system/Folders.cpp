@@ -54,15 +54,13 @@ bool IsOurs(const std::string& folder) {
 }
 
 // Whether a folder that is not there yet can be made where nobody else could have put another one.
-// The group may be the user's own alone.
 bool WouldBeOurs(std::filesystem::path folder) {
     struct stat status {};
     while (lstat(folder.c_str(), &status) < 0) {
         if (!folder.has_relative_path()) return false;
         folder = folder.parent_path();
     }
-    return stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
-           status.st_uid == geteuid() && (status.st_mode & S_IWOTH) == 0;
+    return IsOwnFolder(folder);
 }
 
 // Empty where nothing may be kept.
@@ -88,6 +86,14 @@ std::string ApplicationFolder() {
 
 std::string ExecutableName() {
     return ExecutablePath().stem().string();
+}
+
+// The group may be the user's own alone.
+bool IsOwnFolder(const std::string& folder) {
+    struct stat status {};
+    return stat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) &&
+           status.st_uid == geteuid() && (status.st_mode & S_IWOTH) == 0 &&
+           access(folder.c_str(), W_OK | X_OK) == 0;
 }
 
 std::string InstalledDataFolder(const std::string& applicationFolder) {

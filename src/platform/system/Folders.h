@@ -11,6 +11,8 @@ namespace kestrel::system {
 std::string ApplicationFolder();
 // The executable's file name without extension.
 std::string ExecutableName();
+// Whether the user can keep files in the folder and nobody else can plant any there.
+bool IsOwnFolder(const std::string& folder);
 // Where an installation keeps what is not a program, seen from the folder of the executable; a
 // program that was merely built has no such folder.
 std::string InstalledDataFolder(const std::string& applicationFolder);
