@@ -144,6 +144,9 @@ void DocumentCommands::SaveUnderNewName() {
 }
 
 void DocumentCommands::SaveInPlace() {
+    // A failed save under another name has left that one.
+    document_.FileTitle = system::NameOnDisk(document_.FilePath);
+    editor_.ShowTitle();
     if (document_.MultipleIcons &&
         parts_.boxes.Show(BoxIcon::Information, BoxButtons::OkCancel,
                           i18n::SeveralIcons(document_.FileTitle),

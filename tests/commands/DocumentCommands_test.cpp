@@ -193,7 +193,7 @@ TEST_F(DocumentCommandsTest, WarnsBeforeReplacingSeveralIcons) {
     given_.files.writeError = {};
     commands_.mnuSave_Click();
     ExpectBox(BoxIcon::Information, BoxButtons::OkCancel,
-              ": \"full.ico\" 文件包含多个图标.\r\n若 \"保存\" 将覆盖此文件中的其它图标.\r\n\r\n"
+              ": \"several.ico\" 文件包含多个图标.\r\n若 \"保存\" 将覆盖此文件中的其它图标.\r\n\r\n"
               "点击‘确定’继续 \"保存\".\r\n点击 ‘取消’ 将 \"另存为\".");
     EXPECT_TRUE(HoldsTheIcon("/icons/several.ico"));
 }
