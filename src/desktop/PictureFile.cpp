@@ -19,6 +19,9 @@ constexpr gdi::COLORREF kOpaque = 0xFF000000;
 // Of the file and what is unpacked of it.
 constexpr qint64 kMostMemory = qint64{52} << 20;
 
+// Of a bitmap only these rows are unpacked.
+constexpr int kMostKeptRows = 324;
+
 constexpr qsizetype kBmpFileHeader = 14;
 constexpr quint32 kCoreHeader = 12;
 constexpr quint32 kInfoHeader = 40;
@@ -94,9 +97,9 @@ bool ComesInScans(const QByteArray& file) {
 // of them costly to read.
 qint64 BytesAPixel(const QByteArray& format, const QByteArray& file) {
     constexpr qint64 kPixel = 4;
-    constexpr qint64 kTwoFrames = 8;
+    constexpr qint64 kPixelTwice = 8;
     constexpr qint64 kPixelAndScans = 10;
-    if (format == "gif") return kTwoFrames;
+    if (format == "gif" || format == "bmp") return kPixelTwice;
     if (format == "jpeg") return ComesInScans(file) ? kPixelAndScans : kPixel;
     return 0;
 }
@@ -158,12 +161,13 @@ Result<gdi::SampledPicture> ReadByLibrary(const QByteArray& file) {
     const QByteArray format = reader.format();
     const bool isBmp = format == "bmp";
     const qint64 bytesAPixel = BytesAPixel(format, file);
-    if (!isBmp && bytesAPixel == 0) return Unreadable();
+    if (bytesAPixel == 0) return Unreadable();
     // Asked before anything is allocated for it. Rows from the top make the height negative.
     const QSize told = reader.size();
     const QSize size(told.width(), std::abs(told.height()));
-    const qint64 unpacked = qint64{size.width()} * size.height() * bytesAPixel;
-    if (size.isEmpty() || unpacked + file.size() > kMostMemory) return Unreadable();
+    if (size.isEmpty()) return Unreadable();
+    const qint64 rows = isBmp ? std::min(size.height(), kMostKeptRows) : size.height();
+    if (qint64{size.width()} * rows * bytesAPixel + file.size() > kMostMemory) return Unreadable();
     gdi::SampledPicture picture(gdi::Size{size.width(), size.height()});
     QImage image;
     if (isBmp) {

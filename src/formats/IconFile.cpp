@@ -7,6 +7,7 @@
 #include "formats/IconTable.h"
 #include "formats/StoredImage.h"
 #include "formats/UnreadableFile.h"
+#include "i18n/Messages.h"
 
 namespace kestrel::formats {
 namespace {
@@ -17,6 +18,11 @@ bool IsOneIcon(SourceKind kind) {
 }
 
 tl::unexpected<Error> Refuse(Bytes file) {
+    system::MemoryBytes bytes(file);
+    SourceReader reader(bytes);
+    const Format* format = FormatOf(reader);
+    if (format != nullptr && !IsOneIcon(format->kind) && !format->list(reader).icons.empty())
+        return Fail(kSeveralIcons, std::string(i18n::kSeveralIconsInside.Now()));
     return tl::unexpected<Error>(WhyUnreadable(file));
 }
 
@@ -49,8 +55,7 @@ Result<std::vector<ImageEntry>> ListWholeImages(std::span<const std::uint8_t> fi
     std::set<std::pair<std::size_t, int>> whole;
     // The best comes first, so that it is never missing.
     for (const ImageEntry& entry : BestFirst(*entries)) {
-        if (work > kMostWork) break;
-        if (!entry.info.png || Decode(file, entry, gdi::Size{1, 1}, work))
+        if (!entry.info.png || work > kMostWork || Decode(file, entry, gdi::Size{1, 1}, work))
             whole.insert({entry.offset, entry.info.height});
     }
     std::erase_if(*entries, [&](const ImageEntry& entry) {

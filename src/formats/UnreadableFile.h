@@ -13,6 +13,7 @@ inline constexpr int kPictureTooLarge = 484;
 inline constexpr int kOs2Icon = 485;
 inline constexpr int kWindows1Icon = 486;
 inline constexpr int kProgramWithoutIcons = 487;
+inline constexpr int kSeveralIcons = 488;
 
 // The reason, in the language in force, why no image of this file could be read.
 Error WhyUnreadable(Bytes file);

@@ -64,6 +64,9 @@ inline constexpr Text kWindows1Icon{"Icons of Windows 1 and 2 cannot be read",
                                     "无法读取 Windows 1 和 2 的图标"};
 inline constexpr Text kProgramWithoutIcons{"It is a program without icons that can be read",
                                            "是程序文件, 其中没有可读取的图标"};
+inline constexpr Text kSeveralIconsInside{
+    "It holds icons of which one is taken with \"Library\" in the File menu",
+    "其中包含多个图标, 请用文件菜单的图标库选取"};
 
 // The extraction of icons.
 inline constexpr std::string_view kSourceFilter =

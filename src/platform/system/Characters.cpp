@@ -1,5 +1,6 @@
 #include "platform/system/Characters.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cwchar>
