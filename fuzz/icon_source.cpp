@@ -15,6 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (std::size_t icon = 0; icon < std::min<std::size_t>(source->count, 8); ++icon) {
         static_cast<void>(source->NameOf(icon).has_value());
         static_cast<void>(formats::ExportIcon(*source, icon).has_value());
+        const auto images = source->Images(icon);
+        if (images && !images->empty()) static_cast<void>(source->Pixels(images->back()));
         static_cast<void>(source->Icon(icon, gdi::Size{gdi::kIconSize, gdi::kIconSize}));
     }
     return 0;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 #include "formats/IconPixels.h"
 
@@ -104,26 +105,45 @@ class DibDecoder {
     Channel alpha_;
 };
 
-}  // namespace
+// Both planes as they are stored; `alpha` tells whether the colours carry any in the top byte, and
+// the mask is read only where they do not.
+struct StoredPlanes {
+    IconImage icon;
+    bool alpha = false;
+};
 
-std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout) {
+std::optional<StoredPlanes> ReadPlanes(Bytes image, const DibLayout& layout) {
     if (layout.maskOffset > image.size()) return std::nullopt;
     const DibDecoder decoder(image, layout);
-    IconImage icon = EmptyImage(layout.info);
+    StoredPlanes stored{EmptyImage(layout.info)};
+    gdi::IconPlanes& planes = stored.icon.planes;
     std::uint32_t anyAlpha = 0;
     for (int y = 0; y < layout.info.height; ++y) {
-        const auto row = icon.planes.image.Row(y);
+        const auto row = planes.image.Row(y);
         decoder.ReadColorRow(y, row);
         for (const COLORREF pixel : row)
             anyAlpha |= pixel >> 24;
     }
-    if (anyAlpha != 0) {
-        SplitAlpha(icon);
-        return icon;
-    }
-    for (int y = 0; y < layout.info.height; ++y)
-        decoder.ReadMaskRow(y, icon.planes.mask.Row(y));
-    return icon;
+    stored.alpha = anyAlpha != 0;
+    for (int y = 0; y < layout.info.height && !stored.alpha; ++y)
+        decoder.ReadMaskRow(y, planes.mask.Row(y));
+    return stored;
+}
+
+}  // namespace
+
+std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout) {
+    auto stored = ReadPlanes(image, layout);
+    if (!stored) return std::nullopt;
+    if (stored->alpha) SplitAlpha(stored->icon);
+    return std::move(stored->icon);
+}
+
+std::optional<gdi::Surface> ReadDibPixels(Bytes image, const DibLayout& layout) {
+    auto stored = ReadPlanes(image, layout);
+    if (!stored) return std::nullopt;
+    if (!stored->alpha) JoinAlpha(stored->icon.planes);
+    return std::move(stored->icon.planes.image);
 }
 
 }  // namespace kestrel::formats

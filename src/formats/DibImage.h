@@ -41,4 +41,7 @@ inline std::optional<DibLayout> ReadDibLayout(Bytes image, int directoryWidth,
 // Decodes the image; nothing when the colour data is cut. A cut mask counts as opaque.
 std::optional<IconImage> DecodeDib(Bytes image, const DibLayout& layout);
 
+// The same as pixels that keep their alpha, as JoinAlpha makes them where there is a mask only.
+std::optional<gdi::Surface> ReadDibPixels(Bytes image, const DibLayout& layout);
+
 }  // namespace kestrel::formats

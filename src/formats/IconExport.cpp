@@ -48,12 +48,11 @@ std::vector<std::uint8_t> IconFileOf(std::span<const ImageBytes> images) {
     return out.Take();
 }
 
-Result<std::vector<std::uint8_t>> ExportIcon(const IconSource& source, std::size_t icon) {
-    const auto entries = source.Images(icon);
-    if (!entries) return tl::unexpected(entries.error());
+Result<std::vector<std::uint8_t>> ExportImages(const IconSource& source,
+                                               std::span<const ImageEntry> entries) {
     std::vector<ImageBytes> images;
     std::size_t size = kHeadBytes;
-    for (const ImageEntry& entry : *entries) {
+    for (const ImageEntry& entry : entries) {
         auto bytes = source.Stored(entry);
         if (!bytes) return tl::unexpected(bytes.error());
         size += kEntryBytes + bytes->size();
@@ -61,6 +60,12 @@ Result<std::vector<std::uint8_t>> ExportIcon(const IconSource& source, std::size
         images.push_back({entry.info, *std::move(bytes)});
     }
     return IconFileOf(images);
+}
+
+Result<std::vector<std::uint8_t>> ExportIcon(const IconSource& source, std::size_t icon) {
+    const auto entries = source.Images(icon);
+    if (!entries) return tl::unexpected(entries.error());
+    return ExportImages(source, *entries);
 }
 
 }  // namespace kestrel::formats

@@ -23,8 +23,11 @@ void WriteDirectoryEntry(ByteWriter& out, const ImageBytes& image);
 // An icon file of these images, each byte for byte.
 std::vector<std::uint8_t> IconFileOf(std::span<const ImageBytes> images);
 
-// The icon with all its images as an icon file of its own. Fails as IconSource does, with EFBIG
-// where it would be larger than any icon file that is read.
+// Images of the source as an icon file of their own. Fails as IconSource does, with EFBIG where it
+// would be larger than any icon file that is read.
+Result<std::vector<std::uint8_t>> ExportImages(const IconSource& source,
+                                               std::span<const ImageEntry> entries);
+// The same of all images of an icon.
 Result<std::vector<std::uint8_t>> ExportIcon(const IconSource& source, std::size_t icon);
 
 }  // namespace kestrel::formats

@@ -1,9 +1,9 @@
 #include "formats/IconFile.h"
 
-#include <set>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
-#include "formats/BestImage.h"
 #include "formats/IconTable.h"
 #include "formats/StoredImage.h"
 #include "formats/UnreadableFile.h"
@@ -11,11 +11,6 @@
 
 namespace kestrel::formats {
 namespace {
-
-// Programs and animations have many icons, of which a user chooses elsewhere.
-bool IsOneIcon(SourceKind kind) {
-    return kind == SourceKind::Ico || kind == SourceKind::Cur || kind == SourceKind::Png;
-}
 
 tl::unexpected<Error> Refuse(Bytes file) {
     system::MemoryBytes bytes(file);
@@ -45,23 +40,6 @@ Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file) {
             entries.push_back(icon.first);
     }
     if (entries.empty()) return Refuse(file);
-    return entries;
-}
-
-Result<std::vector<ImageEntry>> ListWholeImages(std::span<const std::uint8_t> file) {
-    auto entries = ListImages(file);
-    if (!entries) return entries;
-    std::size_t work = 0;
-    std::set<std::pair<std::size_t, int>> whole;
-    // The best comes first, so that it is never missing.
-    for (const ImageEntry& entry : BestFirst(*entries)) {
-        if (!entry.info.png || work > kMostWork || Decode(file, entry, gdi::Size{1, 1}, work))
-            whole.insert({entry.offset, entry.info.height});
-    }
-    std::erase_if(*entries, [&](const ImageEntry& entry) {
-        return !whole.contains({entry.offset, entry.info.height});
-    });
-    if (entries->empty()) return Refuse(file);
     return entries;
 }
 

@@ -30,11 +30,6 @@ inline constexpr std::size_t kMaxIconFileBytes = std::size_t{32} << 20;
 // side is at most 1024 pixels, that of a PNG alone 8192.
 Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file);
 
-// The same without the PNG images that turn out to be damaged, which takes as long as to read all
-// of them: exactly those that DecodeImage reads. After about half a second's work the others are
-// left out too.
-Result<std::vector<ImageEntry>> ListWholeImages(std::span<const std::uint8_t> file);
-
 // Decodes one listed image, or fails with kDamagedPicture. Its planes have the size that is asked
 // for, by repeating or dropping pixels, or else its own; neither may have a side above 1024.
 Result<IconImage> DecodeImage(std::span<const std::uint8_t> file, const ImageEntry& entry,

@@ -20,4 +20,13 @@ void SplitAlpha(IconImage& image) {
     }
 }
 
+void JoinAlpha(gdi::IconPlanes& planes) {
+    for (int y = 0; y < planes.Height(); ++y) {
+        const auto color = planes.image.Row(y);
+        const auto mask = planes.mask.Row(y);
+        for (std::size_t x = 0; x < color.size(); ++x)
+            color[x] = mask[x] == gdi::kWhite ? gdi::kBlack : color[x] | kAlphaBits;
+    }
+}
+
 }  // namespace kestrel::formats

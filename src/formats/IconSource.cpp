@@ -60,14 +60,29 @@ Result<std::vector<ImageEntry>> IconSource::Images(std::size_t icon) const {
 Result<IconImage> IconSource::Icon(std::size_t icon, std::optional<gdi::Size> size) const {
     auto images = Images(icon);
     if (!images) return tl::unexpected(images.error());
+    return Best(*std::move(images), size);
+}
+
+Result<IconImage> IconSource::Best(std::vector<ImageEntry> images,
+                                   std::optional<gdi::Size> size) const {
     SourceReader file(*bytes_);
-    auto best = DecodeBest(*std::move(images), [&](const ImageEntry& image, std::size_t& work) {
+    auto best = DecodeBest(std::move(images), [&](const ImageEntry& image, std::size_t& work) {
         const auto bytes = ReadStoredImage(file, image);
         return DecodeStored(bytes, image.info, size.value_or(SizeOf(image.info)), work);
     });
     if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
     if (!best) return Damaged();
     return *std::move(best);
+}
+
+Result<std::vector<ImageEntry>> IconSource::Whole(std::vector<ImageEntry> images) const {
+    SourceReader file(*bytes_);
+    KeepWhole(images, [&](const ImageEntry& image, std::size_t& work) {
+        return DecodeStored(ReadStoredImage(file, image), image.info, {1, 1}, work);
+    });
+    if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
+    if (images.empty()) return Damaged();
+    return images;
 }
 
 Result<IconImage> IconSource::Decode(const ImageEntry& image, std::optional<gdi::Size> size) const {
@@ -84,6 +99,14 @@ Result<std::vector<std::uint8_t>> IconSource::Stored(const ImageEntry& image) co
     auto bytes = ReadStoredImage(file, image);
     if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
     return bytes;
+}
+
+Result<gdi::Surface> IconSource::Pixels(const ImageEntry& image) const {
+    const auto bytes = Stored(image);
+    if (!bytes) return tl::unexpected(bytes.error());
+    auto pixels = StoredPixels(*bytes, image.info);
+    if (!pixels) return Damaged();
+    return *std::move(pixels);
 }
 
 }  // namespace kestrel::formats

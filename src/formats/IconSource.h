@@ -45,11 +45,20 @@ class IconSource {
     // may have a side above 1024, which only that of a PNG file can.
     Result<IconImage> Icon(std::size_t icon, std::optional<gdi::Size> size = std::nullopt) const;
 
+    // The same for images of this file that are given, and those of them that can be decoded; a PNG
+    // is decoded to know, for about half a second at most.
+    Result<IconImage> Best(std::vector<ImageEntry> images,
+                           std::optional<gdi::Size> size = std::nullopt) const;
+    Result<std::vector<ImageEntry>> Whole(std::vector<ImageEntry> images) const;
+
     // One of Images(): decoded (or kDamagedPicture), and its bytes as they are stored, trimmed to
     // the length that its own header tells.
     Result<IconImage> Decode(const ImageEntry& image,
                              std::optional<gdi::Size> size = std::nullopt) const;
     Result<std::vector<std::uint8_t>> Stored(const ImageEntry& image) const;
+    // Its pixels as 0xAABBGGRR, with the alpha that is stored or else that of the mask. A PNG with
+    // a side above 1024 comes in proportion smaller.
+    Result<gdi::Surface> Pixels(const ImageEntry& image) const;
 
   private:
     explicit IconSource(std::unique_ptr<system::ByteSource> bytes);

@@ -14,6 +14,11 @@ namespace kestrel::formats {
 
 enum class SourceKind { Ico, Cur, Png, Pe, Ne, Ani };
 
+// Whether the file's images are those of one icon. Programs and animations have many icons.
+constexpr bool IsOneIcon(SourceKind kind) {
+    return kind == SourceKind::Ico || kind == SourceKind::Cur || kind == SourceKind::Png;
+}
+
 // No file shows more icons.
 inline constexpr std::size_t kMostIcons = 32767;
 

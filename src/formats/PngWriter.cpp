@@ -3,39 +3,40 @@
 #include <png.h>
 
 #include <algorithm>
-#include <array>
 #include <csetjmp>
 #include <new>
 #include <span>
 #include <utility>
 
+#include "formats/IconPixels.h"
+
 namespace kestrel::formats {
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-using gdi::kIconSize;
-
-constexpr std::size_t kStride = std::size_t{4} * kIconSize;
-constexpr std::uint8_t kOpaque = 255;
-// What zlib may use beside its window; its usual 8 costs more time than the picture itself.
+using ByteList = std::vector<std::uint8_t>;
+// What zlib may use beside its window; its usual 8 costs more time than an icon itself.
 constexpr int kCompressionMemory = 4;
+constexpr std::size_t kBytesAPixel = 4;
+// More than all chunks but the pixels' take, and than these grow where they cannot be compressed.
+constexpr std::size_t kMostOverhead = 4096;
 
 // What libpng's callbacks and the frame that catches its jumps share. Nothing in it has to be
 // unwound by a jump: the owner frees it afterwards.
 struct PngEncoder {
-    explicit PngEncoder(const gdi::IconPlanes& icon);
+    explicit PngEncoder(const gdi::Surface& pixels);
     ~PngEncoder() { png_destroy_write_struct(&png, &info); }
     PngEncoder(const PngEncoder&) = delete;
     PngEncoder& operator=(const PngEncoder&) = delete;
 
     png_structp png = nullptr;
     png_infop info = nullptr;
-    std::array<png_byte, kStride * kIconSize> samples{};  // red, green, blue, alpha
-    std::array<png_bytep, kIconSize> rows{};
-    // More than the file can take: even what cannot be compressed grows only a little.
-    Bytes bytes = Bytes(2 * kStride * kIconSize);
-    std::span<std::uint8_t> unwritten = bytes;
+    gdi::Size size;
+    ByteList samples;  // red, green, blue, alpha
+    std::vector<png_bytep> rows;
+    // As much as the file can take at most.
+    ByteList bytes;
+    std::span<std::uint8_t> unwritten;
 };
 
 [[noreturn]] void OnError(png_structp png, png_const_charp) {
@@ -51,17 +52,19 @@ void WriteBytes(png_structp png, png_bytep data, std::size_t count) {
 }
 void FlushNothing(png_structp) {}
 
-PngEncoder::PngEncoder(const gdi::IconPlanes& icon) {
+PngEncoder::PngEncoder(const gdi::Surface& pixels)
+    : size{pixels.Width(), pixels.Height()},
+      samples(kBytesAPixel * pixels.Pixels().size()),
+      bytes(samples.size() + samples.size() / 8 + kMostOverhead),
+      unwritten(bytes) {
     png_bytep sample = samples.data();
-    for (int y = 0; y < kIconSize; ++y) {
-        rows[static_cast<std::size_t>(y)] = sample;
-        for (int x = 0; x < kIconSize; ++x) {
-            const bool transparent = icon.IsTransparent(x, y);
-            const gdi::COLORREF color = transparent ? gdi::kBlack : icon.image.GetPixel(x, y);
-            *sample++ = gdi::Red(color);
-            *sample++ = gdi::Green(color);
-            *sample++ = gdi::Blue(color);
-            *sample++ = transparent ? png_byte{0} : kOpaque;
+    for (int y = 0; y < size.height; ++y) {
+        rows.push_back(sample);
+        for (const gdi::COLORREF pixel : pixels.Row(y)) {
+            *sample++ = gdi::Red(pixel);
+            *sample++ = gdi::Green(pixel);
+            *sample++ = gdi::Blue(pixel);
+            *sample++ = static_cast<png_byte>(pixel >> 24);
         }
     }
     png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, OnError, OnWarning);
@@ -76,7 +79,8 @@ bool RunEncoder(PngEncoder& encoder) {
     if (png == nullptr || encoder.info == nullptr || setjmp(png_jmpbuf(png)) != 0) return false;
     png_set_compression_mem_level(png, kCompressionMemory);
     png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
-    png_set_IHDR(png, encoder.info, kIconSize, kIconSize, 8, PNG_COLOR_TYPE_RGB_ALPHA,
+    png_set_IHDR(png, encoder.info, static_cast<png_uint_32>(encoder.size.width),
+                 static_cast<png_uint_32>(encoder.size.height), 8, PNG_COLOR_TYPE_RGB_ALPHA,
                  PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
     png_write_info(png, encoder.info);
     png_write_image(png, encoder.rows.data());
@@ -86,8 +90,14 @@ bool RunEncoder(PngEncoder& encoder) {
 
 }  // namespace
 
-Bytes PngBytes(const gdi::IconPlanes& icon) {
-    PngEncoder encoder(icon);
+ByteList PngBytes(const gdi::IconPlanes& icon) {
+    gdi::IconPlanes joined = icon;
+    JoinAlpha(joined);
+    return PngBytes(joined.image);
+}
+
+ByteList PngBytes(const gdi::Surface& pixels) {
+    PngEncoder encoder(pixels);
     // Memory is all that a picture of known size can lack.
     if (!RunEncoder(encoder)) throw std::bad_alloc();
     encoder.bytes.resize(encoder.bytes.size() - encoder.unwritten.size());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <set>
 #include <utility>
 
 #include "formats/BestImage.h"
@@ -80,6 +81,17 @@ std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info, gdi::S
     return icon;
 }
 
+std::optional<gdi::Surface> StoredPixels(Bytes image, const ImageInfo& info) {
+    if (info.png) {
+        std::size_t work = 0;
+        const gdi::Size size = gdi::SizeWithin(SizeOf(info), kMaxImageSide);
+        return ReadPngPixels(image, info, gdi::StretchSamples(SizeOf(info), size), work);
+    }
+    const auto dib = ReadDibLayout(image, info.width, info.height);
+    if (!dib || dib->info != info) return std::nullopt;
+    return ReadDibPixels(image, *dib);
+}
+
 std::optional<IconImage> DecodeBest(std::vector<ImageEntry> entries, const ImageDecoder& decode) {
     std::size_t work = 0;
     for (const ImageEntry& entry : BestFirst(std::move(entries))) {
@@ -87,6 +99,19 @@ std::optional<IconImage> DecodeBest(std::vector<ImageEntry> entries, const Image
         if (auto icon = decode(entry, work)) return icon;
     }
     return std::nullopt;
+}
+
+void KeepWhole(std::vector<ImageEntry>& entries, const ImageDecoder& decode) {
+    std::size_t work = 0;
+    std::set<std::pair<std::size_t, int>> whole;
+    // The best comes first, so that it is never missing.
+    for (const ImageEntry& entry : BestFirst(entries)) {
+        if (work > kMostWork) break;
+        if (!entry.info.png || decode(entry, work)) whole.insert({entry.offset, entry.info.height});
+    }
+    std::erase_if(entries, [&](const ImageEntry& entry) {
+        return !whole.contains({entry.offset, entry.info.height});
+    });
 }
 
 }  // namespace kestrel::formats

@@ -43,10 +43,18 @@ inline gdi::Size SizeOf(const ImageInfo& info) {
 std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info, gdi::Size size,
                                       std::size_t& work);
 
+// The image's pixels as 0xAABBGGRR, with the alpha that is stored or else that of the mask. A PNG
+// with a side above 1024 comes in proportion smaller, by dropping pixels.
+std::optional<gdi::Surface> StoredPixels(Bytes image, const ImageInfo& info);
+
 // Decodes one image in the size that is asked for, or else its own.
 using ImageDecoder = std::function<std::optional<IconImage>(const ImageEntry&, std::size_t& work)>;
 
 // Decodes the image that suits 32 x 32 best of those that can be decoded with the work allowed.
 std::optional<IconImage> DecodeBest(std::vector<ImageEntry> entries, const ImageDecoder& decode);
+
+// Leaves out the PNG images that turn out to be damaged, which takes as long as to read all of
+// them. After the work allowed those that were not looked at are left out too.
+void KeepWhole(std::vector<ImageEntry>& entries, const ImageDecoder& decode);
 
 }  // namespace kestrel::formats

@@ -86,15 +86,23 @@ Result<IconImage> FirstIcon(const ByteList& file) {
     return source->Icon(0);
 }
 
+// Those of an icon file.
+std::vector<ImageEntry> WholeImages(const ByteList& file) {
+    const auto source = Open(file);
+    const auto images = ListImages(file);
+    if (!source || !images) return {};
+    return source->Whole(*images).value_or(std::vector<ImageEntry>{});
+}
+
 // Nothing else may happen, least of all a fault that a sanitizer sees.
 TEST(BadInput, TruncationsAndChangedBytesAreRefusedOrRead) {
     const auto expectSound = [](const ByteList& file) {
         const auto icon = ReadBestImage(file);
         ASSERT_TRUE(icon || icon.error().number >= kInvalidPicture);
-        const auto whole = ListWholeImages(file);
-        ASSERT_EQ(whole.has_value(), icon.has_value()) << "told to be readable exactly when it is";
-        for (std::size_t i = 0; whole && i < whole->size(); ++i)
-            ASSERT_TRUE(DecodeImage(file, whole->at(i)));
+        const auto whole = WholeImages(file);
+        ASSERT_EQ(whole.empty(), !icon) << "told to be readable exactly when it is";
+        for (const ImageEntry& image : whole)
+            ASSERT_TRUE(DecodeImage(file, image));
         ASSERT_TRUE(!icon || std::ranges::max(icon->planes.image.Pixels()) <= gdi::kWhite);
         // Programs and animations are opened as sources only.
         const auto first = icon ? icon : FirstIcon(file);

@@ -1,9 +1,13 @@
+#include <algorithm>
+
+#include "imaging/AreaAverage.h"
 #include "imaging/ColorAdjustment.h"
 #include "imaging/FilterPipeline.h"
 #include "imaging/Operations.h"
 #include "imaging/Recoloring.h"
 #include "imaging/Shades.h"
 #include "imaging/Transforms.h"
+#include "platform/gdi/Samples.h"
 #include "tests/imaging/FilterTest.h"
 
 namespace kestrel::imaging {
@@ -43,6 +47,20 @@ TEST(Transforms, MoveThePixelsOfBothPlanes) {
         EXPECT_TRUE(ComparePicture(planes.image, Art(to))) << key;
         EXPECT_TRUE(ComparePicture(planes.mask, Art(to))) << key;
     }
+}
+
+TEST(AreaAverage, WeighsAreasAndOpacity) {
+    // Each pixel of the result covers one and a half of the three, then all of them.
+    gdi::Surface line(3, 1);
+    const gdi::COLORREF pixels[] = {0xFF000006, 0xFF00000C, 0x00FFFFFF};
+    std::ranges::copy(pixels, line.Row(0).begin());
+    const gdi::Surface two = AreaAverage(line, {2, 1});
+    EXPECT_EQ(two.Row(0)[0], 0xFF000008U);  // (6 + 12 / 2) / 1.5
+    EXPECT_EQ(two.Row(0)[1], 0x5500000CU);  // a third is opaque
+    EXPECT_EQ(AreaAverage(line, {1, 1}).Row(0)[0], 0xAA000009U);
+    EXPECT_EQ(gdi::SizeWithin({300, 100}, 30), (gdi::Size{30, 10}));
+    EXPECT_EQ(gdi::SizeWithin({1, 1000}, 30), (gdi::Size{1, 30}));
+    EXPECT_EQ(gdi::SizeWithin({20, 30}, 30), (gdi::Size{20, 30}));
 }
 
 TEST(FilterSource, OfASmallSelectionGoesOnWithItsNearestPixel) {

@@ -44,6 +44,13 @@ void Take(const Surface& from, const Samples& samples, Surface& to) {
 
 }  // namespace
 
+Size SizeWithin(Size size, int side) {
+    const int longer = std::max(size.width, size.height);
+    if (longer <= side) return size;
+    return {std::max(SourceOf(size.width, side, longer), 1),
+            std::max(SourceOf(size.height, side, longer), 1)};
+}
+
 Samples StretchSamples(Size from, Size to) {
     return {Stretch(from.width, to.width), Stretch(from.height, to.height)};
 }

@@ -6,6 +6,9 @@
 
 namespace kestrel::gdi {
 
+// The size in proportion, no longer than `side` pixels and at least one each way. Never larger.
+Size SizeWithin(Size size, int side);
+
 // Which pixels are taken of a picture: where these columns cross these rows. Both ascend; a column
 // or row may be named several times.
 struct Samples {
