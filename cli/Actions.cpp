@@ -9,8 +9,6 @@
 #include "cli/IconInput.h"
 #include "cli/IconOutput.h"
 #include "cli/Numbers.h"
-#include "cli/Streams.h"
-#include "formats/IconFile.h"
 #include "formats/PaletteFile.h"
 #include "imaging/Shades.h"
 #include "platform/gdi/Blit.h"
@@ -19,14 +17,6 @@
 namespace kestrel::cli {
 
 namespace {
-
-std::string Line(const formats::ImageEntry& image) {
-    const formats::ImageInfo& info = image.info;
-    std::string line = std::to_string(image.index + 1) + ": " + std::to_string(info.width) + " x ";
-    line += std::to_string(info.height) + ", " + std::to_string(info.bitsPerPixel);
-    line += info.bitsPerPixel == 1 ? " bit, " : " bits, ";
-    return line + (info.png ? "PNG" : "uncompressed") + "\n";
-}
 
 // The number that was typed or, without one, another for every run.
 Result<std::uint32_t> ReadSeed(const std::optional<std::string>& text) {
@@ -39,17 +29,6 @@ Result<std::uint32_t> ReadSeed(const std::optional<std::string>& text) {
 
 }  // namespace
 
-Result<void> Info(const Arguments& arguments) {
-    const auto bytes = ReadInput(arguments.in);
-    if (!bytes) return tl::unexpected(bytes.error());
-    const auto images = formats::ListWholeImages(*bytes);
-    if (!images) return InputFailure(arguments.in, images.error());
-    std::string lines;
-    for (const formats::ImageEntry& image : *images)
-        lines += Line(image);
-    return WriteText(std::string(kStandardStream), lines);
-}
-
 Result<void> Apply(const Arguments& arguments) {
     const IconTarget target{arguments.out, arguments.format};
     if (Result<void> checked = CheckTarget(target); !checked) return checked;
@@ -57,7 +36,7 @@ Result<void> Apply(const Arguments& arguments) {
     if (!commands) return tl::unexpected(commands.error());
     const auto seed = ReadSeed(arguments.seed);
     if (!seed) return tl::unexpected(seed.error());
-    auto icon = ReadIcon(arguments.in, arguments.Fit());
+    auto icon = ReadIcon(arguments.in, arguments.choice, arguments.Fit());
     if (!icon) return tl::unexpected(icon.error());
     RunCommands(*commands, *seed, *icon);
     return WriteIcon(target, *icon);
@@ -87,7 +66,7 @@ Result<void> Palette(const Arguments& arguments) {
 Result<void> Convert(const Arguments& arguments) {
     const IconTarget target{arguments.out, arguments.format};
     if (Result<void> checked = CheckTarget(target); !checked) return checked;
-    const auto icon = ReadIcon(arguments.in, arguments.Fit());
+    const auto icon = ReadIcon(arguments.in, arguments.choice, arguments.Fit());
     if (!icon) return tl::unexpected(icon.error());
     return WriteIcon(target, *icon);
 }

@@ -2,7 +2,9 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
+#include "cli/IconInput.h"
 #include "imaging/PasteFit.h"
 #include "platform/Result.h"
 
@@ -10,7 +12,9 @@ namespace kestrel::cli {
 
 // What was typed, as it was typed.
 struct Arguments {
+    std::vector<std::string> files;
     std::string in;
+    IconChoice choice;
     std::string out;
     std::string format;
     bool keepAspect = false;
@@ -19,6 +23,11 @@ struct Arguments {
     std::string from;
     std::string to;
     std::string angle = "0";
+    bool json = false;
+    std::string into;
+    bool png = false;
+    std::vector<std::string> icons;
+    std::string size = "128";
 
     imaging::PasteFit Fit() const {
         return keepAspect ? imaging::PasteFit::KeepAspect : imaging::PasteFit::Shrink;
@@ -27,6 +36,8 @@ struct Arguments {
 
 // One function a subcommand.
 Result<void> Info(const Arguments& arguments);
+Result<void> Extract(const Arguments& arguments);
+Result<void> Thumbnail(const Arguments& arguments);
 Result<void> Apply(const Arguments& arguments);
 Result<void> Gradient(const Arguments& arguments);
 Result<void> Palette(const Arguments& arguments);

@@ -4,25 +4,25 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <iterator>
 #include <span>
 #include <utility>
 
+#include "cli/Numbers.h"
 #include "cli/Streams.h"
-#include "formats/IconFile.h"
-#include "formats/PngImage.h"
+#include "formats/UnreadableFile.h"
 #include "platform/gdi/Blit.h"
-#include "platform/system/DiskFiles.h"
 #include "platform/system/SystemError.h"
 
 namespace kestrel::cli {
 
 namespace {
 
+using formats::ImageEntry;
 using system::SystemFailure;
-using Content = Result<std::vector<std::uint8_t>>;
-
-constexpr std::size_t kLimit = formats::kMaxIconFileBytes;
+using Source = Result<std::unique_ptr<system::ByteSource>>;
 
 // Pipes and devices have no size and are read as they come.
 bool IsStream(const std::string& name) {
@@ -30,53 +30,135 @@ bool IsStream(const std::string& name) {
     return stat(name.c_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
 }
 
-Content ReadNamedStream(const std::string& name) {
+Source ReadWhole(int file) {
+    auto bytes = ReadStream(file, formats::kMaxIconFileBytes);
+    if (!bytes) return tl::unexpected(bytes.error());
+    return std::make_unique<system::MemoryBytes>(*std::move(bytes));
+}
+
+Source OpenAnything(const std::string& name) {
+    if (name == kStandardStream) return ReadWhole(STDIN_FILENO);
+    if (!IsStream(name)) return system::OpenByteSource(name);
     const int file =
         system::Retry([&] { return open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY); });
     if (file < 0) return SystemFailure(errno);
-    Content bytes = ReadStream(file, kLimit);
+    Source bytes = ReadWhole(file);
     close(file);
     return bytes;
 }
 
-Content ReadAnything(const std::string& name) {
-    if (name == kStandardStream) return ReadStream(STDIN_FILENO, kLimit);
-    if (IsStream(name)) return ReadNamedStream(name);
-    return system::DiskFiles(system::PathNames::AsWritten).ReadFile(name, kLimit);
+// As much of a file as tells what is wrong with it.
+Result<std::vector<std::uint8_t>> HeadOf(system::ByteSource& bytes) {
+    constexpr std::uint64_t kEnough = 4096;
+    std::vector<std::uint8_t> head(static_cast<std::size_t>(std::min(bytes.Size(), kEnough)));
+    if (auto read = bytes.Read(0, head); !read) return tl::unexpected(read.error());
+    return head;
 }
 
-// The size in which the image of a file is read: that of an icon, or what Paste makes of a PNG.
-gdi::Size WantedSize(std::span<const std::uint8_t> file, imaging::PasteFit fit) {
-    const auto png = formats::ReadPngHeader(file);
-    if (!png) return {gdi::kIconSize, gdi::kIconSize};
-    const gdi::Size size{png->width, png->height};
+// Programs and files of other kinds have their own reasons; an animation has none but that it holds
+// nothing.
+Error WhyNoIcons(std::span<const std::uint8_t> head, const Error& found) {
+    if (found.number != kNoIcons) return found;
+    system::MemoryBytes bytes(head);
+    formats::SourceReader reader(bytes);
+    const formats::Format* format = formats::FormatOf(reader);
+    if (format != nullptr && format->kind == formats::SourceKind::Ani) return found;
+    return formats::WhyUnreadable(head);
+}
+
+Result<formats::IconSource> OpenSource(const std::string& name) {
+    auto bytes = OpenAnything(name);
+    if (!bytes) return tl::unexpected(bytes.error());
+    const auto head = HeadOf(**bytes);
+    if (!head) return tl::unexpected(head.error());
+    auto source = formats::IconSource::Open(*std::move(bytes), name);
+    if (!source) return tl::unexpected(WhyNoIcons(*head, source.error()));
+    return source;
+}
+
+tl::unexpected<Error> FileFailure(const std::string& name, const Error& error) {
+    return FailureOf(name == kStandardStream ? "standard input" : name, error);
+}
+
+// The size in which an image is read: that of an icon, or what Paste makes of a PNG.
+gdi::Size WantedSize(const SourceFile& file, const std::vector<ImageEntry>& images,
+                     imaging::PasteFit fit) {
+    if (file.Source().kind != formats::SourceKind::Png) return {gdi::kIconSize, gdi::kIconSize};
+    const gdi::Size size{images[0].info.width, images[0].info.height};
     return imaging::FitsIcon(size) ? size : imaging::FittedSize(size, fit);
+}
+
+constexpr std::int64_t kMostNumber = 65536;
+
+Error NoNumber(std::string_view option) {
+    return {EINVAL,
+            std::string(option) + " wants a number from 1 to " + std::to_string(kMostNumber)};
 }
 
 }  // namespace
 
-Result<std::vector<std::uint8_t>> ReadInput(const std::string& name) {
-    Content bytes = ReadAnything(name);
-    if (!bytes) return InputFailure(name, bytes.error());
-    return bytes;
+Result<SourceFile> SourceFile::Open(const std::string& name) {
+    auto source = OpenSource(name);
+    if (!source) return FileFailure(name, source.error());
+    return SourceFile(name, *std::move(source));
 }
 
-Result<gdi::IconPlanes> ReadIcon(const std::string& name, imaging::PasteFit fit) {
-    const auto bytes = ReadInput(name);
-    if (!bytes) return tl::unexpected(bytes.error());
-    const gdi::Size size = WantedSize(*bytes, fit);
-    const auto image = formats::ReadBestImage(*bytes, size);
-    if (!image) return InputFailure(name, image.error());
+tl::unexpected<Error> SourceFile::Failure(const Error& error) const {
+    return FileFailure(name_, error);
+}
+
+Result<std::string> SourceFile::NameOf(std::size_t icon) const {
+    return Named(source_.NameOf(icon));
+}
+
+Result<std::vector<ImageEntry>> SourceFile::Images(std::size_t icon) const {
+    if (!IsOneIcon()) return Named(source_.Images(icon));
+    std::vector<ImageEntry> images;
+    for (std::size_t i = 0; i < source_.count; ++i) {
+        auto image = source_.Images(i);
+        if (!image) return Failure(image.error());
+        std::ranges::move(*image, std::back_inserter(images));
+    }
+    return images;
+}
+
+Result<std::size_t> SourceFile::Numbered(const std::string& number) const {
+    const auto icon = NumberIn(number, 1, kMostNumber);
+    if (!icon) return tl::unexpected(NoNumber("--icon"));
+    if (static_cast<std::size_t>(*icon) <= Count()) return static_cast<std::size_t>(*icon) - 1;
+    return Failure(
+        {EINVAL, "there is no icon " + number + "; the last is " + std::to_string(Count())});
+}
+
+Result<std::vector<ImageEntry>> ChosenImages(const SourceFile& file, const IconChoice& choice) {
+    const auto icon = file.Numbered(choice.icon.value_or("1"));
+    if (!icon) return tl::unexpected(icon.error());
+    auto images = file.Images(*icon);
+    if (!images || !choice.image) return images;
+    const auto number = NumberIn(*choice.image, 1, kMostNumber);
+    if (!number) return tl::unexpected(NoNumber("--image"));
+    const auto image =
+        std::ranges::find(*images, static_cast<std::size_t>(*number) - 1, &ImageEntry::index);
+    if (image != images->end()) return std::vector{*image};
+    return file.Failure(
+        {EINVAL, "there is no image " + *choice.image + " in icon " + std::to_string(*icon + 1)});
+}
+
+Result<gdi::IconPlanes> ReadIcon(const std::string& name, const IconChoice& choice,
+                                 imaging::PasteFit fit) {
+    const auto file = SourceFile::Open(name);
+    if (!file) return tl::unexpected(file.error());
+    const auto images = ChosenImages(*file, choice);
+    if (!images) return tl::unexpected(images.error());
+    const gdi::Size size = WantedSize(*file, *images, fit);
+    const auto image = file->Named(file->Source().Best(*images, size));
+    if (!image) return tl::unexpected(image.error());
     gdi::IconPlanes icon;
     for (const auto& [to, from] :
          {std::pair{&icon.image, &image->planes.image}, {&icon.mask, &image->planes.mask}}) {
         gdi::BitBlt(*to, 0, 0, size.width, size.height, *from, 0, 0, gdi::RasterOp::Copy);
     }
     return icon;
-}
-
-tl::unexpected<Error> InputFailure(const std::string& name, const Error& error) {
-    return FailureOf(name == kStandardStream ? "standard input" : name, error);
 }
 
 }  // namespace kestrel::cli

@@ -27,11 +27,15 @@ Bytes IcoBytes(const gdi::IconPlanes& icon) {
     return {bytes.begin(), bytes.end()};
 }
 
+Bytes PngBytes(const gdi::IconPlanes& icon) {
+    return formats::PngBytes(icon);
+}
+
 struct Format {
     std::string_view name;
     Bytes (*encode)(const gdi::IconPlanes& icon);
 };
-constexpr Format kFormats[] = {{"ico", IcoBytes}, {"png", formats::PngBytes}};
+constexpr Format kFormats[] = {{"ico", IcoBytes}, {"png", PngBytes}};
 constexpr const Format* kNoFormat = std::end(kFormats);
 
 enum class Way { Replace, StandardOutput, Stream };
@@ -64,13 +68,16 @@ const Format* FormatOf(const IconTarget& target) {
     return WayTo(target.name) == Way::Replace ? kNoFormat : kFormats;
 }
 
-Result<void> WriteNamedStream(const std::string& name, std::span<const std::uint8_t> bytes) {
-    const int file =
-        system::Retry([&] { return open(name.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY); });
+Result<void> WriteAndClose(int file, std::span<const std::uint8_t> bytes) {
     if (file < 0) return SystemFailure(errno);
     Result<void> written = WriteStream(file, bytes);
     if (close(file) < 0 && written && errno != EINTR) written = SystemFailure(errno);
     return written;
+}
+
+Result<void> WriteNamedStream(const std::string& name, std::span<const std::uint8_t> bytes) {
+    return WriteAndClose(
+        system::Retry([&] { return open(name.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY); }), bytes);
 }
 
 Result<void> WriteAnywhere(const std::string& name, std::span<const std::uint8_t> bytes) {
@@ -103,6 +110,18 @@ Result<void> WriteOutput(const std::string& name, std::span<const std::uint8_t> 
     const Result<void> written = WriteAnywhere(name, bytes);
     if (written) return {};
     return FailureOf(name == kStandardStream ? "standard output" : name, written.error());
+}
+
+Result<void> WriteNew(const std::string& name, std::span<const std::uint8_t> bytes) {
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
+    constexpr mode_t kEveryone = 0666;
+    const int file = system::Retry([&] { return open(name.c_str(), kFlags, kEveryone); });
+    if (file < 0 && errno == EEXIST) return WriteOutput(name, bytes);
+    const bool made = file >= 0;
+    const Result<void> written = WriteAndClose(file, bytes);
+    if (written) return {};
+    if (made) unlink(name.c_str());
+    return FailureOf(name, written.error());
 }
 
 Result<void> WriteText(const std::string& name, std::string_view text) {

@@ -25,6 +25,9 @@ Result<void> WriteIcon(const IconTarget& target, const gdi::IconPlanes& icon);
 // stands, and so is a link, as /dev/stdout, to where standard output leads. A failure begins with
 // the file's name.
 Result<void> WriteOutput(const std::string& name, std::span<const std::uint8_t> bytes);
+// The same, and where there is no such file, it is made as it stands, without waiting for the disk;
+// of one that cannot be written whole nothing is left.
+Result<void> WriteNew(const std::string& name, std::span<const std::uint8_t> bytes);
 Result<void> WriteText(const std::string& name, std::string_view text);
 
 }  // namespace kestrel::cli

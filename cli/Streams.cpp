@@ -4,7 +4,9 @@
 
 #include <array>
 #include <cerrno>
+#include <utility>
 
+#include "platform/system/Characters.h"
 #include "platform/system/SystemError.h"
 
 namespace kestrel::cli {
@@ -31,6 +33,24 @@ Result<void> WriteStream(int file, std::span<const std::uint8_t> bytes) {
         bytes = bytes.subspan(static_cast<std::size_t>(count));
     }
     return {};
+}
+
+void Complain(std::string_view message) {
+    const std::string line = "kestrel-icon: " + system::Printable(message) + "\n";
+    // When even this cannot be written, the exit code is left to tell.
+    (void)WriteStream(STDERR_FILENO, std::vector<std::uint8_t>(line.begin(), line.end()));
+}
+
+Result<void> ForEachFile(const std::vector<std::string>& files,
+                         const std::function<Result<void>(const std::string&)>& work) {
+    Result<void> all;
+    for (const std::string& file : files) {
+        Result<void> done = work(file);
+        if (done) continue;
+        if (!all) Complain(all.error().description);
+        all = std::move(done);
+    }
+    return all;
 }
 
 tl::unexpected<Error> FailureOf(std::string_view name, const Error& error) {

@@ -1,11 +1,10 @@
 // kestrel-icon: the editor's commands on icon files, without a window.
 
-#include <unistd.h>
-
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <csignal>
 #include <exception>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,18 +13,40 @@
 #include "cli/IconCommands.h"
 #include "cli/IconOutput.h"
 #include "cli/Streams.h"
-#include "platform/system/Characters.h"
 
 namespace {
 
 using namespace kestrel;
 using cli::Arguments;
 
-constexpr const char* kInHelp = "icon, cursor or PNG file to read; - is standard input";
+constexpr const char* kInHelp =
+    "icon, cursor or PNG file, program, library or animated cursor to read; - is standard "
+    "input";
 constexpr const char* kOutHelp = "file to write, .ico or .png; - is standard output";
 
-void AddIn(CLI::App& command, Arguments& arguments) {
+// An option whose absence matters.
+void AddOptional(CLI::App& command, const char* name, std::optional<std::string>& value,
+                 const char* help) {
+    command.add_option_function<std::string>(
+        name, [&](const std::string& text) { value = text; }, help);
+}
+
+void AddSource(CLI::App& command, Arguments& arguments) {
     command.add_option("IN", arguments.in, kInHelp)->required();
+    AddOptional(command, "--icon", arguments.choice.icon,
+                "which icon of a program, library or animation, as info counts them (1 when left "
+                "out)");
+    AddOptional(command, "--image", arguments.choice.image,
+                "which image of the icon, as info counts them (the one that suits best when left "
+                "out)");
+}
+
+void AddFiles(CLI::App& command, Arguments& arguments) {
+    command.add_option("FILE", arguments.files, kInHelp)->required();
+}
+
+void AddIn(CLI::App& command, Arguments& arguments) {
+    AddSource(command, arguments);
     command.add_flag("--keep-aspect", arguments.keepAspect,
                      "shrink a large PNG in proportion instead of to 32 x 32");
 }
@@ -37,8 +58,35 @@ void AddOut(CLI::App& command, Arguments& arguments) {
 }
 
 void DeclareInfo(CLI::App& command, Arguments& arguments) {
-    command.add_option("FILE", arguments.in, kInHelp)->required();
-    command.footer("Example:\n  kestrel-icon info kestrel.ico");
+    AddFiles(command, arguments);
+    command.add_flag("--json", arguments.json, "one JSON object a line and file");
+    command.footer(
+        "Examples:\n  kestrel-icon info kestrel.ico\n"
+        "  kestrel-icon info --json *.dll");
+}
+
+void DeclareExtract(CLI::App& command, Arguments& arguments) {
+    AddFiles(command, arguments);
+    command.add_option("--into", arguments.into, "folder to write to, made where there is none");
+    command.add_flag("--png", arguments.png, "write each image as PNG, not each icon as .ico");
+    command
+        .add_option("--icon", arguments.icons,
+                    "an icon to write, as info counts them; can be given several times (all when "
+                    "left out)")
+        ->allow_extra_args(false);
+    command.footer(
+        "Icons are called NAME-1.ico and so on, NAME being that of FILE without its ending;\n"
+        "images NAME-1-1.png.\n\n"
+        "Examples:\n  kestrel-icon extract setup.exe\n"
+        "  kestrel-icon extract --into icons --png --icon 1 --icon 3 setup.exe");
+}
+
+void DeclareThumbnail(CLI::App& command, Arguments& arguments) {
+    AddSource(command, arguments);
+    command.add_option("OUT", arguments.out, "PNG file to write; - is standard output")->required();
+    command.add_option("--size", arguments.size,
+                       "longest side in pixels, 1 to 1024 (128 when left out)");
+    command.footer("Example:\n  kestrel-icon thumbnail --size 256 setup.exe setup.png");
 }
 
 void DeclareApply(CLI::App& command, Arguments& arguments) {
@@ -48,9 +96,8 @@ void DeclareApply(CLI::App& command, Arguments& arguments) {
         ->required();
     AddIn(command, arguments);
     AddOut(command, arguments);
-    command.add_option_function<std::string>(
-        "--seed", [&](const std::string& text) { arguments.seed = text; },
-        "start of the random numbers, 0 to 4294967295, for the same noise every time");
+    AddOptional(command, "--seed", arguments.seed,
+                "start of the random numbers, 0 to 4294967295, for the same noise every time");
     command.footer("Keys (mnuGamma takes the factor times 100, 1 to 9999):\n" + cli::CommandKeys() +
                    "\n\nExamples:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
                    "  kestrel-icon apply mnuGamma=200,mnuRotateOpts1 in.ico out.png\n"
@@ -79,6 +126,7 @@ void DeclareConvert(CLI::App& command, Arguments& arguments) {
     AddOut(command, arguments);
     command.footer(
         "Examples:\n  kestrel-icon convert in.ico out.png\n"
+        "  kestrel-icon convert --icon 3 setup.exe out.ico\n"
         "  kestrel-icon convert --keep-aspect photo.png out.ico");
 }
 
@@ -89,7 +137,9 @@ struct Subcommand {
     Result<void> (*run)(const Arguments& arguments);
 };
 constexpr Subcommand kSubcommands[] = {
-    {"info", "list the images of an icon file", DeclareInfo, cli::Info},
+    {"info", "list icons and their images", DeclareInfo, cli::Info},
+    {"extract", "write icons as files of their own", DeclareExtract, cli::Extract},
+    {"thumbnail", "write the PNG that file managers show", DeclareThumbnail, cli::Thumbnail},
     {"apply", "run menu commands on an icon", DeclareApply, cli::Apply},
     {"gradient", "write an icon that is a gradient", DeclareGradient, cli::Gradient},
     {"palette", "write the default palette", DeclarePalette, cli::Palette},
@@ -134,13 +184,6 @@ Result<void> Run(int argc, char* argv[]) {
     return subcommand->run(arguments);
 }
 
-// One line that a terminal only shows, whatever a file's name or an argument holds.
-void Complain(std::string_view message) {
-    const std::string line = "kestrel-icon: " + system::Printable(message) + "\n";
-    // When even this cannot be written, the exit code is left to tell.
-    (void)cli::WriteStream(STDERR_FILENO, std::vector<std::uint8_t>(line.begin(), line.end()));
-}
-
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -150,9 +193,9 @@ int main(int argc, char* argv[]) {
     try {
         const Result<void> done = Run(argc, argv);
         if (done) return 0;
-        Complain(done.error().description);
+        cli::Complain(done.error().description);
     } catch (const std::exception& error) {
-        Complain(error.what());
+        cli::Complain(error.what());
     }
     return 1;
 }

@@ -1,0 +1,137 @@
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <map>
+#include <numeric>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "cli/Actions.h"
+#include "cli/IconOutput.h"
+#include "cli/Streams.h"
+#include "formats/IconExport.h"
+#include "formats/PngWriter.h"
+
+namespace kestrel::cli {
+
+namespace {
+
+using formats::ImageEntry;
+using Bytes = Result<std::vector<std::uint8_t>>;
+
+// What the names of a file's results begin with.
+std::string StemOf(const std::string& name) {
+    if (name == kStandardStream) return "icon";
+    return std::filesystem::path(name).stem().string();
+}
+
+// Results are called alike only where the files' stems are: all else is numbers.
+Result<void> CheckStems(const std::vector<std::string>& files) {
+    std::map<std::string, std::string> owners;
+    for (const std::string& file : files) {
+        const auto [owner, isNew] = owners.try_emplace(StemOf(file), file);
+        if (isNew) continue;
+        return FailureOf(file, {EINVAL, "its icons would be called as those of " + owner->second});
+    }
+    return {};
+}
+
+Result<void> MakeFolder(const std::string& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (!error) return {};
+    return FailureOf(folder, {error.value(), error.message()});
+}
+
+// A PNG stays as it is stored.
+Bytes PngOf(const SourceFile& file, const ImageEntry& image) {
+    if (image.info.png) return file.Source().Stored(image);
+    const auto pixels = file.Source().Pixels(image);
+    if (!pixels) return tl::unexpected(pixels.error());
+    return formats::PngBytes(*pixels);
+}
+
+Result<std::vector<std::size_t>> ChosenIcons(const SourceFile& file,
+                                             const std::vector<std::string>& numbers) {
+    std::vector<std::size_t> icons;
+    for (const std::string& number : numbers) {
+        const auto icon = file.Numbered(number);
+        if (!icon) return tl::unexpected(icon.error());
+        icons.push_back(*icon);
+    }
+    if (!icons.empty()) return icons;
+    icons.resize(file.Count());
+    std::iota(icons.begin(), icons.end(), std::size_t{0});
+    return icons;
+}
+
+// Writes icons of one file, each under a name that begins with `start`.
+class Extraction {
+  public:
+    Extraction(const SourceFile& file, const Arguments& arguments, std::string start)
+        : file_(file), arguments_(arguments), start_(std::move(start)) {}
+
+    Result<void> Write(std::size_t icon) const {
+        const auto images = file_.Images(icon);
+        if (!images) return tl::unexpected(images.error());
+        const std::string name = start_ + std::to_string(icon + 1);
+        if (!arguments_.png)
+            return WriteResult(name + ".ico", formats::ExportImages(file_.Source(), *images));
+        for (const ImageEntry& image : *images) {
+            const std::string number = std::to_string(image.index + 1);
+            auto written = WriteResult(name + "-" + number + ".png", PngOf(file_, image));
+            if (!written) return written;
+        }
+        return {};
+    }
+
+  private:
+    Result<void> WriteResult(const std::string& name, const Bytes& bytes) const {
+        if (!bytes) return file_.Failure(bytes.error());
+        if (IsRead(name)) return FailureOf(name, {EINVAL, "it is one of the files to read"});
+        return WriteNew(name, *bytes);
+    }
+
+    // Whether the result would replace another file of this run.
+    bool IsRead(const std::string& name) const {
+        std::error_code unreachable;
+        if (arguments_.files.size() == 1 || !std::filesystem::exists(name, unreachable))
+            return false;
+        return std::ranges::any_of(arguments_.files, [&](const std::string& file) {
+            return std::filesystem::equivalent(name, file, unreachable);
+        });
+    }
+
+    const SourceFile& file_;
+    const Arguments& arguments_;
+    std::string start_;
+};
+
+Result<void> ExtractFile(const std::string& name, const Arguments& arguments) {
+    const auto file = SourceFile::Open(name);
+    if (!file) return tl::unexpected(file.error());
+    const auto icons = ChosenIcons(*file, arguments.icons);
+    if (!icons) return tl::unexpected(icons.error());
+    std::string start = StemOf(name) + "-";
+    if (!arguments.into.empty()) {
+        if (auto made = MakeFolder(arguments.into); !made) return made;
+        start.insert(0, arguments.into + "/");
+    }
+    const Extraction extraction(*file, arguments, start);
+    for (const std::size_t icon : *icons) {
+        auto written = extraction.Write(icon);
+        if (!written) return written;
+    }
+    return {};
+}
+
+}  // namespace
+
+Result<void> Extract(const Arguments& arguments) {
+    if (auto checked = CheckStems(arguments.files); !checked) return checked;
+    return ForEachFile(arguments.files,
+                       [&](const std::string& file) { return ExtractFile(file, arguments); });
+}
+
+}  // namespace kestrel::cli
