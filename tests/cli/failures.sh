@@ -52,6 +52,22 @@ Refused 'two\r\nlines\x1b[2J\u202e\\\xff: No such file' info $'two\r\nlines\e[2J
 # Without its last rows a picture is not read at all.
 Refused 'standard input: The image is damaged' convert - old.ico < <(head -c -300 ../opaque.png)
 
+# Files that hold icons, but not those.
+ln -s "$data/icons32.dll" "$data/frames.ani" ../
+Refused 'icons32.dll: there is no icon 3; the last is 2' convert --icon 3 ../icons32.dll old.ico
+Refused 'there is no image 2 in icon 2' apply --icon 2 --image 2 mnuNegative ../icons32.dll old.ico
+for number in 0 1x 65537; do
+    Refused '--icon wants a number' extract --icon "$number" ../icons32.dll
+    Refused '--image wants a number' thumbnail --image "$number" ../icons32.dll out.png
+done
+Refused '--size wants a number from 1 to 1024' thumbnail --size 1025 in.ico out.png
+head -c 12 ../frames.ani >../empty.ani
+Refused 'empty.ani: The file contains no icons' info ../empty.ani
+Refused 'ls: It is a program without icons' extract /bin/ls
+Refused 'cli.sh: It is no icon' thumbnail "$tests/cli/cli.sh" out.png
+# Before anything is written.
+Refused 'folder/in.exe: its icons would be called as those of in.ico' extract in.ico ../folder/in.exe
+
 # What is written.
 Refused 'none/out.ico: No such file or directory' convert in.ico none/out.ico
 Refused 'folder: Is a directory' palette ../folder

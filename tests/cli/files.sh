@@ -74,3 +74,74 @@ Icon info "$data/several.ico" | tail -n +2 | cmp - damaged.list || Fail 'info: n
 [[ $(tail -1 damaged.list) == '4: 256 x 256, 8 bits, PNG' ]] || Fail 'info: PNG'
 [[ $(Icon info - <"$data/bits1.ico") == '1: 32 x 32, 1 bit, uncompressed' ]] || Fail 'info: bit'
 [[ $(Icon info wide.png) == '1: 2048 x 1024, 32 bits, PNG' ]] || Fail 'info: a photograph'
+
+# Programs, libraries and animations: every icon as a file, every image as a PNG, as icotool and
+# ImageMagick read them, against what other programs decoded.
+Icon extract --into icons "$data"/icons32.dll "$data"/icons16.icl "$data"/frames.ani
+Icon extract --into images --png "$data"/icons32.dll "$data"/icons16.icl "$data"/frames.ani "$data"/several.ico
+while read -r icon image witness; do
+    icotool -x -i "$image" -o image.png "icons/$icon.ico"
+    SamePixels "$icon.ico, $image" image.png "$data/$witness.pam"
+    SamePixels "$icon.ico, $image, for ImageMagick" "ico:icons/$icon.ico[$((image - 1))]" "$data/$witness.pam"
+    SamePixels "$icon-$image.png" "images/$icon-$image.png" "$data/$witness.pam"
+done <<'END'
+icons32-1 1 icons32-0
+icons32-1 2 icons32-1
+icons16-1 1 icons16-0
+icons16-1 2 icons16-1
+frames-3 1 frames-2
+END
+extracted=(icons/* images/*)
+[[ ${#extracted[@]} -eq 18 ]] || Fail "extracted: ${extracted[*]}"
+# Byte for byte; wrestool adds zeros at the end.
+cmp -n 1078 <(wrestool -x -t14 -n1 "$data/icons32.dll") icons/icons32-1.ico || Fail 'bytes of an icon'
+[[ $(wc -c <icons/icons32-1.ico) -eq 1078 ]] || Fail 'length of an icon'
+tail -c "$(wc -c <images/several-1-4.png)" "$data/several.ico" | cmp - images/several-1-4.png ||
+    Fail 'a PNG is as it was stored'
+# Of several icons and images the first and the best, or those that are named.
+Icon convert --icon 2 "$data/icons32.dll" second.png
+SamePixels 'the second icon' second.png "$data/icons32-2.pam"
+Icon convert --image 1 "$data/several.ico" image.png
+SamePixels 'the first image' image.png "$data/several-0.pam" -sample 32x32
+Icon convert - piped.png <"$data/icons32.dll"
+SamePixels 'the first icon' piped.png "$data/icons32-0.pam"
+Icon extract --icon 2 --png --icon 3 "$data/frames.ani"
+[[ $(echo frames-*) == 'frames-2-1.png frames-3-1.png' ]] || Fail "chosen: $(echo frames-*)"
+
+# No result replaces a file that is to be read; the other files are read all the same.
+cp "$data/icons32.dll" old.dll
+cp "$sample" old-1.ico
+if Icon extract old.dll /bin/true old-1.ico 2>message; then Fail 'what fails is not told'; fi
+grep -q '^kestrel-icon: old-1.ico: it is one' message || Fail "$(<message)"
+for icon in old-1 old-1-1; do cmp "$sample" $icon.ico || Fail "$icon.ico is replaced"; done
+
+# What is told of them, also as JSON, of which the names need care.
+[[ $(cd "$data" && Icon info icons16.icl several.ico | head -5 | sed -n '1p;2p;5p' | paste -sd,) == \
+    'icons16.icl: NE, 1 icon,icon 1, name ICON,several.ico: ICO' ]] || Fail 'info: sources'
+cp "$data/icons16.icl" $'odd "\\\n\e\xff\xed\xa0\x80\xc3\xa4'
+Icon info --json odd* "$data/png-named.ico" >told.json || Fail 'info: JSON'
+python3 - told.json <<'END' || Fail "info: $(<told.json)"
+import json, sys
+first, second = map(json.loads, open(sys.argv[1], encoding='utf-8'))
+assert first['file'].startswith('odd "\\\n\x1b\ufffd') and first['file'].endswith('\u00e4')
+def images(icon): return [tuple(image.values()) for image in icon['images']]
+(icon,), (picture,) = first['icons'], second['icons']
+assert (first['kind'], icon['name'], icon['number']) == ('NE', 'ICON', 1)
+assert images(icon) == [(1, 16, 16, 4, 'none'), (2, 32, 32, 24, 'none')]
+assert (second['kind'], picture['name'], images(picture)) == ('PNG', '1', [(1, 16, 16, 4, 'PNG')])
+END
+
+# Thumbnails: the smallest image that is large enough as it is or made smaller, else the largest.
+# Alpha stays.
+Magick -size 16x16 gradient:'#20C04000'-'#6010E0FF' -depth 8 PNG32:shaded.png
+Magick holed.png -sample 64x64 PNG32:twice.png
+icotool -c -o shaded.ico twice.png shaded.png
+while read -r size picture; do
+    Icon thumbnail --size "$size" shaded.ico out.png
+    SamePixels "thumbnail of $size" out.png "$picture"
+done <<'END'
+128 twice.png
+64 twice.png
+32 holed.png
+16 shaded.png
+END
