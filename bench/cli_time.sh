@@ -13,13 +13,14 @@ missed=0
 
 # Pair <largest ratio> <command of kestrel-icon> <command of another program>
 Pair() {
-    local most=$1 own other times ratio
+    local most=$1 own other ownTime otherTime ratio
     read -ra own <<<"$2"
     read -ra other <<<"$3"
-    times=$("$bin/run_times" "$rounds" "$bin/kestrel-icon" "${own[@]}" -- "${other[@]}")
-    ratio=$(awk '{printf "%.3f", $1 / $2}' <<<"$times")
+    read -r ownTime otherTime _ < <(
+        "$bin/run_times" "$rounds" "$bin/kestrel-icon" "${own[@]}" -- "${other[@]}")
+    ratio=$(awk "BEGIN {printf \"%.3f\", $ownTime / $otherTime}")
     printf 'kestrel-icon %s: %s us; %s: %s us; ratio %s, at most %s\n' \
-        "$2" "${times% *}" "$3" "${times#* }" "$ratio" "$most"
+        "$2" "$ownTime" "$3" "$otherTime" "$ratio" "$most"
     awk "BEGIN {exit !($ratio <= $most)}" || missed=1
 }
 

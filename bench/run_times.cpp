@@ -1,9 +1,11 @@
 // Times two programs in turns, from their start to their end:
 // run_times <rounds> <program> [argument...] -- <program> [argument...]
-// Prints the median of each in microseconds. Both must succeed; what they print is dropped.
+// Prints the median of each in microseconds, then the most memory of each in KB. Both must succeed;
+// what they print is dropped.
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include <algorithm>
@@ -20,18 +22,21 @@ using Clock = std::chrono::steady_clock;
 struct Program {
     char** arguments;
     std::vector<double> microseconds{};
+    long peak = 0;
 };
 
 bool RunOnce(Program& program, const posix_spawn_file_actions_t& silence) {
     pid_t process = 0;
     int status = 0;
+    rusage usage{};
     const auto start = Clock::now();
     if (posix_spawnp(&process, program.arguments[0], &silence, nullptr, program.arguments,
                      environ) != 0 ||
-        waitpid(process, &status, 0) != process)
+        wait4(process, &status, 0, &usage) != process)
         return false;
     const std::chrono::duration<double, std::micro> time = Clock::now() - start;
     program.microseconds.push_back(time.count());
+    program.peak = std::max(program.peak, usage.ru_maxrss);
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
@@ -67,5 +72,6 @@ int main(int argc, char* argv[]) {
         }
     }
     posix_spawn_file_actions_destroy(&silence);
-    std::printf("%.0f %.0f\n", Median(programs[0].microseconds), Median(programs[1].microseconds));
+    std::printf("%.0f %.0f %ld %ld\n", Median(programs[0].microseconds),
+                Median(programs[1].microseconds), programs[0].peak, programs[1].peak);
 }
