@@ -79,8 +79,9 @@ class Extraction {
         if (!arguments_.png)
             return WriteResult(name + ".ico", formats::ExportImages(file_.Source(), *images));
         for (const ImageEntry& image : *images) {
-            const std::string number = std::to_string(image.index + 1);
-            auto written = WriteResult(name + "-" + number + ".png", PngOf(file_, image));
+            std::string picture = name + "-";
+            picture.append(std::to_string(image.index + 1)).append(".png");
+            auto written = WriteResult(picture, PngOf(file_, image));
             if (!written) return written;
         }
         return {};

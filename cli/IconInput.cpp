@@ -71,8 +71,11 @@ Result<formats::IconSource> OpenSource(const std::string& name) {
     if (!bytes) return tl::unexpected(bytes.error());
     const auto head = HeadOf(**bytes);
     if (!head) return tl::unexpected(head.error());
+    const std::uint64_t size = (*bytes)->Size();
     auto source = formats::IconSource::Open(*std::move(bytes), name);
     if (!source) return tl::unexpected(WhyNoIcons(*head, source.error()));
+    if (formats::IsOneIcon(source->kind) && size > formats::kMaxIconFileBytes)
+        return SystemFailure(EFBIG);
     return source;
 }
 

@@ -128,16 +128,17 @@ class JsonLine : public InfoText {
     std::string End() const override { return "]}\n"; }
 };
 
-Result<std::string> InfoOf(const std::string& name, const InfoText& form) {
+Result<void> AppendInfo(const std::string& name, const InfoText& form, std::string& text) {
     const auto file = SourceFile::Open(name);
     if (!file) return tl::unexpected(file.error());
-    std::string text = form.Begin(*file);
+    text += form.Begin(*file);
     for (std::size_t icon = 0; icon < file->Count(); ++icon) {
         const auto info = ReadInfo(*file, icon);
         if (!info) return tl::unexpected(info.error());
         text += form.Icon(*file, icon, *info);
     }
-    return text + form.End();
+    text += form.End();
+    return {};
 }
 
 }  // namespace
@@ -148,11 +149,11 @@ Result<void> Info(const Arguments& arguments) {
     const InfoText& form =
         arguments.json ? static_cast<const InfoText&>(json) : static_cast<const InfoText&>(plain);
     std::string all;
-    const auto read = ForEachFile(arguments.files, [&](const std::string& file) -> Result<void> {
-        const auto text = InfoOf(file, form);
-        if (!text) return tl::unexpected(text.error());
-        all += *text;
-        return {};
+    Result<void> read = ForEachFile(arguments.files, [&](const std::string& file) {
+        const std::size_t before = all.size();
+        Result<void> done = AppendInfo(file, form, all);
+        if (!done) all.resize(before);
+        return done;
     });
     if (all.empty()) return read;
     Result<void> written = WriteText(std::string(kStandardStream), all);

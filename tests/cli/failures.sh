@@ -63,6 +63,9 @@ done
 Refused '--size wants a number from 1 to 1024' thumbnail --size 1025 in.ico out.png
 head -c 12 ../frames.ani >../empty.ani
 Refused 'empty.ani: The file contains no icons' info ../empty.ani
+cp ../opaque.png ../large.png
+truncate -s 33M ../large.png
+Refused 'large.png: File too large' thumbnail ../large.png out.png
 Refused 'ls: It is a program without icons' extract /bin/ls
 Refused 'cli.sh: It is no icon' thumbnail "$tests/cli/cli.sh" out.png
 # Before anything is written.
