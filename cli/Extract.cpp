@@ -11,6 +11,7 @@
 #include "cli/IconOutput.h"
 #include "cli/Streams.h"
 #include "formats/IconExport.h"
+#include "formats/IconPixels.h"
 #include "formats/PngWriter.h"
 
 namespace kestrel::cli {
@@ -66,6 +67,17 @@ Result<std::vector<std::size_t>> ChosenIcons(const SourceFile& file,
     return icons;
 }
 
+// What no reader of icon files takes.
+bool IsTooLarge(const ImageEntry& image) {
+    return std::max(image.info.width, image.info.height) > formats::kMaxImageSide;
+}
+
+// Whether nothing more can come of a file or a folder after this failure.
+bool EndsAll(int error) {
+    constexpr int kEnds[] = {kFileChanged, EIO, ENOSPC, EDQUOT, EROFS, EACCES};
+    return std::ranges::find(kEnds, error) != std::end(kEnds);
+}
+
 // Writes icons of one file, each under a name that begins with `start`.
 class Extraction {
   public:
@@ -76,6 +88,8 @@ class Extraction {
         const auto images = file_.Images(icon);
         if (!images) return tl::unexpected(images.error());
         const std::string name = start_ + std::to_string(icon + 1);
+        if (!arguments_.png && std::ranges::any_of(*images, IsTooLarge))
+            return FailureOf(name + ".ico", {EINVAL, "an image is too large for an icon: --png"});
         if (!arguments_.png)
             return WriteResult(name + ".ico", formats::ExportImages(file_.Source(), *images));
         for (const ImageEntry& image : *images) {
@@ -97,8 +111,7 @@ class Extraction {
     // Whether the result would replace another file of this run.
     bool IsRead(const std::string& name) const {
         std::error_code unreachable;
-        if (arguments_.files.size() == 1 || !std::filesystem::exists(name, unreachable))
-            return false;
+        if (!std::filesystem::exists(name, unreachable)) return false;
         return std::ranges::any_of(arguments_.files, [&](const std::string& file) {
             return std::filesystem::equivalent(name, file, unreachable);
         });
@@ -120,11 +133,16 @@ Result<void> ExtractFile(const std::string& name, const Arguments& arguments) {
         start.insert(0, arguments.into + "/");
     }
     const Extraction extraction(*file, arguments, start);
+    // One bad icon does not lose the others.
+    Result<void> all;
     for (const std::size_t icon : *icons) {
         auto written = extraction.Write(icon);
-        if (!written) return written;
+        if (written) continue;
+        if (!all) Complain(all.error().description);
+        all = tl::unexpected<Error>(written.error());
+        if (EndsAll(written.error().number)) break;
     }
-    return {};
+    return all;
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <vector>
 
 #include "cli/Streams.h"
@@ -116,7 +117,11 @@ Result<void> WriteNew(const std::string& name, std::span<const std::uint8_t> byt
     constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
     constexpr mode_t kEveryone = 0666;
     const int file = system::Retry([&] { return open(name.c_str(), kFlags, kEveryone); });
-    if (file < 0 && errno == EEXIST) return WriteOutput(name, bytes);
+    if (file < 0 && errno == EEXIST) {
+        std::error_code gone;
+        if (!std::filesystem::is_symlink(name, gone)) return WriteOutput(name, bytes);
+        return FailureOf(name, {EEXIST, "it is a link"});
+    }
     const bool made = file >= 0;
     const Result<void> written = WriteAndClose(file, bytes);
     if (written) return {};

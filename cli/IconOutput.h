@@ -26,7 +26,7 @@ Result<void> WriteIcon(const IconTarget& target, const gdi::IconPlanes& icon);
 // the file's name.
 Result<void> WriteOutput(const std::string& name, std::span<const std::uint8_t> bytes);
 // The same, and where there is no such file, it is made as it stands, without waiting for the disk;
-// of one that cannot be written whole nothing is left.
+// of one that cannot be written whole nothing is left. A link that is there is not followed.
 Result<void> WriteNew(const std::string& name, std::span<const std::uint8_t> bytes);
 Result<void> WriteText(const std::string& name, std::string_view text);
 

@@ -106,8 +106,7 @@ void KeepWhole(std::vector<ImageEntry>& entries, const ImageDecoder& decode) {
     std::set<std::pair<std::size_t, int>> whole;
     // The best comes first, so that it is never missing.
     for (const ImageEntry& entry : BestFirst(entries)) {
-        if (work > kMostWork) break;
-        if (!entry.info.png || decode(entry, work)) whole.insert({entry.offset, entry.info.height});
+        if (!entry.info.png || work > kMostWork || decode(entry, work)) whole.insert({entry.offset, entry.info.height});
     }
     std::erase_if(entries, [&](const ImageEntry& entry) {
         return !whole.contains({entry.offset, entry.info.height});

@@ -10,11 +10,15 @@ namespace kestrel::gdi {
 
 namespace {
 
+int SourceOf(int i, int from, int to) {
+    return static_cast<int>(std::int64_t{i} * from / to);
+}
+
 std::vector<int> Stretch(int from, int to) {
     std::vector<int> places(static_cast<std::size_t>(to));
-    std::int64_t i = 0;
+    int i = 0;
     for (int& place : places)
-        place = static_cast<int>(i++ * from / to);
+        place = SourceOf(i++, from, to);
     return places;
 }
 
