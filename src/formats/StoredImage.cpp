@@ -106,7 +106,8 @@ void KeepWhole(std::vector<ImageEntry>& entries, const ImageDecoder& decode) {
     std::set<std::pair<std::size_t, int>> whole;
     // The best comes first, so that it is never missing.
     for (const ImageEntry& entry : BestFirst(entries)) {
-        if (!entry.info.png || work > kMostWork || decode(entry, work)) whole.insert({entry.offset, entry.info.height});
+        if (!entry.info.png || work > kMostWork || decode(entry, work))
+            whole.insert({entry.offset, entry.info.height});
     }
     std::erase_if(entries, [&](const ImageEntry& entry) {
         return !whole.contains({entry.offset, entry.info.height});
