@@ -109,8 +109,8 @@ std::vector<std::uint32_t> Steps(SourceReader& file, const Chunks& chunks) {
 }
 
 // A frame is an icon or cursor file of its own or a bare bitmap.
-std::vector<ImageEntry> FrameImages(SourceReader& file, Extent frame, std::size_t most) {
-    if (IsDirectory(file, frame.offset)) return DirectoryImages(file, frame, most);
+std::vector<ImageEntry> FrameImages(SourceReader& file, Extent frame) {
+    if (IsDirectory(file, frame.offset)) return DirectoryImages(file, frame, kMostImagesEach);
     const auto image = ReadImageHead(file, frame, {});
     return image ? std::vector{*image} : std::vector<ImageEntry>{};
 }
@@ -131,7 +131,7 @@ IconTable ListAni(SourceReader& file) {
         if (frame >= chunks.frames.size()) break;
         const Extent place = chunks.frames[frame];
         if (!firsts[frame]) {
-            const auto images = FrameImages(file, place, 1);
+            const auto images = FrameImages(file, place);
             if (images.empty()) break;
             firsts[frame] = images.front();
         }
@@ -145,7 +145,7 @@ IconTable ListAni(SourceReader& file) {
 
 std::vector<ImageEntry> OtherFrameImages(SourceReader& file, const IconTable& /*table*/,
                                          const ListedIcon& step) {
-    auto images = FrameImages(file, step.place.Where(), SIZE_MAX);
+    auto images = FrameImages(file, step.place.Where());
     if (!images.empty()) images.erase(images.begin());
     return images;
 }

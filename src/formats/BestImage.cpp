@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <set>
 #include <tuple>
+#include <utility>
 
 namespace kestrel::formats {
 namespace {
@@ -17,31 +19,20 @@ auto Rank(const ImageEntry& entry) {
     return std::tuple(distance, -info.width * info.height, -info.bitsPerPixel);
 }
 
-auto Place(const ImageEntry& entry) {
-    return std::tuple(entry.offset, entry.info.height);
-}
-
 }  // namespace
 
+std::vector<ImageEntry> WithoutRepeats(std::vector<ImageEntry> entries) {
+    std::set<std::pair<std::size_t, int>> places;
+    std::erase_if(entries, [&](const ImageEntry& entry) {
+        return !places.insert({entry.offset, entry.info.height}).second;
+    });
+    return entries;
+}
+
 std::vector<ImageEntry> BestFirst(std::vector<ImageEntry> entries) {
-    std::vector<std::size_t> order(entries.size());
-    for (std::size_t i = 0; i < order.size(); ++i)
-        order[i] = i;
-    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return std::tuple(Place(entries[a]), a) < std::tuple(Place(entries[b]), b);
-    });
-    // Of several entries for one image only the first stays.
-    const auto repeats = std::unique(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return Place(entries[a]) == Place(entries[b]);
-    });
-    order.erase(repeats, order.end());
-    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return std::tuple(Rank(entries[a]), a) < std::tuple(Rank(entries[b]), b);
-    });
-    std::vector<ImageEntry> best;
-    best.reserve(order.size());
-    for (const std::size_t i : order)
-        best.push_back(entries[i]);
+    auto best = WithoutRepeats(std::move(entries));
+    std::ranges::stable_sort(
+        best, [](const ImageEntry& a, const ImageEntry& b) { return Rank(a) < Rank(b); });
     return best;
 }
 

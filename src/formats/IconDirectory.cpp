@@ -49,12 +49,13 @@ bool IsDirectory(SourceReader& file, std::uint64_t offset) {
 std::vector<ImageEntry> DirectoryImages(SourceReader& file, Extent directory, std::size_t most) {
     directory = file.Inside(directory);
     if (directory.size < kHeadSize) return {};
-    const std::uint64_t count = file.Record<kHeadSize>(directory.offset).U16(4);
+    const std::uint64_t count =
+        std::min<std::uint64_t>(file.Record<kHeadSize>(directory.offset).U16(4), most);
     const auto entries = file.Part(
         {directory.offset + kHeadSize, std::min(count * kEntrySize, directory.size - kHeadSize)});
     std::uint64_t end = entries.size();
     std::vector<ImageEntry> images;
-    for (std::uint64_t at = 0; at + kEntrySize <= end && images.size() < most; at += kEntrySize) {
+    for (std::uint64_t at = 0; at + kEntrySize <= end; at += kEntrySize) {
         const auto image = EntryImage(file, directory, static_cast<std::size_t>(at / kEntrySize),
                                       ByteReader(entries).Part(at, kEntrySize));
         if (!image) continue;
@@ -66,7 +67,8 @@ std::vector<ImageEntry> DirectoryImages(SourceReader& file, Extent directory, st
 
 IconTable ListDirectory(SourceReader& file) {
     IconTable table;
-    for (const ImageEntry& image : DirectoryImages(file, {0, file.Size()}, kMostIcons)) {
+    for (const ImageEntry& image : DirectoryImages(file, {0, file.Size()}, SIZE_MAX)) {
+        if (table.icons.size() == kMostIcons) break;
         const auto entry = static_cast<std::uint32_t>(kHeadSize + kEntrySize * image.index);
         const auto number = static_cast<std::uint32_t>(image.index) + 1;
         table.icons.push_back({{entry, kEntrySize, number}, image});

@@ -13,7 +13,8 @@ bool IsCursorFile(SourceReader& file);
 // Whether an icon or cursor file begins here.
 bool IsDirectory(SourceReader& file, std::uint64_t offset);
 
-// The first `most` usable images of an icon or cursor file that lies in this extent.
+// The usable images of an icon or cursor file that lies in this extent, of its first `most`
+// entries.
 std::vector<ImageEntry> DirectoryImages(SourceReader& file, Extent directory, std::size_t most);
 
 // One icon an image.

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <utility>
 
+#include "formats/BestImage.h"
 #include "formats/StoredImage.h"
 #include "formats/UnreadableFile.h"
 #include "i18n/Messages.h"
@@ -54,7 +55,7 @@ Result<std::vector<ImageEntry>> IconSource::Images(std::size_t icon) const {
     auto images = format_->others(file, table_, listed);
     if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
     images.insert(images.begin(), listed.first);
-    return images;
+    return WithoutRepeats(std::move(images));
 }
 
 Result<IconImage> IconSource::Icon(std::size_t icon, std::optional<gdi::Size> size) const {

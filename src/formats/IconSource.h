@@ -37,7 +37,8 @@ class IconSource {
     // A program's own name for the icon in UTF-8, or its number in decimal digits. Numbers of
     // images and steps count from 1.
     Result<std::string> NameOf(std::size_t icon) const;
-    // The icon's images in the order of its directory, without those that cannot be used.
+    // The icon's images in the order of its directory, without repeats and those that cannot be
+    // used.
     Result<std::vector<ImageEntry>> Images(std::size_t icon) const;
     // The image that suits 32 x 32 best, as ReadBestImage chooses among a file's images; damaged
     // ones give way to the next best. Fails with kDamagedPicture when none can be decoded. Planes

@@ -22,6 +22,10 @@ constexpr bool IsOneIcon(SourceKind kind) {
 // No file shows more icons.
 inline constexpr std::size_t kMostIcons = 32767;
 
+// Of an icon that has several images no more entries are looked at; real ones have some dozens.
+// Thousands of icons may share one set of images.
+inline constexpr std::size_t kMostImagesEach = 256;
+
 // Where a file keeps one icon or one image of icons: a directory entry, a resource, a frame. All
 // offsets are below 4 GB.
 struct IconPlace {

@@ -19,7 +19,8 @@ std::size_t EntryCount(SourceReader& file, const IconPlace& group) {
     const std::uint64_t room = file.Inside(group.Where()).size;
     if (room < kHeadSize) return 0;
     const std::uint64_t count = file.Record<kHeadSize>(group.offset).U16(4);
-    return static_cast<std::size_t>(std::min(count, (room - kHeadSize) / kEntrySize));
+    return static_cast<std::size_t>(
+        std::min({count, (room - kHeadSize) / kEntrySize, std::uint64_t{kMostImagesEach}}));
 }
 
 // The first image of this number as stored, if any.

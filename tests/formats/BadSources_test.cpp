@@ -54,6 +54,10 @@ ByteList OverlappingGroups() {
 
 TEST(BadSources, CountsOfManyThousandsEndSoon) {
     EXPECT_LT(SecondsToList(OverlappingGroups()), 1);
+    const LibraryIcon large{"", std::vector(300, ImageBytes{{3, 2, 24, false}, kDib})};
+    for (const ByteList& file : {LibraryBytes({&large, 1}).value(),
+                                 Text("RIFF    ACON") + Chunk("icon", Ico(std::vector(300, kDib)))})
+        EXPECT_EQ(Open(file)->Images(0)->size(), 256U);
     const std::vector<LibraryIcon> icons(33000, {"", {{{3, 2, 24, false}, kDib}}});
     const auto source = Open(LibraryBytes(icons).value());
     ASSERT_EQ(source->count, 32767U);

@@ -40,6 +40,7 @@ const OddSource kOddPrograms[] = {
     {"groups of one number", {{0x258, "02000000"}}, "PE 2:3x2x24,1x1x32p 2:3x2x24"},
     {"groups of one name", {{0x260, "30010080"}}, "PE AB:3x2x24,1x1x32p AB:3x2x24"},
     {"number before name", {{0x258, "02000000 C8000080 30010080 B0000080"}}, kPe},
+    {"an image twice", {{0x430, "01"}}, "PE AB:3x2x24 2:3x2x24"},
     {"image shared", {{0x446, "01"}}, kPe},
     {"sizes told 0", {{0x416, "0000000000000000 00000000"}}, kPe},
     {"more images told than there are", {{0x414, "FFFF"}}, kPe},
