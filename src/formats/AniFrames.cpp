@@ -20,6 +20,7 @@ constexpr std::uint64_t kFileHead = 12;  // "RIFF", size, type
 constexpr std::uint64_t kChunkHead = 8;  // name, size
 constexpr std::uint64_t kListType = 4;   // after a list's head
 constexpr std::uint64_t kStepCount = 8;  // in the animation header
+constexpr std::uint64_t kStep = 4;       // in a sequence
 constexpr std::size_t kMostChunks = 1U << 17;
 
 // What the file has of each chunk that matters, wherever it stands.
@@ -75,11 +76,13 @@ class ChunkWalk {
         return !IsChunk(end + 1) && IsChunk(end) ? end : end + 1;
     }
 
-    // Of a second header or sequence nothing is known; the first counts.
+    // Of a second header or sequence nothing is known; the first counts. A sequence without a step
+    // says nothing.
     void Take(std::uint32_t name, Extent data) {
         if (name == Name("icon")) chunks_.frames.push_back(data);
         if (name == Name("anih") && !chunks_.header) chunks_.header = data;
-        if (name == Name("seq ") && !chunks_.sequence) chunks_.sequence = data;
+        if (name == Name("seq ") && !chunks_.sequence && data.size >= kStep)
+            chunks_.sequence = data;
     }
 
     SourceReader& file_;
@@ -91,10 +94,10 @@ class ChunkWalk {
 std::vector<std::uint32_t> Steps(SourceReader& file, const Chunks& chunks) {
     std::vector<std::uint32_t> steps;
     if (chunks.sequence) {
-        const std::uint64_t most = kMostIcons * sizeof(std::uint32_t);
+        const std::uint64_t most = kMostIcons * kStep;
         const auto bytes =
             file.Part({chunks.sequence->offset, std::min(chunks.sequence->size, most)});
-        for (std::size_t at = 0; at + 4 <= bytes.size(); at += 4)
+        for (std::size_t at = 0; at + kStep <= bytes.size(); at += kStep)
             steps.push_back(ByteReader(bytes).U32(at));
     } else {
         for (std::size_t i = 0; i < std::min(chunks.frames.size(), kMostIcons); ++i)

@@ -69,7 +69,8 @@ Result<IconImage> IconSource::Best(std::vector<ImageEntry> images,
     SourceReader file(*bytes_);
     auto best = DecodeBest(std::move(images), [&](const ImageEntry& image, std::size_t& work) {
         const auto bytes = ReadStoredImage(file, image);
-        return DecodeStored(bytes, image.info, size.value_or(SizeOf(image.info)), work);
+        if (!bytes) return std::optional<IconImage>();
+        return DecodeStored(*bytes, image.info, size.value_or(SizeOf(image.info)), work);
     });
     if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
     if (!best) return Damaged();
@@ -99,7 +100,8 @@ Result<std::vector<std::uint8_t>> IconSource::Stored(const ImageEntry& image) co
     SourceReader file(*bytes_);
     auto bytes = ReadStoredImage(file, image);
     if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
-    return bytes;
+    if (!bytes) return Fail(EFBIG, "The image is larger than 32 MB");
+    return *std::move(bytes);
 }
 
 Result<gdi::Surface> IconSource::Pixels(const ImageEntry& image) const {

@@ -53,7 +53,7 @@ class IconSource {
     Result<std::vector<ImageEntry>> Whole(std::vector<ImageEntry> images) const;
 
     // One of Images(): decoded (or kDamagedPicture), and its bytes as they are stored, trimmed to
-    // the length that its own header tells.
+    // the length that its own header tells. Both fail with EFBIG beyond 32 MB.
     Result<IconImage> Decode(const ImageEntry& image,
                              std::optional<gdi::Size> size = std::nullopt) const;
     Result<std::vector<std::uint8_t>> Stored(const ImageEntry& image) const;

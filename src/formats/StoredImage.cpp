@@ -61,10 +61,11 @@ std::optional<ImageEntry> ReadImageHead(SourceReader& file, Extent place, Direct
     return ImageEntry{start, static_cast<std::size_t>(std::min(dib->end, place.size)), dib->info};
 }
 
-std::vector<std::uint8_t> ReadStoredImage(SourceReader& file, const ImageEntry& entry) {
+std::optional<std::vector<std::uint8_t>> ReadStoredImage(SourceReader& file,
+                                                         const ImageEntry& entry) {
     Extent place{entry.offset, entry.size};
     if (entry.info.png) place.size = PngLength(file, place);
-    if (place.size > kMaxIconFileBytes) return {};
+    if (place.size > kMaxIconFileBytes) return std::nullopt;
     return file.Part(place);
 }
 

@@ -27,8 +27,10 @@ inline int DirectorySide(std::uint8_t stored) {
 std::optional<ImageEntry> ReadImageHead(SourceReader& file, Extent place, DirectorySize told,
                                         int longestPngSide = kMaxImageSide);
 
-// The bytes of an image as they are stored, a PNG trimmed after its last chunk.
-std::vector<std::uint8_t> ReadStoredImage(SourceReader& file, const ImageEntry& entry);
+// The bytes of an image as they are stored, a PNG trimmed after its last chunk; nothing when it is
+// larger than any icon file.
+std::optional<std::vector<std::uint8_t>> ReadStoredImage(SourceReader& file,
+                                                         const ImageEntry& entry);
 
 // How much is read and unpacked to find images that are whole, in bytes; about half a second's
 // worth. Real files stay far below it.

@@ -131,6 +131,7 @@ const Animation kAnimations[] = {
     {"list too short", Patched(kFrames, {{4, "02000000"}}) + kHeader, kAni},
     {"sequence behind", kFrames + kHeader + kSequence, "ANI 1:3x2x24,1x1x32p 2:3x2x24"},
     {"sequence alone", kFrames + kSequence, "ANI 1:3x2x24,1x1x32p 2:3x2x24 3:3x2x24,1x1x32p"},
+    {"sequence without a step", Chunk("seq ", Hex("010000")) + kFrames, kAni},
     {"frame outside", Patched(kSequence, {{12, "02"}}) + kFrames, "ANI 1:3x2x24,1x1x32p"},
     {"more steps than frames", Patched(kHeader, {{16, "FF"}}) + kFrames, kAni},
     {"one step", Patched(kHeader, {{16, "01"}}) + kFrames, "ANI 1:3x2x24"},
@@ -177,6 +178,11 @@ TEST(IconExport, WritesAllImagesAsStored) {
     png = Hex("0000 0100 0100") + png + Hex("16000000") + kPng;
     EXPECT_EQ(exported(Ico({kDib, kPng, kDib}), 1), png);
     EXPECT_EQ(exported(kPng, 0), png);
+    ByteList large(kPng.begin(), kPng.end() - 12);
+    large = large + Hex("02000000 74455874");
+    large.resize(large.size() + (std::size_t{32} << 20));
+    const auto source = Open(large);
+    EXPECT_EQ(source->Stored(source->Images(0)->at(0)).error().number, EFBIG);
 }
 
 }  // namespace
