@@ -129,13 +129,14 @@ bool IsAni(SourceReader& file) {
 IconTable ListAni(SourceReader& file) {
     const Chunks chunks = ChunkWalk(file).Collect();
     IconTable table;
+    DrawableIcons drawable(file);
     std::vector<std::optional<ImageEntry>> firsts(chunks.frames.size());
     for (const std::uint32_t frame : Steps(file, chunks)) {
         if (frame >= chunks.frames.size()) break;
         const Extent place = chunks.frames[frame];
         if (!firsts[frame]) {
             const auto images = FrameImages(file, place);
-            if (images.empty()) break;
+            if (images.empty() || !drawable.CanDraw(images.front(), [&] { return images; })) break;
             firsts[frame] = images.front();
         }
         const auto step = static_cast<std::uint32_t>(table.icons.size()) + 1;
@@ -146,11 +147,9 @@ IconTable ListAni(SourceReader& file) {
     return table;
 }
 
-std::vector<ImageEntry> OtherFrameImages(SourceReader& file, const IconTable& /*table*/,
-                                         const ListedIcon& step) {
-    auto images = FrameImages(file, step.place.Where());
-    if (!images.empty()) images.erase(images.begin());
-    return images;
+std::vector<ImageEntry> StepImages(SourceReader& file, const IconTable& /*table*/,
+                                   const ListedIcon& step) {
+    return FrameImages(file, step.place.Where());
 }
 
 }  // namespace kestrel::formats

@@ -12,7 +12,7 @@ namespace kestrel::formats {
 bool IsAni(SourceReader& file);
 // One icon a step, in the order of the sequence.
 IconTable ListAni(SourceReader& file);
-std::vector<ImageEntry> OtherFrameImages(SourceReader& file, const IconTable& table,
-                                         const ListedIcon& step);
+std::vector<ImageEntry> StepImages(SourceReader& file, const IconTable& table,
+                                   const ListedIcon& step);
 
 }  // namespace kestrel::formats

@@ -52,9 +52,8 @@ Result<std::string> IconSource::NameOf(std::size_t icon) const {
 Result<std::vector<ImageEntry>> IconSource::Images(std::size_t icon) const {
     const ListedIcon& listed = table_.icons.at(icon);
     SourceReader file(*bytes_);
-    auto images = format_->others(file, table_, listed);
+    auto images = format_->images(file, table_, listed);
     if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
-    images.insert(images.begin(), listed.first);
     return WithoutRepeats(std::move(images));
 }
 

@@ -22,6 +22,8 @@ namespace kestrel::formats {
 // Icons are, of an icon or cursor file, each image in the file's order; of a program each group of
 // images, names before numbers, or each image where there is no group; of an animated cursor each
 // step. Icons of which no image can be read are left out; what cannot be drawn ends an animation.
+// Of PNG images a program's icons and steps need one that is whole; the first 30 ms of trials are
+// spent on that, and beyond them, as of other files' PNG images, the head counts.
 //
 // Every question may fail with an errno value or kFileChanged; an icon is counted from 0.
 class IconSource {

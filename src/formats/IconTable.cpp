@@ -26,18 +26,18 @@ IconTable ListPng(SourceReader& file) {
     return table;
 }
 
-std::vector<ImageEntry> NoOthers(SourceReader& /*file*/, const IconTable& /*table*/,
-                                 const ListedIcon& /*icon*/) {
-    return {};
+std::vector<ImageEntry> OneImage(SourceReader& /*file*/, const IconTable& /*table*/,
+                                 const ListedIcon& icon) {
+    return {icon.first};
 }
 
 constexpr std::array kFormats{
-    Format{SourceKind::Ico, "ICO", IsIconFile, ListDirectory, NoOthers, nullptr},
-    Format{SourceKind::Cur, "CUR", IsCursorFile, ListDirectory, NoOthers, nullptr},
-    Format{SourceKind::Png, "PNG", SniffPng, ListPng, NoOthers, nullptr},
-    Format{SourceKind::Pe, "PE", IsPe, ListPe, OtherGroupImages, PeText},
-    Format{SourceKind::Ne, "NE", IsNe, ListNe, OtherGroupImages, NeText},
-    Format{SourceKind::Ani, "ANI", IsAni, ListAni, OtherFrameImages, nullptr},
+    Format{SourceKind::Ico, "ICO", IsIconFile, ListDirectory, OneImage, nullptr},
+    Format{SourceKind::Cur, "CUR", IsCursorFile, ListDirectory, OneImage, nullptr},
+    Format{SourceKind::Png, "PNG", SniffPng, ListPng, OneImage, nullptr},
+    Format{SourceKind::Pe, "PE", IsPe, ListPe, ResourceImages, PeText},
+    Format{SourceKind::Ne, "NE", IsNe, ListNe, ResourceImages, NeText},
+    Format{SourceKind::Ani, "ANI", IsAni, ListAni, StepImages, nullptr},
 };
 
 }  // namespace

@@ -61,8 +61,8 @@ struct Format {
     std::string_view name;
     bool (*sniff)(SourceReader& file);
     IconTable (*list)(SourceReader& file);
-    // The icon's other usable images.
-    std::vector<ImageEntry> (*others)(SourceReader& file, const IconTable& table,
+    // The icon's usable images.
+    std::vector<ImageEntry> (*images)(SourceReader& file, const IconTable& table,
                                       const ListedIcon& icon);
     // The text at a name's offset; nullptr where icons have no names.
     std::string (*text)(SourceReader& file, std::uint64_t offset);

@@ -55,10 +55,14 @@ void KeepReadable(SourceReader& file, IconTable& table, std::vector<IconPlace> c
     std::stable_partition(candidates.begin(), candidates.end(),
                           [](const IconPlace& icon) { return icon.named; });
     std::size_t budget = kMostEntries;
+    DrawableIcons drawable(file);
     for (const IconPlace& icon : candidates) {
         if (budget == 0 || table.icons.size() == kMostIcons) break;
-        if (const auto first = FirstImage(file, table, icon, budget))
-            table.icons.push_back({icon, *first});
+        const auto first = FirstImage(file, table, icon, budget);
+        if (!first) continue;
+        const ListedIcon listed{icon, *first};
+        if (drawable.CanDraw(*first, [&] { return ResourceImages(file, table, listed); }))
+            table.icons.push_back(listed);
     }
 }
 
@@ -79,9 +83,9 @@ IconTable ListResources(SourceReader& file, std::vector<IconPlace> groups,
     return table;
 }
 
-std::vector<ImageEntry> OtherGroupImages(SourceReader& file, const IconTable& table,
-                                         const ListedIcon& icon) {
-    std::vector<ImageEntry> images;
+std::vector<ImageEntry> ResourceImages(SourceReader& file, const IconTable& table,
+                                       const ListedIcon& icon) {
+    std::vector<ImageEntry> images{icon.first};
     const std::size_t count = table.grouped ? EntryCount(file, icon.place) : 0;
     for (std::size_t i = icon.first.index + 1; i < count; ++i)
         if (const auto image = GroupImage(file, table, icon.place, i)) images.push_back(*image);

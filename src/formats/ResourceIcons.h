@@ -15,7 +15,7 @@ inline constexpr std::uint32_t kIconGroupResource = 14;
 IconTable ListResources(SourceReader& file, std::vector<IconPlace> groups,
                         std::vector<IconPlace> images);
 
-std::vector<ImageEntry> OtherGroupImages(SourceReader& file, const IconTable& table,
-                                         const ListedIcon& icon);
+std::vector<ImageEntry> ResourceImages(SourceReader& file, const IconTable& table,
+                                       const ListedIcon& icon);
 
 }  // namespace kestrel::formats

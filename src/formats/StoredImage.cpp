@@ -23,6 +23,9 @@ constexpr std::uint32_t kLastChunk = 0x49454E44;  // "IEND"
 constexpr int kMostChunks = 65536;
 
 constexpr std::size_t kWorkAnImage = 4096;
+constexpr std::size_t kWorkAHead = 128;
+// What listing a file spends on trials.
+constexpr std::size_t kMostTrialWork = std::size_t{8} << 20;
 
 // What a directory would say of a bitmap that has none. Icons are square: a height of twice the
 // width counts the mask; any other does so only where its rows are not there otherwise.
@@ -91,6 +94,21 @@ std::optional<gdi::Surface> StoredPixels(Bytes image, const ImageInfo& info) {
     const auto dib = ReadDibLayout(image, info.width, info.height);
     if (!dib || dib->info != info) return std::nullopt;
     return ReadDibPixels(image, *dib);
+}
+
+bool DrawableIcons::CanDraw(const ImageEntry& first,
+                            const std::function<std::vector<ImageEntry>()>& images) {
+    if (!first.info.png || work_ > kMostTrialWork) return true;
+    const auto all = images();
+    work_ += all.size() * kWorkAHead;
+    if (std::ranges::any_of(all, [](const ImageEntry& image) { return !image.info.png; }))
+        return true;
+    for (const ImageEntry& image : all) {
+        if (work_ > kMostTrialWork) return true;
+        const auto bytes = ReadStoredImage(file_, image);
+        if (bytes && DecodeStored(*bytes, image.info, {1, 1}, work_)) return true;
+    }
+    return false;
 }
 
 std::optional<IconImage> DecodeBest(std::vector<ImageEntry> entries, const ImageDecoder& decode) {

@@ -49,6 +49,20 @@ std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info, gdi::S
 // with a side above 1024 comes in proportion smaller, by dropping pixels.
 std::optional<gdi::Surface> StoredPixels(Bytes image, const ImageInfo& info);
 
+// Tells icons that can be drawn from those whose images are all damaged PNGs. Bitmaps need no
+// trial. After about 30 ms of trials the heads of images are believed.
+class DrawableIcons {
+  public:
+    explicit DrawableIcons(SourceReader& file) : file_(file) {}
+
+    // `images` are those of the icon, asked for where the first is not enough.
+    bool CanDraw(const ImageEntry& first, const std::function<std::vector<ImageEntry>()>& images);
+
+  private:
+    SourceReader& file_;
+    std::size_t work_ = 0;
+};
+
 // Decodes one image in the size that is asked for, or else its own.
 using ImageDecoder = std::function<std::optional<IconImage>(const ImageEntry&, std::size_t& work)>;
 

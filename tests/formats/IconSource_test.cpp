@@ -58,7 +58,7 @@ const OddSource kOddPrograms[] = {
      {{0x332, "C0DE"}},
      "PE \xEF\xBF\xBD"
      "B:3x2x24,1x1x32p 2:3x2x24"},
-    {"only a cut PNG", {{0x230, "09"}, {0x2F4, "30"}}, "PE AB:1x1x32p! 2:3x2x24"},
+    {"only a cut PNG", {{0x230, "09"}, {0x2F4, "30"}}, "PE 2:3x2x24"},
 };
 
 // The header of 64 bits has 16 bytes more before its directories.
@@ -143,6 +143,8 @@ const Animation kAnimations[] = {
     {"bare bitmap of a bit", Chunk("icon", Patched(kDib, {{4, "02"}, {14, "01"}, {32, "02"}})),
      "ANI 1:2x2x1"},
     {"a frame cannot be read", kFrame + Chunk("icon", {}) + kFrame, "ANI 1:3x2x24"},
+    {"a frame's only image is cut",
+     kFrame + Chunk("icon", Ico({{kPng.begin(), kPng.end() - 20}})) + kFrame, "ANI 1:3x2x24"},
     {"no frames", kHeader, "none"},
 };
 
