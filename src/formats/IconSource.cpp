@@ -67,9 +67,7 @@ Result<IconImage> IconSource::Best(std::vector<ImageEntry> images,
                                    std::optional<gdi::Size> size) const {
     SourceReader file(*bytes_);
     auto best = DecodeBest(std::move(images), [&](const ImageEntry& image, std::size_t& work) {
-        const auto bytes = ReadStoredImage(file, image);
-        if (!bytes) return std::optional<IconImage>();
-        return DecodeStored(*bytes, image.info, size.value_or(SizeOf(image.info)), work);
+        return ReadAndDecode(file, image, size.value_or(SizeOf(image.info)), work);
     });
     if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
     if (!best) return Damaged();
@@ -79,7 +77,7 @@ Result<IconImage> IconSource::Best(std::vector<ImageEntry> images,
 Result<std::vector<ImageEntry>> IconSource::Whole(std::vector<ImageEntry> images) const {
     SourceReader file(*bytes_);
     KeepWhole(images, [&](const ImageEntry& image, std::size_t& work) {
-        return DecodeStored(ReadStoredImage(file, image), image.info, {1, 1}, work);
+        return ReadAndDecode(file, image, {1, 1}, work);
     });
     if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
     if (images.empty()) return Damaged();

@@ -85,6 +85,12 @@ std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info, gdi::S
     return icon;
 }
 
+std::optional<IconImage> ReadAndDecode(SourceReader& file, const ImageEntry& image, gdi::Size size,
+                                       std::size_t& work) {
+    const auto bytes = ReadStoredImage(file, image);
+    return bytes ? DecodeStored(*bytes, image.info, size, work) : std::nullopt;
+}
+
 std::optional<gdi::Surface> StoredPixels(Bytes image, const ImageInfo& info) {
     if (info.png) {
         std::size_t work = 0;
@@ -105,8 +111,7 @@ bool DrawableIcons::CanDraw(const ImageEntry& first,
         return true;
     for (const ImageEntry& image : all) {
         if (work_ > kMostTrialWork) return true;
-        const auto bytes = ReadStoredImage(file_, image);
-        if (bytes && DecodeStored(*bytes, image.info, {1, 1}, work_)) return true;
+        if (ReadAndDecode(file_, image, {1, 1}, work_)) return true;
     }
     return false;
 }

@@ -45,6 +45,10 @@ inline gdi::Size SizeOf(const ImageInfo& info) {
 std::optional<IconImage> DecodeStored(Bytes image, const ImageInfo& info, gdi::Size size,
                                       std::size_t& work);
 
+// The same out of a file of any kind.
+std::optional<IconImage> ReadAndDecode(SourceReader& file, const ImageEntry& image, gdi::Size size,
+                                       std::size_t& work);
+
 // The image's pixels as 0xAABBGGRR, with the alpha that is stored or else that of the mask. A PNG
 // with a side above 1024 comes in proportion smaller, by dropping pixels.
 std::optional<gdi::Surface> StoredPixels(Bytes image, const ImageInfo& info);
