@@ -153,6 +153,10 @@ class ResourceSection {
     ByteWriter types_, resources_, languages_, places_, texts_, data_;
 };
 
+char InCapitals(char letter) {
+    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
+}
+
 // What names the images of an icon by their numbers, which go on from the last icon's.
 std::vector<std::uint8_t> GroupBytes(const LibraryIcon& icon, std::size_t firstNumber) {
     ByteWriter out;
@@ -178,7 +182,9 @@ Result<std::vector<std::uint8_t>> LibraryBytes(std::span<const LibraryIcon> icon
     }
     if (icons.size() > kMostImages || images.size() > kMostImages || size > kMostBytes)
         return Fail(EFBIG, "The library would be too large");
-    // The system looks names up by halving.
+    // The system looks names up by halving and in capitals.
+    for (Resource& group : groups)
+        std::ranges::transform(group.name, group.name.begin(), InCapitals);
     std::ranges::stable_sort(groups, [](const Resource& one, const Resource& other) {
         return !one.name.empty() && (other.name.empty() || one.name < other.name);
     });

@@ -9,7 +9,8 @@
 
 namespace kestrel::formats {
 
-// One icon of a library: a name in ASCII or, without one, its place in the library counted from 1.
+// One icon of a library: a name in ASCII, stored in capitals, or without one its place in the
+// library counted from 1.
 struct LibraryIcon {
     std::string name;
     std::vector<ImageBytes> images;

@@ -26,7 +26,7 @@ ByteList Ico(const std::vector<ByteList>& images) {
 ByteList Pe() {
     const formats::ImageBytes bitmap{{3, 2, 24, false}, kDib};
     const formats::ImageBytes png{{1, 1, 32, true}, kPng};
-    const formats::LibraryIcon icons[] = {{"AB", {bitmap, png}}, {"", {bitmap}}};
+    const formats::LibraryIcon icons[] = {{"aB", {bitmap, png}}, {"", {bitmap}}};
     return formats::LibraryBytes(icons).value();
 }
 
