@@ -49,9 +49,11 @@ inline constexpr Text kGradientGreen{"  (G):", "绿(G):"};
 inline constexpr Text kGradientBlue{"  (B):", "蓝(B):"};
 inline constexpr Text kDegrees{"Degrees:", " 角度:"};
 
-// The extraction of icons: its button, and its line for the first icon of the file that it begins
-// with, and of a file chosen since.
+// The extraction of icons: its button, what screen readers call the grid and the bar beside it, and
+// the line for the first icon of the file that it begins with, and of a file chosen since.
 inline constexpr Text kBrowse{"Browse", "提取"};
+inline constexpr Text kIconsName{"Icons of the file", "文件中的图标"};
+inline constexpr Text kIconsScrollName{"Scroll the icons", "滚动图标"};
 inline constexpr Text kFirstIcon{"Icon No 1 Selected.", "选中第1个图标."};
 inline constexpr Text kFirstChosenIcon{"Icon No. 1 Selected.", "选中第1个图标."};
 

@@ -51,8 +51,10 @@ QLayout* FrmIcons::NewGrid() {
     PicFrame_->setObjectName("PicFrame");
     PicFrame_->setFixedSize(IconGrid::kWidth, IconGrid::kSeenHeight);
     PicIcons_->setObjectName("PicIcons");
+    PicIcons_->setAccessibleName(ToText(i18n::kIconsName.Now()));
     PicIcons_->onMouseUp = [this](QPoint point, bool second) { PicIcons_MouseUp(point, second); };
     Vsb_->setObjectName("Vsb");
+    Vsb_->setAccessibleName(ToText(i18n::kIconsScrollName.Now()));
     Vsb_->setSingleStep(IconGrid::kCellSize);
     Vsb_->setPageStep(IconGrid::kSeenHeight);
     Vsb_->installEventFilter(this);
@@ -96,9 +98,8 @@ void FrmIcons::PicIcons_MouseUp(QPoint point, bool second) {
 }
 
 void FrmIcons::CmdBrowse_Click() {
-    if (!extraction_.Browse(window_)) return;
-    ShowFile();
-    // The keys are for its icons now.
+    if (extraction_.Browse(window_)) ShowFile();
+    // The keys are for the icons again, also after a dialog that was cancelled.
     PicIcons_->setFocus();
 }
 
