@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "commands/ErrorBox.h"
+#include "formats/UnreadableFile.h"
 #include "i18n/Messages.h"
 
 namespace kestrel::commands {
@@ -17,7 +18,7 @@ void ExtractCommands::mnuExtract_Click() {
         services_, ProgramFile(parts_.folders, services_.files, "/system/Shell32.dll"));
     if (!parts_.dialogs.PickIcon(extraction)) return;
     const Result<formats::IconImage> icon = extraction.SelectedIcon();
-    if (!icon && icon.error().number != kInvalidPicture) {
+    if (!icon && icon.error().number != formats::kDamagedPicture) {
         ShowError(services_.boxes, i18n::CannotOpenSource(extraction.SourcePath()));
         return;
     }

@@ -37,6 +37,11 @@ services::FileRequest SourceRequest() {
     return request;
 }
 
+// As Open reads icons: of the size that is edited, by repeating or dropping pixels.
+Result<formats::IconImage> ReadIcon(const formats::IconSource& source, int icon) {
+    return source.Icon(static_cast<std::size_t>(icon), gdi::Size{gdi::kIconSize, gdi::kIconSize});
+}
+
 bool HoldsNoIcons(const Error& error) {
     return error.number == kNoIcons || error.number == kIconsElsewhere;
 }
@@ -82,7 +87,7 @@ const gdi::Surface& IconExtraction::PictureOf(int icon) {
 
 gdi::Surface IconExtraction::Draw(int icon) const {
     gdi::Surface pixels(gdi::kIconSize, gdi::kIconSize);
-    if (const auto image = source_->Icon(static_cast<std::size_t>(icon)))
+    if (const auto image = ReadIcon(*source_, icon))
         gdi::DrawOver(pixels, pixels.Bounds(), image->planes);
     return pixels;
 }
@@ -131,7 +136,7 @@ bool IconExtraction::ShowChosenFile(const services::OwnerWindow& owner) {
 
 Result<formats::IconImage> IconExtraction::SelectedIcon() const {
     const Hourglass hourglass(services_.application);
-    return source_->Icon(static_cast<std::size_t>(selected_));
+    return ReadIcon(*source_, selected_);
 }
 
 }  // namespace kestrel::tools

@@ -49,7 +49,8 @@ class IconExtraction {
     // that gives none is told of and changes nothing.
     bool Browse(const services::OwnerWindow& owner);
 
-    // The selected icon. Fails with kInvalidPicture where its images are damaged.
+    // The selected icon, 32 x 32. Fails with kDamagedPicture where none of its images can be
+    // decoded.
     Result<formats::IconImage> SelectedIcon() const;
 
   private:

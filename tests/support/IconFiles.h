@@ -6,6 +6,7 @@
 #include "formats/DibWriter.h"
 #include "formats/LibraryWriter.h"
 #include "platform/gdi/Blit.h"
+#include "tests/formats/HexBytes.h"
 
 namespace kestrel::test {
 
@@ -29,6 +30,14 @@ inline std::vector<std::uint8_t> LibraryOf(int count) {
     for (int i = 0; i < count; ++i)
         icons.push_back({"", {ColoredIcon(i)}});
     return formats::LibraryBytes(icons).value();
+}
+
+// A PNG of 1025 x 1 pixels in the colour of icon 7: wider than what is edited may be.
+inline std::vector<std::uint8_t> WidePng() {
+    return Hex(
+        "89504E470D0A1A0A 0000000D 49484452 00000401 00000001 0103000000 95022548"
+        "00000003 504C5445 07005A 298B93B5 0000000C 49444154 78DA63601868000000820001 61084889"
+        "00000000 49454E44 AE426082");
 }
 
 // An animated cursor of the icons 700 and 701, with no more than a reader needs.

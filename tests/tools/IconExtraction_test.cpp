@@ -28,6 +28,7 @@ TEST_P(IconExtractionTest, KeepsTheFileShownUntilAnotherHasIcons) {
     test::FakeServices given;
     given.files.contents = {{"/Shell32.dll", test::LibraryOf(300)},
                             {"/Two.ANI", test::Animation()},
+                            {"/wide.png", test::WidePng()},
                             {"/text.dll", {'h', 'e', 'l', 'l', 'o'}}};
     const test::OwnerOfDialogs owner;
     const ExtractionServices services{given.application, given.desktop, given.boxes, given.files};
@@ -60,6 +61,9 @@ TEST_P(IconExtractionTest, KeepsTheFileShownUntilAnotherHasIcons) {
     EXPECT_EQ(extraction.PictureOf(0).GetPixel(31, 31), test::ColorOf(700));
     extraction.MoveSelection(GridMove::Last);
     EXPECT_EQ(extraction.SelectedIcon()->planes.image.GetPixel(5, 5), test::ColorOf(701));
+    IconExtraction wide(services, "/wide.png");
+    EXPECT_EQ(wide.PictureOf(0).GetPixel(31, 31), test::ColorOf(7));
+    EXPECT_EQ(wide.SelectedIcon()->planes.image.GetPixel(31, 31), test::ColorOf(7));
     const services::FileRecord& asked = given.desktop.opens.at(0);
     EXPECT_TRUE(
         asked.filter.ends_with(services::FilterOf("|Icon Library Files (*.icl)|*.icl", "|")));

@@ -16,6 +16,8 @@ class FrmIconsTest : public test::WindowTest {
     FrmIconsTest() {
         given_.files.contents["/program/system/Shell32.dll"] = test::LibraryOf(51);
         given_.files.contents["/50.dll"] = test::LibraryOf(50);
+        given_.files.contents["/damaged.png"] = test::WidePng();
+        given_.files.contents["/damaged.png"].resize(60);
         given_.files.contents["/text.dll"] = {'h', 'e', 'l', 'l', 'o'};
     }
     // Chooses the command and does this in its dialog, which is closed if it is still open.
@@ -33,7 +35,9 @@ class FrmIconsTest : public test::WindowTest {
     void Press(Qt::Key key) { QTest::keyClick(dialog_->focusWidget(), key); }
     void Browse(const char* choice) {
         given_.desktop.choice = choice;
-        dialog_->findChild<QPushButton*>("CmdBrowse")->click();
+        auto* button = dialog_->findChild<QPushButton*>("CmdBrowse");
+        button->setFocus();
+        button->click();
     }
     std::string Info() { return dialog_->findChild<QLabel*>("lblInfo")->text().toStdString(); }
     // Of the part of the grid that is seen.
@@ -76,22 +80,26 @@ TEST_F(FrmIconsTest, TheIconTakenIsANewDocument) {
     given_.boxes.answers = {Answer::Cancel, Answer::Yes};  // and no file is chosen to save in
     for (int i = 0; i < 2; ++i)
         Extract([] { ADD_FAILURE() << "the icon was not saved"; });
-    const auto take = [&](int icon, const std::function<void()>& act) {
+    const auto take = [&](gdi::COLORREF color, const std::function<void()>& act) {
         given_.boxes.answers = {Answer::No};
         Extract(act);
-        EXPECT_EQ(Icon().PicImage().GetPixel(31, 31), test::ColorOf(icon));
+        EXPECT_EQ(Icon().PicImage().GetPixel(31, 31), color);
         EXPECT_TRUE(Icon().IsTransparent(0, 0) && Icon().IsUntitled() && Icon().Modified);
         EXPECT_FALSE(Editor().CanUndo());
+        EXPECT_EQ(window_.windowTitle(), "KestrelIconEditor - Untitled");
     };
-    take(11, [&] {
+    take(test::ColorOf(11), [&] {
         for (const int x : {385, 50}) {  // the margin, and an icon
             QTest::mouseDClick(grid_, Qt::LeftButton, {}, {x, 50});
             QTest::mouseRelease(grid_, Qt::LeftButton, {}, {x, 50});
         }
     });
-    take(1, [&] { Browse("/text.dll"), Press(Qt::Key_Right), Press(Qt::Key_Return); });
+    take(test::ColorOf(1),
+         [&] { Browse("/text.dll"), Press(Qt::Key_Right), Press(Qt::Key_Return); });
+    take(gdi::kBlack, [&] { Browse("/damaged.png"), Press(Qt::Key_Return); });
+    EXPECT_TRUE(Icon().IsTransparent(31, 31)) << "nothing could be decoded";
     given_.files.contents.erase("/program/system/Shell32.dll");
-    take(10, [&] {
+    take(test::ColorOf(10), [&] {
         Press(Qt::Key_Return);
         EXPECT_TRUE(dialog_->isVisible() && At(1, 1) == gdi::kWhite) << "there is nothing to take";
         Browse("/50.dll"), Press(Qt::Key_Down), Press(Qt::Key_Return);
