@@ -22,7 +22,6 @@ struct OddSource {
 // places at 2E0, the text of the name at 330; data: images at 338, 380 and 3C8, groups at 410, 434.
 constexpr auto kPe = "PE AB:3x2x24,1x1x32p 2:3x2x24";
 const OddSource kOddPrograms[] = {
-    {"as it is", {}, kPe},
     {"another processor", {{0x44, "64AA"}}, kPe},
     {"resource directory without a size", {{0xCC, "00000000"}}, kPe},
     {"section of another name and without a size", {{0x138, "2E7465787400000000000000"}}, kPe},
@@ -86,7 +85,6 @@ TEST(Pe, ListsOddPrograms) {
 // The header at 40; the table at 80: the shift, icons at 82, groups at A2.
 constexpr auto kNe = "NE AB:3x2x24,3x2x24 7:3x2x24";
 const OddSource kOdd16Bits[] = {
-    {"as it is", {}, kNe},
     {"for no system", {{0x76, "00"}}, kNe},
     {"for OS/2", {{0x76, "01"}}, "none"},
     {"no resources", {{0x66, "4000"}}, "none"},
@@ -122,7 +120,6 @@ struct Animation {
 constexpr auto kAni = "ANI 1:3x2x24 2:3x2x24,1x1x32p";
 const Animation kAnimations[] = {
     {"as it is", kHeader + kFrames, kAni},
-    {"without a header", kFrames, kAni},
     {"text before", kInfo + kHeader + kFrames, kAni},
     {"pad forgotten", kUnpadded + kHeader + kFrames, kAni},
     {"pad forgotten in a list", Chunk("LIST", Text("INFO") + kUnpadded) + kFrames, kAni},
