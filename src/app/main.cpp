@@ -18,6 +18,7 @@
 #include "desktop/QtMessageBoxes.h"
 #include "desktop/QtShell.h"
 #include "desktop/TwoColorWindows.h"
+#include "desktop/XScreen.h"
 #include "document/ApplicationIcon.h"
 #include "i18n/Language.h"
 #include "platform/system/DiskFiles.h"
@@ -122,12 +123,13 @@ int main(int argc, char* argv[]) {
     desktop::QtDesktopDialogs dialogs(boxes);
     desktop::QtClipboard clipboard;
     desktop::QtShell shell;
+    desktop::XScreen screen;
     desktop::QtHelpViewer help(shell);
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};
     system::RandomNumbers random(SeedOfClock());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
-                              random, settings, folders, facts.systemLcid});
+                              screen, random, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv), files));
     window.show();

@@ -17,6 +17,7 @@
 #include "commands/WellCommands.h"
 #include "editing/Editor.h"
 #include "services/Cdb.h"
+#include "services/Screen.h"
 #include "settings/Settings.h"
 
 namespace kestrel::commands {
@@ -31,6 +32,7 @@ struct MainServices {
     system::FileSystem& files;
     system::Registry& registry;
     services::Shell& shell;
+    services::Screen& screen;
     system::RandomNumbers& random;
     settings::Settings& settings;
     ProgramFolders folders;

@@ -9,17 +9,14 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "desktop/XConnection.h"
+
 namespace kestrel::desktop {
 
 namespace {
 
 // The pictures that the library draws on begin with five bits a colour.
 constexpr int kDrawableDepth = 15;
-
-xcb_connection_t* Connection() {
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 == nullptr ? nullptr : x11->connection();
-}
 
 QWidget* WidgetOf(const QObject* target) {
     for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -56,13 +53,13 @@ void Put(const QImage& bits, xcb_window_t window, xcb_connection_t* connection) 
 
 bool TwoColorWindows::IsNeeded() {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return Connection() != nullptr && screen != nullptr && screen->depth() < kDrawableDepth;
+    return XConnection() != nullptr && screen != nullptr && screen->depth() < kDrawableDepth;
 }
 
 bool TwoColorWindows::eventFilter(QObject* target, QEvent* event) {
     if (event->type() != QEvent::Expose && event->type() != QEvent::UpdateRequest) return false;
     QWidget* window = WidgetOf(target);
-    xcb_connection_t* connection = Connection();
+    xcb_connection_t* connection = XConnection();
     if (window == nullptr || connection == nullptr || !window->isVisible()) return true;
     const bool lowestFirst =
         xcb_get_setup(connection)->bitmap_format_bit_order == XCB_IMAGE_ORDER_LSB_FIRST;

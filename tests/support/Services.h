@@ -86,20 +86,33 @@ class RecordingHelp : public services::HelpViewer {
     std::string shownTitle;
 };
 
+// A screen that shows what a test painted; nothing lies on it at first.
+class PaintedScreen : public services::Screen {
+  public:
+    bool IsSeen() const override { return seen; }
+    gdi::Size Size() const override { return {shown.Width(), shown.Height()}; }
+    bool Copy(gdi::Point leftTop, gdi::Surface& into) override {
+        for (int y = 0; y < into.Height(); ++y) {
+            for (int x = 0; x < into.Width(); ++x) {
+                if (!shown.Contains(leftTop.x + x, leftTop.y + y)) continue;
+                into.SetPixel(x, y, shown.GetPixel(leftTop.x + x, leftTop.y + y));
+            }
+        }
+        return seen;
+    }
+    gdi::Point Pointer() const override { return pointer; }
+    void MovePointer(gdi::Point to) override { pointer = to; }
+
+    bool seen = true;
+    gdi::Surface shown{0, 0};
+    gdi::Point pointer;
+};
+
 // All that a main window is given.
 struct FakeServices {
     commands::MainServices Given() {
-        return {application,
-                desktop,
-                clipboard,
-                boxes,
-                help,
-                files,
-                registry,
-                shell,
-                random,
-                settings,
-                {"/program", "/windows"},
+        return {application, desktop, clipboard, boxes,  help,     files,
+                registry,    shell,   screen,    random, settings, {"/program", "/windows"},
                 1033};
     }
 
@@ -111,6 +124,7 @@ struct FakeServices {
     MemoryFiles files;
     MemoryRegistry registry;
     RecordingShell shell;
+    PaintedScreen screen;
     // The seed whose numbers the C++ standard tells.
     system::RandomNumbers random{std::mt19937::default_seed};
     settings::Settings settings{files, "/settings.ini"};

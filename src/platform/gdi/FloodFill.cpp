@@ -6,11 +6,6 @@
 namespace kestrel::gdi {
 namespace {
 
-struct Point {
-    int x;
-    int y;
-};
-
 // Grows runs of one colour row by row. Every run found is painted before its neighbours are
 // looked at, so no pixel is painted twice.
 class Flood {

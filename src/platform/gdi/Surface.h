@@ -9,6 +9,13 @@
 
 namespace kestrel::gdi {
 
+struct Point {
+    int x = 0;
+    int y = 0;
+
+    bool operator==(const Point&) const = default;
+};
+
 // A rectangle of pixels: left and top inside, width and height may be 0.
 struct Rect {
     int left = 0;
