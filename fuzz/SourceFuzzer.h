@@ -19,7 +19,7 @@ inline void ReadAs(formats::SourceKind kind, std::span<const std::uint8_t> file)
     for (const auto& icon :
          std::span(table.icons).first(std::min<std::size_t>(table.icons.size(), 8))) {
         if (icon.place.named) static_cast<void>(format->text(reader, icon.place.name));
-        static_cast<void>(format->others(reader, table, icon));
+        static_cast<void>(format->images(reader, table, icon));
     }
 }
 
