@@ -14,13 +14,13 @@
 namespace kestrel::system {
 namespace {
 
-// Records of tables follow each other: where one goes on from another, and at the start of the
-// file, a block is read. Heads of pictures lie apart and are read alone: to copy what lies between
-// them takes longer than to ask for each.
+// Records of tables follow each other, and so do the heads of small pictures: soon after another
+// record, and at the start of the file, a block is read. Heads of large pictures are read alone: to
+// copy what lies between them takes longer than to ask for each.
 constexpr std::uint64_t kBlockSize = 32768;
-constexpr std::size_t kBlocks = 8;
+constexpr std::size_t kBlocks = 4;
 constexpr std::size_t kLargestRecord = 256;
-constexpr std::uint64_t kNear = 64;
+constexpr std::uint64_t kNear = 4096;
 // Tables are read side by side: so many records that were read alone are remembered.
 constexpr std::size_t kRecentRecords = 4;
 // To look whether the file is still the same takes as long as to read a record.
@@ -123,10 +123,10 @@ bool FileBytes::StandsAlone(std::uint64_t offset, std::size_t size) {
 Result<void> FileBytes::Read(std::uint64_t offset, std::span<std::uint8_t> out) {
     assert(offset <= Size() && out.size() <= Size() - offset);
     if (out.size() > kBlockSize) return ReadFromDisk(offset, out);
-    while (!out.empty()) {
+    for (bool begins = true; !out.empty(); begins = false) {
         Block* block = FindBlock(offset);
         if (block == nullptr) {
-            if (StandsAlone(offset, out.size())) return ReadFromDisk(offset, out);
+            if (begins && StandsAlone(offset, out.size())) return ReadFromDisk(offset, out);
             const auto read = ReadBlock(offset);
             if (!read) return tl::unexpected(read.error());
             block = *read;

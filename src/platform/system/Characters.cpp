@@ -11,6 +11,11 @@
 namespace kestrel::system {
 
 char32_t TakeCharacter(std::string_view& text) {
+    if (static_cast<unsigned char>(text[0]) < 0x80) {
+        const char32_t ascii = static_cast<unsigned char>(text[0]);
+        text.remove_prefix(1);
+        return ascii;
+    }
     using Utf8 = std::codecvt<char32_t, char8_t, std::mbstate_t>;
     static const Utf8& utf8 = std::use_facet<Utf8>(std::locale::classic());
     const std::string_view longest = text.substr(0, 4);
