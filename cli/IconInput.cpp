@@ -72,7 +72,8 @@ Result<formats::IconSource> OpenSource(const std::string& name) {
     const auto head = HeadOf(**bytes);
     if (!head) return tl::unexpected(head.error());
     const std::uint64_t size = (*bytes)->Size();
-    auto source = formats::IconSource::Open(*std::move(bytes), name);
+    auto source =
+        formats::IconSource::Open(*std::move(bytes), name, formats::IconSource::Lists::Stored);
     if (!source) return tl::unexpected(WhyNoIcons(*head, source.error()));
     if (formats::IsOneIcon(source->kind) && size > formats::kMaxIconFileBytes)
         return SystemFailure(EFBIG);
@@ -89,6 +90,17 @@ gdi::Size WantedSize(const SourceFile& file, const std::vector<ImageEntry>& imag
     if (file.Source().kind != formats::SourceKind::Png) return {gdi::kIconSize, gdi::kIconSize};
     const gdi::Size size{images[0].info.width, images[0].info.height};
     return imaging::FitsIcon(size) ? size : imaging::FittedSize(size, fit);
+}
+
+// The first icon of which an image can be read, or else the first.
+Result<std::size_t> FirstReadable(const SourceFile& file) {
+    for (std::size_t icon = 0; icon < file.Count(); ++icon) {
+        const auto images = file.Images(icon);
+        if (images) return icon;
+        if (images.error().number != formats::kDamagedPicture)
+            return tl::unexpected(images.error());
+    }
+    return 0;
 }
 
 constexpr std::int64_t kMostNumber = 65536;
@@ -115,7 +127,12 @@ Result<std::string> SourceFile::NameOf(std::size_t icon) const {
 }
 
 Result<std::vector<ImageEntry>> SourceFile::Images(std::size_t icon) const {
-    if (!IsOneIcon()) return Named(source_.Images(icon));
+    if (!IsOneIcon()) {
+        auto images = Named(source_.Images(icon));
+        if (!images || !images->empty()) return images;
+        return Failure({formats::kDamagedPicture,
+                        "no image of icon " + std::to_string(icon + 1) + " can be read"});
+    }
     std::vector<ImageEntry> images;
     for (std::size_t i = 0; i < source_.count; ++i) {
         auto image = source_.Images(i);
@@ -134,7 +151,7 @@ Result<std::size_t> SourceFile::Numbered(const std::string& number) const {
 }
 
 Result<std::vector<ImageEntry>> ChosenImages(const SourceFile& file, const IconChoice& choice) {
-    const auto icon = file.Numbered(choice.icon.value_or("1"));
+    const auto icon = choice.icon ? file.Numbered(*choice.icon) : FirstReadable(file);
     if (!icon) return tl::unexpected(icon.error());
     auto images = file.Images(*icon);
     if (!images || !choice.image) return images;

@@ -130,7 +130,7 @@ Result<void> WriteNew(const std::string& name, std::span<const std::uint8_t> byt
 }
 
 Result<void> WriteText(const std::string& name, std::string_view text) {
-    return WriteOutput(name, Bytes(text.begin(), text.end()));
+    return WriteOutput(name, {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
 
 }  // namespace kestrel::cli

@@ -5,6 +5,7 @@
 #include "cli/Actions.h"
 #include "cli/IconOutput.h"
 #include "cli/Streams.h"
+#include "formats/UnreadableFile.h"
 #include "formats/Utf16.h"
 #include "platform/system/Characters.h"
 
@@ -38,12 +39,13 @@ std::string JsonText(std::string_view text) {
     return json + '"';
 }
 
-std::string ImageLine(const ImageEntry& image) {
+void AppendImageLine(std::string& lines, const ImageEntry& image) {
     const formats::ImageInfo& info = image.info;
-    std::string line = std::to_string(image.index + 1) + ": " + std::to_string(info.width) + " x ";
-    line += std::to_string(info.height) + ", " + std::to_string(info.bitsPerPixel);
-    line += info.bitsPerPixel == 1 ? " bit, " : " bits, ";
-    return line + (info.png ? "PNG" : "uncompressed") + "\n";
+    lines.append(std::to_string(image.index + 1)).append(": ").append(std::to_string(info.width));
+    lines.append(" x ").append(std::to_string(info.height)).append(", ");
+    lines.append(std::to_string(info.bitsPerPixel))
+        .append(info.bitsPerPixel == 1 ? " bit" : " bits");
+    lines.append(info.png ? ", PNG\n" : ", uncompressed\n");
 }
 
 std::string ImageJson(const ImageEntry& image) {
@@ -56,6 +58,7 @@ std::string ImageJson(const ImageEntry& image) {
 }
 
 struct IconInfo {
+    std::size_t number;
     std::string name;
     std::vector<ImageEntry> images;
 };
@@ -67,16 +70,17 @@ Result<IconInfo> ReadInfo(const SourceFile& file, std::size_t icon) {
     auto images = file.Images(icon);
     if (images && file.IsOneIcon()) images = file.Named(file.Source().Whole(*std::move(images)));
     if (!images) return tl::unexpected(images.error());
-    return IconInfo{*std::move(name), *std::move(images)};
+    return IconInfo{icon + 1, *std::move(name), *std::move(images)};
 }
 
 // Makes the text of one file: what begins it, one icon, what ends it.
 class InfoText {
   public:
     virtual ~InfoText() = default;
-    virtual std::string Begin(const SourceFile& file) const = 0;
-    virtual std::string Icon(const SourceFile& file, std::size_t icon,
-                             const IconInfo& info) const = 0;
+    virtual std::string Begin(const SourceFile& file, std::size_t icons) const = 0;
+    virtual void AppendIcon(std::string& text, const SourceFile& file,
+                            const IconInfo& info) const = 0;
+    virtual std::string_view BetweenIcons() const { return {}; }
     virtual std::string End() const = 0;
 };
 
@@ -85,24 +89,22 @@ class PlainText : public InfoText {
   public:
     explicit PlainText(bool alone) : alone_(alone) {}
 
-    std::string Begin(const SourceFile& file) const override {
+    std::string Begin(const SourceFile& file, std::size_t icons) const override {
         if (file.IsOneIcon() && alone_) return {};
         std::string line = system::Printable(file.Name()) + ": ";
         line += formats::KindName(file.Source().kind);
         if (!file.IsOneIcon())
-            line += ", " + std::to_string(file.Count()) + (file.Count() == 1 ? " icon" : " icons");
+            line += ", " + std::to_string(icons) + (icons == 1 ? " icon" : " icons");
         return line + "\n";
     }
-    std::string Icon(const SourceFile& file, std::size_t icon,
-                     const IconInfo& info) const override {
-        std::string lines;
+    void AppendIcon(std::string& text, const SourceFile& file,
+                    const IconInfo& info) const override {
         if (!file.IsOneIcon()) {
-            lines = "icon " + std::to_string(icon + 1) + ", name ";
-            lines += system::Printable(info.name) + "\n";
+            text.append("icon ").append(std::to_string(info.number)).append(", name ");
+            text.append(system::Printable(info.name)).append("\n");
         }
         for (const ImageEntry& image : info.images)
-            lines += ImageLine(image);
-        return lines;
+            AppendImageLine(text, image);
     }
     std::string End() const override { return {}; }
 
@@ -112,18 +114,18 @@ class PlainText : public InfoText {
 
 class JsonLine : public InfoText {
   public:
-    std::string Begin(const SourceFile& file) const override {
+    std::string Begin(const SourceFile& file, std::size_t /*icons*/) const override {
         return "{\"file\":" + JsonText(file.Name()) + ",\"kind\":\"" +
                std::string(formats::KindName(file.Source().kind)) + "\",\"icons\":[";
     }
-    std::string Icon(const SourceFile& /*file*/, std::size_t icon,
-                     const IconInfo& info) const override {
-        std::string json = icon == 0 ? "" : ",";
-        json += "{\"number\":" + std::to_string(icon + 1) + ",\"name\":" + JsonText(info.name);
-        json += ",\"images\":[";
+    std::string_view BetweenIcons() const override { return ","; }
+    void AppendIcon(std::string& text, const SourceFile& /*file*/,
+                    const IconInfo& info) const override {
+        text.append("{\"number\":").append(std::to_string(info.number));
+        text.append(",\"name\":").append(JsonText(info.name)).append(",\"images\":[");
         for (const ImageEntry& image : info.images)
-            json += (&image == info.images.data() ? "" : ",") + ImageJson(image);
-        return json + "]}";
+            text.append(&image == info.images.data() ? "" : ",").append(ImageJson(image));
+        text += "]}";
     }
     std::string End() const override { return "]}\n"; }
 };
@@ -131,12 +133,20 @@ class JsonLine : public InfoText {
 Result<void> AppendInfo(const std::string& name, const InfoText& form, std::string& text) {
     const auto file = SourceFile::Open(name);
     if (!file) return tl::unexpected(file.error());
-    text += form.Begin(*file);
+    const std::size_t start = text.size();
+    std::size_t count = 0;
     for (std::size_t icon = 0; icon < file->Count(); ++icon) {
         const auto info = ReadInfo(*file, icon);
-        if (!info) return tl::unexpected(info.error());
-        text += form.Icon(*file, icon, *info);
+        if (!info) {
+            // Of several icons those that cannot be read are left out.
+            if (!file->IsOneIcon() && info.error().number == formats::kDamagedPicture) continue;
+            return tl::unexpected(info.error());
+        }
+        if (count++ > 0) text += form.BetweenIcons();
+        form.AppendIcon(text, *file, *info);
     }
+    if (count == 0) return file->Failure({kNoIcons, "none of its icons can be read"});
+    text.insert(start, form.Begin(*file, count));
     text += form.End();
     return {};
 }

@@ -15,10 +15,10 @@ inline void ReadAs(formats::SourceKind kind, std::span<const std::uint8_t> file)
     const auto format = std::ranges::find(formats, kind, &formats::Format::kind);
     system::MemoryBytes bytes(file);
     formats::SourceReader reader(bytes);
-    const formats::IconTable table = format->list(reader);
+    const formats::IconTable table = formats::ListReadable(*format, reader);
     for (const auto& icon :
          std::span(table.icons).first(std::min<std::size_t>(table.icons.size(), 8))) {
-        if (icon.place.named) static_cast<void>(format->text(reader, icon.place.name));
+        if (icon.named) static_cast<void>(format->text(reader, icon.name));
         static_cast<void>(format->images(reader, table, icon));
     }
 }

@@ -130,26 +130,25 @@ IconTable ListAni(SourceReader& file) {
     const Chunks chunks = ChunkWalk(file).Collect();
     IconTable table;
     DrawableIcons drawable(file);
-    std::vector<std::optional<ImageEntry>> firsts(chunks.frames.size());
+    std::vector<bool> drawn(chunks.frames.size());
     for (const std::uint32_t frame : Steps(file, chunks)) {
         if (frame >= chunks.frames.size()) break;
         const Extent place = chunks.frames[frame];
-        if (!firsts[frame]) {
+        if (!drawn[frame]) {
             const auto images = FrameImages(file, place);
             if (images.empty() || !drawable.CanDraw(images.front(), [&] { return images; })) break;
-            firsts[frame] = images.front();
+            drawn[frame] = true;
         }
         const auto step = static_cast<std::uint32_t>(table.icons.size()) + 1;
-        table.icons.push_back({{static_cast<std::uint32_t>(place.offset),
-                                static_cast<std::uint32_t>(place.size), step},
-                               *firsts[frame]});
+        table.icons.push_back({static_cast<std::uint32_t>(place.offset),
+                               static_cast<std::uint32_t>(place.size), step});
     }
     return table;
 }
 
 std::vector<ImageEntry> StepImages(SourceReader& file, const IconTable& /*table*/,
-                                   const ListedIcon& step) {
-    return FrameImages(file, step.place.Where());
+                                   const IconPlace& step) {
+    return FrameImages(file, step.Where());
 }
 
 }  // namespace kestrel::formats

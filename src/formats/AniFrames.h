@@ -13,6 +13,6 @@ bool IsAni(SourceReader& file);
 // One icon a step, in the order of the sequence.
 IconTable ListAni(SourceReader& file);
 std::vector<ImageEntry> StepImages(SourceReader& file, const IconTable& table,
-                                   const ListedIcon& step);
+                                   const IconPlace& step);
 
 }  // namespace kestrel::formats

@@ -71,9 +71,15 @@ IconTable ListDirectory(SourceReader& file) {
         if (table.icons.size() == kMostIcons) break;
         const auto entry = static_cast<std::uint32_t>(kHeadSize + kEntrySize * image.index);
         const auto number = static_cast<std::uint32_t>(image.index) + 1;
-        table.icons.push_back({{entry, kEntrySize, number}, image});
+        table.icons.push_back({entry, kEntrySize, number});
     }
     return table;
+}
+
+std::vector<ImageEntry> EntryImages(SourceReader& file, const IconTable& /*table*/,
+                                    const IconPlace& entry) {
+    const auto image = EntryImage(file, {0, file.Size()}, entry.name - 1, file.Part(entry.Where()));
+    return image ? std::vector{*image} : std::vector<ImageEntry>{};
 }
 
 }  // namespace kestrel::formats

@@ -19,5 +19,7 @@ std::vector<ImageEntry> DirectoryImages(SourceReader& file, Extent directory, st
 
 // One icon an image.
 IconTable ListDirectory(SourceReader& file);
+std::vector<ImageEntry> EntryImages(SourceReader& file, const IconTable& table,
+                                    const IconPlace& entry);
 
 }  // namespace kestrel::formats

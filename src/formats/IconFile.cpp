@@ -16,7 +16,8 @@ tl::unexpected<Error> Refuse(Bytes file) {
     system::MemoryBytes bytes(file);
     SourceReader reader(bytes);
     const Format* format = FormatOf(reader);
-    if (format != nullptr && !IsOneIcon(format->kind) && !format->list(reader).icons.empty())
+    if (format != nullptr && !IsOneIcon(format->kind) &&
+        !ListReadable(*format, reader).icons.empty())
         return Fail(kSeveralIcons, std::string(i18n::kSeveralIconsInside.Now()));
     return tl::unexpected<Error>(WhyUnreadable(file));
 }
@@ -36,8 +37,8 @@ Result<std::vector<ImageEntry>> ListImages(std::span<const std::uint8_t> file) {
     const Format* format = FormatOf(reader);
     if (format != nullptr && IsOneIcon(format->kind)) {
         const IconTable table = format->list(reader);
-        for (const ListedIcon& icon : table.icons)
-            entries.push_back(icon.first);
+        for (const IconPlace& icon : table.icons)
+            std::ranges::move(format->images(reader, table, icon), std::back_inserter(entries));
     }
     if (entries.empty()) return Refuse(file);
     return entries;

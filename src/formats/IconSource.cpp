@@ -25,12 +25,15 @@ tl::unexpected<Error> WithoutIcons(const IconTable& table) {
 
 IconSource::IconSource(std::unique_ptr<system::ByteSource> bytes) : bytes_(std::move(bytes)) {}
 
-Result<IconSource> IconSource::Open(std::unique_ptr<system::ByteSource> bytes, std::string name) {
+Result<IconSource> IconSource::Open(std::unique_ptr<system::ByteSource> bytes, std::string name,
+                                    Lists lists) {
     if (bytes->Size() > system::kLargestSource) return Fail(EFBIG, "The file is larger than 4 GB");
     SourceReader file(*bytes);
     IconSource source(std::move(bytes));
     const Format* format = FormatOf(file);
-    if (format != nullptr) source.table_ = format->list(file);
+    if (format != nullptr) {
+        source.table_ = lists == Lists::Stored ? format->list(file) : ListReadable(*format, file);
+    }
     if (auto sound = file.CheckUnchanged(); !sound) return tl::unexpected(sound.error());
     if (source.table_.icons.empty()) return WithoutIcons(source.table_);
     source.format_ = format;
@@ -41,7 +44,7 @@ Result<IconSource> IconSource::Open(std::unique_ptr<system::ByteSource> bytes, s
 }
 
 Result<std::string> IconSource::NameOf(std::size_t icon) const {
-    const IconPlace& place = table_.icons.at(icon).place;
+    const IconPlace& place = table_.icons.at(icon);
     if (!place.named) return std::to_string(place.name);
     SourceReader file(*bytes_);
     std::string text = format_->text(file, place.name);
@@ -50,9 +53,8 @@ Result<std::string> IconSource::NameOf(std::size_t icon) const {
 }
 
 Result<std::vector<ImageEntry>> IconSource::Images(std::size_t icon) const {
-    const ListedIcon& listed = table_.icons.at(icon);
     SourceReader file(*bytes_);
-    auto images = format_->images(file, table_, listed);
+    auto images = format_->images(file, table_, table_.icons.at(icon));
     if (auto sound = file.Check(); !sound) return tl::unexpected(sound.error());
     return WithoutRepeats(std::move(images));
 }

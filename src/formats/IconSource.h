@@ -19,18 +19,23 @@ namespace kestrel::formats {
 // or 64 bits, an animated cursor. Which of them it is its content tells, never its name. Opening
 // lists the icons; what they look like is read when it is asked for, and nothing of it is kept.
 //
-// Icons are, of an icon or cursor file, each image in the file's order; of a program each group of
-// images, names before numbers, or each image where there is no group; of an animated cursor each
-// step. Icons of which no image can be read are left out; what cannot be drawn ends an animation.
-// Of PNG images a program's icons and steps need one that is whole; the first 30 ms of trials are
-// spent on that, and beyond them, as of other files' PNG images, the head counts.
+// Icons are, of an icon or cursor file, each image in the file's order that can be read; of a
+// program each group of images, names before numbers, or each image where there is no group; of an
+// animated cursor each step up to the first that cannot be drawn.
 //
 // Every question may fail with an errno value or kFileChanged; an icon is counted from 0.
 class IconSource {
   public:
+    // Which icons of a program are listed: all that it stores, so that each has the number that its
+    // place gives it and only those are read that are asked for; or those of which an image can be
+    // read. Of PNG images one has to be whole; the first 30 ms of trials are spent on that, and
+    // beyond them the head counts.
+    enum class Lists { Stored, Readable };
+
     // `name` is the file's name without its folder. Fails also with kNoIcons or kIconsElsewhere for
     // a file that can be read but holds no icons, and with EFBIG beyond 4 GB.
-    static Result<IconSource> Open(std::unique_ptr<system::ByteSource> bytes, std::string name);
+    static Result<IconSource> Open(std::unique_ptr<system::ByteSource> bytes, std::string name,
+                                   Lists lists);
 
     SourceKind kind = SourceKind::Ico;
     std::string name;
@@ -40,7 +45,7 @@ class IconSource {
     // images and steps count from 1.
     Result<std::string> NameOf(std::size_t icon) const;
     // The icon's images in the order of its directory, without repeats and those that cannot be
-    // used.
+    // used; nothing is left of a stored icon that cannot be read.
     Result<std::vector<ImageEntry>> Images(std::size_t icon) const;
     // The image that suits 32 x 32 best, as ReadBestImage chooses among a file's images; damaged
     // ones give way to the next best. Fails with kDamagedPicture when none can be decoded. Planes

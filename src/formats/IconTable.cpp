@@ -18,32 +18,38 @@ bool SniffPng(SourceReader& file) {
     return IsPng(file.Record<8>(0).bytes);
 }
 
+std::vector<ImageEntry> PngImages(SourceReader& file, const IconTable& /*table*/,
+                                  const IconPlace& whole) {
+    const auto image = ReadImageHead(file, whole.Where(), {}, kMaxPngSide);
+    return image ? std::vector{*image} : std::vector<ImageEntry>{};
+}
+
 IconTable ListPng(SourceReader& file) {
     IconTable table;
     const IconPlace whole{0, static_cast<std::uint32_t>(file.Size()), 1, false};
-    if (const auto image = ReadImageHead(file, whole.Where(), {}, kMaxPngSide))
-        table.icons.push_back({whole, *image});
+    if (!PngImages(file, table, whole).empty()) table.icons.push_back(whole);
     return table;
 }
 
-std::vector<ImageEntry> OneImage(SourceReader& /*file*/, const IconTable& /*table*/,
-                                 const ListedIcon& icon) {
-    return {icon.first};
-}
-
 constexpr std::array kFormats{
-    Format{SourceKind::Ico, "ICO", IsIconFile, ListDirectory, OneImage, nullptr},
-    Format{SourceKind::Cur, "CUR", IsCursorFile, ListDirectory, OneImage, nullptr},
-    Format{SourceKind::Png, "PNG", SniffPng, ListPng, OneImage, nullptr},
-    Format{SourceKind::Pe, "PE", IsPe, ListPe, ResourceImages, PeText},
-    Format{SourceKind::Ne, "NE", IsNe, ListNe, ResourceImages, NeText},
-    Format{SourceKind::Ani, "ANI", IsAni, ListAni, StepImages, nullptr},
+    Format{SourceKind::Ico, "ICO", IsIconFile, ListDirectory, nullptr, EntryImages, nullptr},
+    Format{SourceKind::Cur, "CUR", IsCursorFile, ListDirectory, nullptr, EntryImages, nullptr},
+    Format{SourceKind::Png, "PNG", SniffPng, ListPng, nullptr, PngImages, nullptr},
+    Format{SourceKind::Pe, "PE", IsPe, ListPe, KeepReadable, ResourceImages, PeText},
+    Format{SourceKind::Ne, "NE", IsNe, ListNe, KeepReadable, ResourceImages, NeText},
+    Format{SourceKind::Ani, "ANI", IsAni, ListAni, nullptr, StepImages, nullptr},
 };
 
 }  // namespace
 
 std::span<const Format> Formats() {
     return kFormats;
+}
+
+IconTable ListReadable(const Format& format, SourceReader& file) {
+    IconTable table = format.list(file);
+    if (format.keepReadable != nullptr) format.keepReadable(file, table);
+    return table;
 }
 
 const Format* FormatOf(SourceReader& file) {

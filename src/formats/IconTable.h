@@ -38,15 +38,9 @@ struct IconPlace {
     bool named = false;
 };
 
-// An icon of which an image can be read. The first is kept: who lists icons asks for it next.
-struct ListedIcon {
-    IconPlace place;
-    ImageEntry first;
-};
-
 // What listing a file finds.
 struct IconTable {
-    std::vector<ListedIcon> icons;
+    std::vector<IconPlace> icons;
     // Whether the icons are groups, and the images that these name by number, in that order.
     bool grouped = false;
     std::vector<IconPlace> images;
@@ -61,14 +55,19 @@ struct Format {
     std::string_view name;
     bool (*sniff)(SourceReader& file);
     IconTable (*list)(SourceReader& file);
+    // Leaves out the icons of which no image can be read; nullptr where listing has to look at the
+    // images anyway.
+    void (*keepReadable)(SourceReader& file, IconTable& table);
     // The icon's usable images.
     std::vector<ImageEntry> (*images)(SourceReader& file, const IconTable& table,
-                                      const ListedIcon& icon);
+                                      const IconPlace& icon);
     // The text at a name's offset; nullptr where icons have no names.
     std::string (*text)(SourceReader& file, std::uint64_t offset);
 };
 
 std::span<const Format> Formats();
+
+IconTable ListReadable(const Format& format, SourceReader& file);
 
 // The format that the file's content tells; nullptr when it is none of them.
 const Format* FormatOf(SourceReader& file);

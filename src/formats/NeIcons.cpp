@@ -91,7 +91,7 @@ IconTable ListNe(SourceReader& file) {
     // Programs without resources have the next table in their place.
     if (resources == 0 || resources == header.U16(kResidentNames)) return {};
     ResourceTable table(file, start + resources);
-    return ListResources(file, std::move(table.groups), std::move(table.images));
+    return ListResources(std::move(table.groups), std::move(table.images));
 }
 
 std::string NeText(SourceReader& file, std::uint64_t offset) {

@@ -84,7 +84,9 @@ class ResourceTree {
         std::vector<IconPlace> found;
         const auto node = std::ranges::find(types_, type, &NodeEntry::name);
         if (node == types_.end() || (node->target & kHighBit) == 0) return found;
-        for (const NodeEntry& entry : Node(node->target))
+        const auto entries = Node(node->target);
+        found.reserve(entries.size());
+        for (const NodeEntry& entry : entries)
             if (const auto place = Place(entry)) found.push_back(*place);
         return found;
     }
@@ -164,7 +166,7 @@ IconTable ListPe(SourceReader& file) {
 
     const ResourceTree tree(file, addresses, *root);
     IconTable table =
-        ListResources(file, tree.Resources(kIconGroupResource), tree.Resources(kIconResource));
+        ListResources(tree.Resources(kIconGroupResource), tree.Resources(kIconResource));
     // Newer systems keep what their own programs and libraries show in files of their own, whose
     // names end in ".mun"; what is left of the resources leads to the translations.
     table.elsewhere = table.icons.empty() && tree.HasTranslations();

@@ -15,14 +15,6 @@ constexpr std::uint64_t kEntrySize = 14;
 // group and some whose images are missing. Groups that overlap could have thousands of millions.
 constexpr std::size_t kMostEntries = 1U << 17;
 
-std::size_t EntryCount(SourceReader& file, const IconPlace& group) {
-    const std::uint64_t room = file.Inside(group.Where()).size;
-    if (room < kHeadSize) return 0;
-    const std::uint64_t count = file.Record<kHeadSize>(group.offset).U16(4);
-    return static_cast<std::size_t>(
-        std::min({count, (room - kHeadSize) / kEntrySize, std::uint64_t{kMostImagesEach}}));
-}
-
 // The first image of this number as stored, if any.
 const IconPlace* FindImage(const IconTable& table, std::uint32_t number) {
     const auto found = std::ranges::lower_bound(table.images, number, {}, &IconPlace::name);
@@ -30,66 +22,72 @@ const IconPlace* FindImage(const IconTable& table, std::uint32_t number) {
 }
 
 // An entry tells a size, as one of an icon file does, and an image's number in place of its offset.
-std::optional<ImageEntry> GroupImage(SourceReader& file, const IconTable& table,
-                                     const IconPlace& group, std::size_t index) {
-    const auto entry = file.Record<kEntrySize>(group.offset + kHeadSize + index * kEntrySize);
+std::optional<ImageEntry> GroupImage(SourceReader& file, const IconTable& table, Bytes bytes) {
+    const ByteReader entry(bytes);
     const IconPlace* stored = FindImage(table, entry.U16(12));
     if (stored == nullptr) return std::nullopt;
-    auto image = ReadImageHead(file, stored->Where(),
-                               {DirectorySide(entry.bytes[0]), DirectorySide(entry.bytes[1])});
-    if (image) image->index = index;
-    return image;
+    return ReadImageHead(file, stored->Where(),
+                         {DirectorySide(entry.U8(0)), DirectorySide(entry.U8(1))});
 }
 
-// Each entry that is looked at takes one off `budget`.
-std::optional<ImageEntry> FirstImage(SourceReader& file, const IconTable& table,
-                                     const IconPlace& icon, std::size_t& budget) {
-    if (!table.grouped) return ReadImageHead(file, icon.Where(), {});
-    const std::size_t count = EntryCount(file, icon);
-    for (std::size_t i = 0; i < count && budget > 0; ++i, --budget)
-        if (const auto image = GroupImage(file, table, icon, i)) return image;
-    return std::nullopt;
-}
-
-void KeepReadable(SourceReader& file, IconTable& table, std::vector<IconPlace> candidates) {
-    std::stable_partition(candidates.begin(), candidates.end(),
-                          [](const IconPlace& icon) { return icon.named; });
-    std::size_t budget = kMostEntries;
-    DrawableIcons drawable(file);
-    for (const IconPlace& icon : candidates) {
-        if (budget == 0 || table.icons.size() == kMostIcons) break;
-        const auto first = FirstImage(file, table, icon, budget);
-        if (!first) continue;
-        const ListedIcon listed{icon, *first};
-        if (drawable.CanDraw(*first, [&] { return ResourceImages(file, table, listed); }))
-            table.icons.push_back(listed);
+// The usable images of an icon, `most` of them. Each entry that is looked at takes one off
+// `budget`.
+std::vector<ImageEntry> IconImages(SourceReader& file, const IconTable& table,
+                                   const IconPlace& icon, std::size_t most, std::size_t& budget) {
+    std::vector<ImageEntry> images;
+    if (!table.grouped) {
+        if (const auto image = ReadImageHead(file, icon.Where(), {})) images.push_back(*image);
+        return images;
     }
+    constexpr std::uint64_t kMostBytes = kHeadSize + kMostImagesEach * kEntrySize;
+    const auto bytes = file.Part({icon.offset, std::min<std::uint64_t>(icon.size, kMostBytes)});
+    const ByteReader group(bytes);
+    const std::size_t count = group.U16(4);
+    images.reserve(std::min({count, most, bytes.size() / kEntrySize}));
+    for (std::size_t i = 0; i < count && images.size() < most && budget > 0; ++i, --budget) {
+        const std::uint64_t at = kHeadSize + i * kEntrySize;
+        if (!group.Has(at, kEntrySize)) break;
+        auto image = GroupImage(file, table, group.Part(at, kEntrySize));
+        if (!image) continue;
+        image->index = i;
+        images.push_back(*image);
+    }
+    return images;
 }
 
 }  // namespace
 
-IconTable ListResources(SourceReader& file, std::vector<IconPlace> groups,
-                        std::vector<IconPlace> images) {
+IconTable ListResources(std::vector<IconPlace> groups, std::vector<IconPlace> images) {
     IconTable table;
     table.grouped = !groups.empty();
-    if (!table.grouped) {
-        KeepReadable(file, table, std::move(images));
-        return table;
-    }
+    table.icons = std::move(table.grouped ? groups : images);
+    std::stable_partition(table.icons.begin(), table.icons.end(),
+                          [](const IconPlace& icon) { return icon.named; });
+    table.icons.resize(std::min(table.icons.size(), kMostIcons));
+    if (!table.grouped) return table;
     std::erase_if(images, [](const IconPlace& image) { return image.named; });
-    std::ranges::stable_sort(images, {}, &IconPlace::name);
+    // Most programs store them so.
+    if (!std::ranges::is_sorted(images, {}, &IconPlace::name))
+        std::ranges::stable_sort(images, {}, &IconPlace::name);
     table.images = std::move(images);
-    KeepReadable(file, table, std::move(groups));
     return table;
 }
 
+void KeepReadable(SourceReader& file, IconTable& table) {
+    std::size_t budget = kMostEntries;
+    DrawableIcons drawable(file);
+    std::erase_if(table.icons, [&](const IconPlace& icon) {
+        if (budget == 0) return true;
+        const auto first = IconImages(file, table, icon, 1, budget);
+        return first.empty() ||
+               !drawable.CanDraw(first[0], [&] { return ResourceImages(file, table, icon); });
+    });
+}
+
 std::vector<ImageEntry> ResourceImages(SourceReader& file, const IconTable& table,
-                                       const ListedIcon& icon) {
-    std::vector<ImageEntry> images{icon.first};
-    const std::size_t count = table.grouped ? EntryCount(file, icon.place) : 0;
-    for (std::size_t i = icon.first.index + 1; i < count; ++i)
-        if (const auto image = GroupImage(file, table, icon.place, i)) images.push_back(*image);
-    return images;
+                                       const IconPlace& icon) {
+    std::size_t budget = kMostImagesEach;
+    return IconImages(file, table, icon, kMostImagesEach, budget);
 }
 
 }  // namespace kestrel::formats

@@ -10,12 +10,13 @@ namespace kestrel::formats {
 inline constexpr std::uint32_t kIconResource = 3;
 inline constexpr std::uint32_t kIconGroupResource = 14;
 
-// The icons among a program's resources, given in stored order: the groups of which an image can be
-// read, names before numbers; without any group, the images themselves.
-IconTable ListResources(SourceReader& file, std::vector<IconPlace> groups,
-                        std::vector<IconPlace> images);
+// The icons among a program's resources, given in stored order: the groups, names before numbers;
+// without any group, the images themselves. Nothing of them is read.
+IconTable ListResources(std::vector<IconPlace> groups, std::vector<IconPlace> images);
+
+void KeepReadable(SourceReader& file, IconTable& table);
 
 std::vector<ImageEntry> ResourceImages(SourceReader& file, const IconTable& table,
-                                       const ListedIcon& icon);
+                                       const IconPlace& icon);
 
 }  // namespace kestrel::formats

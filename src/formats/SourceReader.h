@@ -30,9 +30,9 @@ struct SourceRecord {
 // file itself fails everything reads so, and Check() tells why.
 class SourceReader {
   public:
-    explicit SourceReader(system::ByteSource& source) : source_(source) {}
+    explicit SourceReader(system::ByteSource& source) : source_(source), size_(source.Size()) {}
 
-    std::uint64_t Size() const { return source_.Size(); }
+    std::uint64_t Size() const { return size_; }
 
     // What of the extent lies in the file.
     Extent Inside(Extent extent) const;
@@ -59,6 +59,7 @@ class SourceReader {
     void Read(std::uint64_t offset, std::span<std::uint8_t> out);
 
     system::ByteSource& source_;
+    std::uint64_t size_;
     std::optional<Error> failure_;
 };
 

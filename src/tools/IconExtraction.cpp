@@ -60,7 +60,8 @@ Result<void> IconExtraction::Open(const services::ChosenFile& file) {
     services_.application.DoEvents();
     auto bytes = services_.files.OpenSource(file.path);
     if (!bytes) return tl::unexpected(bytes.error());
-    auto source = formats::IconSource::Open(*std::move(bytes), file.fileTitle);
+    auto source = formats::IconSource::Open(*std::move(bytes), file.fileTitle,
+                                            formats::IconSource::Lists::Readable);
     if (!source) return tl::unexpected(source.error());
     path_ = file.path;
     name_ = file.fileTitle;

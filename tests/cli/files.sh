@@ -99,8 +99,16 @@ cmp -n 1078 <(wrestool -x -t14 -n1 "$data/icons32.dll") icons/icons32-1.ico || F
 tail -c "$(wc -c <images/several-1-4.png)" "$data/several.ico" | cmp - images/several-1-4.png ||
     Fail 'a PNG is as it was stored'
 # Of several icons and images the first and the best, or those that are named.
-Icon convert --icon 2 "$data/icons32.dll" second.png
-SamePixels 'the second icon' second.png "$data/icons32-2.pam"
+# The number of an icon does not depend on whether those before it can be read.
+cp "$data/icons32.dll" gap.dll
+for image in 4094 4108; do printf 9 | dd of=gap.dll bs=1 seek=$image conv=notrunc status=none; done
+[[ $(Icon info gap.dll | head -2) == $'gap.dll: PE, 1 icon\nicon 2, name 2' ]] || Fail 'info: a gap'
+for choice in '' --icon=2; do
+    Icon convert ${choice:+"$choice"} gap.dll second.png
+    SamePixels "the second icon $choice" second.png "$data/icons32-2.pam"
+done
+if Icon extract gap.dll 2>message; then Fail 'the missing icon is not told'; fi
+[[ $(<message) == *'no image of icon 1 can be read' && -f gap-2.ico ]] || Fail "$(<message)"
 Icon convert --image 1 "$data/several.ico" image.png
 SamePixels 'the first image' image.png "$data/several-0.pam" -sample 32x32
 Icon convert - piped.png <"$data/icons32.dll"

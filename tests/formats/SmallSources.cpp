@@ -86,7 +86,8 @@ ByteList Chunk(const std::string& name, const ByteList& content) {
 }
 
 Result<formats::IconSource> Open(const ByteList& file) {
-    return formats::IconSource::Open(std::make_unique<system::MemoryBytes>(ByteList(file)), "file");
+    return formats::IconSource::Open(std::make_unique<system::MemoryBytes>(ByteList(file)), "file",
+                                     formats::IconSource::Lists::Readable);
 }
 
 std::string Listing(const ByteList& file) {
