@@ -45,8 +45,8 @@ class SourceFile {
     formats::IconSource source_;
 };
 
-// Which icon and image of a file is meant, as it was typed: the first icon, and the image that
-// suits best, when left out.
+// Which icon and image of a file is meant, as it was typed: the first that can be read, and the one
+// that suits best, when left out.
 struct IconChoice {
     std::optional<std::string> icon;
     std::optional<std::string> image;

@@ -33,9 +33,10 @@ void AddOptional(CLI::App& command, const char* name, std::optional<std::string>
 
 void AddSource(CLI::App& command, Arguments& arguments) {
     command.add_option("IN", arguments.in, kInHelp)->required();
-    AddOptional(command, "--icon", arguments.choice.icon,
-                "which icon of a program, library or animation, as info counts them (1 when left "
-                "out)");
+    AddOptional(
+        command, "--icon", arguments.choice.icon,
+        "which icon of a program, library or animation, as info counts them (the first that "
+        "can be read when left out)");
     AddOptional(command, "--image", arguments.choice.image,
                 "which image of the icon, as info counts them (the one that suits best when left "
                 "out)");
