@@ -1,6 +1,9 @@
 #include "tests/formats/SmallSources.h"
 
 #include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <set>
 
 #include "formats/ByteWriter.h"
 #include "formats/LibraryWriter.h"
@@ -70,6 +73,19 @@ ByteList Ne(unsigned shift) {
     file.FillTo(0x200);
     file.Append(data.Take());
     return file.Take();
+}
+
+std::vector<std::filesystem::path> IconFiles() {
+    std::vector<std::filesystem::path> files;
+    const std::set<std::string> kinds{".ani", ".cur", ".dll", ".icl", ".ico"};
+    for (const auto& entry : std::filesystem::directory_iterator(TEST_DATA))
+        if (kinds.contains(entry.path().extension())) files.push_back(entry.path());
+    return files;
+}
+
+ByteList ReadFile(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 ByteList Text(const std::string& text) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "formats/IconSource.h"
@@ -23,6 +24,10 @@ ByteList Pe();
 // A library of 16 bits whose offsets count units of this shift: the icon 7 of a bitmap, then "AB"
 // of two.
 ByteList Ne(unsigned shift);
+
+// The icons, cursors, libraries and animations of the folder of data.
+std::vector<std::filesystem::path> IconFiles();
+ByteList ReadFile(const std::filesystem::path& path);
 
 // A RIFF chunk; what a list or an animation holds begins with its type.
 ByteList Chunk(const std::string& name, const ByteList& content);
