@@ -39,6 +39,7 @@ constexpr std::pair<int, Text> kSystemReasons[] = {
 };
 constexpr Text kIcons{" Icons", " 图标"};
 constexpr Text kIconSelected{"Icon No. %1 Selected.", "选中第 %1个 图标."};
+constexpr Text kIconOf{"Icon %1 of %2", "第 %1 个图标, 共 %2 个"};
 constexpr Text kContainsNoIcons{"%1 contains no icons.", "%1 没有图标."};
 constexpr Text kCannotOpenSource{"Unable to open the file %1", "不能打开文件 %1"};
 constexpr Text kCannotSaveUntitled{"Unable to save Untitled.", "不能保存 Untitled.ico 文件."};
@@ -92,6 +93,10 @@ std::string ExtractionTitle(std::string_view fileTitle, int count) {
 
 std::string IconSelected(int number) {
     return Fill(kIconSelected.Now(), std::to_string(number));
+}
+
+std::string IconOf(int number, int count) {
+    return Fill(Fill(kIconOf.Now(), std::to_string(number)), std::to_string(count), "%2");
 }
 
 std::string ContainsNoIcons(std::string_view fileTitle) {

@@ -77,6 +77,8 @@ inline constexpr std::string_view kSourceFilter =
 std::string ExtractionTitle(std::string_view fileTitle, int count);
 // Numbers count from 1.
 std::string IconSelected(int number);
+// For screen readers.
+std::string IconOf(int number, int count);
 std::string ContainsNoIcons(std::string_view fileTitle);
 std::string CannotOpenSource(std::string_view path);
 

@@ -51,7 +51,6 @@ QLayout* FrmIcons::NewGrid() {
     PicFrame_->setObjectName("PicFrame");
     PicFrame_->setFixedSize(IconGrid::kWidth, IconGrid::kSeenHeight);
     PicIcons_->setObjectName("PicIcons");
-    PicIcons_->setAccessibleName(ToText(i18n::kIconsName.Now()));
     PicIcons_->onMouseUp = [this](QPoint point, bool second) { PicIcons_MouseUp(point, second); };
     Vsb_->setObjectName("Vsb");
     Vsb_->setAccessibleName(ToText(i18n::kIconsScrollName.Now()));

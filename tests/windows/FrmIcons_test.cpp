@@ -61,6 +61,7 @@ TEST_F(FrmIconsTest, MouseWheelAndKeysMoveGridAndBox) {
         EXPECT_EQ(Info(), "Icon No 1 Selected.") << "out of view";
         QTest::mouseClick(grid_, Qt::LeftButton, {}, {20, 40});
         EXPECT_EQ(Info(), "Icon No. 11 Selected.");
+        EXPECT_EQ(grid_->accessibleName(), "Icon 11 of 51");
         Press(Qt::Key_Up);
         EXPECT_EQ(bar->value(), 0);
         EXPECT_TRUE(At(1, 1) == gdi::kBlack && At(1, 39) == gdi::kWhite);

@@ -6,6 +6,9 @@
 #include <utility>
 
 #include "desktop/Pictures.h"
+#include "desktop/Text.h"
+#include "i18n/Captions.h"
+#include "i18n/Messages.h"
 
 namespace kestrel::widgets {
 
@@ -34,12 +37,21 @@ IconGridView::IconGridView(tools::IconExtraction& extraction, QWidget* parent)
 void IconGridView::ShowFile() {
     setFixedSize(IconGrid::kWidth, extraction_.Grid().Height());
     boxed_ = extraction_.SelectedIndex();
+    TellSelection();
     update();
 }
 
 void IconGridView::ShowSelection() {
     UpdateBox(std::exchange(boxed_, extraction_.SelectedIndex()));
     UpdateBox(boxed_);
+    TellSelection();
+}
+
+// A changed name is an event, which screen readers speak while the grid has the focus.
+void IconGridView::TellSelection() {
+    setAccessibleName(extraction_.HasIcons() ? QString::fromStdString(i18n::IconOf(
+                                                   boxed_ + 1, extraction_.Grid().Count()))
+                                             : desktop::ToText(i18n::kIconsName.Now()));
 }
 
 void IconGridView::UpdateBox(int icon) {

@@ -32,6 +32,7 @@ class IconGridView : public QWidget {
 
   private:
     void UpdateBox(int icon);
+    void TellSelection();
 
     tools::IconExtraction& extraction_;
     // Where the selection box was drawn last.
