@@ -17,7 +17,9 @@
 namespace kestrel::system {
 namespace {
 
-constexpr int kCommonNames = 8;
+// So many names are looked at for leftovers always, and the following ones as far as there are any.
+constexpr int kLikelyNames = 8;
+constexpr int kCommonNames = 92;
 constexpr int kMaxNames = 100;
 constexpr mode_t kPermissions = 07777;
 
@@ -35,7 +37,8 @@ std::uint64_t HashOf(std::string_view name) {
 }
 
 // The hidden names beside a target, by number. The first ones are the same for every process, so
-// that what a killed one left is found without a look through the folder.
+// that what a killed one left is found without a look through the folder; the last ones are new,
+// for file systems whose files cannot be locked: there nothing that is left is ever removed.
 std::string PathFor(const std::string& target, int number) {
     const std::uint64_t hash = HashOf(std::string_view(target).substr(target.rfind('/') + 1));
     std::array<char, 16> digits{};
@@ -68,13 +71,15 @@ bool IsTaken(const std::string& path, int file) {
 }
 
 // A file whose lock is free has no writer any more. One that a live writer has just put in the
-// target's place may be locked too, but is no longer at the path.
-void RemoveUnlocked(FileCalls& calls, const std::string& path) {
+// target's place may be locked too, but is no longer at the path. Returns whether there was a file.
+bool RemoveUnlocked(FileCalls& calls, const std::string& path) {
     struct stat status {};
-    if (lstat(path.c_str(), &status) < 0 || !S_ISREG(status.st_mode)) return;
+    if (lstat(path.c_str(), &status) < 0) return false;
+    if (!S_ISREG(status.st_mode)) return true;
     constexpr int kFlags = O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
     const FileHandle file(Retry([&] { return calls.Open(path, kFlags, 0); }));
     if (file.Number() >= 0 && Lock(file.Number()) && IsAt(path, file.Number())) calls.Unlink(path);
+    return true;
 }
 
 }  // namespace
@@ -185,8 +190,9 @@ FileIdentity TemporaryFile::Identity() const {
 }
 
 void RemoveLeftovers(FileCalls& calls, const std::string& target) {
-    for (int number = 0; number < kCommonNames; ++number)
-        RemoveUnlocked(calls, PathFor(target, number));
+    bool found = true;
+    for (int number = 0; number < kCommonNames && (found || number < kLikelyNames); ++number)
+        found = RemoveUnlocked(calls, PathFor(target, number));
 }
 
 }  // namespace kestrel::system
