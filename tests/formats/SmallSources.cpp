@@ -34,24 +34,16 @@ ByteList Pe() {
 }
 
 ByteList Ne(unsigned shift) {
-    const ByteList group = Hex("0000 0100 0100 0302000001001800 48000000 0100");
-    const ByteList named =
-        Hex("0000 0100 0200 0302000001001800 48000000 0100"
-            "0302000001001800 48000000 0200");
-    formats::ByteWriter data;
-    // An entry of the table for data that is filled up to the unit.
-    const auto entry = [&](const ByteList& bytes, const char* name) {
-        constexpr std::size_t kDataAt = 0x200;
-        const std::size_t unit = std::size_t{1} << shift;
-        const std::size_t start = data.Size();
-        data.Append(bytes);
-        data.FillTo((data.Size() + unit - 1) / unit * unit);
-        formats::ByteWriter out;
-        out.U16((kDataAt + start) >> shift);
-        out.U16((data.Size() - start) >> shift);
-        out.Append(Hex(name));
-        return out.Take();
-    };
+    const std::string one = "0302000001001800 48000000 ";
+    struct {
+        const char* block;
+        const char* name;
+        ByteList data;
+    } const resources[] = {
+        {"0380 0200 00000000", "0000 0180 00000000", kDib},
+        {"", "0000 0280 00000000", kDib},
+        {"0E80 0200 00000000", "0000 0780 00000000", Hex("0000 0100 0100" + one + "0100")},
+        {"", "0000 4400 00000000", Hex("0000 0100 0200" + one + "0100" + one + "0200")}};
     formats::ByteWriter file;
     file.Append(Text("MZ"));
     file.FillTo(0x3C);
@@ -63,15 +55,22 @@ ByteList Ne(unsigned shift) {
     file.U8(2);
     file.FillTo(0x80);
     file.U16(shift);
-    file.Append(Hex("0380 0200 00000000"));
-    file.Append(entry(kDib, "0000 0180 00000000"));
-    file.Append(entry(kDib, "0000 0280 00000000"));
-    file.Append(Hex("0E80 0200 00000000"));
-    file.Append(entry(group, "0000 0780 00000000"));
-    file.Append(entry(named, "0000 4400 00000000"));
+    std::size_t end = 0x200;
+    for (const auto& [block, name, data] : resources) {
+        file.Append(Hex(block));
+        file.U16(end >> shift);
+        file.U16((data.size() + (1U << shift) - 1) >> shift);
+        file.Append(Hex(name));
+        end += 0x200;
+    }
     file.Append(Hex("0000 024142"));
-    file.FillTo(0x200);
-    file.Append(data.Take());
+    end = 0x200;
+    for (const auto& resource : resources) {
+        file.FillTo(end);
+        file.Append(resource.data);
+        end += 0x200;
+    }
+    file.FillTo(end);
     return file.Take();
 }
 
