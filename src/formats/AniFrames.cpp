@@ -136,7 +136,9 @@ IconTable ListAni(SourceReader& file) {
         const Extent place = chunks.frames[frame];
         if (!drawn[frame]) {
             const auto images = FrameImages(file, place);
-            if (images.empty() || !drawable.CanDraw(images.front(), [&] { return std::vector(images); })) break;
+            if (images.empty() ||
+                !drawable.CanDraw(images.front(), [&] { return std::vector(images); }))
+                break;
             drawn[frame] = true;
         }
         const auto step = static_cast<std::uint32_t>(table.icons.size()) + 1;

@@ -169,7 +169,7 @@ IconTable ListPe(SourceReader& file) {
         ListResources(tree.Resources(kIconGroupResource), tree.Resources(kIconResource));
     // Newer systems keep what their own programs and libraries show in files of their own, whose
     // names end in ".mun"; what is left of the resources leads to the translations.
-    table.elsewhere = table.icons.empty() && tree.HasTranslations();
+    table.elsewhere = tree.HasTranslations();
     return table;
 }
 
