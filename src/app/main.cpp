@@ -17,6 +17,7 @@
 #include "desktop/QtHelpViewer.h"
 #include "desktop/QtMessageBoxes.h"
 #include "desktop/QtShell.h"
+#include "desktop/QtTray.h"
 #include "desktop/TwoColorWindows.h"
 #include "desktop/XScreen.h"
 #include "document/ApplicationIcon.h"
@@ -71,7 +72,8 @@ std::string CommandLine(int argc, char* argv[]) {
     return line;
 }
 
-// After this long the window has been drawn.
+// After this long the window has been drawn; after the longer one it is quiet.
+constexpr std::chrono::milliseconds kDrawn{150};
 constexpr std::chrono::milliseconds kSettled{500};
 
 std::uint32_t SeedOfClock() {
@@ -97,6 +99,10 @@ int main(int argc, char* argv[]) {
     // programs that are started would inherit that.
     std::signal(SIGXFSZ, [](int /*signal*/) {});
     QApplication application(argc, argv);
+    // The bar stands in the window; asking for a native one would load the session bus at the start.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    // Other windows may be open while the main window is in the tray.
+    QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle(new desktop::DialogStyle);
     desktop::LibraryTranslator translator;
     QApplication::installTranslator(&translator);
@@ -124,15 +130,17 @@ int main(int argc, char* argv[]) {
     desktop::QtClipboard clipboard;
     desktop::QtShell shell;
     desktop::XScreen screen;
+    desktop::QtTray tray;
     desktop::QtHelpViewer help(shell);
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};
     system::RandomNumbers random(SeedOfClock());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
-                              screen, random, settings, folders, facts.systemLcid});
+                              screen, tray, random, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv), files));
     window.show();
+    QTimer::singleShot(kDrawn, &window, [&] { window.ShowInTray(); });
     QTimer settled;
     settled.callOnTimeout([&] {
         if (registry.CatchUp()) settled.stop();

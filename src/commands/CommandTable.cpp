@@ -44,6 +44,11 @@ constexpr auto kPopup = std::to_array<CommandRow>({
     {"mnuFlip2Opts1", "mnuPopup2Opts7", IconItem, {"Flip &Vertical", "垂直翻转    "}, "", 18, OperateAs<kFlipVertical>},
 });
 
+constexpr auto kTray = std::to_array<CommandRow>({
+    {"mnuRestore", "mnuPopup", Item, {}, "", 0, Call<&TrayCommands::mnuRestore_Click>},
+    {"mnuClose", "mnuPopup", Item, {}, "", 0, Call<&TrayCommands::mnuClose_Click>},
+});
+
 constexpr auto kToolbar = std::to_array<CommandRow>({
     Button("New", {"New Icon (Ctrl+N)", "新图标(Ctrl+N)"}, {"Create a new Icon (*.ico)", "创建新图标(*.ico) "}, 1, kNew),
     Button("Open", {"Open (Ctrl+O)", "打开(Ctrl+O)"}, {"Open a file", "打开文件"}, 2, kOpen),
@@ -75,6 +80,10 @@ bool Never(Commands& /*commands*/) {
 
 std::span<const CommandRow> PopupRows() {
     return kPopup;
+}
+
+std::span<const CommandRow> TrayRows() {
+    return kTray;
 }
 
 std::span<const CommandRow> ToolbarRows() {

@@ -50,6 +50,8 @@ struct CommandRow {
 std::span<const CommandRow> MenuBarRows();
 // The editing pop-up over the grid; its items are below the one root "mnuEdit".
 std::span<const CommandRow> PopupRows();
+// The pop-up of the icon in the desktop's tray; its captions are the classic ones.
+std::span<const CommandRow> TrayRows();
 // From the left.
 std::span<const CommandRow> ToolbarRows();
 

@@ -38,7 +38,8 @@ Commands::Commands(editing::Editor& openEditor, const MainParts& mainParts,
               {documents, parts.dialogs, services.folders}),
       shell({services.application, boxes, services.help, services.files, services.shell},
             services.folders),
-      language(parts, services.settings, shell) {}
+      language(parts, services.settings, shell),
+      tray(parts, services.tray, services.files, boxes, services.folders) {}
 
 void Commands::Click(std::span<const CommandRow> rows, std::string_view key) {
     const auto row = std::ranges::find(rows, key, &CommandRow::key);

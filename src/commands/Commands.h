@@ -14,6 +14,7 @@
 #include "commands/ModRecent.h"
 #include "commands/PaletteCommands.h"
 #include "commands/ShellCommands.h"
+#include "commands/TrayCommands.h"
 #include "commands/WellCommands.h"
 #include "editing/Editor.h"
 #include "services/Cdb.h"
@@ -33,6 +34,7 @@ struct MainServices {
     system::Registry& registry;
     services::Shell& shell;
     services::Screen& screen;
+    services::Tray& tray;
     system::RandomNumbers& random;
     settings::Settings& settings;
     ProgramFolders folders;
@@ -62,6 +64,7 @@ struct Commands {
     ExtractCommands extract;
     ShellCommands shell;
     LanguageCommands language;
+    TrayCommands tray;
 };
 
 }  // namespace kestrel::commands

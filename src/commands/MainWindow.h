@@ -26,6 +26,16 @@ class MainControls : public CaptionedWindow {
     virtual void EnableButton(std::string_view key, bool enabled) = 0;
 };
 
+// A window that the desktop's task list offers, and that its tray can stand for.
+class TaskListWindow {
+  public:
+    virtual ~TaskListWindow() = default;
+    virtual void Hide() = 0;
+    // In its normal state, not minimised.
+    virtual void ShowNormal() = 0;
+    virtual void ShowInTaskList(bool shown) = 0;
+};
+
 // What the commands work with, besides the editor and the services.
 struct MainParts {
     MainWindow& window;
@@ -34,6 +44,7 @@ struct MainParts {
     const services::OwnerWindow& owner;
     MainMenus& menus;
     Dialogs& dialogs;
+    TaskListWindow& taskWindow;
 };
 
 }  // namespace kestrel::commands

@@ -20,4 +20,8 @@ void QtApplication::Beep() {
     QApplication::beep();
 }
 
+void QtApplication::Quit() {
+    QApplication::exit();
+}
+
 }  // namespace kestrel::desktop

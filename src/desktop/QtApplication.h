@@ -10,6 +10,7 @@ class QtApplication : public services::Application {
     void DoEvents() override;
     void ShowHourglass(bool shown) override;
     void Beep() override;
+    void Quit() override;
 };
 
 }  // namespace kestrel::desktop

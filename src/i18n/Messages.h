@@ -11,6 +11,10 @@ namespace kestrel::i18n {
 inline constexpr std::string_view kProgramName = "KestrelIconEditor";
 inline constexpr Text kErrorTitle{"KestrelIconEditor - Error", "KestrelIconEditor - 错误"};
 
+// The tray: before and after the file's name.
+inline constexpr std::string_view kTrayIconFailed = "Error Loading file";
+inline constexpr std::string_view kTrayErrorTitle = "Error";
+
 // Start-up: the checks speak before the window exists.
 inline constexpr Text kRunningText{"Program is running !", "请不要重复运行程序！"};
 inline constexpr Text kRunningTitle{"error!", "错误!"};

@@ -10,6 +10,8 @@ class Application : public MessageLoop {
     // The hourglass pointer, and back to the one before.
     virtual void ShowHourglass(bool shown) = 0;
     virtual void Beep() = 0;
+    // Ends it, whatever windows are still open, once what runs has returned.
+    virtual void Quit() = 0;
 };
 
 }  // namespace kestrel::services

@@ -26,8 +26,10 @@ gdi::COLORREF WindowColor() {
 }  // namespace
 
 FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
-    : help_(services.help),
+    : application_(services.application),
+      help_(services.help),
       clipboard_(services.clipboard),
+      tray_(services.tray),
       pictures_(resources::kImageList, resources::kImageListInks),
       wellPictures_(resources::kWellPictures, resources::kImageListInks),
       barView_(menus_.SmartMenuXP1, pictures_),
@@ -36,11 +38,12 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       toolbar1_(std::make_unique<widgets::ToolBar>(pictures_, kToolbarButton, this)),
       editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
               WindowColor()),
-      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_}, services) {}
+      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, task_}, services) {}
 
 FrmIcoEd::~FrmIcoEd() {
     editor_.EndGesture();
     clipboard_.onChanged = nullptr;
+    tray_.onMenu = nullptr;
     // Hidden first: no event must reach panes whose editor is gone.
     hide();
 }
@@ -73,6 +76,7 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
 bool FrmIcoEd::Form_Unload() {
     if (!commands_.documents.PromptSaveChanges()) return false;
     editor_.History().ClearUndoHistory();
+    commands_.tray.Unload();
     help_.Close();
     return true;
 }
@@ -95,6 +99,7 @@ void FrmIcoEd::FollowDesktopColors() {
 
 void FrmIcoEd::SetTitle(const std::string& title) {
     widgets::ShowTitle(*this, QString::fromStdString(title));
+    commands_.tray.TitleChanged(title);
 }
 
 void FrmIcoEd::Unload() {
@@ -105,6 +110,7 @@ void FrmIcoEd::Unload() {
 void FrmIcoEd::LanguageChanged() {
     editor_.ShowTitle();
     statusBar_.Clear();
+    commands_.tray.LanguageChanged();
     FitMenuBar();
 }
 

@@ -14,6 +14,7 @@
 #include "windows/GridPane.h"
 #include "windows/NamedControls.h"
 #include "windows/PreviewPane.h"
+#include "windows/TaskWindow.h"
 #include "windows/ToolsPane.h"
 #include "windows/widgets/MenuView.h"
 #include "windows/widgets/StatusBar.h"
@@ -33,6 +34,8 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     // Builds the window up to its idle state, not shown yet, and opens a file; an empty path opens
     // none.
     void Form_Load(const std::string& pathToOpen);
+    // Once it has been painted.
+    void ShowInTray() { commands_.tray.WindowStands(); }
 
     editing::Editor& OpenEditor() { return editor_; }
     std::string StatusText(editing::StatusPanel panel) const { return statusBar_.Text(panel); }
@@ -86,8 +89,10 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void Unload() override;
     void LanguageChanged() override;
 
+    services::Application& application_;
     services::HelpViewer& help_;
     services::Clipboard& clipboard_;
+    services::Tray& tray_;
     controls::ImageList pictures_;
     controls::ImageList wellPictures_;
     commands::MainMenus menus_;
@@ -107,6 +112,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     NamedControls controls_{*toolbar1_};
     desktop::QtOwnerWindow owner_{*this};
     FrmDialogs dialogs_{*this};
+    TaskWindow task_{*this};
     commands::Commands commands_;
     CommandRunner runner_{editor_, grid_, *this};
 };

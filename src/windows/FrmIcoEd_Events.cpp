@@ -42,6 +42,8 @@ std::string FirstLocalFile(const QMimeData& dragged) {
 void FrmIcoEd::closeEvent(QCloseEvent* event) {
     event->ignore();
     runner_.Run([&] { event->setAccepted(Form_Unload()); });
+    // No other window's closing ends the program.
+    if (event->isAccepted()) application_.Quit();
 }
 
 bool FrmIcoEd::event(QEvent* event) {

@@ -31,7 +31,6 @@ void FrmIcoEd::LayOutControls() {
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setFixedSize(kClientSize);
     setFont(widgets::FontOf(*this, kFontPixels));
-    menuBar_->setNativeMenuBar(false);
     toolbar1_->move(kToolbar);
     grid_.move(kGrid);
     preview_.move(kPreview);

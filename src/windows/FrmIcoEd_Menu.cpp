@@ -26,6 +26,11 @@ void FrmIcoEd::BuildMenus() {
         RunRow(commands::PopupRows(), key);
     };
     barView_.FillBar(*menuBar_);
+    tray_.onMenu = [this](std::string_view key) { RunRow(commands::TrayRows(), key); };
+    // A dialog that waits would be left behind alone.
+    task_.onMinimised = [this] {
+        if (!runner_.IsRunning()) commands_.tray.WindowMinimised();
+    };
 }
 
 void FrmIcoEd::BuildToolbar() {

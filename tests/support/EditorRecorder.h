@@ -19,6 +19,7 @@ class RecordingApplication : public services::Application {
     }
     void ShowHourglass(bool shown) override { hourglasses += shown ? "on " : "off "; }
     void Beep() override { ++beeps; }
+    void Quit() override {}
 
     // What happens at the next chance.
     std::function<void()> onEvents;

@@ -108,11 +108,43 @@ class PaintedScreen : public services::Screen {
     gdi::Point pointer;
 };
 
+// A tray that notes what it shows.
+class RecordingTray : public services::Tray {
+  public:
+    void FindHost(std::function<void()> then) override {
+        if (hasHost) then();
+    }
+    bool HasHost() override { return hasHost; }
+    void Add(const services::TrayIcon& icon) override { shown = icon; }
+    void Modify(const services::TrayIcon& icon) override {
+        if (shown) shown = icon;
+    }
+    void Remove() override { shown.reset(); }
+    void SetMenu(std::span<const services::TrayMenuItem> items) override {
+        menu.assign(items.begin(), items.end());
+    }
+
+    bool hasHost = true;
+    std::optional<services::TrayIcon> shown;
+    std::vector<services::TrayMenuItem> menu;
+};
+
 // All that a main window is given.
 struct FakeServices {
     commands::MainServices Given() {
-        return {application, desktop, clipboard, boxes,  help,     files,
-                registry,    shell,   screen,    random, settings, {"/program", "/windows"},
+        return {application,
+                desktop,
+                clipboard,
+                boxes,
+                help,
+                files,
+                registry,
+                shell,
+                screen,
+                tray,
+                random,
+                settings,
+                {"/program", "/windows"},
                 1033};
     }
 
@@ -125,6 +157,7 @@ struct FakeServices {
     MemoryRegistry registry;
     RecordingShell shell;
     PaintedScreen screen;
+    RecordingTray tray;
     // The seed whose numbers the C++ standard tells.
     system::RandomNumbers random{std::mt19937::default_seed};
     settings::Settings settings{files, "/settings.ini"};

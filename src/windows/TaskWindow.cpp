@@ -1,0 +1,38 @@
+#include "windows/TaskWindow.h"
+
+#include <QEvent>
+
+#include "desktop/XWindowState.h"
+
+namespace kestrel::windows {
+
+TaskWindow::TaskWindow(QWidget& window) : window_(window) {
+    window_.installEventFilter(this);
+}
+
+void TaskWindow::Hide() {
+    window_.hide();
+}
+
+void TaskWindow::ShowNormal() {
+    window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
+    window_.show();
+    window_.raise();
+    window_.activateWindow();
+}
+
+void TaskWindow::ShowInTaskList(bool shown) {
+    isListed_ = shown;
+    if (window_.isVisible()) desktop::AskWindowState(window_, "_NET_WM_STATE_SKIP_TASKBAR", !shown);
+}
+
+bool TaskWindow::eventFilter(QObject* /*object*/, QEvent* event) {
+    // Window managers forget the state of a window that is hidden.
+    if (event->type() == QEvent::Show && !isListed_) ShowInTaskList(false);
+    if (event->type() == QEvent::WindowStateChange && window_.isMinimized() && onMinimised)
+        QMetaObject::invokeMethod(
+            this, [this] { onMinimised(); }, Qt::QueuedConnection);
+    return false;
+}
+
+}  // namespace kestrel::windows

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+
+#include "commands/MainWindow.h"
+
+namespace kestrel::windows {
+
+// A window on the desktop's task list, and off it.
+class TaskWindow : public QObject, public commands::TaskListWindow {
+  public:
+    explicit TaskWindow(QWidget& window);
+
+    void Hide() override;
+    void ShowNormal() override;
+    void ShowInTaskList(bool shown) override;
+
+    std::function<void()> onMinimised;
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    QWidget& window_;
+    bool isListed_ = true;
+};
+
+}  // namespace kestrel::windows
