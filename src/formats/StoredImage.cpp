@@ -109,11 +109,9 @@ bool DrawableIcons::CanDraw(const ImageEntry& first,
     work_ += all.size() * kWorkAHead;
     if (std::ranges::any_of(all, [](const ImageEntry& image) { return !image.info.png; }))
         return true;
-    for (const ImageEntry& image : all) {
-        if (work_ > kMostTrialWork) return true;
-        if (ReadAndDecode(file_, image, {1, 1}, work_)) return true;
-    }
-    return false;
+    return std::ranges::any_of(all, [this](const ImageEntry& image) {
+        return work_ > kMostTrialWork || ReadAndDecode(file_, image, {1, 1}, work_);
+    });
 }
 
 std::optional<IconImage> DecodeBest(std::vector<ImageEntry> entries, const ImageDecoder& decode) {
