@@ -1,11 +1,10 @@
 #include "settings/WindowPositions.h"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
 #include <vector>
 
 #include "platform/system/Characters.h"
+#include "platform/system/LeadingNumber.h"
 #include "platform/system/LetterCase.h"
 
 namespace kestrel::settings {
@@ -36,13 +35,9 @@ std::string Joined(const std::vector<std::string>& fields) {
     return text;
 }
 
-// The number a field begins with, 0 when there is none; the nearest one where it fits no integer.
-int LeadingNumber(const std::string& field) {
-    using Limits = std::numeric_limits<int>;
-    int number = 0;
-    const auto read = std::from_chars(field.data(), field.data() + field.size(), number);
-    if (read.ec != std::errc::result_out_of_range) return number;
-    return field.starts_with('-') ? Limits::min() : Limits::max();
+// The number a field begins with, 0 when there is none.
+int NumberOf(const std::string& field) {
+    return system::LeadingNumber(field).value_or(0);
 }
 
 // One axis of a stored window: where it starts and how long it is, in twips.
@@ -83,8 +78,8 @@ void RestoreWindowPosition(Settings& settings, PositionedWindow& window, const s
     bool maximised = window.State() == WindowState::Maximised;
     const auto fields = FieldsOf(settings.ReadSetting(kSection, window.Name(), "", file));
     if (fields.size() >= kFields) {
-        stored = {LeadingNumber(fields[0]), LeadingNumber(fields[1]), LeadingNumber(fields[2]),
-                  LeadingNumber(fields[3])};
+        stored = {NumberOf(fields[0]), NumberOf(fields[1]), NumberOf(fields[2]),
+                  NumberOf(fields[3])};
         maximised = system::SameName(fields[4], "true");
     }
     const Span across = OnScreen({stored.left, stored.width}, {now.left, now.width}, screen.width);
