@@ -2,12 +2,11 @@
 
 #include <qdrawutil.h>
 
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 
 #include "desktop/Text.h"
 #include "windows/widgets/MousePoint.h"
-#include "windows/widgets/PictureIcon.h"
 
 namespace kestrel::widgets {
 
@@ -20,28 +19,6 @@ constexpr int kMargin = 3;
 // Of the lines between groups, above and below.
 constexpr int kLineMargin = 4;
 
-// The style's own sign of the keyboard is lost on dark desktops.
-class ToolBarButton : public QToolButton {
-  public:
-    using QToolButton::QToolButton;
-
-  protected:
-    void paintEvent(QPaintEvent* event) override {
-        QToolButton::paintEvent(event);
-        if (!hasFocus()) return;
-        QPainter painter(this);
-        painter.setPen(palette().color(QPalette::Highlight));
-        painter.drawRect(rect().adjusted(1, 1, -2, -2));
-    }
-    void keyPressEvent(QKeyEvent* event) override {
-        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-            animateClick();
-        } else {
-            QToolButton::keyPressEvent(event);
-        }
-    }
-};
-
 }  // namespace
 
 ToolBar::ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget* parent)
@@ -49,15 +26,11 @@ ToolBar::ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget*
     setMouseTracking(true);
 }
 
-void ToolBar::AddButton(std::string_view key, int picture) {
-    auto* button = new ToolBarButton(this);
+void ToolBar::AddButton(std::string_view key, int number) {
+    const QSize picture = buttonSize_.shrunkBy(QMargins(kMargin, kMargin, kMargin, kMargin));
+    auto* button = new PictureButton(pictures_, number, picture, this);
     const QRect place(QPoint(ButtonCount() * ButtonWidth(), 0), buttonSize_);
     button->setGeometry(place.adjusted(kGap, 0, -kGap, 0));
-    button->setIcon(PictureIcon(pictures_, picture));
-    button->setIconSize(buttonSize_.shrunkBy(QMargins(kMargin, kMargin, kMargin, kMargin)));
-    button->setAutoRaise(true);
-    // A click leaves the keyboard where it is.
-    button->setFocusPolicy(Qt::TabFocus);
     button->setMouseTracking(true);
     button->installEventFilter(this);
     const auto entry = buttons_.emplace(key, button).first;
@@ -68,17 +41,16 @@ void ToolBar::AddButton(std::string_view key, int picture) {
 }
 
 void ToolBar::SetToolTip(std::string_view key, std::string_view text) const {
-    QToolButton* button = Button(key);
-    if (button == nullptr) return;
-    button->setToolTip(desktop::ToText(text));
-    button->setAccessibleName(desktop::ToText(text));
+    if (PictureButton* button = Button(key); button != nullptr) {
+        button->SetName(desktop::ToText(text));
+    }
 }
 
 void ToolBar::SetEnabled(std::string_view key, bool enabled) const {
-    if (QToolButton* button = Button(key); button != nullptr) button->setEnabled(enabled);
+    if (PictureButton* button = Button(key); button != nullptr) button->setEnabled(enabled);
 }
 
-QToolButton* ToolBar::Button(std::string_view key) const {
+PictureButton* ToolBar::Button(std::string_view key) const {
     const auto found = buttons_.find(key);
     return found == buttons_.end() ? nullptr : found->second;
 }
@@ -86,7 +58,7 @@ QToolButton* ToolBar::Button(std::string_view key) const {
 bool ToolBar::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::MouseMove && onMouseMove) {
         const QPoint inButton = UnitOf(*static_cast<QMouseEvent*>(event));
-        const QPoint point = static_cast<QToolButton*>(object)->mapToParent(inButton);
+        const QPoint point = static_cast<QWidget*>(object)->mapToParent(inButton);
         // With a button held down the pointer may be anywhere.
         if (rect().contains(point)) onMouseMove(point.x());
     }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QToolButton>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -9,6 +8,7 @@
 #include <vector>
 
 #include "platform/controls/ImageList.h"
+#include "windows/widgets/PictureButton.h"
 
 namespace kestrel::widgets {
 
@@ -20,12 +20,12 @@ class ToolBar : public QWidget {
 
     // The next button will be the first of a group.
     void BeginGroup() { groups_.push_back(ButtonCount()); }
-    // Adds a button at the right end.
-    void AddButton(std::string_view key, int picture);
+    // Adds a button with this picture at the right end.
+    void AddButton(std::string_view key, int number);
     void SetToolTip(std::string_view key, std::string_view text) const;
     void SetEnabled(std::string_view key, bool enabled) const;
     // Null for an unknown key.
-    QToolButton* Button(std::string_view key) const;
+    PictureButton* Button(std::string_view key) const;
 
     int ButtonCount() const { return static_cast<int>(buttons_.size()); }
     // In pixels.
@@ -48,7 +48,7 @@ class ToolBar : public QWidget {
     QSize buttonSize_;
     // How many buttons stand before each group but the first.
     std::vector<int> groups_;
-    std::map<std::string, QToolButton*, std::less<>> buttons_;
+    std::map<std::string, PictureButton*, std::less<>> buttons_;
 };
 
 }  // namespace kestrel::widgets
