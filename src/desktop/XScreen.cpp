@@ -1,14 +1,20 @@
 #include "desktop/XScreen.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <bit>
 #include <cstdint>
+#include <cstring>
 #include <span>
+#include <utility>
 
 #include "desktop/XConnection.h"
 
 namespace kestrel::desktop {
 namespace {
+
+// Of an event's type; the highest bit tells that another program sent it.
+constexpr std::uint8_t kEventBits = 0x7F;
 
 const xcb_screen_t* ScreenOf(xcb_connection_t* connection) {
     return xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
@@ -56,9 +62,33 @@ class SentRows {
         return bytes_.size() >= bytesOfRow_ * static_cast<std::size_t>(size.height);
     }
 
-    gdi::COLORREF At(int x, int y) const {
-        const std::size_t first =
-            static_cast<std::size_t>(y) * bytesOfRow_ + static_cast<std::size_t>(x) * bytesOfPixel_;
+    // The first pixels of a row.
+    void Read(int y, std::span<gdi::COLORREF> into) const {
+        if (IsUsual()) return ReadUsual(y, into);
+        for (std::size_t x = 0; x < into.size(); ++x)
+            into[x] = At(x, y);
+    }
+
+  private:
+    // Whether pixels are numbers of this processor that hold 0x00RRGGBB, as on nearly every server.
+    bool IsUsual() const {
+        const bool here = (std::endian::native == std::endian::little) ==
+                          (setup_.image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST);
+        return here && bytesOfPixel_ == sizeof(gdi::COLORREF) && visual_.red_mask == 0xFF0000 &&
+               visual_.green_mask == 0xFF00 && visual_.blue_mask == 0xFF;
+    }
+
+    std::size_t RowAt(int y) const { return static_cast<std::size_t>(y) * bytesOfRow_; }
+
+    void ReadUsual(int y, std::span<gdi::COLORREF> into) const {
+        std::memcpy(into.data(), bytes_.subspan(RowAt(y), into.size_bytes()).data(),
+                    into.size_bytes());
+        for (gdi::COLORREF& pixel : into)
+            pixel = (pixel & 0xFF00) | (pixel >> 16 & 0xFF) | (pixel & 0xFF) << 16;
+    }
+
+    gdi::COLORREF At(std::size_t x, int y) const {
+        const std::size_t first = RowAt(y) + x * bytesOfPixel_;
         const bool lowestFirst = setup_.image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST;
         std::uint32_t pixel = 0;
         for (std::size_t i = 0; i < bytesOfPixel_; ++i) {
@@ -68,7 +98,6 @@ class SentRows {
                Channel(pixel, visual_.blue_mask) << 16;
     }
 
-  private:
     const xcb_setup_t& setup_;
     const xcb_visualtype_t& visual_;
     std::span<const std::uint8_t> bytes_;
@@ -80,18 +109,41 @@ class SentRows {
 }  // namespace
 
 XScreen::XScreen() : connection_(XConnection()) {
-    if (connection_ != nullptr) root_ = ScreenOf(connection_)->root;
+    if (connection_ == nullptr) return;
+    root_ = ScreenOf(connection_)->root;
+    // The desktop library asks for the events of the root window.
+    qApp->installNativeEventFilter(this);
 }
 
-// Asked anew: monitors come and go.
+// Monitors come and go; the server tells of it.
+bool XScreen::nativeEventFilter(const QByteArray& /*type*/, void* message, qintptr* /*result*/) {
+    const auto* event = static_cast<const xcb_generic_event_t*>(message);
+    if ((event->response_type & kEventBits) == XCB_CONFIGURE_NOTIFY) {
+        const auto* change = static_cast<const xcb_configure_notify_event_t*>(message);
+        if (change->window == root_) size_ = {change->width, change->height};
+    }
+    return false;
+}
+
 gdi::Size XScreen::Size() const {
-    if (connection_ == nullptr) return {};
+    if (connection_ != nullptr && size_ == gdi::Size{}) size_ = AskSize();
+    return size_;
+}
+
+gdi::Size XScreen::AskSize() const {
     const XReply<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(connection_, xcb_get_geometry(connection_, root_), nullptr));
     return geometry ? gdi::Size{geometry->width, geometry->height} : gdi::Size{};
 }
 
 bool XScreen::Copy(gdi::Point leftTop, gdi::Surface& into) {
+    if (CopyPart(leftTop, into)) return true;
+    // A screen that has shrunk refuses what it lost before it has told so.
+    const gdi::Size before = std::exchange(size_, {});
+    return before != Size() && CopyPart(leftTop, into);
+}
+
+bool XScreen::CopyPart(gdi::Point leftTop, gdi::Surface& into) {
     const gdi::Size screen = Size();
     const int left = std::max(leftTop.x, 0);
     const int top = std::max(leftTop.y, 0);
@@ -109,8 +161,9 @@ bool XScreen::Copy(gdi::Point leftTop, gdi::Surface& into) {
     SentRows rows(*xcb_get_setup(connection_), *visual, *image);
     if (!rows.Hold(part)) return false;
     for (int y = 0; y < part.height; ++y) {
-        for (int x = 0; x < part.width; ++x)
-            into.SetPixel(left - leftTop.x + x, top - leftTop.y + y, rows.At(x, y));
+        rows.Read(y, into.Row(top - leftTop.y + y)
+                         .subspan(static_cast<std::size_t>(left - leftTop.x),
+                                  static_cast<std::size_t>(part.width)));
     }
     return true;
 }

@@ -2,12 +2,14 @@
 
 #include <xcb/xcb.h>
 
+#include <QAbstractNativeEventFilter>
+
 #include "services/Screen.h"
 
 namespace kestrel::desktop {
 
 // The screen of an X display. On any other desktop no program sees it.
-class XScreen : public services::Screen {
+class XScreen : public services::Screen, private QAbstractNativeEventFilter {
   public:
     XScreen();
 
@@ -18,8 +20,14 @@ class XScreen : public services::Screen {
     void MovePointer(gdi::Point to) override;
 
   private:
+    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
+    gdi::Size AskSize() const;
+    bool CopyPart(gdi::Point leftTop, gdi::Surface& into);
+
     xcb_connection_t* connection_;
     xcb_window_t root_ = XCB_WINDOW_NONE;
+    // Nothing until it is asked for the first time.
+    mutable gdi::Size size_;
 };
 
 }  // namespace kestrel::desktop
