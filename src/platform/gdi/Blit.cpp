@@ -65,21 +65,21 @@ void WithCombine(RasterOp op, Draw draw) {
     }
 }
 
-// Fills `line` with the source pixels of the visible steps, adding up the remainders instead of
-// dividing for every pixel.
-void StretchRow(std::span<const COLORREF> row, const Axis& axis, int64_t firstStep,
-                std::span<COLORREF> line) {
+// The source columns of the visible steps, adding up the remainders instead of dividing.
+std::vector<std::uint32_t> SourceColumns(const Axis& axis, const Steps& steps) {
     const int64_t whole = axis.fromSize / axis.toSize;
     const int64_t part = axis.fromSize % axis.toSize;
-    int64_t remainder = firstStep * axis.fromSize % axis.toSize;
-    int64_t at = axis.from + axis.SourceStep(firstStep);
-    for (COLORREF& pixel : line) {
-        pixel = row[static_cast<std::size_t>(at)];
+    int64_t remainder = steps.first * axis.fromSize % axis.toSize;
+    int64_t at = axis.from + axis.SourceStep(steps.first);
+    std::vector<std::uint32_t> columns(static_cast<std::size_t>(steps.Count()));
+    for (std::uint32_t& column : columns) {
+        column = static_cast<std::uint32_t>(at);
         remainder += part;
         const bool carry = remainder >= axis.toSize;
         remainder -= carry ? axis.toSize : 0;
         at += whole + (carry ? 1 : 0);
     }
+    return columns;
 }
 
 }  // namespace
@@ -108,13 +108,16 @@ void StretchBlt(Surface& target, Rect to, const Surface& source, Rect from, Rast
     const Steps columns = across.Visible(target.Width(), source.Width());
     const Steps rows = down.Visible(target.Height(), source.Height());
     if (columns.Empty() || rows.Empty()) return;
-    std::vector<COLORREF> line(static_cast<std::size_t>(columns.Count()));
+    const auto sourceColumns = SourceColumns(across, columns);
+    std::vector<COLORREF> line(sourceColumns.size());
     WithCombine(op, [&](auto combine) {
         int64_t lineRow = -1;
         for (int64_t row = rows.first; row < rows.end; ++row) {
             const int64_t sourceRow = down.from + down.SourceStep(row);
             if (sourceRow != lineRow) {
-                StretchRow(source.Row(static_cast<int>(sourceRow)), across, columns.first, line);
+                const COLORREF* const pixels = source.Row(static_cast<int>(sourceRow)).data();
+                std::ranges::transform(sourceColumns, line.begin(),
+                                       [pixels](std::uint32_t column) { return pixels[column]; });
                 lineRow = sourceRow;
             }
             CombineRow(target, across.to + columns.first, down.to + row, line, combine);
