@@ -4,7 +4,7 @@
 
 # To build and run the program, with or without a display.
 kRunPackages=(
-  g++ cmake ninja-build qt6-base-dev libpng-dev libexpected-dev libxcb1-dev libcli11-dev
+  g++ cmake ninja-build qt6-base-dev libpng-dev libexpected-dev libxcb1-dev libxcb-shm0-dev libcli11-dev
   qt6-translations-l10n
   xvfb openbox x11-utils xdotool imagemagick fonts-dejavu-core fonts-noto-cjk
 )

@@ -1,33 +1,30 @@
 #pragma once
 
-#include <xcb/xcb.h>
-
-#include <QAbstractNativeEventFilter>
+#include <memory>
 
 #include "services/Screen.h"
 
 namespace kestrel::desktop {
 
 // The screen of an X display. On any other desktop no program sees it.
-class XScreen : public services::Screen, private QAbstractNativeEventFilter {
+class XScreen : public services::Screen {
   public:
     XScreen();
+    ~XScreen() override;
 
-    bool IsSeen() const override { return connection_ != nullptr; }
+    bool IsSeen() const override;
     gdi::Size Size() const override;
     bool Copy(gdi::Point leftTop, gdi::Surface& into) override;
     gdi::Point Pointer() const override;
     void MovePointer(gdi::Point to) override;
 
   private:
-    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
-    gdi::Size AskSize() const;
-    bool CopyPart(gdi::Point leftTop, gdi::Surface& into);
+    class Link;
 
-    xcb_connection_t* connection_;
-    xcb_window_t root_ = XCB_WINDOW_NONE;
-    // Nothing until it is asked for the first time.
-    mutable gdi::Size size_;
+    // Made when it is first asked for; null where there is none.
+    Link* Linked() const;
+
+    mutable std::unique_ptr<Link> link_;
 };
 
 }  // namespace kestrel::desktop
