@@ -23,6 +23,7 @@ auto& ObjectOf(Commands& c) {
     using Class = typename ClassOfMember<decltype(kFunction)>::Type;
     return std::get<Class&>(std::tie(c.editor, c.editor.Selected(), c.parts.window, c.parts.dialogs,
                                      c.palette, c.clipboard, c.images, c.documents, c.extract,
+                                     c.shell, c.zoom));
                                      c.shell, c.tray));
 }
 
@@ -83,7 +84,7 @@ inline constexpr Action kPaste = Paste<imaging::PasteMode::Transparent>;
 inline constexpr Action kDelete = Call<&editing::Selection::Delete>;
 inline constexpr Action kSelectAll = Call<&editing::Editor::SelectAll>;
 inline constexpr Action kCapture = kNotBuilt;
-inline constexpr Action kScreenZoom = kNotBuilt;
+inline constexpr Action kScreenZoom = Call<&ZoomCommands::ShowMagnifier>;
 inline constexpr Action kHelp = Call<&ShellCommands::mnuHelp_Click>;
 
 inline constexpr Question kCanUndo = Ask<&editing::Editor::CanUndo>;

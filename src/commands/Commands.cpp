@@ -38,6 +38,8 @@ Commands::Commands(editing::Editor& openEditor, const MainParts& mainParts,
               {documents, parts.dialogs, services.folders}),
       shell({services.application, boxes, services.help, services.files, services.shell},
             services.folders),
+      zoom(services.screen, boxes, parts.magnifier),
+      language(parts, services.settings, shell) {}
       language(parts, services.settings, shell),
       tray(parts, services.tray, services.files, boxes, services.folders) {}
 

@@ -16,6 +16,7 @@
 #include "commands/ShellCommands.h"
 #include "commands/TrayCommands.h"
 #include "commands/WellCommands.h"
+#include "commands/ZoomCommands.h"
 #include "editing/Editor.h"
 #include "services/Cdb.h"
 #include "services/Screen.h"
@@ -63,6 +64,7 @@ struct Commands {
     DocumentCommands documents;
     ExtractCommands extract;
     ShellCommands shell;
+    ZoomCommands zoom;
     LanguageCommands language;
     TrayCommands tray;
 };

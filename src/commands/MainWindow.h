@@ -4,6 +4,7 @@
 
 #include "commands/Dialogs.h"
 #include "commands/DocumentCommands.h"
+#include "commands/MagnifierWindow.h"
 #include "commands/ModLanguage.h"
 #include "services/DesktopDialogs.h"
 
@@ -44,6 +45,7 @@ struct MainParts {
     const services::OwnerWindow& owner;
     MainMenus& menus;
     Dialogs& dialogs;
+    MagnifierWindow& magnifier;
     TaskListWindow& taskWindow;
 };
 

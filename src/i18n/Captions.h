@@ -57,6 +57,17 @@ inline constexpr Text kIconsScrollName{"Scroll the icons", "滚动图标"};
 inline constexpr Text kFirstIcon{"Icon No 1 Selected.", "选中第1个图标."};
 inline constexpr Text kFirstChosenIcon{"Icon No. 1 Selected.", "选中第1个图标."};
 
+// The magnifier: its title, what its switches are called, and what screen readers call the others.
+inline constexpr Text kZoomTitle{"KestrelIconEditor - Screen Zoom",
+                                 "KestrelIconEditor - 屏幕放大器"};
+inline constexpr Text kGridTip{"GridOrNot", "网格"};
+inline constexpr Text kOnTopTip{"OnTopOrNot", "置顶"};
+inline constexpr Text kGridName{"Pixel grid", "网格"};
+inline constexpr Text kOnTopName{"Always on top", "置顶"};
+inline constexpr Text kZoomName{"Zoom in percent", "缩放百分比"};
+inline constexpr Text kZoomBarName{"Zoom", "缩放"};
+inline constexpr Text kZoomPictureName{"Screen around the pointer", "指针周围的屏幕"};
+
 // The About box.
 inline constexpr Text kAboutTitle{"About KestrelIconEditor", "关于 KestrelIconEditor"};
 inline constexpr Text kAboutVersion{"Version ", "版本 "};

@@ -128,6 +128,11 @@ inline constexpr Text kCapturesScreen{"takes pictures of the screen", "截取屏
 inline constexpr Text kBrowsesIcons{"browses pictures and icons", "浏览图像和图标"};
 inline constexpr Text kShowsClipboard{"shows what the clipboard holds", "查看剪切板内容"};
 
+// The magnifier, where the desktop keeps the screen to itself.
+inline constexpr Text kCannotMagnify{
+    "This desktop does not let programs see the screen.\r\n\r\nUnable to magnify the screen.",
+    "此桌面不允许程序读取屏幕内容.\r\n\r\n不能放大屏幕."};
+
 // Clipboard.
 inline constexpr Text kCannotPaste{
     "The image on the clipboard is gone, damaged, too large or did not arrive in time.\r\n\r\n"

@@ -7,6 +7,7 @@
 #include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
+#include "tools/MagnifierSettings.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
@@ -38,6 +39,9 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       toolbar1_(std::make_unique<widgets::ToolBar>(pictures_, kToolbarButton, this)),
       editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
               WindowColor()),
+      magnifier_({services.screen, services.application, services.settings, *this, statusBar_}),
+      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, magnifier_},
+                services) {}
       commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, task_}, services) {}
 
 FrmIcoEd::~FrmIcoEd() {
@@ -70,7 +74,7 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     PlaceOnScreen();
     if (!pathToOpen.empty()) commands_.documents.OpenNamed(pathToOpen);
     RefreshEditCommands();
-    statusBar_.SetStatusPanel(editing::StatusPanel::Zoom, "10:1");
+    statusBar_.SetStatusPanel(editing::StatusPanel::Zoom, tools::kGridRatio);
 }
 
 bool FrmIcoEd::Form_Unload() {
@@ -78,6 +82,7 @@ bool FrmIcoEd::Form_Unload() {
     editor_.History().ClearUndoHistory();
     commands_.tray.Unload();
     help_.Close();
+    magnifier_.Close();
     return true;
 }
 
@@ -110,6 +115,7 @@ void FrmIcoEd::Unload() {
 void FrmIcoEd::LanguageChanged() {
     editor_.ShowTitle();
     statusBar_.Clear();
+    magnifier_.ShowCaptions(i18n::UiLanguage());
     commands_.tray.LanguageChanged();
     FitMenuBar();
 }

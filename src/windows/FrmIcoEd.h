@@ -14,6 +14,7 @@
 #include "windows/GridPane.h"
 #include "windows/NamedControls.h"
 #include "windows/PreviewPane.h"
+#include "windows/ShownMagnifier.h"
 #include "windows/TaskWindow.h"
 #include "windows/ToolsPane.h"
 #include "windows/widgets/MenuView.h"
@@ -112,6 +113,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     NamedControls controls_{*toolbar1_};
     desktop::QtOwnerWindow owner_{*this};
     FrmDialogs dialogs_{*this};
+    ShownMagnifier magnifier_;
     TaskWindow task_{*this};
     commands::Commands commands_;
     CommandRunner runner_{editor_, grid_, *this};

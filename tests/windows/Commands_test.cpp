@@ -51,6 +51,9 @@ class CommandWindow : public test::WindowTest {
     }
     void ChooseInPopup(const CommandRow& row) { window_.Menus().SmartMenuXP2.onClick(row.key); }
     void Press(const CommandRow& row) { window_.Toolbar1().Button(row.key)->click(); }
+    static auto VisibleWindows() {
+        return std::ranges::count_if(QApplication::topLevelWidgets(), &QWidget::isVisible);
+    }
     // The icon's pixels, then all else that commands change.
     std::string State() {
         std::ostringstream state;
@@ -62,7 +65,7 @@ class CommandWindow : public test::WindowTest {
         }
         const gdi::PaletteColors& colors = Editor().ColorPalette().Colors();
         state << Editor().History().UndoCount() << Editor().Selected().Exists() << colors[0] << " "
-              << colors[1] << given_.clipboard.image->Width() << window_.isVisible() << dialog_
+              << colors[1] << given_.clipboard.image->Width() << VisibleWindows() << dialog_
               << window_.windowTitle().toStdString();
         for (const auto& box : given_.boxes.shown)
             state << box.text;

@@ -1,0 +1,30 @@
+#include "windows/ShownMagnifier.h"
+
+namespace kestrel::windows {
+
+void ShownMagnifier::ShowMagnifier() {
+    // A window that was just closed is only about to go.
+    if (window_ != nullptr && window_->isHidden()) delete window_.data();
+    if (window_ == nullptr) {
+        window_ = new frmZoom(services_);
+        window_->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+    window_->show();
+    window_->raise();
+    window_->activateWindow();
+}
+
+void ShownMagnifier::Rest(bool resting) {
+    if (window_ != nullptr) window_->Rest(resting);
+}
+
+void ShownMagnifier::ShowCaptions(std::string_view code) {
+    if (window_ != nullptr) window_->ShowCaptions(code);
+}
+
+void ShownMagnifier::Close() {
+    if (window_ != nullptr) window_->close();
+}
+
+}  // namespace kestrel::windows
