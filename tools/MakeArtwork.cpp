@@ -8,10 +8,14 @@
 #include "document/ApplicationIcon.h"
 #include "formats/IcoFile.h"
 #include "platform/controls/ImageList.h"
+#include "platform/gdi/Blit.h"
 #include "platform/system/DiskFiles.h"
 #include "resources/ImageList.h"
 #include "resources/ToolStrip.h"
 #include "resources/WellPictures.h"
+#include "resources/ZoomPictures.h"
+#include "tools/Magnifier.h"
+#include "tools/MagnifierSettings.h"
 
 namespace {
 
@@ -51,11 +55,47 @@ bool WritePictures(const std::string& folder, const char* prefix, const controls
     return written;
 }
 
+// A screen that shows the program's icon and nothing else.
+class ScreenOfIcon : public services::Screen {
+  public:
+    bool IsSeen() const override { return true; }
+    gdi::Size Size() const override { return {gdi::kIconSize, gdi::kIconSize}; }
+    bool Copy(gdi::Point leftTop, gdi::Surface& into) override {
+        gdi::BitBlt(into, 0, 0, into.Width(), into.Height(), icon_.image, leftTop.x, leftTop.y,
+                    gdi::RasterOp::Copy);
+        gdi::BitBlt(into, 0, 0, into.Width(), into.Height(), icon_.mask, leftTop.x, leftTop.y,
+                    gdi::RasterOp::Xor);
+        return true;
+    }
+    gdi::Point Pointer() const override { return {}; }
+    void MovePointer(gdi::Point /*to*/) override {}
+
+  private:
+    gdi::IconPlanes icon_ = document::ApplicationIcon();
+};
+
+// What the magnifier makes of the kestrel's eye and beak.
+QImage MagnifiedIcon() {
+    constexpr gdi::Size kSize{320, 200};
+    constexpr gdi::Point kEye{20, 9};
+    ScreenOfIcon screen;
+    tools::Magnifier magnifier(screen);
+    magnifier.SetZoom(tools::MagnifierSettings::kMostZoom);
+    magnifier.ShowGrid(true);
+    magnifier.SetGround(gdi::kWhite);
+    magnifier.Look(kEye, kSize);
+    gdi::Surface picture(kSize.width, kSize.height);
+    magnifier.DrawRows(picture, 0);
+    return desktop::ToImage(picture, picture.Bounds());
+}
+
 bool WriteHelpPictures(const std::string& folder) {
     using namespace resources;
     bool written = WritePictures(folder, "", {kImageList, kImageListInks});
     written = WritePictures(folder, "tool-", {kToolStrip, kImageListInks}) && written;
-    return WritePictures(folder, "well-", {kWellPictures, kImageListInks}) && written;
+    written = WritePictures(folder, "well-", {kWellPictures, kImageListInks}) && written;
+    written = WritePictures(folder, "zoom-", {kZoomPictures, kImageListInks}) && written;
+    return Save(MagnifiedIcon(), folder + "/zoom.png") && written;
 }
 
 }  // namespace
