@@ -39,7 +39,6 @@ Commands::Commands(editing::Editor& openEditor, const MainParts& mainParts,
       shell({services.application, boxes, services.help, services.files, services.shell},
             services.folders),
       zoom(services.screen, boxes, parts.magnifier),
-      language(parts, services.settings, shell) {}
       language(parts, services.settings, shell),
       tray(parts, services.tray, services.files, boxes, services.folders) {}
 

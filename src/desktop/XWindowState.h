@@ -1,12 +1,27 @@
 #pragma once
 
+#include <xcb/xcb.h>
+
 #include <QWidget>
 
 namespace kestrel::desktop {
 
-// Asks the window manager of an X display to set or clear a state of a window that is shown, such
-// as "_NET_WM_STATE_SKIP_TASKBAR". A window that is hidden loses it; elsewhere nothing happens.
+// A state that the window manager of an X display keeps for a window, such as
+// "_NET_WM_STATE_SKIP_TASKBAR". A window that is hidden loses it. Elsewhere nothing happens.
 // Protocol: Extended Window Manager Hints 1.5, _NET_WM_STATE.
-void AskWindowState(QWidget& window, const char* state, bool set);
+class XWindowState {
+  public:
+    // `window` outlives this.
+    XWindowState(QWidget& window, const char* name) : window_(window), name_(name) {}
+
+    // Asks for it, or that it ends, while the window is shown.
+    void Set(bool set);
+
+  private:
+    QWidget& window_;
+    const char* name_;
+    xcb_atom_t state_ = XCB_ATOM_NONE;
+    xcb_atom_t kind_ = XCB_ATOM_NONE;
+};
 
 }  // namespace kestrel::desktop

@@ -40,9 +40,8 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
               WindowColor()),
       magnifier_({services.screen, services.application, services.settings, *this, statusBar_}),
-      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, magnifier_},
+      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, magnifier_, task_},
                 services) {}
-      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, task_}, services) {}
 
 FrmIcoEd::~FrmIcoEd() {
     editor_.EndGesture();

@@ -2,8 +2,6 @@
 
 #include <QEvent>
 
-#include "desktop/XWindowState.h"
-
 namespace kestrel::windows {
 
 TaskWindow::TaskWindow(QWidget& window) : window_(window) {
@@ -23,7 +21,7 @@ void TaskWindow::ShowNormal() {
 
 void TaskWindow::ShowInTaskList(bool shown) {
     isListed_ = shown;
-    if (window_.isVisible()) desktop::AskWindowState(window_, "_NET_WM_STATE_SKIP_TASKBAR", !shown);
+    offTaskList_.Set(!shown);
 }
 
 bool TaskWindow::eventFilter(QObject* /*object*/, QEvent* event) {

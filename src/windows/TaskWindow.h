@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "commands/MainWindow.h"
+#include "desktop/XWindowState.h"
 
 namespace kestrel::windows {
 
@@ -23,6 +24,7 @@ class TaskWindow : public QObject, public commands::TaskListWindow {
 
   private:
     QWidget& window_;
+    desktop::XWindowState offTaskList_{window_, "_NET_WM_STATE_SKIP_TASKBAR"};
     bool isListed_ = true;
 };
 

@@ -150,7 +150,7 @@ void frmZoom::tmrZoom_Timer() {
     const gdi::Point pointer = services_.screen.Pointer();
     const auto due = clock_.Tick(pointer);
     if (due.draw && magnifier_.Look(pointer, picZoom_->SizeInPixels())) picZoom_->update();
-    if (due.renew && chkOnTop_->isChecked()) topmost_.Set(true);
+    if (due.renew && chkOnTop_->isChecked()) KeepOnTop();
 }
 
 void frmZoom::hsbZoom_Change() {
@@ -180,8 +180,18 @@ void frmZoom::chkGrid_Click() {
 }
 
 void frmZoom::chkOnTop_Click() {
-    topmost_.Set(chkOnTop_->isChecked());
+    if (chkOnTop_->isChecked()) {
+        KeepOnTop();
+    } else {
+        topmost_.Set(false);
+    }
     picZoom_->setFocus();
+}
+
+// Among windows that are all above, the one raised last is seen.
+void frmZoom::KeepOnTop() {
+    topmost_.Set(true);
+    raise();
 }
 
 void frmZoom::Rest(bool resting) {

@@ -4,7 +4,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "desktop/TopmostWindow.h"
+#include "desktop/XWindowState.h"
 #include "editing/EditorViews.h"
 #include "platform/controls/ImageList.h"
 #include "services/Application.h"
@@ -56,6 +56,7 @@ class frmZoom : public QWidget {
     void txtZoom_LostFocus();
     void chkGrid_Click();
     void chkOnTop_Click();
+    void KeepOnTop();
 
     bool IsSeen() const { return isVisible() && !isMinimized(); }
     // Starts or stops the timer, and tells the main window.
@@ -68,7 +69,7 @@ class frmZoom : public QWidget {
     tools::Magnifier magnifier_;
     tools::MagnifierClock clock_;
     PlacedWindow place_;
-    desktop::TopmostWindow topmost_{*this};
+    desktop::XWindowState topmost_{*this, "_NET_WM_STATE_ABOVE"};
     bool resting_ = false;
 
     widgets::PictureButton* chkGrid_;
