@@ -6,7 +6,8 @@
 
 namespace kestrel::desktop {
 
-// The screen of an X display. On any other desktop no program sees it.
+// The screen of an X display. On any other desktop no program sees it, and a picture of it comes
+// from the desktop's portal.
 class XScreen : public services::Screen {
   public:
     XScreen();
@@ -17,6 +18,10 @@ class XScreen : public services::Screen {
     bool Copy(gdi::Point leftTop, gdi::Surface& into) override;
     gdi::Point Pointer() const override;
     void MovePointer(gdi::Point to) override;
+    Result<gdi::Surface> Picture() override;
+    bool IsComposited() const override;
+    std::unique_ptr<services::InputHold> Hold(services::WindowHandle window,
+                                              gdi::Rect area) override;
 
   private:
     class Link;

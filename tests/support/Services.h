@@ -102,10 +102,23 @@ class PaintedScreen : public services::Screen {
     }
     gdi::Point Pointer() const override { return pointer; }
     void MovePointer(gdi::Point to) override { pointer = to; }
+    Result<gdi::Surface> Picture() override {
+        if (!seen) return Fail(services::kScreenRefused, "refused");
+        if (shown.Width() == 0) return Fail(services::kNoScreenPictures, "none");
+        return shown;
+    }
+    bool IsComposited() const override { return false; }
+    std::unique_ptr<services::InputHold> Hold(services::WindowHandle /*window*/,
+                                              gdi::Rect area) override {
+        held = area;
+        return nullptr;
+    }
 
     bool seen = true;
     gdi::Surface shown{0, 0};
     gdi::Point pointer;
+    // Where the pointer was kept last.
+    gdi::Rect held;
 };
 
 // A tray that notes what it shows.

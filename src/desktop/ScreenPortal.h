@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/Result.h"
+#include "platform/gdi/Surface.h"
+
+namespace kestrel::desktop {
+
+// A picture of the whole screen from the desktop's portal, which may ask the user. Windows are
+// painted meanwhile. Fails with kNoScreenPictures or kScreenRefused.
+// Interface: org.freedesktop.portal.Screenshot of xdg-desktop-portal.
+Result<gdi::Surface> PictureFromPortal();
+
+}  // namespace kestrel::desktop
