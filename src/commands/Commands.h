@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include "commands/CaptureCommands.h"
 #include "commands/ClipboardCommands.h"
 #include "commands/CommandTable.h"
 #include "commands/DocumentCommands.h"
@@ -63,6 +64,7 @@ struct Commands {
     ModRecent recent;
     DocumentCommands documents;
     ExtractCommands extract;
+    CaptureCommands capture;
     ShellCommands shell;
     ZoomCommands zoom;
     LanguageCommands language;

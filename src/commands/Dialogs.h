@@ -24,6 +24,9 @@ class Dialogs {
     virtual std::optional<imaging::PasteFit> AskFit(gdi::Size picture) = 0;
     // Lets the user select an icon, also in other files; true when it is to be taken.
     virtual bool PickIcon(tools::IconExtraction& extraction) = 0;
+    // Lets the user pick a square as large as an icon out of a picture of the screen, which covers
+    // the screen meanwhile; none when the user leaves it.
+    virtual std::optional<gdi::Surface> PickSquare(gdi::Surface screen) = 0;
     virtual void ShowAbout() = 0;
 };
 

@@ -18,6 +18,11 @@ class MainWindow {
     virtual void Unload() = 0;
     // Whatever else the window shows as text is in another language from now on.
     virtual void LanguageChanged() = 0;
+    // Where it is with its frame, in the screen's pixels.
+    virtual gdi::Rect ScreenArea() const = 0;
+    // Hides it, and shows it again where it was, with the keyboard.
+    virtual void LeaveScreen() = 0;
+    virtual void ComeBack() = 0;
 };
 
 // The controls of the main window.

@@ -57,6 +57,9 @@ inline constexpr Text kIconsScrollName{"Scroll the icons", "滚动图标"};
 inline constexpr Text kFirstIcon{"Icon No 1 Selected.", "选中第1个图标."};
 inline constexpr Text kFirstChosenIcon{"Icon No. 1 Selected.", "选中第1个图标."};
 
+// The windows that show the frozen screen while one picks.
+inline constexpr Text kCaptureTitle{"KestrelIconEditor - Capture Image",
+                                    "KestrelIconEditor - 捕捉图像"};
 // The magnifier: its title, what its switches are called, and what screen readers call the others.
 inline constexpr Text kZoomTitle{"KestrelIconEditor - Screen Zoom",
                                  "KestrelIconEditor - 屏幕放大器"};

@@ -139,6 +139,15 @@ inline constexpr Text kCannotPaste{
     "Unable to paste.",
     "剪切板中的图像已不存在, 已损坏, 过大或未能及时送达.\r\n\r\n不能粘贴."};
 
+// The capture, where no program may see the screen.
+inline constexpr Text kNoScreenPictures{
+    "This desktop does not let programs see the screen, and it offers no service that would take a "
+    "picture of it.\r\n\r\nUnable to capture.",
+    "此桌面不允许程序读取屏幕, 也没有提供截屏服务.\r\n\r\n不能捕捉图像."};
+inline constexpr Text kScreenRefused{
+    "The desktop did not give a picture of the screen.\r\n\r\nUnable to capture.",
+    "桌面没有提供屏幕图像.\r\n\r\n不能捕捉图像."};
+
 // The question before a save replaces a file that another program has changed since it was opened.
 std::string ChangedOutside(std::string_view fileTitle);
 

@@ -1,9 +1,12 @@
 #include "windows/FrmDialogs.h"
 
+#include <utility>
+
 #include "windows/FrmClipData.h"
 #include "windows/FrmColAdj.h"
 #include "windows/FrmIcons.h"
 #include "windows/FrmShades.h"
+#include "windows/FrmSnap.h"
 #include "windows/frmAbout.h"
 #include "windows/frmGamma.h"
 
@@ -27,6 +30,10 @@ std::optional<imaging::PasteFit> FrmDialogs::AskFit(gdi::Size picture) {
 
 bool FrmDialogs::PickIcon(tools::IconExtraction& extraction) {
     return FrmIcons(&owner_, extraction).exec() == QDialog::Accepted;
+}
+
+std::optional<gdi::Surface> FrmDialogs::PickSquare(gdi::Surface screen) {
+    return FrmSnap(screen_, std::move(screen)).Pick();
 }
 
 void FrmDialogs::ShowAbout() {

@@ -4,6 +4,7 @@
 
 #include "commands/CommandTable.h"
 #include "desktop/Pictures.h"
+#include "desktop/ScreenPixels.h"
 #include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
@@ -39,6 +40,8 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       toolbar1_(std::make_unique<widgets::ToolBar>(pictures_, kToolbarButton, this)),
       editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
               WindowColor()),
+      dialogs_(*this, services.screen),
+      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_}, services) {}
       magnifier_({services.screen, services.application, services.settings, *this, statusBar_}),
       commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, magnifier_, task_},
                 services) {}
@@ -109,6 +112,20 @@ void FrmIcoEd::SetTitle(const std::string& title) {
 void FrmIcoEd::Unload() {
     // After the command that asked for it has returned.
     QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+}
+
+gdi::Rect FrmIcoEd::ScreenArea() const {
+    return desktop::PixelsOf(*screen(), frameGeometry());
+}
+
+void FrmIcoEd::LeaveScreen() {
+    hide();
+}
+
+void FrmIcoEd::ComeBack() {
+    show();
+    raise();
+    activateWindow();
 }
 
 void FrmIcoEd::LanguageChanged() {

@@ -89,6 +89,9 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void RefreshEditCommands() override;
     void Unload() override;
     void LanguageChanged() override;
+    gdi::Rect ScreenArea() const override;
+    void LeaveScreen() override;
+    void ComeBack() override;
 
     services::Application& application_;
     services::HelpViewer& help_;
@@ -112,6 +115,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     editing::Editor editor_;
     NamedControls controls_{*toolbar1_};
     desktop::QtOwnerWindow owner_{*this};
+    FrmDialogs dialogs_;
     FrmDialogs dialogs_{*this};
     ShownMagnifier magnifier_;
     TaskWindow task_{*this};

@@ -2,6 +2,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
+#include <algorithm>
 
 #include "commands/CommandTable.h"
 #include "commands/ModLanguage.h"
@@ -13,6 +14,9 @@ namespace kestrel::windows {
 namespace {
 
 constexpr std::string_view kPopupRoot = "mnuEdit";
+
+// A drag ends at the grid's corner before a capture, and where it is before other commands.
+constexpr std::string_view kCaptureKeys[] = {"mnuToolsOpts0", "Capture"};
 
 }  // namespace
 
@@ -45,6 +49,8 @@ void FrmIcoEd::BuildToolbar() {
 }
 
 void FrmIcoEd::RunRow(std::span<const commands::CommandRow> rows, std::string_view key) {
+    if (!runner_.IsRunning() && std::ranges::find(kCaptureKeys, key) != std::end(kCaptureKeys))
+        editor_.PicMain_MouseUp(editing::Button::Left, 0, 0);
     runner_.Run([&] { commands_.Click(rows, key); });
 }
 

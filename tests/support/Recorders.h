@@ -36,6 +36,9 @@ class AnsweredDialogs : public commands::Dialogs {
     std::optional<gdi::Surface> AskGradient() override { return gradient; }
     std::optional<imaging::PasteFit> AskFit(gdi::Size /*picture*/) override { return fit; }
     bool PickIcon(tools::IconExtraction& /*extraction*/) override { return false; }
+    std::optional<gdi::Surface> PickSquare(gdi::Surface /*screen*/) override {
+        return std::nullopt;
+    }
     void ShowAbout() override {}
 
     gdi::Surface shown{0, 0};

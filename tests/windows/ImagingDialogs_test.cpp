@@ -11,6 +11,7 @@
 
 #include "desktop/Pictures.h"
 #include "i18n/Language.h"
+#include "tests/support/Services.h"
 #include "windows/FrmColAdj.h"
 #include "windows/FrmDialogs.h"
 #include "windows/FrmShades.h"
@@ -156,7 +157,8 @@ class ImagingDialogsTest : public testing::Test {
     bool Adjust() { return dialogs_.AdjustColors(colors_, gdi::Surface(32, 32)); }
 
     QWidget owner_;
-    FrmDialogs dialogs_{owner_};
+    test::PaintedScreen screen_;
+    FrmDialogs dialogs_{owner_, screen_};
     imaging::ColorAdjustment colors_{gdi::IconPlanes()};
 };
 

@@ -1,0 +1,83 @@
+#include "commands/CaptureCommands.h"
+
+#include <chrono>
+#include <optional>
+#include <thread>
+#include <utility>
+
+#include "commands/ErrorBox.h"
+#include "i18n/Messages.h"
+#include "tools/ScreenSettling.h"
+
+namespace kestrel::commands {
+
+namespace {
+
+using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
+
+// How long windows may take to be gone from the screen: as a rule, where they fade out, and where
+// nobody can look whether they are.
+constexpr milliseconds kPatience{150};
+constexpr milliseconds kPatienceWhileFading{500};
+constexpr milliseconds kUnseen{250};
+constexpr milliseconds kPoll{3};
+
+// Shadows lie outside a window.
+constexpr int kShadow = 48;
+
+}  // namespace
+
+CaptureCommands::CaptureCommands(editing::Editor& editor, const CaptureParts& parts)
+    : editor_(editor), parts_(parts) {}
+
+void CaptureCommands::Capture() {
+    Freeze(true);
+    LeaveScreen();
+    Result<gdi::Surface> picture = parts_.screen.Picture();
+    std::optional<gdi::Surface> square;
+    if (picture) square = parts_.dialogs.PickSquare(*std::move(picture));
+    if (square) Take(*square);
+    parts_.window.ComeBack();
+    Freeze(false);
+    if (!picture) {
+        const bool refused = picture.error().number == services::kScreenRefused;
+        ShowError(parts_.boxes,
+                  std::string((refused ? i18n::kScreenRefused : i18n::kNoScreenPictures).Now()));
+    }
+}
+
+void CaptureCommands::Freeze(bool frozen) {
+    if (onFreeze) onFreeze(frozen);
+}
+
+void CaptureCommands::LeaveScreen() {
+    const gdi::Rect window = parts_.window.ScreenArea();
+    const gdi::Point leftTop{window.left - kShadow, window.top - kShadow};
+    gdi::Surface place(window.width + 2 * kShadow, window.height + 2 * kShadow);
+    parts_.screen.Copy(leftTop, place);
+    const bool seen = parts_.screen.IsSeen();
+    tools::ScreenSettling settling(place, {kShadow, kShadow, window.width, window.height},
+                                   parts_.screen.IsComposited() ? kPatienceWhileFading : kPatience);
+
+    parts_.window.LeaveScreen();
+    const auto start = Clock::now();
+    for (milliseconds elapsed{0};;) {
+        parts_.loop.DoEvents();
+        elapsed = std::chrono::duration_cast<milliseconds>(Clock::now() - start);
+        parts_.screen.Copy(leftTop, place);
+        if (seen ? settling.IsOver(elapsed, place) : elapsed >= kUnseen) break;
+        std::this_thread::sleep_for(kPoll);
+    }
+}
+
+void CaptureCommands::Take(const gdi::Surface& square) {
+    editing::IconEdit edit = editor_.EditIcon(editing::Leaves::Entry);
+    gdi::IconPlanes& icon = edit.Planes();
+    for (int y = 0; y < gdi::kIconSize; ++y) {
+        for (int x = 0; x < gdi::kIconSize; ++x)
+            icon.SetOpaque(x, y, square.GetPixel(x, y));
+    }
+}
+
+}  // namespace kestrel::commands
