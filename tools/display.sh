@@ -16,11 +16,12 @@ WaitFor() {
     done
 }
 
-# StartDisplay <scratch folder>: starts an X server on the first free display number, 1024 x 768 at
-# 24 bits, with a window manager, and points DISPLAY at it. Returns once windows are managed.
+# StartDisplay <scratch folder> [width x height]: starts an X server on the first free display
+# number, at 24 bits, with a window manager, and points DISPLAY at it. Returns once windows are
+# managed.
 StartDisplay() {
     local scratch=$1
-    Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset -ac \
+    Xvfb -displayfd 3 -screen 0 "${2:-1024x768}x24" -nolisten tcp -noreset -ac \
         3>"$scratch/display" >"$scratch/Xvfb.log" 2>&1 </dev/null &
     displayServer=$!
     if ! WaitFor 20 test -s "$scratch/display"; then
