@@ -69,6 +69,12 @@ class ScreenOfIcon : public services::Screen {
     }
     gdi::Point Pointer() const override { return {}; }
     void MovePointer(gdi::Point /*to*/) override {}
+    Result<gdi::Surface> Picture() override { return icon_.image; }
+    bool IsComposited() const override { return false; }
+    std::unique_ptr<services::InputHold> Hold(services::WindowHandle /*window*/,
+                                              gdi::Rect /*area*/) override {
+        return nullptr;
+    }
 
   private:
     gdi::IconPlanes icon_ = document::ApplicationIcon();

@@ -14,8 +14,7 @@ kRunPackages=(
 kTestPackages=(
   "${kRunPackages[@]}"
   clang clang-format clang-tidy libclang-rt-14-dev libgtest-dev libbenchmark-dev
-    xclip icoutils x11-apps x11-xserver-utils desktop-file-utils shared-mime-info dbus-bin
-    dbus-daemon
+  xclip icoutils x11-apps x11-xserver-utils desktop-file-utils shared-mime-info dbus-bin dbus-daemon
 )
 
 # RequirePackages <package>...: installs those that are missing. Asks dpkg once and touches the

@@ -32,23 +32,19 @@ CaptureCommands::CaptureCommands(editing::Editor& editor, const CaptureParts& pa
     : editor_(editor), parts_(parts) {}
 
 void CaptureCommands::Capture() {
-    Freeze(true);
+    parts_.magnifier.Rest(true);
     LeaveScreen();
     Result<gdi::Surface> picture = parts_.screen.Picture();
     std::optional<gdi::Surface> square;
     if (picture) square = parts_.dialogs.PickSquare(*std::move(picture));
     if (square) Take(*square);
     parts_.window.ComeBack();
-    Freeze(false);
+    parts_.magnifier.Rest(false);
     if (!picture) {
         const bool refused = picture.error().number == services::kScreenRefused;
         ShowError(parts_.boxes,
                   std::string((refused ? i18n::kScreenRefused : i18n::kNoScreenPictures).Now()));
     }
-}
-
-void CaptureCommands::Freeze(bool frozen) {
-    if (onFreeze) onFreeze(frozen);
 }
 
 void CaptureCommands::LeaveScreen() {

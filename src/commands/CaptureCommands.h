@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-
 #include "commands/Dialogs.h"
 #include "commands/MainWindow.h"
 #include "editing/Editor.h"
@@ -18,6 +16,7 @@ struct CaptureParts {
     services::Screen& screen;
     services::MessageLoop& loop;
     services::MessageBoxes& boxes;
+    MagnifierWindow& magnifier;
 };
 
 // The command that makes a square of the screen the icon.
@@ -30,11 +29,7 @@ class CaptureCommands {
     // told of.
     void Capture();
 
-    // The screen is about to be frozen, or is shown as it is again. For windows that watch it.
-    std::function<void(bool frozen)> onFreeze;
-
   private:
-    void Freeze(bool frozen);
     void LeaveScreen();
     void Take(const gdi::Surface& square);
 

@@ -23,8 +23,7 @@ auto& ObjectOf(Commands& c) {
     using Class = typename ClassOfMember<decltype(kFunction)>::Type;
     return std::get<Class&>(std::tie(c.editor, c.editor.Selected(), c.parts.window, c.parts.dialogs,
                                      c.palette, c.clipboard, c.images, c.documents, c.extract,
-                                     c.capture, c.shell));
-                                     c.shell, c.tray, c.zoom));
+                                     c.capture, c.shell, c.tray, c.zoom));
 }
 
 template <auto kFunction, auto... kArguments>
@@ -84,8 +83,6 @@ inline constexpr Action kPaste = Paste<imaging::PasteMode::Transparent>;
 inline constexpr Action kDelete = Call<&editing::Selection::Delete>;
 inline constexpr Action kSelectAll = Call<&editing::Editor::SelectAll>;
 inline constexpr Action kCapture = Call<&CaptureCommands::Capture>;
-inline constexpr Action kScreenZoom = kNotBuilt;
-inline constexpr Action kCapture = kNotBuilt;
 inline constexpr Action kScreenZoom = Call<&ZoomCommands::ShowMagnifier>;
 inline constexpr Action kHelp = Call<&ShellCommands::mnuHelp_Click>;
 

@@ -1,15 +1,12 @@
 #include "desktop/XScreen.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
-#include <span>
-#include <string_view>
 #include <cstring>
+#include <string_view>
 #include <utility>
 
-#include "desktop/ScreenPortal.h"
 #include "desktop/PixelLayout.h"
+#include "desktop/ScreenPortal.h"
 #include "desktop/SharedPixels.h"
 #include "desktop/XConnection.h"
 #include "desktop/XHold.h"
@@ -24,65 +21,6 @@ const xcb_screen_t& ScreenOf(xcb_connection_t* connection) {
     return *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
 }
 
-const xcb_visualtype_t* VisualOf(const xcb_screen_t& screen) {
-    for (auto depth = xcb_screen_allowed_depths_iterator(&screen); depth.rem != 0;
-         xcb_depth_next(&depth)) {
-        for (auto visual = xcb_depth_visuals_iterator(depth.data); visual.rem != 0;
-             xcb_visualtype_next(&visual)) {
-            if (visual.data->visual_id == screen.root_visual) return visual.data;
-        }
-    }
-    return nullptr;
-}
-
-    const xcb_visualtype_t& visual_;
-    bool lowestFirst_;
-    std::span<const std::uint8_t> bytes_;
-    std::size_t bytesOfPixel_ = 0;
-    std::size_t pad_ = 0;
-    std::size_t bytesOfRow_ = 0;
-    // The pixels of almost all screens, which need no masks.
-    bool isUsual_ = false;
-  private:
-    gdi::COLORREF Color(std::span<const std::uint8_t> bytes) const {
-        std::uint32_t pixel = 0;
-        for (std::size_t i = 0; i < bytesOfPixel_; ++i)
-            pixel = pixel << 8 | bytes[lowestFirst_ ? bytesOfPixel_ - 1 - i : i];
-        return Channel(pixel, visual_.red_mask) | Channel(pixel, visual_.green_mask) << 8 |
-               Channel(pixel, visual_.blue_mask) << 16;
-    // The first pixels of a row.
-    void Read(int row, std::span<gdi::COLORREF> into) const {
-        const auto bytes = bytes_.subspan(static_cast<std::size_t>(row) * bytesOfRow_);
-        for (std::size_t x = 0; x < into.size(); ++x) {
-            const auto pixel = bytes.subspan(x * bytesOfPixel_);
-            into[x] = isUsual_ ? gdi::Rgb(pixel[2], pixel[1], pixel[0]) : Color(pixel);
-    // Whether so many pixels are there in a format that this class knows.
-    bool Hold(gdi::Size size) {
-        if (bytesOfPixel_ == 0 || pad_ == 0) return false;
-        const std::size_t row = static_cast<std::size_t>(size.width) * bytesOfPixel_;
-        bytesOfRow_ = (row + pad_ - 1) / pad_ * pad_;
-        return bytes_.size() >= bytesOfRow_ * static_cast<std::size_t>(size.height);
-// Rows of pixels as the server sends them: its byte order, each row padded.
-class SentRows {
-  public:
-    SentRows(const xcb_setup_t& setup, const xcb_visualtype_t& visual, xcb_get_image_reply_t& image)
-        : visual_(visual),
-          lowestFirst_(setup.image_byte_order == XCB_IMAGE_ORDER_LSB_FIRST),
-          bytes_(xcb_get_image_data(&image),
-                 static_cast<std::size_t>(xcb_get_image_data_length(&image))) {
-        const std::span formats(xcb_setup_pixmap_formats(&setup),
-                                static_cast<std::size_t>(xcb_setup_pixmap_formats_length(&setup)));
-        const auto format = std::ranges::find(formats, image.depth, &xcb_format_t::depth);
-        if (format == formats.end()) return;
-        bytesOfPixel_ = format->bits_per_pixel / 8U;
-        pad_ = format->scanline_pad / 8U;
-        isUsual_ = lowestFirst_ && bytesOfPixel_ == 4 && visual.red_mask == 0xFF0000 &&
-                   visual.green_mask == 0xFF00 && visual.blue_mask == 0xFF;
-// A colour's share of a pixel, widened from the bits of its mask to eight.
-std::uint32_t Channel(std::uint32_t pixel, std::uint32_t mask) {
-    if (mask == 0) return 0;
-    const std::uint32_t most = mask >> std::countr_zero(mask);
-    return ((pixel & mask) >> std::countr_zero(mask)) * 255 / most;
 struct Disconnect {
     void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
 };
@@ -99,6 +37,8 @@ class XScreen::Link {
     bool Copy(gdi::Point leftTop, gdi::Surface& into);
     gdi::Point Pointer() const;
     void MovePointer(gdi::Point to) const;
+    // Whether somebody owns the selection of this name.
+    bool HasOwner(std::string_view selection) const;
 
   private:
     gdi::Size AskSize() const;
@@ -166,9 +106,6 @@ bool XScreen::Link::CopyPart(gdi::Point leftTop, gdi::Surface& into) {
     }
     if (bytes == 0 || pixels.size() < bytes) return false;
     for (int y = 0; y < part.height; ++y) {
-        rows.Read(y, into.Row(top - leftTop.y + y)
-                         .subspan(static_cast<std::size_t>(left - leftTop.x),
-                                  static_cast<std::size_t>(part.width)));
         const auto row = into.Row(part.top - leftTop.y + y)
                              .subspan(static_cast<std::size_t>(part.left - leftTop.x));
         layout_.ReadRow(pixels, y, row.first(static_cast<std::size_t>(part.width)));
@@ -188,30 +125,21 @@ void XScreen::Link::MovePointer(gdi::Point to) const {
     xcb_flush(connection_);
 }
 
-Result<gdi::Surface> XScreen::Picture() {
-    if (!IsSeen()) return PictureFromPortal();
-    const gdi::Size size = Size();
-    gdi::Surface picture(size.width, size.height);
-    if (!Copy({0, 0}, picture))
-        return Fail(services::kScreenRefused, "The display sent no picture");
-    return picture;
-XScreen::XScreen() = default;
-XScreen::~XScreen() = default;
-
-std::unique_ptr<services::InputHold> XScreen::Hold(services::WindowHandle window, gdi::Rect area) {
-    if (connection_ == nullptr) return nullptr;
-    return std::make_unique<XHold>(connection_, static_cast<xcb_window_t>(window), area);
-// A compositor owns a selection of its screen.
-// Source: Extended Window Manager Hints 1.5, section "Compositing Managers".
-bool XScreen::IsComposited() const {
-    if (connection_ == nullptr) return false;
-    constexpr std::string_view kName = "_NET_WM_CM_S0";
+bool XScreen::Link::HasOwner(std::string_view selection) const {
     const XReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
-        connection_, xcb_intern_atom(connection_, 0, kName.size(), kName.data()), nullptr));
+        connection_,
+        xcb_intern_atom(connection_, 0, static_cast<std::uint16_t>(selection.size()),
+                        selection.data()),
+        nullptr));
     if (!atom) return false;
     const XReply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
         connection_, xcb_get_selection_owner(connection_, atom->atom), nullptr));
     return owner && owner->owner != XCB_WINDOW_NONE;
+}
+
+XScreen::XScreen() = default;
+XScreen::~XScreen() = default;
+
 bool XScreen::IsSeen() const {
     return XConnection() != nullptr;
 }
@@ -241,6 +169,28 @@ gdi::Point XScreen::Pointer() const {
 
 void XScreen::MovePointer(gdi::Point to) {
     if (const Link* link = Linked(); link != nullptr) link->MovePointer(to);
+}
+
+Result<gdi::Surface> XScreen::Picture() {
+    if (!IsSeen()) return PictureFromPortal();
+    const gdi::Size size = Size();
+    gdi::Surface picture(size.width, size.height);
+    if (!Copy({0, 0}, picture))
+        return Fail(services::kScreenRefused, "The display sent no picture");
+    return picture;
+}
+
+// A compositor owns a selection of its screen.
+// Source: Extended Window Manager Hints 1.5, section "Compositing Managers".
+bool XScreen::IsComposited() const {
+    const Link* link = Linked();
+    return link != nullptr && link->HasOwner("_NET_WM_CM_S0");
+}
+
+// The window's own connection gets what the hold brings.
+std::unique_ptr<services::InputHold> XScreen::Hold(services::WindowHandle window, gdi::Rect area) {
+    if (!IsSeen()) return nullptr;
+    return std::make_unique<XHold>(XConnection(), static_cast<xcb_window_t>(window), area);
 }
 
 }  // namespace kestrel::desktop

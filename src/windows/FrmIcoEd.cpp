@@ -41,7 +41,6 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
               WindowColor()),
       dialogs_(*this, services.screen),
-      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_}, services) {}
       magnifier_({services.screen, services.application, services.settings, *this, statusBar_}),
       commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, magnifier_, task_},
                 services) {}

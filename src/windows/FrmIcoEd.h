@@ -116,7 +116,6 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     NamedControls controls_{*toolbar1_};
     desktop::QtOwnerWindow owner_{*this};
     FrmDialogs dialogs_;
-    FrmDialogs dialogs_{*this};
     ShownMagnifier magnifier_;
     TaskWindow task_{*this};
     commands::Commands commands_;
