@@ -41,6 +41,20 @@ QMessageBox::StandardButtons ToButtons(BoxButtons buttons) {
     return QMessageBox::Ok;
 }
 
+QMessageBox::StandardButton ToButton(Answer answer) {
+    switch (answer) {
+        case Answer::Ok:
+            return QMessageBox::Ok;
+        case Answer::Yes:
+            return QMessageBox::Yes;
+        case Answer::No:
+            return QMessageBox::No;
+        case Answer::Cancel:
+            return QMessageBox::Cancel;
+    }
+    return QMessageBox::NoButton;
+}
+
 Answer ToAnswer(int button, BoxButtons asked) {
     switch (button) {
         case QMessageBox::Ok:
@@ -88,13 +102,13 @@ void MakeRoomForTitle(QMessageBox& box) {
 
 }  // namespace
 
-Answer QtMessageBoxes::Show(BoxIcon icon, BoxButtons buttons, const std::string& text,
-                            const std::string& title) {
+Answer QtMessageBoxes::Ask(BoxIcon icon, BoxButtons buttons, Answer preset, const std::string& text,
+                           const std::string& title) {
     QWidget* dialog = QApplication::activeModalWidget();
     QMessageBox box(ToIcon(icon), QString::fromStdString(title),
                     Breakable(QString::fromStdString(text).remove(QLatin1Char('\r'))),
                     ToButtons(buttons), dialog == nullptr ? owner_ : dialog);
-    if (buttons == BoxButtons::YesNo) box.setDefaultButton(QMessageBox::No);
+    box.setDefaultButton(ToButton(preset));
     box.setTextFormat(Qt::PlainText);
     MakeRoomForTitle(box);
     return ToAnswer(box.exec(), buttons);

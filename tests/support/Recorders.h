@@ -56,11 +56,13 @@ class ScriptedBoxes : public services::MessageBoxes {
         services::BoxButtons buttons;
         std::string text;
         std::string title;
+        services::Answer preset{};
     };
 
-    services::Answer Show(services::BoxIcon icon, services::BoxButtons buttons,
-                          const std::string& text, const std::string& title) override {
-        shown.push_back({icon, buttons, text, title});
+    services::Answer Ask(services::BoxIcon icon, services::BoxButtons buttons,
+                         services::Answer preset, const std::string& text,
+                         const std::string& title) override {
+        shown.push_back({icon, buttons, text, title, preset});
         if (whileShown) whileShown();
         if (answers.empty()) return services::Answer::Cancel;
         const services::Answer answer = answers.front();
