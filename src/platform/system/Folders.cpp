@@ -109,6 +109,10 @@ std::string ConfigFolder() {
     return UserFolder("XDG_CONFIG_HOME", "/.config");
 }
 
+std::string StateFolder() {
+    return UserFolder("XDG_STATE_HOME", "/.local/state");
+}
+
 std::string RuntimeFolder() {
     std::string folder = FolderFromEnvironment("XDG_RUNTIME_DIR");
     if (!folder.empty() && IsOurs(folder)) return folder;
