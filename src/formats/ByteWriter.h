@@ -23,7 +23,8 @@ class ByteWriter {
         if (bytes_.size() < size) bytes_.resize(size);
     }
 
-    std::vector<std::uint8_t> Take() { return std::move(bytes_); }
+    // Leaves none.
+    std::vector<std::uint8_t> Take() { return std::exchange(bytes_, {}); }
 
   private:
     void Number(std::uint64_t value, int count) {
