@@ -22,6 +22,7 @@ struct HeldButtons {
 struct GridPoint {
     int x = 0;
     int y = 0;
+    bool operator==(const GridPoint&) const = default;
 };
 
 }  // namespace kestrel::editing

@@ -1,5 +1,7 @@
 #include "editing/PackedPicture.h"
 
+#include <bit>
+
 namespace kestrel::editing {
 
 namespace {
@@ -35,13 +37,15 @@ class Reader {
     explicit Reader(std::span<const std::uint8_t> bytes) : rest_(bytes) {}
 
     bool AtEnd() const { return rest_.empty(); }
+    bool Has(std::size_t count) const { return rest_.size() >= count; }
     std::uint32_t Take(int count) {
         std::uint32_t value = 0;
         for (int i = 0; i < count; ++i)
             value |= std::uint32_t{rest_[static_cast<std::size_t>(i)]} << 8 * i;
-        rest_ = rest_.subspan(static_cast<std::size_t>(count));
+        Skip(static_cast<std::size_t>(count));
         return value;
     }
+    void Skip(std::size_t count) { rest_ = rest_.subspan(count); }
 
   private:
     std::span<const std::uint8_t> rest_;
@@ -89,6 +93,12 @@ void Unpack(const PackedPicture& picture, gdi::IconPlanes& icon) {
     }
 }
 
+PackedPicture EmptyPicture() {
+    PackedPicture picture;
+    picture.fill(kMaskBit);
+    return picture;
+}
+
 PictureDifference::PictureDifference(const PackedPicture& one, const PackedPicture& other) {
     Writer writer;
     for (std::uint32_t y = 0; y < kRows; ++y)
@@ -96,6 +106,21 @@ PictureDifference::PictureDifference(const PackedPicture& one, const PackedPictu
                Row(other.data() + std::size_t{y} * kRows, kRows));
     const auto written = writer.Written();
     bytes_.assign(written.begin(), written.end());
+}
+
+std::optional<PictureDifference> PictureDifference::Read(std::span<const std::uint8_t> bytes) {
+    constexpr std::size_t kHead = kRowBytes + 2 * kBitsBytes;
+    for (Reader reader(bytes); !reader.AtEnd();) {
+        if (!reader.Has(kHead) || reader.Take(kRowBytes) >= kRows) return std::nullopt;
+        const std::uint32_t columns = reader.Take(kBitsBytes);
+        reader.Take(kBitsBytes);
+        const std::size_t colors = kColorBytes * static_cast<std::size_t>(std::popcount(columns));
+        if (!reader.Has(colors)) return std::nullopt;
+        reader.Skip(colors);
+    }
+    PictureDifference difference;
+    difference.bytes_.assign(bytes.begin(), bytes.end());
+    return difference;
 }
 
 void PictureDifference::ApplyTo(PackedPicture& picture) const {

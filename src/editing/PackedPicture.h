@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -17,13 +18,20 @@ using PackedPicture = std::array<std::uint32_t, std::size_t{gdi::kIconSize} * gd
 // The planes are 32 x 32 pixels.
 PackedPicture Pack(const gdi::IconPlanes& icon);
 void Unpack(const PackedPicture& picture, gdi::IconPlanes& icon);
+// That of the empty icon, which is transparent all over.
+PackedPicture EmptyPicture();
 
 // What differs between two pictures: the pixels' exclusive or, which leads from either of the two
 // to the other. Takes 12 bytes for one pixel, 3360 for all of them.
 class PictureDifference {
   public:
+    // That of two pictures that are alike.
+    PictureDifference() = default;
     PictureDifference(const PackedPicture& one, const PackedPicture& other);
+    // Out of the bytes of one; nothing where they are not those of any.
+    static std::optional<PictureDifference> Read(std::span<const std::uint8_t> bytes);
 
+    std::span<const std::uint8_t> Bytes() const { return bytes_; }
     void ApplyTo(PackedPicture& picture) const;
 
   private:

@@ -54,9 +54,9 @@ void Palette::SetColor(std::size_t cell, gdi::COLORREF color) {
     DrawPalette(PaletteReload::No);
 }
 
-void Palette::SetColors(const gdi::PaletteColors& colors) {
+void Palette::SetColors(const gdi::PaletteColors& colors, PaletteKind kind) {
     colors_ = colors;
-    kind_ = PaletteKind::Own;
+    kind_ = kind;
     DrawPalette(PaletteReload::No);
 }
 

@@ -28,7 +28,7 @@ class Palette {
     // All but the first and the last, which stay black and white in the default palette.
     void Randomize(system::RandomNumbers& random);
     void SetColor(std::size_t cell, gdi::COLORREF color);
-    void SetColors(const gdi::PaletteColors& colors);
+    void SetColors(const gdi::PaletteColors& colors, PaletteKind kind = PaletteKind::Own);
 
     // Whether a click on a cell changes its colour.
     bool ChkPal() const { return chkPal_; }
