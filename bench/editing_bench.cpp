@@ -59,7 +59,8 @@ BENCHMARK(MoveSelection)->Iterations(5000);
 // A snapshot after one pixel has changed, with a million behind it at the end.
 void PushUndoSnapshot(benchmark::State& state) {
     document::IconDocument icon;
-    editing::ModCollections history(icon);
+    test::EditorRecorder views;
+    editing::ModCollections history(icon, views);
     history.PushUndoSnapshot();
     const std::size_t before = mallinfo2().uordblks;
     int pixel = 0;

@@ -21,6 +21,7 @@
 #include "desktop/TwoColorWindows.h"
 #include "desktop/XScreen.h"
 #include "document/ApplicationIcon.h"
+#include "editing/WorkLog.h"
 #include "i18n/Language.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/FileRegistry.h"
@@ -135,7 +136,9 @@ int main(int argc, char* argv[]) {
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};
     system::RandomNumbers random(SeedOfClock());
+    editing::WorkLog log(system::StateFolder());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
+                              screen, random, settings, log, folders, facts.systemLcid});
                               screen, tray, random, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv), files));

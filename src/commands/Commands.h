@@ -39,6 +39,7 @@ struct MainServices {
     services::Tray& tray;
     system::RandomNumbers& random;
     settings::Settings& settings;
+    editing::EditingLog& log;
     ProgramFolders folders;
     std::uint32_t systemLcid = 0;
 };

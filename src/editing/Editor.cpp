@@ -10,11 +10,13 @@ namespace kestrel::editing {
 Editor::Editor(const EditorViews& views, gdi::COLORREF windowColor)
     : grid_(views.grid),
       window_(views.window),
+      steps_(views.log, *this),
       canvas_(document_, views.grid, views.preview, windowColor),
-      wells_(views.colors),
-      palette_(views.colors),
-      history_(document_),
-      parts_{document_, canvas_, history_, views.window},
+      colors_(views.colors, steps_),
+      wells_(colors_),
+      palette_(colors_),
+      history_(document_, views.log),
+      parts_{document_, canvas_, history_, views.window, steps_},
       selection_(parts_, views.grid),
       tools_(views, selection_, windowColor),
       readout_(document_, views.status, views.preview) {
@@ -22,10 +24,12 @@ Editor::Editor(const EditorViews& views, gdi::COLORREF windowColor)
     for (const ToolRow& row : ToolTable())
         gridTools_[row.id] = row.make(parts);
     history_.PushUndoSnapshot();
+    steps_.Built();
 }
 
 void Editor::ResetDocument() {
     EndGesture();
+    const EditSteps::Step step(steps_);
     selection_.Forget();
     document_.Reset();
     ShowTitle();
@@ -95,12 +99,14 @@ Outcome Editor::ReleaseTool(Button button, int x, int y) {
 
 void Editor::PopUndoSnapshot() {
     EndGesture();
+    const EditSteps::Step step(steps_);
     selection_.DropSelection();
     ShowStep(history_.PopUndoSnapshot());
 }
 
 void Editor::PopRedoSnapshot() {
     EndGesture();
+    const EditSteps::Step step(steps_);
     selection_.DropSelection();
     ShowStep(history_.PopRedoSnapshot());
 }

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "editing/ColorWells.h"
+#include "editing/EditSteps.h"
 #include "editing/EditorViews.h"
 #include "editing/GridTool.h"
 #include "editing/ModCollections.h"
@@ -12,6 +13,7 @@
 #include "editing/Selection.h"
 #include "editing/TargetEdit.h"
 #include "editing/ToolPalette.h"
+#include "editing/Work.h"
 #include "formats/IconImage.h"
 
 namespace kestrel::editing {
@@ -29,6 +31,7 @@ class Editor {
     Palette& ColorPalette() { return palette_; }
     ToolPalette& Tools() { return tools_; }
     ModCollections& History() { return history_; }
+    const ModCollections& History() const { return history_; }
     Selection& Selected() { return selection_; }
 
     // A new, empty icon, with tools, colours, palette and history as at start-up.
@@ -70,6 +73,13 @@ class Editor {
     // Shows the document's file title in the title of the window.
     void ShowTitle();
 
+    // What one would miss if the editor were gone, besides the history.
+    Work CurrentWork() const;
+    // Brings back what CurrentWork and the history's pictures were.
+    void Restore(const Work& work, PictureHistory history);
+    // Lets the log find what a command has changed of the document besides its planes.
+    void EndStep() { const EditSteps::Step step(steps_); }
+
   private:
     Outcome ReleaseTool(Button button, int x, int y);
     void ShowReadout(int x, int y);
@@ -78,8 +88,10 @@ class Editor {
 
     GridView& grid_;
     EditorWindow& window_;
+    EditSteps steps_;
     document::IconDocument document_;
     document::Canvas canvas_;
+    LoggedColors colors_;
     ColorWells wells_;
     Palette palette_;
     ModCollections history_;

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "document/Canvas.h"
+#include "editing/EditingLog.h"
 #include "editing/EditorWindow.h"
 #include "editing/Mouse.h"
 #include "services/Application.h"
@@ -65,6 +66,7 @@ struct EditorViews {
     StatusView& status;
     EditorWindow& window;
     services::Application& application;
+    EditingLog& log;
 };
 
 }  // namespace kestrel::editing

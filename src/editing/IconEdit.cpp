@@ -7,7 +7,8 @@ void Record(const EditParts& parts) {
     parts.window.RefreshEditCommands();
 }
 
-IconEdit::IconEdit(const EditParts& parts, Leaves leaves) : parts_(parts), leaves_(leaves) {
+IconEdit::IconEdit(const EditParts& parts, Leaves leaves)
+    : parts_(parts), step_(parts.steps), leaves_(leaves) {
     if (leaves_ == Leaves::Entry) parts_.history.ClearRedoList();
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/Canvas.h"
 #include "document/IconDocument.h"
+#include "editing/EditSteps.h"
 #include "editing/EditorWindow.h"
 #include "editing/ModCollections.h"
 
@@ -13,6 +14,7 @@ struct EditParts {
     document::Canvas& canvas;
     ModCollections& history;
     EditorWindow& window;
+    EditSteps& steps;
 };
 
 // What an edit leaves in the history: nothing, an entry, or the oldest entry of a history that
@@ -42,6 +44,8 @@ class IconEdit {
 
   private:
     EditParts parts_;
+    // Ends after all that the edit does when it closes.
+    EditSteps::Step step_;
     Leaves leaves_;
     bool redraw_ = false;
 };

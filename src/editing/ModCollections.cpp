@@ -5,46 +5,49 @@
 namespace kestrel::editing {
 
 void ModCollections::PushUndoSnapshot() {
-    const PackedPicture now = Pack(document_.Planes());
-    if (last_) undoList_.emplace_back(*last_, now);
-    last_ = now;
-    ClearRedoList();
+    Do(HistoryAct::Recorded, {pictures_.Present(), Pack(document_.Planes())});
 }
 
 void ModCollections::ClearRedoList() {
-    redoList_.clear();
+    if (CanRedo()) Do(HistoryAct::RedoCleared, {});
 }
 
 void ModCollections::ClearUndoHistory() {
-    last_.reset();
-    undoList_.clear();
-    redoList_.clear();
+    Do(HistoryAct::Cleared, {});
+}
+
+void ModCollections::Replace(PictureHistory pictures) {
+    pictures_ = std::move(pictures);
+    log_.HistoryReplaced();
 }
 
 bool ModCollections::CanUndo() {
     RecordUnrecorded();
-    return !undoList_.empty();
+    return !pictures_.UndoSteps().empty();
 }
 
 const PackedPicture* ModCollections::PopUndoSnapshot() {
     RecordUnrecorded();
-    return Step(undoList_, redoList_);
+    return Step(HistoryAct::Back, pictures_.UndoSteps());
 }
 
 const PackedPicture* ModCollections::PopRedoSnapshot() {
-    return Step(redoList_, undoList_);
+    return Step(HistoryAct::Forward, pictures_.RedoSteps());
 }
 
 void ModCollections::RecordUnrecorded() {
-    if (last_ && Pack(document_.Planes()) != *last_) PushUndoSnapshot();
+    if (!pictures_.IsEmpty() && Pack(document_.Planes()) != pictures_.Present()) PushUndoSnapshot();
 }
 
-const PackedPicture* ModCollections::Step(Steps& from, Steps& to) {
-    if (from.empty() || !last_) return nullptr;
-    to.push_back(std::move(from.back()));
-    from.pop_back();
-    to.back().ApplyTo(*last_);
-    return &*last_;
+const PackedPicture* ModCollections::Step(HistoryAct act, const PictureHistory::Steps& steps) {
+    if (steps.empty()) return nullptr;
+    Do(act, steps.back());
+    return &pictures_.Present();
+}
+
+void ModCollections::Do(HistoryAct act, PictureDifference change) {
+    log_.Did(act, change);
+    pictures_.Do(act, std::move(change));
 }
 
 }  // namespace kestrel::editing

@@ -1,50 +1,50 @@
 #pragma once
 
-#include <deque>
-#include <optional>
-
 #include "document/IconDocument.h"
-#include "editing/PackedPicture.h"
+#include "editing/EditingLog.h"
 
 namespace kestrel::editing {
 
 // The undo and redo history of one document, without a limit. Its entries are pictures of both
-// planes, oldest first; the last undo entry is the picture as it was recorded last. Only that one
-// is kept whole; of the others, what differs from the entry beside them.
+// planes; the last undo entry is the picture as it was recorded last. The log is told of all that
+// becomes of it.
 class ModCollections {
   public:
-    explicit ModCollections(const document::IconDocument& document) : document_(document) {}
+    ModCollections(const document::IconDocument& document, EditingLog& log)
+        : document_(document), log_(log) {}
 
     // Records the planes as they are now. A redo list that was not emptied before leads on from
     // another picture and goes.
     void PushUndoSnapshot();
     void ClearRedoList();
     void ClearUndoHistory();
+    // Takes another history in the place of this one.
+    void Replace(PictureHistory pictures);
 
     // Planes that were changed without being recorded count as one more entry, which CanUndo and
     // PopUndoSnapshot record first: nothing that the user saw is out of reach.
     bool CanUndo();
-    bool CanRedo() const { return !redoList_.empty(); }
+    bool CanRedo() const { return !pictures_.RedoSteps().empty(); }
 
     // One step back or forward: the picture that the caller is to bring into the planes. Null when
     // there is none: then nothing happens.
     [[nodiscard]] const PackedPicture* PopUndoSnapshot();
     [[nodiscard]] const PackedPicture* PopRedoSnapshot();
 
-    std::size_t UndoCount() const { return undoList_.size() + (last_ ? 1 : 0); }
-    std::size_t RedoCount() const { return redoList_.size(); }
+    std::size_t UndoCount() const {
+        return pictures_.UndoSteps().size() + (pictures_.IsEmpty() ? 0 : 1);
+    }
+    std::size_t RedoCount() const { return pictures_.RedoSteps().size(); }
+    const PictureHistory& Pictures() const { return pictures_; }
 
   private:
-    using Steps = std::deque<PictureDifference>;
-
+    void Do(HistoryAct act, PictureDifference change);
     void RecordUnrecorded();
-    const PackedPicture* Step(Steps& from, Steps& to);
+    const PackedPicture* Step(HistoryAct act, const PictureHistory::Steps& steps);
 
     const document::IconDocument& document_;
-    // The entry recorded last, and the steps that lead away from it, the nearest at the end.
-    std::optional<PackedPicture> last_;
-    Steps undoList_;
-    Steps redoList_;
+    EditingLog& log_;
+    PictureHistory pictures_;
 };
 
 }  // namespace kestrel::editing

@@ -82,12 +82,14 @@ void Selection::MoveTo(int x, int y) {
 
 void Selection::EndMove() {
     if (!MovingSelection()) return;
+    const EditSteps::Step step(parts_.steps);
     Enter(State::Floating);
     parts_.document.Modified = true;
 }
 
 void Selection::MoveBy(int columns, int rows) {
     if (!Exists()) return;
+    const EditSteps::Step step(parts_.steps);
     if (SelectionMarked()) LiftSelection();
     PlaceAt(marquee_.x1 + columns * kCellSize, marquee_.y1 + rows * kCellSize);
     ShowFloatingSelection();
@@ -107,8 +109,9 @@ void Selection::LiftSelection() {
     parts_.window.RefreshEditCommands();
 }
 
-void Selection::Float(gdi::IconPlanes planes) {
-    marquee_ = {};
+void Selection::Float(gdi::IconPlanes planes, GridPoint leftTop) {
+    const EditSteps::Step step(parts_.steps);
+    marquee_ = {leftTop.x, leftTop.y, leftTop.x, leftTop.y};
     Enter(State::Floating);
     planes_ = std::move(planes);
     ShowChanged();

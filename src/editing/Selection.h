@@ -24,6 +24,7 @@ class Selection : private document::CanvasOverlay {
     // TargetEdit changes them.
     const gdi::Surface& PicSelImage() const { return planes_.image; }
     const gdi::Surface& PicSelMask() const { return planes_.mask; }
+    const gdi::IconPlanes& Planes() const { return planes_; }
 
     bool SelectionMarked() const { return state_ == State::Marked; }
     bool SelectionFloating() const { return state_ == State::Floating || MovingSelection(); }
@@ -51,8 +52,8 @@ class Selection : private document::CanvasOverlay {
 
     // Lifts the marked pixels out of the icon.
     void LiftSelection();
-    // Lets these planes float at the top left corner; there is no selection before.
-    void Float(gdi::IconPlanes planes);
+    // Lets these planes float with their top left corner there; there is no selection before.
+    void Float(gdi::IconPlanes planes, GridPoint leftTop = {});
     // Puts a floating selection into the icon and records that; a marked one leaves no trace.
     void DropSelection();
     // Discards the selected pixels and records that; without a selection nothing happens. The

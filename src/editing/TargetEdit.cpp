@@ -3,7 +3,7 @@
 namespace kestrel::editing {
 
 TargetEdit::TargetEdit(const EditParts& parts, Selection& selection, Leaves leaves)
-    : parts_(parts), selection_(selection), leaves_(leaves) {
+    : parts_(parts), step_(parts.steps), selection_(selection), leaves_(leaves) {
     if (!selection_.Exists()) icon_.emplace(parts, Leaves::Entry);
 }
 

@@ -22,6 +22,7 @@ class TargetEdit {
 
   private:
     EditParts parts_;
+    EditSteps::Step step_;
     Selection& selection_;
     Leaves leaves_;
     // The edit of the whole icon; empty while the selection is edited.

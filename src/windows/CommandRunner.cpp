@@ -11,6 +11,7 @@ void CommandRunner::Run(const std::function<void()>& command) {
     command();
     grid_.FollowPointer();
     window_.RefreshEditCommands();
+    editor_.EndStep();
 }
 
 }  // namespace kestrel::windows

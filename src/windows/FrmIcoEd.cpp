@@ -38,6 +38,10 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       popupView_(menus_.SmartMenuXP2, pictures_),
       menuBar_(std::make_unique<QMenuBar>(this)),
       toolbar1_(std::make_unique<widgets::ToolBar>(pictures_, kToolbarButton, this)),
+      editor_(
+          {grid_, preview_, tools_, colors_, statusBar_, *this, services.application, services.log},
+          WindowColor()),
+      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_}, services) {}
       editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
               WindowColor()),
       dialogs_(*this, services.screen),

@@ -33,9 +33,13 @@ class EditorRecorder : public editing::GridView,
                        public editing::ToolsView,
                        public editing::ColorsView,
                        public editing::StatusView,
-                       public editing::EditorWindow {
+                       public editing::EditorWindow,
+                       public editing::EditingLog {
   public:
-    editing::EditorViews Views() { return {*this, *this, *this, *this, *this, *this, application}; }
+    editing::EditorViews Views() { return Views(*this); }
+    editing::EditorViews Views(editing::EditingLog& log) {
+        return {*this, *this, *this, *this, *this, *this, application, log};
+    }
 
     void RepaintGrid(gdi::Rect area) override { repainted.push_back(area); }
     void RepaintPreview(gdi::Rect /*area*/) override {}
@@ -56,6 +60,10 @@ class EditorRecorder : public editing::GridView,
     void ShowChkPal(bool /*ticked*/) override {}
     void ShowEditingPopup() override { ++popups; }
     void RefreshEditCommands() override { ++refreshes; }
+    void Did(editing::HistoryAct /*act*/, const editing::PictureDifference& /*change*/) override {}
+    void HistoryReplaced() override {}
+    void StepEnded(const editing::Editor& /*editor*/) override {}
+    bool Keeps() const override { return false; }
 
     // Both wells: hexadecimal colours, T for a transparent one.
     std::string Wells() const {

@@ -157,6 +157,7 @@ struct FakeServices {
                 tray,
                 random,
                 settings,
+                log,
                 {"/program", "/windows"},
                 1033};
     }
@@ -174,6 +175,7 @@ struct FakeServices {
     // The seed whose numbers the C++ standard tells.
     system::RandomNumbers random{std::mt19937::default_seed};
     settings::Settings settings{files, "/settings.ini"};
+    EditorRecorder log;
 };
 
 }  // namespace kestrel::test
