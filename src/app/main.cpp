@@ -21,6 +21,7 @@
 #include "desktop/TwoColorWindows.h"
 #include "desktop/XScreen.h"
 #include "document/ApplicationIcon.h"
+#include "document/JournalFolder.h"
 #include "editing/WorkLog.h"
 #include "i18n/Language.h"
 #include "platform/system/DiskFiles.h"
@@ -136,8 +137,10 @@ int main(int argc, char* argv[]) {
     const commands::ProgramFolders folders{.application = facts.applicationFolder,
                                            .windows = values->WindowsFolder};
     system::RandomNumbers random(SeedOfClock());
+    const document::JournalFolder journals(system::StateFolder());
     editing::WorkLog log(system::StateFolder());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
+                              screen, random, settings, log, journals, folders, facts.systemLcid});
                               screen, random, settings, log, folders, facts.systemLcid});
                               screen, tray, random, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);

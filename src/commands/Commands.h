@@ -14,6 +14,7 @@
 #include "commands/MainWindow.h"
 #include "commands/ModRecent.h"
 #include "commands/PaletteCommands.h"
+#include "commands/Recovery.h"
 #include "commands/ShellCommands.h"
 #include "commands/TrayCommands.h"
 #include "commands/WellCommands.h"
@@ -40,6 +41,7 @@ struct MainServices {
     system::RandomNumbers& random;
     settings::Settings& settings;
     editing::EditingLog& log;
+    const document::JournalFolder& journals;
     ProgramFolders folders;
     std::uint32_t systemLcid = 0;
 };
@@ -69,6 +71,7 @@ struct Commands {
     ShellCommands shell;
     ZoomCommands zoom;
     LanguageCommands language;
+    Recovery recovery;
     TrayCommands tray;
 };
 

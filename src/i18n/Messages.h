@@ -40,6 +40,11 @@ inline constexpr Text kUsage{
     "  --help       显示本说明\n"
     "  --version    显示版本\n"};
 
+// The offer after a run that did not end in order.
+inline constexpr Text kRestoreWork{
+    "KestrelIconEditor was not closed properly.\r\nRestore the icon that was being edited?",
+    "KestrelIconEditor 上次未正常关闭.\r\n是否恢复正在编辑的图标?"};
+
 // Document commands.
 inline constexpr Text kSaveChanges{"Save changes to current icon?", "是否保存当前编辑的图标?"};
 inline constexpr Text kOpenTitle{"KestrelIconEditor - Open", "KestrelIconEditor - 打开"};

@@ -77,7 +77,13 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     commands_.recent.LoadRecentFiles();
     editor_.ResetDocument();
     PlaceOnScreen();
-    if (!pathToOpen.empty()) commands_.documents.OpenNamed(pathToOpen);
+    if (commands_.recovery.MayOffer()) {
+        // Once the window stands.
+        QMetaObject::invokeMethod(
+            this, [this, pathToOpen] { OfferRecovery(pathToOpen); }, Qt::QueuedConnection);
+    } else if (!pathToOpen.empty()) {
+        commands_.documents.OpenNamed(pathToOpen);
+    }
     RefreshEditCommands();
     statusBar_.SetStatusPanel(editing::StatusPanel::Zoom, tools::kGridRatio);
 }
@@ -89,6 +95,13 @@ bool FrmIcoEd::Form_Unload() {
     help_.Close();
     magnifier_.Close();
     return true;
+}
+
+void FrmIcoEd::OfferRecovery(const std::string& pathToOpen) {
+    runner_.Run([&] {
+        commands_.recovery.Offer();
+        if (!pathToOpen.empty()) commands_.documents.OpenNamed(pathToOpen);
+    });
 }
 
 void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {

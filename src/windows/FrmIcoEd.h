@@ -66,6 +66,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
 
   private:
     bool Form_Unload();
+    void OfferRecovery(const std::string& pathToOpen);
     void Form_OLEDragDrop(const std::string& pathToOpen);
     void FollowDesktopColors();
 

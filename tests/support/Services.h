@@ -145,6 +145,8 @@ class RecordingTray : public services::Tray {
 // All that a main window is given.
 struct FakeServices {
     commands::MainServices Given() {
+        return {application, desktop, clipboard, boxes,    help, files,    registry,
+                shell,       screen,  random,    settings, log,  journals, {"/program", "/windows"},
         return {application,
                 desktop,
                 clipboard,
@@ -176,6 +178,7 @@ struct FakeServices {
     system::RandomNumbers random{std::mt19937::default_seed};
     settings::Settings settings{files, "/settings.ini"};
     EditorRecorder log;
+    document::JournalFolder journals{""};
 };
 
 }  // namespace kestrel::test
