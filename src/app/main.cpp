@@ -9,6 +9,7 @@
 
 #include "app/Startup.h"
 #include "desktop/DialogStyle.h"
+#include "desktop/EndOfSession.h"
 #include "desktop/LibraryTranslator.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtApplication.h"
@@ -141,6 +142,8 @@ int main(int argc, char* argv[]) {
     editing::WorkLog log(system::StateFolder());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
                               screen, random, settings, log, journals, folders, facts.systemLcid});
+    const desktop::EndOfSession endOfSession(
+        [&window](bool mayAsk) { return window.MayEndSession(mayAsk); });
                               screen, random, settings, log, folders, facts.systemLcid});
                               screen, tray, random, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);

@@ -104,6 +104,15 @@ void FrmIcoEd::OfferRecovery(const std::string& pathToOpen) {
     });
 }
 
+bool FrmIcoEd::MayEndSession(bool mayAsk) {
+    if (!mayAsk || QApplication::activeModalWidget() != nullptr) return true;
+    while (QWidget* const menu = QApplication::activePopupWidget())
+        menu->close();
+    bool mayEnd = true;
+    runner_.Run([&] { mayEnd = commands_.documents.PromptSaveChanges(); });
+    return mayEnd;
+}
+
 void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
     runner_.Run([&] { commands_.documents.OpenNamed(pathToOpen); });
 }

@@ -35,6 +35,9 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     // Builds the window up to its idle state, not shown yet, and opens a file; an empty path opens
     // none.
     void Form_Load(const std::string& pathToOpen);
+    // The session is about to end: asks about unsaved changes where that is possible. False when
+    // the user wants to go on.
+    bool MayEndSession(bool mayAsk);
     // Once it has been painted.
     void ShowInTray() { commands_.tray.WindowStands(); }
 

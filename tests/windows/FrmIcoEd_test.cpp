@@ -44,10 +44,13 @@ TEST_F(FrmIcoEdTest, ClosingEndsTheStrokeAndAsksAboutIt) {
     given_.boxes.whileShown = [this] {
         EXPECT_FALSE(Drop({QUrl("file:///icons/a.ico")}));
         window_.close();
+        EXPECT_TRUE(window_.MayEndSession(true));
     };
     QApplication::processEvents();
     EXPECT_EQ(given_.boxes.shown.size(), 1U);
     EXPECT_TRUE(window_.isVisible()) << "Cancel keeps the window";
+    EXPECT_TRUE(window_.MayEndSession(false));
+    EXPECT_FALSE(window_.MayEndSession(true)) << "and the session";
     given_.boxes.answers = {services::Answer::No};
     window_.close();
     EXPECT_FALSE(window_.isVisible());
