@@ -50,8 +50,9 @@ StartDesktop() {
 }
 
 # Start <command> [argument...]: runs it beside the test; its process id is in lastStarted.
+# Interrupts would be ignored, as in a job of the background.
 Start() {
-    env -u LC_ALL LANG="${LANG-en_US.UTF-8}" "$@" >>"$scratch/editor.log" 2>&1 </dev/null &
+    env --default-signal=INT -u LC_ALL LANG="${LANG-en_US.UTF-8}" "$@" >>"$scratch/editor.log" 2>&1 </dev/null &
     lastStarted=$!
     started+=("$lastStarted")
 }
