@@ -1,7 +1,12 @@
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
+#include <filesystem>
+
+#include "document/JournalFolder.h"
 #include "editing/Editor.h"
+#include "editing/WorkLog.h"
+#include "editing/WorkRecords.h"
 #include "tests/support/EditorRecorder.h"
 
 namespace {
@@ -91,5 +96,59 @@ void UndoAndRedo(benchmark::State& state) {
     }
 }
 BENCHMARK(UndoAndRedo)->Arg(10)->Arg(1000000);
+
+// A folder of its own below the working folder, and not in memory.
+struct Folder {
+    Folder() { std::filesystem::create_directory(path); }
+    ~Folder() { std::filesystem::remove_all(path); }
+    std::string path = std::filesystem::absolute("journal_bench.tmp");
+};
+
+// A pencil stroke of some cells, from press to release: range 0 without a journal, 1 with one.
+void Stroke(benchmark::State& state) {
+    const Folder folder;
+    test::EditorRecorder views;
+    editing::WorkLog log(state.range(0) == 0 ? std::string() : folder.path);
+    editing::Editor editor(views.Views(log), 0xF0F0F0);
+    int y = 5;
+    for (auto _ : state) {
+        state.PauseTiming();
+        views.repainted.clear();
+        editor.Wells().SetPenColor(Button::Left, static_cast<gdi::COLORREF>(state.iterations()));
+        y = y == 315 ? 5 : y + 10;
+        state.ResumeTiming();
+        editor.PicMain_MouseDown(Button::Left, 5, y);
+        for (int x = 15; x < 75; x += 10)
+            editor.PicMain_MouseMove({true, false}, x, y);
+        editor.PicMain_MouseUp(Button::Left, 65, y);
+    }
+}
+BENCHMARK(Stroke)->Arg(0)->Arg(1)->Iterations(20000);
+
+// From a journal on the disk to the editor as it was, with so many entries of a cell each; the
+// larger one is about as long as a journal becomes before it is rewritten.
+void ReplayJournal(benchmark::State& state) {
+    const Folder folder;
+    {
+        test::EditorRecorder views;
+        editing::WorkLog log(folder.path);
+        editing::Editor editor(views.Views(log), 0xF0F0F0);
+        for (int i = 0; i < state.range(0); ++i)
+            editor.EditIcon(editing::Leaves::Entry)
+                .PaintCell(i % 32, i / 32 % 32, static_cast<gdi::COLORREF>(i));
+    }
+    std::size_t bytes = 0;
+    for (auto _ : state) {
+        const auto ended = document::JournalFolder(folder.path).Ended();
+        const auto journal = ended.front().Content().value();
+        bytes = journal.size();
+        editing::ReplayedWork replayed = editing::Replay(journal);
+        test::EditorRecorder views;
+        editing::Editor editor(views.Views(), 0xF0F0F0);
+        editor.Restore(replayed.work, std::move(replayed.history));
+    }
+    state.counters["bytes"] = static_cast<double>(bytes);
+}
+BENCHMARK(ReplayJournal)->Arg(10000)->Arg(2900000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
