@@ -39,5 +39,7 @@ PaintCell 5 5 1 000000
 # The lock goes with the process, also when that is killed.
 Kill "$first"
 while IsWindowTitled '* - Red.ico'; do sleep 0.1; done
-StartEditor '* - Untitled'
+StartEditor 'KestrelIconEditor'
+Press alt+n # nothing is restored
+WaitForWindow '* - Untitled'
 Quit
