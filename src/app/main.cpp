@@ -92,6 +92,15 @@ std::optional<int> PrintWhatIsAsked(const std::string& commandLine) {
     return std::fputs(text.c_str(), stdout) < 0 || std::fflush(stdout) != 0 ? 1 : 0;
 }
 
+// What the desktop knows the program by, also in boxes that come up before the window.
+void IntroduceProgram() {
+    QApplication::setApplicationName(QStringLiteral("KestrelIconEditor"));
+    QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("KestrelIconEditor"));
+    QGuiApplication::setWindowIcon(
+        QPixmap::fromImage(desktop::ToImage(document::ApplicationIcon())));
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -109,12 +118,7 @@ int main(int argc, char* argv[]) {
     QApplication::setStyle(new desktop::DialogStyle);
     desktop::LibraryTranslator translator;
     QApplication::installTranslator(&translator);
-    QApplication::setApplicationName(QStringLiteral("KestrelIconEditor"));
-    QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
-    QGuiApplication::setDesktopFileName(QStringLiteral("KestrelIconEditor"));
-    // Before the boxes that may come up before the window.
-    QGuiApplication::setWindowIcon(
-        QPixmap::fromImage(desktop::ToImage(document::ApplicationIcon())));
+    IntroduceProgram();
     desktop::TwoColorWindows twoColorWindows;
     if (desktop::TwoColorWindows::IsNeeded()) application.installEventFilter(&twoColorWindows);
 
