@@ -145,11 +145,10 @@ int main(int argc, char* argv[]) {
     const document::JournalFolder journals(system::StateFolder());
     editing::WorkLog log(system::StateFolder());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
-                              screen, random, settings, log, journals, folders, facts.systemLcid});
+                              screen, tray, random, settings, log, journals, folders,
+                              facts.systemLcid});
     const desktop::EndOfSession endOfSession(
         [&window](bool mayAsk) { return window.MayEndSession(mayAsk); });
-                              screen, random, settings, log, folders, facts.systemLcid});
-                              screen, tray, random, settings, folders, facts.systemLcid});
     boxes.SetOwner(&window);
     window.Form_Load(app::PathOfCommandLine(CommandLine(argc, argv), files));
     window.show();

@@ -42,7 +42,7 @@ Commands::Commands(editing::Editor& openEditor, const MainParts& mainParts,
             services.folders),
       zoom(services.screen, boxes, parts.magnifier),
       language(parts, services.settings, shell),
-      recovery(editor, services.log, services.journals, boxes) {}
+      recovery(editor, services.log, services.journals, boxes),
       tray(parts, services.tray, services.files, boxes, services.folders) {}
 
 void Commands::Click(std::span<const CommandRow> rows, std::string_view key) {

@@ -41,9 +41,6 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
       editor_(
           {grid_, preview_, tools_, colors_, statusBar_, *this, services.application, services.log},
           WindowColor()),
-      commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_}, services) {}
-      editor_({grid_, preview_, tools_, colors_, statusBar_, *this, services.application},
-              WindowColor()),
       dialogs_(*this, services.screen),
       magnifier_({services.screen, services.application, services.settings, *this, statusBar_}),
       commands_(editor_, {*this, controls_, grid_, owner_, menus_, dialogs_, magnifier_, task_},

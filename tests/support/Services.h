@@ -145,8 +145,6 @@ class RecordingTray : public services::Tray {
 // All that a main window is given.
 struct FakeServices {
     commands::MainServices Given() {
-        return {application, desktop, clipboard, boxes,    help, files,    registry,
-                shell,       screen,  random,    settings, log,  journals, {"/program", "/windows"},
         return {application,
                 desktop,
                 clipboard,
@@ -160,6 +158,7 @@ struct FakeServices {
                 random,
                 settings,
                 log,
+                journals,
                 {"/program", "/windows"},
                 1033};
     }
