@@ -6,26 +6,13 @@
 #include "i18n/Captions.h"
 #include "i18n/Messages.h"
 #include "platform/system/PathText.h"
+#include "services/Hourglass.h"
 
 namespace kestrel::tools {
 
 namespace {
 
 using services::BoxIcon;
-
-// The hourglass is shown while it lives.
-class Hourglass {
-  public:
-    explicit Hourglass(services::Application& application) : application_(application) {
-        application_.ShowHourglass(true);
-    }
-    ~Hourglass() { application_.ShowHourglass(false); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-
-  private:
-    services::Application& application_;
-};
 
 services::FileRequest SourceRequest() {
     constexpr int kLibraries = 3;
@@ -55,7 +42,7 @@ IconExtraction::IconExtraction(const ExtractionServices& services, const std::st
 
 // A failure leaves all as it was.
 Result<void> IconExtraction::Open(const services::ChosenFile& file) {
-    const Hourglass hourglass(services_.application);
+    const services::Hourglass hourglass(services_.application);
     // The menu or dialog that led here goes from the screen first.
     services_.application.DoEvents();
     auto bytes = services_.files.OpenSource(file.path);
@@ -136,7 +123,7 @@ bool IconExtraction::ShowChosenFile(const services::OwnerWindow& owner) {
 }
 
 Result<formats::IconImage> IconExtraction::SelectedIcon() const {
-    const Hourglass hourglass(services_.application);
+    const services::Hourglass hourglass(services_.application);
     return ReadIcon(*source_, selected_);
 }
 
