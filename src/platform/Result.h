@@ -23,6 +23,8 @@ inline constexpr int kInvalidPicture = 481;
 inline constexpr int kNoIcons = 1001;
 // Nor in this program: its icons are kept in another file.
 inline constexpr int kIconsElsewhere = 1002;
+// The print job was taken, but its printer is stopped.
+inline constexpr int kPrinterStopped = 1101;
 // Another program wrote to the file while it was read.
 inline constexpr int kFileChanged = 1003;
 

@@ -10,10 +10,11 @@
 
 namespace kestrel::system {
 
-Result<FileHandle> LockFile(const std::string& path, std::chrono::milliseconds patience) {
-    constexpr int kFlags = O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK;
+namespace {
+
+Result<FileHandle> Lock(const std::string& path, int flags, std::chrono::milliseconds patience) {
     constexpr mode_t kOwnerOnly = 0600;
-    FileHandle file(Retry([&] { return open(path.c_str(), kFlags, kOwnerOnly); }));
+    FileHandle file(Retry([&] { return open(path.c_str(), flags | O_CLOEXEC, kOwnerOnly); }));
     if (file.Number() < 0) return SystemFailure(errno);
 
     constexpr std::chrono::milliseconds kPause{5};
@@ -24,6 +25,16 @@ Result<FileHandle> LockFile(const std::string& path, std::chrono::milliseconds p
         std::this_thread::sleep_for(kPause);
     }
     return file;
+}
+
+}  // namespace
+
+Result<FileHandle> LockFile(const std::string& path, std::chrono::milliseconds patience) {
+    return Lock(path, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK, patience);
+}
+
+Result<FileHandle> LockFolder(const std::string& path, std::chrono::milliseconds patience) {
+    return Lock(path, O_RDONLY | O_DIRECTORY, patience);
 }
 
 }  // namespace kestrel::system

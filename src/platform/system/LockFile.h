@@ -35,5 +35,7 @@ class FileHandle {
 // for as long as the handle is open. Waits up to `patience` for a holder to let go, then fails
 // with EWOULDBLOCK. The file itself stays: removing it would let two holders lock two files.
 Result<FileHandle> LockFile(const std::string& path, std::chrono::milliseconds patience);
+// The same with an existing folder, in which nothing is made for it.
+Result<FileHandle> LockFolder(const std::string& path, std::chrono::milliseconds patience);
 
 }  // namespace kestrel::system
