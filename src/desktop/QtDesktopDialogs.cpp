@@ -7,7 +7,9 @@
 #include <QMouseEvent>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTimer>
 #include <filesystem>
+#include <optional>
 
 #include "desktop/Pictures.h"
 #include "i18n/Language.h"
@@ -92,6 +94,13 @@ bool Ask(QDialog& dialog) {
     return confirmed;
 }
 
+// The library offers these of any document.
+void HideWhatNeedsPages(QPrintDialog& dialog) {
+    for (const char* name : {"gbPrintRange", "reverse", "duplex"}) {
+        if (auto* choice = dialog.findChild<QWidget*>(QLatin1String(name))) choice->hide();
+    }
+}
+
 }  // namespace
 
 std::int32_t QtDesktopDialogs::GetOpenFileName(FileRecord& record) {
@@ -133,15 +142,25 @@ std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
 }
 
 std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
-    QPrinter printer;
+    // The library asks the server for its printers where all of this waits for it.
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    std::optional<NoPrintServer> withoutServer;
+    if (!PrintServerAnswers()) withoutServer.emplace();
+    QPrinter printer(QPrinter::HighResolution);
     auto& [name, file, copies] = record.choice;
     if (!name.empty()) printer.setPrinterName(QString::fromStdString(name));
     if (!file.empty()) printer.setOutputFileName(QString::fromStdString(file));
     printer.setCopyCount(copies);
+    // Else the library takes a printer that does not say so to print in grey.
+    printer.setColorMode(QPrinter::Color);
     QPrintDialog dialog(&printer, WindowOf(record.owner));
     // There is one page, and each copy is a job of its own.
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile);
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+    // Once the library has shown them all.
+    QTimer::singleShot(0, &dialog, [&dialog] { HideWhatNeedsPages(dialog); });
+    QGuiApplication::restoreOverrideCursor();
     if (!Ask(dialog)) return kCancelled;
+    printer_.Use(printer);
     name = printer.printerName().toStdString();
     file = printer.outputFileName().toStdString();
     copies = printer.copyCount();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/FileNameDialog.h"
+#include "desktop/QtPrinter.h"
 #include "services/DesktopDialogs.h"
 
 namespace kestrel::desktop {
@@ -10,7 +11,9 @@ namespace kestrel::desktop {
 class QtDesktopDialogs : public services::DesktopDialogs {
   public:
     // What is wrong with a file name is told in `boxes`, which must outlive the dialogs.
-    explicit QtDesktopDialogs(services::MessageBoxes& boxes) : boxes_(boxes) {}
+    // The printer dialog tells `printer` what was chosen, which must outlive them, too.
+    QtDesktopDialogs(services::MessageBoxes& boxes, QtPrinter& printer)
+        : boxes_(boxes), printer_(printer) {}
 
     std::int32_t GetOpenFileName(services::FileRecord& record) override;
     std::int32_t GetSaveFileName(services::FileRecord& record) override;
@@ -24,6 +27,7 @@ class QtDesktopDialogs : public services::DesktopDialogs {
     std::int32_t ChooseFile(services::FilePurpose purpose, services::FileRecord& record);
 
     services::MessageBoxes& boxes_;
+    QtPrinter& printer_;
     // Where a file was chosen last; empty: where the library remembers from an earlier start.
     std::string lastFolder_;
 };

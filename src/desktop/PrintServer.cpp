@@ -1,0 +1,125 @@
+#include "desktop/PrintServer.h"
+
+#include <cups/cups.h>
+
+#include <memory>
+
+#include "desktop/OffThread.h"
+#include "i18n/Messages.h"
+
+namespace kestrel::desktop {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::chrono::milliseconds kPatienceToList = 1s;
+constexpr std::chrono::milliseconds kPatienceToPrint = 10s;
+
+template <auto kFree>
+struct Freed {
+    template <class Object>
+    void operator()(Object* object) const {
+        kFree(object);
+    }
+};
+using Connection = std::unique_ptr<http_t, Freed<httpClose>>;
+using Answer = std::unique_ptr<ipp_t, Freed<ippDelete>>;
+
+// A connection on which no answer takes longer. Passwords are not asked for: the library would do
+// so on the terminal.
+Connection Connect(std::chrono::milliseconds patience) {
+    cupsSetPasswordCB2([](auto...) -> const char* { return nullptr; }, nullptr);
+    const int time = static_cast<int>(patience.count());
+    Connection server(httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC, cupsEncryption(), 1,
+                                   time, nullptr));
+    if (server) {
+        httpSetTimeout(
+            server.get(), std::chrono::duration<double>(patience).count(),
+            [](http_t* /*server*/, void* /*data*/) { return 0; }, nullptr);
+    }
+    return server;
+}
+
+tl::unexpected<Error> Failure(const i18n::Text& reason) {
+    return Fail(cupsLastError(), std::string(reason.Now()));
+}
+
+// Why the last request of this thread failed.
+tl::unexpected<Error> Failure() {
+    switch (cupsLastError()) {
+        case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
+            return Failure(i18n::kPrinterRejects);
+        case IPP_STATUS_ERROR_NOT_FOUND:
+            return Failure(i18n::kPrinterIsGone);
+        case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
+            return Failure(i18n::kPrintServerIsSilent);
+        default:
+            return Fail(cupsLastError(), cupsLastErrorString());
+    }
+}
+
+bool IsStopped(http_t* server, const std::string& printer) {
+    cups_dest_t* found = cupsGetNamedDest(server, printer.c_str(), nullptr);
+    if (found == nullptr) return false;
+    const char* state = cupsGetOption("printer-state", found->num_options, found->options);
+    const bool stopped = state != nullptr && std::stoi(state) == IPP_PSTATE_STOPPED;
+    cupsFreeDests(1, found);
+    return stopped;
+}
+
+bool SendDocument(http_t* server, const char* printer, int id, const PrintJob& job) {
+    return cupsStartDocument(server, printer, id, job.title.c_str(), CUPS_FORMAT_PDF, 1) ==
+               HTTP_STATUS_CONTINUE &&
+           cupsWriteRequestData(server, job.pdf.data(), job.pdf.size()) == HTTP_STATUS_CONTINUE &&
+           cupsFinishDocument(server, printer) <= IPP_STATUS_OK_CONFLICTING;
+}
+
+Result<void> Send(const PrintJob& job) {
+    const Connection server = Connect(kPatienceToPrint);
+    if (!server) return Failure(i18n::kPrintServerIsSilent);
+    const std::string printer = job.queue.substr(0, job.queue.find('/'));
+    cups_option_t* options = nullptr;
+    int count = 0;
+    for (const auto& [name, value] : job.options)
+        count = cupsAddOption(name.c_str(), value.c_str(), count, &options);
+    const int id = cupsCreateJob(server.get(), printer.c_str(), job.title.c_str(), count, options);
+    cupsFreeOptions(count, options);
+    if (id == 0) return Failure();
+    if (!SendDocument(server.get(), printer.c_str(), id, job)) {
+        const tl::unexpected<Error> failure = Failure();
+        cupsCancelJob2(server.get(), printer.c_str(), id, 0);
+        return failure;
+    }
+    if (IsStopped(server.get(), printer)) return Fail(kPrinterStopped, "The printer is stopped");
+    return {};
+}
+
+bool Ask() {
+    const Connection server = Connect(kPatienceToList);
+    if (!server) return false;
+    // Whatever it answers.
+    const Answer answer(cupsDoRequest(server.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
+    return answer != nullptr;
+}
+
+}  // namespace
+
+bool PrintServerAnswers() {
+    return AskOffThread<bool>(Ask, kPatienceToList).value_or(false);
+}
+
+NoPrintServer::NoPrintServer() {
+    cupsSetServer("/dev/null/cups");
+}
+
+NoPrintServer::~NoPrintServer() {
+    cupsSetServer(nullptr);
+}
+
+Result<void> SendToPrinter(const PrintJob& job) {
+    return AskOffThread<Result<void>>([job] { return Send(job); }, kPatienceToPrint)
+        .value_or(Failure(i18n::kPrintServerIsSilent));
+}
+
+}  // namespace kestrel::desktop
