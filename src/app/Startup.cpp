@@ -9,6 +9,7 @@
 #include "i18n/Messages.h"
 #include "platform/system/LetterCase.h"
 #include "platform/system/PathText.h"
+#include "tools/TemporaryIcon.h"
 
 namespace kestrel::app {
 
@@ -74,6 +75,7 @@ std::optional<ProcessValues> PrepareStart(const StartupFacts& facts,
     RegisterIcoAssociation(services.registry, facts.applicationFolder);
     values.WindowsFolder = facts.windowsDirectory;
     PrepareWindowsFolder(values.WindowsFolder, services.files);
+    tools::RemoveLeftTemporaries(services.files, values.WindowsFolder);
     i18n::SetUiLanguage(settings::ReadSavedLanguage(services.settings));
     return values;
 }

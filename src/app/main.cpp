@@ -133,7 +133,8 @@ int main(int argc, char* argv[]) {
     if (!values) return 0;
 
     desktop::QtApplication program;
-    desktop::QtDesktopDialogs dialogs(boxes);
+    desktop::QtPrinter printer(files);
+    desktop::QtDesktopDialogs dialogs(boxes, printer);
     desktop::QtClipboard clipboard;
     desktop::QtShell shell;
     desktop::XScreen screen;
@@ -145,6 +146,7 @@ int main(int argc, char* argv[]) {
     const document::JournalFolder journals(system::StateFolder());
     editing::WorkLog log(system::StateFolder());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
+                              screen, printer, random, settings, folders, facts.systemLcid});
                               screen, tray, random, settings, log, journals, folders,
                               facts.systemLcid});
     const desktop::EndOfSession endOfSession(

@@ -36,7 +36,7 @@ constexpr auto kMenuBar = std::to_array<CommandRow>({
     {"mnuSave", "mnuFile", IconItem, {"&Save", "保存  "}, "Ctrl+S", 4, kSave},
     {"mnuSaveAs", "mnuFile", Item, {"Save &As ...", "保存为...   "}, "Ctrl+Shift+S", 0, Call<&DocumentCommands::mnuSaveAs_Click>},
     {"Separator12", "mnuFile", Separator},
-    {"mnuPrint", "mnuFile", IconItem, {"&Print", "打印  "}, "Ctrl+P", 24, kNotBuilt},
+    {"mnuPrint", "mnuFile", IconItem, {"&Print", "打印  "}, "Ctrl+P", 24, Call<&PrintCommands::mnuPrint_Click>},
     {"Separator13", "mnuFile", Separator},
     {"mnuExit", "mnuFile", IconItem, {"E&xit", "关闭  "}, "Alt+F4", 39, Call<&MainWindow::Unload>},
     {"mnuEdit", "", Item, {"&Edit ", "(E) 编辑  "}},
@@ -62,7 +62,7 @@ constexpr auto kMenuBar = std::to_array<CommandRow>({
     {"mnuPaletteOpts4", "mnuToolsOpts2", IconItem, {"&Save Palette...", "保存调色板     "}, "", 23, Call<&PaletteCommands::ImgSavePalette_Click>},
     {"Separator32", "mnuTools", Separator},
     {"mnuToolsOpts3", "mnuTools", IconItem, {"ScreenZoom", "屏幕缩放    "}, "", 13, kScreenZoom},
-    {"mnuToolsOpts4", "mnuTools", Item, {"Test Icon", "测试图标    "}, "", 0, kNotBuilt},
+    {"mnuToolsOpts4", "mnuTools", Item, {"Test Icon", "测试图标    "}, "", 0, Call<&PrintCommands::TestIcon>},
     Hidden({"mnuToolsOpts5", "mnuTools", IconItem, {"QuilletShot", "截图工具    "}, "", 28, Call<&ShellCommands::StartSibling, Sibling::ScreenCapture>}),
     {"mnuToolsOpts6", "mnuTools", IconItem, {"Varnel", "图像浏览    "}, "", 27, Call<&ShellCommands::StartSibling, Sibling::IconBrowser>},
     {"mnuToolsOpts7", "mnuTools", IconItem, {"Ormsby Extender", "查看剪切板     "}, "", 33, Call<&ShellCommands::StartSibling, Sibling::ClipboardViewer>},
@@ -148,7 +148,7 @@ constexpr auto kMenuBar = std::to_array<CommandRow>({
     {"mnuHomePage", "mnuHelp", IconItem, {"Home Page", "主页  "}, "", 20, Call<&ShellCommands::mnuHomePage_Click>},
     {"mnuHelp2", "mnuHelp", IconItem, {"&Help", "帮助  "}, "", 12, kHelp},
     {"Separator60", "mnuHelp", Separator},
-    {"mnuAbout", "mnuHelp", Item, {"&About...", "关于...  "}, "", 0, Call<&Dialogs::ShowAbout>},
+    {"mnuAbout", "mnuHelp", Item, {"&About...", "关于...  "}, "", 0, Call<&ShellCommands::mnuAbout_Click>},
 });
 // clang-format on
 

@@ -14,6 +14,7 @@
 #include "commands/MainWindow.h"
 #include "commands/ModRecent.h"
 #include "commands/PaletteCommands.h"
+#include "commands/PrintCommands.h"
 #include "commands/Recovery.h"
 #include "commands/ShellCommands.h"
 #include "commands/TrayCommands.h"
@@ -21,6 +22,7 @@
 #include "commands/ZoomCommands.h"
 #include "editing/Editor.h"
 #include "services/Cdb.h"
+#include "services/Printer.h"
 #include "services/Screen.h"
 #include "settings/Settings.h"
 
@@ -37,6 +39,7 @@ struct MainServices {
     system::Registry& registry;
     services::Shell& shell;
     services::Screen& screen;
+    services::Printer& printer;
     services::Tray& tray;
     system::RandomNumbers& random;
     settings::Settings& settings;
@@ -67,6 +70,7 @@ struct Commands {
     ModRecent recent;
     DocumentCommands documents;
     ExtractCommands extract;
+    PrintCommands prints;
     CaptureCommands capture;
     ShellCommands shell;
     ZoomCommands zoom;

@@ -6,6 +6,7 @@
 #include "imaging/PasteFit.h"
 #include "platform/gdi/Surface.h"
 #include "tools/IconExtraction.h"
+#include "tools/SystemInformation.h"
 
 namespace kestrel::commands {
 
@@ -24,6 +25,10 @@ class Dialogs {
     virtual std::optional<imaging::PasteFit> AskFit(gdi::Size picture) = 0;
     // Lets the user select an icon, also in other files; true when it is to be taken.
     virtual bool PickIcon(tools::IconExtraction& extraction) = 0;
+    // Shows the icon in the states that desktops draw icons in.
+    virtual void ShowStates(const gdi::IconPlanes& icon) = 0;
+    // The system information begins with a button of the box.
+    virtual void ShowAbout(tools::SystemInformation& information) = 0;
     // Lets the user pick a square as large as an icon out of a picture of the screen, which covers
     // the screen meanwhile; none when the user leaves it.
     virtual std::optional<gdi::Surface> PickSquare(gdi::Surface screen) = 0;

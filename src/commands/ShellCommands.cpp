@@ -27,8 +27,12 @@ constexpr std::array kSiblings{
 
 }  // namespace
 
-ShellCommands::ShellCommands(const ShellServices& services, ProgramFolders folders)
-    : services_(services), folders_(std::move(folders)) {}
+ShellCommands::ShellCommands(const ShellServices& services, ProgramFolders folders,
+                             Dialogs& dialogs)
+    : services_(services),
+      folders_(std::move(folders)),
+      dialogs_(dialogs),
+      information_(services.registry, services.files, services.shell, services.boxes) {}
 
 std::string ShellCommands::HelpFile() const {
     return ProgramFile(folders_, services_.files,
@@ -61,6 +65,10 @@ void ShellCommands::StartSibling(Sibling program) {
     if (!services_.shell.RunProgram(file, {})) {
         ShowError(services_.boxes, i18n::CannotStart(name, purpose, file));
     }
+}
+
+void ShellCommands::mnuAbout_Click() {
+    dialogs_.ShowAbout(information_);
 }
 
 }  // namespace kestrel::commands

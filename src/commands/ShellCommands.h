@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "commands/Dialogs.h"
 #include "commands/ProgramFolders.h"
 #include "platform/system/FileSystem.h"
 #include "services/Application.h"
@@ -20,13 +21,14 @@ struct ShellServices {
     services::HelpViewer& help;
     system::FileSystem& files;
     services::Shell& shell;
+    system::Registry& registry;
 };
 
 // The commands that show or start what is not the editor itself. What cannot be shown or started
 // is said in a message.
 class ShellCommands {
   public:
-    ShellCommands(const ShellServices& services, ProgramFolders folders);
+    ShellCommands(const ShellServices& services, ProgramFolders folders, Dialogs& dialogs);
 
     // The help text in the language in force.
     void mnuHelp_Click();
@@ -34,12 +36,15 @@ class ShellCommands {
     void FollowLanguage();
     void mnuHomePage_Click();
     void StartSibling(Sibling program);
+    void mnuAbout_Click();
 
   private:
     std::string HelpFile() const;
 
     ShellServices services_;
     ProgramFolders folders_;
+    Dialogs& dialogs_;
+    tools::SystemInformation information_;
 };
 
 }  // namespace kestrel::commands

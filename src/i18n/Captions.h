@@ -57,6 +57,9 @@ inline constexpr Text kIconsScrollName{"Scroll the icons", "滚动图标"};
 inline constexpr Text kFirstIcon{"Icon No 1 Selected.", "选中第1个图标."};
 inline constexpr Text kFirstChosenIcon{"Icon No. 1 Selected.", "选中第1个图标."};
 
+// The preview of states.
+inline constexpr Text kStatesTitle{"KestrelIconEditor - Test Icon", "KestrelIconEditor - 测试图标"};
+inline constexpr Text kClose{"&Close", "关闭(&C)"};
 // The windows that show the frozen screen while one picks.
 inline constexpr Text kCaptureTitle{"KestrelIconEditor - Capture Image",
                                     "KestrelIconEditor - 捕捉图像"};

@@ -44,6 +44,11 @@ constexpr Text kContainsNoIcons{"%1 contains no icons.", "%1 没有图标."};
 constexpr Text kCannotOpenSource{"Unable to open the file %1", "不能打开文件 %1"};
 constexpr Text kCannotSaveUntitled{"Unable to save Untitled.", "不能保存 Untitled.ico 文件."};
 constexpr Text kCannotSave{"Unable to save %1", "不能保存 %1 文件."};
+constexpr Text kCannotPrintUntitled{"Unable to print Untitled.", "不能打印 Untitled.ico 文件"};
+constexpr Text kCannotPrint{"Unable to print %1", "不能打印 %1文件"};
+constexpr Text kPrinterIsStopped{
+    "The printer \"%1\" is stopped.\r\n\r\nThe icon waits in its queue until it is started again.",
+    "打印机 \"%1\" 已停止.\r\n\r\n图标在打印队列中等待, 打印机恢复后将继续打印."};
 constexpr Text kCannotLoadPalette{"Unable to load the palette file.", "不能打开调色板文件."};
 constexpr Text kCannotSavePalette{"Unable to save the palette file.", "不能保存调色板文件."};
 constexpr Text kCannotOpenHelp{"Unable to open the help file %1", "不能打开帮助文件 %1"};
@@ -110,6 +115,15 @@ std::string CannotOpenSource(std::string_view path) {
 std::string CannotSave(std::string_view reason, std::string_view fileTitle) {
     const Text& sentence = fileTitle.empty() ? kCannotSaveUntitled : kCannotSave;
     return WithReason(reason, Fill(sentence.Now(), fileTitle));
+}
+
+std::string CannotPrint(std::string_view reason, std::string_view fileTitle) {
+    const Text& sentence = fileTitle.empty() ? kCannotPrintUntitled : kCannotPrint;
+    return WithReason(reason, Fill(sentence.Now(), fileTitle));
+}
+
+std::string PrinterIsStopped(std::string_view printer) {
+    return Fill(kPrinterIsStopped.Now(), printer);
 }
 
 std::string Filled(const Text& text, std::string_view name) {

@@ -115,6 +115,18 @@ inline constexpr Text kFileNameTooLong{"%1\r\nThe file name is too long.", "%1\r
 // The text in the language in force with `name` in the place of every "%1".
 std::string Filled(const Text& text, std::string_view name);
 
+// Printing, and the preview of states, which goes the same way. Empty file title: a new icon.
+inline constexpr Text kNoPrinter{"Can not print,please add a printer at first！",
+                                 "没有安装打印机，不能进行打印预览！"};
+std::string CannotPrint(std::string_view reason, std::string_view fileTitle);
+// Why a printer did not take a job.
+inline constexpr Text kPrinterRejects{"The printer accepts no jobs", "打印机不接受打印任务"};
+inline constexpr Text kPrinterIsGone{"The printer does not exist any more", "打印机已不存在"};
+inline constexpr Text kPrintServerIsSilent{"The print server does not answer",
+                                           "打印服务器没有响应"};
+// One that took it but prints nothing for now.
+std::string PrinterIsStopped(std::string_view printer);
+
 // Palette files; `reason` is the system's description.
 inline constexpr std::string_view kLoadPaletteFilter =
     "Palette Files (*.PAL)|*.PAL|All Files (*.*)|*.*";
@@ -133,6 +145,9 @@ inline constexpr Text kCapturesScreen{"takes pictures of the screen", "截取屏
 inline constexpr Text kBrowsesIcons{"browses pictures and icons", "浏览图像和图标"};
 inline constexpr Text kShowsClipboard{"shows what the clipboard holds", "查看剪切板内容"};
 
+// The system information has no viewer.
+inline constexpr Text kNoSystemInformation{"System Information Is Unavailable At This Time",
+                                           "目前无法显示系统信息"};
 // The magnifier, where the desktop keeps the screen to itself.
 inline constexpr Text kCannotMagnify{
     "This desktop does not let programs see the screen.\r\n\r\nUnable to magnify the screen.",

@@ -30,7 +30,8 @@ Result<ChosenPrinter> Cdb::ShowPrinter() {
     PrinterRecord record{.owner = owner_.hWnd(), .choice = printer_};
     if (desktop_.ChoosePrinter(record) != kConfirmed) return Unconfirmed();
     printer_ = record.choice;
-    return printer_;
+    printer_.copies = 1;
+    return record.choice;
 }
 
 FileRecord Cdb::RecordOf(const FileRequest& request) const {

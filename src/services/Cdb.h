@@ -34,7 +34,7 @@ class Cdb {
     Result<ChosenFile> ShowSave(const FileRequest& request);
     // Open in full, with `current` selected; keeps the user's custom colours, white at first.
     Result<gdi::COLORREF> ShowColor(gdi::COLORREF current);
-    // The printer that was chosen last is selected at first.
+    // The printer that was chosen last is selected at first, for one copy.
     Result<ChosenPrinter> ShowPrinter();
 
   private:

@@ -8,6 +8,7 @@
 #include "windows/FrmShades.h"
 #include "windows/FrmSnap.h"
 #include "windows/frmAbout.h"
+#include "windows/frmDrawState.h"
 #include "windows/frmGamma.h"
 
 namespace kestrel::windows {
@@ -32,10 +33,14 @@ bool FrmDialogs::PickIcon(tools::IconExtraction& extraction) {
     return FrmIcons(&owner_, extraction).exec() == QDialog::Accepted;
 }
 
+void FrmDialogs::ShowStates(const gdi::IconPlanes& icon) {
+    frmDrawState(&owner_, icon).exec();
 std::optional<gdi::Surface> FrmDialogs::PickSquare(gdi::Surface screen) {
     return FrmSnap(screen_, std::move(screen)).Pick();
 }
 
+void FrmDialogs::ShowAbout(tools::SystemInformation& information) {
+    frmAbout(&owner_, information).exec();
 void FrmDialogs::ShowAbout() {
     frmAbout(&owner_).exec();
 }

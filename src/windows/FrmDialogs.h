@@ -17,6 +17,8 @@ class FrmDialogs : public commands::Dialogs {
     std::optional<gdi::Surface> AskGradient() override;
     std::optional<imaging::PasteFit> AskFit(gdi::Size picture) override;
     bool PickIcon(tools::IconExtraction& extraction) override;
+    void ShowStates(const gdi::IconPlanes& icon) override;
+    void ShowAbout(tools::SystemInformation& information) override;
     std::optional<gdi::Surface> PickSquare(gdi::Surface screen) override;
     void ShowAbout() override;
 

@@ -1,13 +1,12 @@
 #include "windows/FrmIcoEd.h"
 
-#include <QApplication>
-
 #include "commands/CommandTable.h"
 #include "desktop/Pictures.h"
 #include "desktop/ScreenPixels.h"
 #include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
+#include "windows/WindowColor.h"
 #include "tools/MagnifierSettings.h"
 #include "windows/widgets/WindowDesign.h"
 
@@ -15,15 +14,7 @@ namespace kestrel::windows {
 
 namespace {
 
-// A pure white window would hide white pixels in the preview.
-constexpr gdi::COLORREF kGreyForWhite = 0xF0F0F0;
 constexpr QSize kToolbarButton(28, 28);
-
-gdi::COLORREF WindowColor() {
-    const gdi::COLORREF color =
-        desktop::ToColorRef(QApplication::palette().color(QPalette::Window));
-    return color == gdi::kWhite ? kGreyForWhite : color;
-}
 
 }  // namespace
 
@@ -116,14 +107,8 @@ void FrmIcoEd::Form_OLEDragDrop(const std::string& pathToOpen) {
 
 // The window and the preview's ground share one colour.
 void FrmIcoEd::FollowDesktopColors() {
-    const gdi::COLORREF color = WindowColor();
-    if (palette().color(QPalette::Window) != desktop::ToColor(color)) {
-        // Only this role: the others go on following the desktop.
-        QPalette own;
-        own.setColor(QPalette::Window, desktop::ToColor(color));
-        setPalette(own);
-    }
-    editor_.SetWindowColor(color);
+    FollowWindowColor(*this);
+    editor_.SetWindowColor(WindowColor());
 }
 
 void FrmIcoEd::SetTitle(const std::string& title) {

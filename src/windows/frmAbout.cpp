@@ -52,7 +52,7 @@ QLabel* NewPicture() {
 
 }  // namespace
 
-frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
+frmAbout::frmAbout(QWidget* owner, tools::SystemInformation& information) : QDialog(owner) {
     setWindowTitle(ToText(i18n::kAboutTitle.Now()));
     auto* facts = new QHBoxLayout;
     facts->setSpacing(kBetweenBlocks);
@@ -62,7 +62,7 @@ frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
     rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     rows->setSpacing(kBetweenBlocks);
     rows->addLayout(facts);
-    rows->addWidget(NewButtons());
+    rows->addWidget(NewButtons(information));
     desktop::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);
     rows->setSizeConstraint(QLayout::SetFixedSize);
 }
@@ -81,13 +81,12 @@ QLayout* frmAbout::NewTexts() {
     return texts;
 }
 
-QWidget* frmAbout::NewButtons() {
+QWidget* frmAbout::NewButtons(tools::SystemInformation& information) {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
     auto* cmdSysInfo =
         buttons->addButton(ToText(i18n::kSystemInfo.Now()), QDialogButtonBox::ResetRole);
     cmdSysInfo->setObjectName("cmdSysInfo");
-    // Until the program can start a system information viewer.
-    cmdSysInfo->setEnabled(false);
+    connect(cmdSysInfo, &QPushButton::clicked, this, [&information] { information.Start(); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     return buttons;
 }

@@ -2,16 +2,19 @@
 
 #include <QDialog>
 
+#include "tools/SystemInformation.h"
+
 namespace kestrel::windows {
 
 // What the program is, which version, and under which licence. Modal; closes with OK or Escape.
 class frmAbout : public QDialog {
   public:
-    explicit frmAbout(QWidget* owner);
+    // `information` outlives the dialog.
+    frmAbout(QWidget* owner, tools::SystemInformation& information);
 
   private:
     QLayout* NewTexts();
-    QWidget* NewButtons();
+    QWidget* NewButtons(tools::SystemInformation& information);
 };
 
 }  // namespace kestrel::windows
