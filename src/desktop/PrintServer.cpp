@@ -41,6 +41,14 @@ Connection Connect(std::chrono::milliseconds patience) {
     return server;
 }
 
+bool Ask() {
+    const Connection server = Connect(kPatienceToList);
+    if (!server) return false;
+    // Whatever it answers.
+    const Answer answer(cupsDoRequest(server.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
+    return answer != nullptr;
+}
+
 tl::unexpected<Error> Failure(const i18n::Text& reason) {
     return Fail(cupsLastError(), std::string(reason.Now()));
 }
@@ -50,8 +58,6 @@ tl::unexpected<Error> Failure() {
     switch (cupsLastError()) {
         case IPP_STATUS_ERROR_NOT_ACCEPTING_JOBS:
             return Failure(i18n::kPrinterRejects);
-        case IPP_STATUS_ERROR_NOT_FOUND:
-            return Failure(i18n::kPrinterIsGone);
         case IPP_STATUS_ERROR_SERVICE_UNAVAILABLE:
             return Failure(i18n::kPrintServerIsSilent);
         default:
@@ -59,13 +65,16 @@ tl::unexpected<Error> Failure() {
     }
 }
 
-bool IsStopped(http_t* server, const std::string& printer) {
-    cups_dest_t* found = cupsGetNamedDest(server, printer.c_str(), nullptr);
-    if (found == nullptr) return false;
-    const char* state = cupsGetOption("printer-state", found->num_options, found->options);
-    const bool stopped = state != nullptr && std::stoi(state) == IPP_PSTATE_STOPPED;
-    cupsFreeDests(1, found);
-    return stopped;
+using Printer =
+    std::unique_ptr<cups_dest_t, Freed<[](cups_dest_t* one) { cupsFreeDests(1, one); }>>;
+
+Printer Find(const Connection& server, const std::string& name) {
+    return Printer(cupsGetNamedDest(server.get(), name.c_str(), nullptr));
+}
+
+bool IsStopped(const cups_dest_t& printer) {
+    const char* state = cupsGetOption("printer-state", printer.num_options, printer.options);
+    return state != nullptr && state == std::to_string(IPP_PSTATE_STOPPED);
 }
 
 bool SendDocument(http_t* server, const char* printer, int id, const PrintJob& job) {
@@ -76,31 +85,26 @@ bool SendDocument(http_t* server, const char* printer, int id, const PrintJob& j
 }
 
 Result<void> Send(const PrintJob& job) {
+    if (!Ask()) return Failure(i18n::kPrintServerIsSilent);
     const Connection server = Connect(kPatienceToPrint);
     if (!server) return Failure(i18n::kPrintServerIsSilent);
-    const std::string printer = job.queue.substr(0, job.queue.find('/'));
+    const std::string name = job.queue.substr(0, job.queue.find('/'));
+    if (!Find(server, name)) return Failure(i18n::kPrinterIsGone);
     cups_option_t* options = nullptr;
     int count = 0;
-    for (const auto& [name, value] : job.options)
-        count = cupsAddOption(name.c_str(), value.c_str(), count, &options);
-    const int id = cupsCreateJob(server.get(), printer.c_str(), job.title.c_str(), count, options);
+    for (const auto& [option, value] : job.options)
+        count = cupsAddOption(option.c_str(), value.c_str(), count, &options);
+    const int id = cupsCreateJob(server.get(), name.c_str(), job.title.c_str(), count, options);
     cupsFreeOptions(count, options);
     if (id == 0) return Failure();
-    if (!SendDocument(server.get(), printer.c_str(), id, job)) {
+    if (!SendDocument(server.get(), name.c_str(), id, job)) {
         const tl::unexpected<Error> failure = Failure();
-        cupsCancelJob2(server.get(), printer.c_str(), id, 0);
+        cupsCancelJob2(server.get(), name.c_str(), id, 0);
         return failure;
     }
-    if (IsStopped(server.get(), printer)) return Fail(kPrinterStopped, "The printer is stopped");
+    const Printer printer = Find(server, name);
+    if (printer && IsStopped(*printer)) return Fail(kPrinterStopped, "The printer is stopped");
     return {};
-}
-
-bool Ask() {
-    const Connection server = Connect(kPatienceToList);
-    if (!server) return false;
-    // Whatever it answers.
-    const Answer answer(cupsDoRequest(server.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
-    return answer != nullptr;
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QPrinter>
 #include <QTimer>
 #include <filesystem>
+#include <memory>
 #include <optional>
 
 #include "desktop/Pictures.h"
@@ -94,12 +95,48 @@ bool Ask(QDialog& dialog) {
     return confirmed;
 }
 
-// The library offers these of any document.
-void HideWhatNeedsPages(QPrintDialog& dialog) {
-    for (const char* name : {"gbPrintRange", "reverse", "duplex"}) {
-        if (auto* choice = dialog.findChild<QWidget*>(QLatin1String(name))) choice->hide();
+// The hourglass is shown while it lives.
+class WaitCursor {
+  public:
+    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
+
+// The library asks the print server on the window's thread, and waits as long as it takes: it is
+// kept from a server that is silent, before the printer is made and again when it is chosen.
+class PrinterDialog : public QPrintDialog {
+  public:
+    using Silence = std::unique_ptr<NoPrintServer>;
+
+    PrinterDialog(QPrinter& printer, Silence& silence, QWidget* owner)
+        : QPrintDialog(&printer, owner), silence_(silence) {
+        setOptions(PrintToFile | PrintShowPageSize);
+        // Once the library has shown them all.
+        QTimer::singleShot(0, this, [this] { HideWhatNeedsPages(); });
     }
-}
+
+    void accept() override {
+        if (!silence_) silence_ = AvoidSilentServer();
+        QPrintDialog::accept();
+    }
+
+    static Silence AvoidSilentServer() {
+        const WaitCursor wait;
+        return PrintServerAnswers() ? nullptr : std::make_unique<NoPrintServer>();
+    }
+
+  private:
+    // There is one page.
+    void HideWhatNeedsPages() {
+        for (const char* name : {"gbPrintRange", "reverse", "duplex"}) {
+            if (auto* choice = findChild<QWidget*>(QLatin1String(name))) choice->hide();
+        }
+    }
+
+    Silence& silence_;
+};
 
 }  // namespace
 
@@ -142,10 +179,8 @@ std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
 }
 
 std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
-    // The library asks the server for its printers where all of this waits for it.
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    std::optional<NoPrintServer> withoutServer;
-    if (!PrintServerAnswers()) withoutServer.emplace();
+    std::optional<WaitCursor> wait(std::in_place);
+    PrinterDialog::Silence silence = PrinterDialog::AvoidSilentServer();
     QPrinter printer(QPrinter::HighResolution);
     auto& [name, file, copies] = record.choice;
     if (!name.empty()) printer.setPrinterName(QString::fromStdString(name));
@@ -153,12 +188,8 @@ std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
     printer.setCopyCount(copies);
     // Else the library takes a printer that does not say so to print in grey.
     printer.setColorMode(QPrinter::Color);
-    QPrintDialog dialog(&printer, WindowOf(record.owner));
-    // There is one page, and each copy is a job of its own.
-    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    // Once the library has shown them all.
-    QTimer::singleShot(0, &dialog, [&dialog] { HideWhatNeedsPages(dialog); });
-    QGuiApplication::restoreOverrideCursor();
+    PrinterDialog dialog(printer, silence, WindowOf(record.owner));
+    wait.reset();
     if (!Ask(dialog)) return kCancelled;
     printer_.Use(printer);
     name = printer.printerName().toStdString();

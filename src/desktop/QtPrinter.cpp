@@ -4,8 +4,10 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintEngine>
+#include <cerrno>
 
 #include "desktop/Pictures.h"
+#include "i18n/Messages.h"
 
 namespace kestrel::desktop {
 
@@ -76,6 +78,9 @@ QByteArray QtPrinter::DocumentBytes(const std::string& title) const {
 Result<void> QtPrinter::EndDocument(const std::string& title) {
     const QByteArray document = DocumentBytes(title);
     page_.clear();
+    // So the library sets up a printer that it cannot reach any more.
+    if (job_.queue.empty() && file_.empty())
+        return Fail(ENOENT, std::string(i18n::kPrintServerIsSilent.Now()));
     if (!job_.queue.empty()) {
         PrintJob job = job_;
         job.title = title;
