@@ -192,6 +192,7 @@ std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
     wait.reset();
     if (!Ask(dialog)) return kCancelled;
     printer_.Use(printer);
+    if (silence && printer.outputFormat() != QPrinter::PdfFormat) printer_.UseNone();
     name = printer.printerName().toStdString();
     file = printer.outputFileName().toStdString();
     copies = printer.copyCount();

@@ -39,6 +39,11 @@ void QtPrinter::Use(QPrinter& printer) {
     page_.clear();
 }
 
+void QtPrinter::UseNone() {
+    job_ = {};
+    file_.clear();
+}
+
 // The library writes PDF files wherever it is built to do so.
 bool QtPrinter::IsInstalled() const {
     return QT_CONFIG(pdf);
@@ -78,7 +83,7 @@ QByteArray QtPrinter::DocumentBytes(const std::string& title) const {
 Result<void> QtPrinter::EndDocument(const std::string& title) {
     const QByteArray document = DocumentBytes(title);
     page_.clear();
-    // So the library sets up a printer that it cannot reach any more.
+    // Its server was silent, or gone, when the printer was chosen.
     if (job_.queue.empty() && file_.empty())
         return Fail(ENOENT, std::string(i18n::kPrintServerIsSilent.Now()));
     if (!job_.queue.empty()) {

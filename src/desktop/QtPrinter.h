@@ -19,6 +19,8 @@ class QtPrinter : public services::Printer {
 
     // Prints from now on as this one is set up: on which queue or file and paper, and how.
     void Use(QPrinter& printer);
+    // Documents fail from now on: the printer that was chosen is on a server that does not answer.
+    void UseNone();
 
     bool IsInstalled() const override;
     void SetOrientation(services::Orientation orientation) override;

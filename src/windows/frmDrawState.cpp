@@ -98,10 +98,10 @@ void frmDrawState::DrawStates() {
     update();
 }
 
-void frmDrawState::changeEvent(QEvent* event) {
-    QDialog::changeEvent(event);
+bool frmDrawState::event(QEvent* event) {
     if (event->type() == QEvent::LanguageChange) ShowTexts();
     if (event->type() == QEvent::ApplicationPaletteChange) DrawStates();
+    return QDialog::event(event);
 }
 
 void frmDrawState::paintEvent(QPaintEvent* /*event*/) {

@@ -17,7 +17,7 @@ class frmDrawState : public QDialog {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
 
   private:
     void ShowTexts();

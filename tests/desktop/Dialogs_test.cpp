@@ -49,7 +49,9 @@ class DialogsTest : public system::TemporaryFolder {
     }
 
     test::ScriptedBoxes boxes_;
-    QtDesktopDialogs dialogs_{boxes_};
+    test::MemoryFiles files_;
+    QtPrinter printer_{files_};
+    QtDesktopDialogs dialogs_{boxes_, printer_};
 };
 
 TEST_F(DialogsTest, SaveBeginsAsToldAndAnswers) {

@@ -24,9 +24,8 @@ Squares() {
 # ExpectPage <pdf> <left and top> <width> <size>: in dots of 1/300 inch.
 ExpectPage() {
     pdftoppm -r 300 -singlefile "$1" "$scratch/page"
-    [[ $(identify -format '%wx%h' "$scratch/page.ppm") == "$4" ]] || Fail "$1 is no page of $4"
-    convert -size "$4" xc:white +antialias -draw "$(Squares "$2" "$3")" "$scratch/expected.ppm"
-    compare -metric AE "$scratch/page.ppm" "$scratch/expected.ppm" null: || Fail "$1 shows no such squares"
+    convert -size "$4" xc:white +antialias -draw "$(Squares "$2" "$3")" -depth 8 "$scratch/expected.ppm"
+    cmp "$scratch/page.ppm" "$scratch/expected.ppm" || Fail "$1 shows other squares"
 }
 
 # Print [key...]: opens the dialog, presses these keys and then Print.

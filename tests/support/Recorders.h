@@ -13,6 +13,7 @@
 #include "platform/system/LetterCase.h"
 #include "services/Clipboard.h"
 #include "services/MessageBoxes.h"
+#include "services/Printer.h"
 #include "tests/support/EditorRecorder.h"
 #include "tests/support/ScriptedDialogs.h"
 
@@ -36,6 +37,8 @@ class AnsweredDialogs : public commands::Dialogs {
     std::optional<gdi::Surface> AskGradient() override { return gradient; }
     std::optional<imaging::PasteFit> AskFit(gdi::Size /*picture*/) override { return fit; }
     bool PickIcon(tools::IconExtraction& /*extraction*/) override { return false; }
+    void ShowStates(const gdi::IconPlanes& icon) override { states = icon; }
+    void ShowAbout(tools::SystemInformation& /*information*/) override {}
     std::optional<gdi::Surface> PickSquare(gdi::Surface /*screen*/) override {
         return std::nullopt;
     }
@@ -46,6 +49,7 @@ class AnsweredDialogs : public commands::Dialogs {
     std::optional<int> gamma;
     std::optional<gdi::Surface> gradient;
     std::optional<imaging::PasteFit> fit;
+    std::optional<gdi::IconPlanes> states;
 };
 
 // Message boxes that a test answers beforehand; unexpected ones are answered Cancel.
@@ -94,6 +98,35 @@ class MemoryClipboard : public services::Clipboard {
     std::optional<gdi::Surface> image;
 };
 
+// A printer that keeps what it prints; with `error` set it fails after that.
+class RecordingPrinter : public services::Printer {
+  public:
+    struct Filled {
+        gdi::Rect area;
+        gdi::COLORREF color;
+        bool operator==(const Filled&) const = default;
+    };
+
+    bool IsInstalled() const override { return installed; }
+    void SetOrientation(services::Orientation chosen) override { orientation = chosen; }
+    gdi::Size PrintableArea() const override { return page; }
+    void FillRectangle(gdi::Rect area, gdi::COLORREF color) override {
+        filled.push_back({area, color});
+    }
+    Result<void> EndDocument(const std::string& title) override {
+        titles += title + ' ';
+        if (error.number != 0) return Fail(error.number, error.description);
+        return {};
+    }
+
+    bool installed = true;
+    gdi::Size page{320, 400};
+    std::optional<services::Orientation> orientation;
+    std::vector<Filled> filled;
+    std::string titles;
+    Error error;
+};
+
 // A disk in memory that tells files by their size; with `writeError` set every write fails with it.
 class MemoryFiles : public system::FileSystem {
   public:
@@ -122,8 +155,11 @@ class MemoryFiles : public system::FileSystem {
         return FileExists(path) ? std::optional(path) : std::nullopt;
     }
     bool FileExists(const std::string& path) override { return contents.contains(path); }
+    Result<void> RemoveFile(const std::string& path) override {
+        contents.erase(path);
+        return {};
+    }
     // For a real disk alone.
-    Result<void> RemoveFile(const std::string& /*path*/) override { return {}; }
     Result<void> RenameFile(const std::string& /*from*/, const std::string& /*to*/) override {
         return {};
     }

@@ -9,7 +9,7 @@
 
 namespace kestrel::test {
 
-// A desktop on which the user chooses the file `choice` and the colour `color`; what is empty is
+// A desktop on which the user chooses `choice`, `color` and `printer`; what is empty is
 // cancelled, or fails for the reason `error`.
 class ScriptedDialogs : public services::DesktopDialogs {
   public:
@@ -28,12 +28,18 @@ class ScriptedDialogs : public services::DesktopDialogs {
         record.customColors[3] = *color;
         return services::kConfirmed;
     }
-    std::int32_t ChoosePrinter(services::PrinterRecord& /*record*/) override { return 0; }
+    std::int32_t ChoosePrinter(services::PrinterRecord& record) override {
+        printers.push_back(record);
+        if (!printer) return 0;
+        record.choice = *printer;
+        return services::kConfirmed;
+    }
     std::int32_t CommDlgExtendedError() const override { return error; }
     gdi::COLORREF GetSysColor(int /*role*/) const override { return 0; }
 
     std::string choice;
     std::optional<gdi::COLORREF> color;
+    std::optional<services::ChosenPrinter> printer;
     std::int32_t error = 0;
     // What the desktop changes in a confirmed file record beyond the name.
     std::function<void(services::FileRecord& record)> alsoChanges;
@@ -41,6 +47,7 @@ class ScriptedDialogs : public services::DesktopDialogs {
     std::vector<services::FileRecord> opens;
     std::vector<services::FileRecord> saves;
     std::vector<services::ColorRecord> colors;
+    std::vector<services::PrinterRecord> printers;
 
   private:
     std::int32_t ChooseFile(services::FileRecord& record) const {

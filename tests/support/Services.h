@@ -53,12 +53,17 @@ class MemoryRegistry : public system::Registry {
     }
 };
 
-// Notes what it should open, but opens and starts nothing.
+// Notes what it should open and start. Opens nothing, and starts what `installed` names.
 class RecordingShell : public services::Shell {
   public:
-    Result<void> RunProgram(const std::string& /*program*/,
-                            const std::vector<std::string>& /*arguments*/) override {
-        return Fail(2, "No such file or directory");
+    Result<void> RunProgram(const std::string& program,
+                            const std::vector<std::string>& arguments) override {
+        if (installed.find(program + ' ') == std::string::npos)
+            return Fail(2, "No such file or directory");
+        started = program;
+        for (const std::string& argument : arguments)
+            started += ' ' + argument;
+        return {};
     }
     Result<void> Open(const std::string& target) override {
         opened.push_back(target);
@@ -66,6 +71,9 @@ class RecordingShell : public services::Shell {
     }
 
     std::vector<std::string> opened;
+    // Each with a blank behind it.
+    std::string installed;
+    std::string started;
 };
 
 // Shows the help file that `known` names.
@@ -154,6 +162,7 @@ struct FakeServices {
                 registry,
                 shell,
                 screen,
+                printer,
                 tray,
                 random,
                 settings,
@@ -172,6 +181,7 @@ struct FakeServices {
     MemoryRegistry registry;
     RecordingShell shell;
     PaintedScreen screen;
+    RecordingPrinter printer;
     RecordingTray tray;
     // The seed whose numbers the C++ standard tells.
     system::RandomNumbers random{std::mt19937::default_seed};

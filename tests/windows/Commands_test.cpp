@@ -27,6 +27,7 @@ class CommandWindow : public test::WindowTest {
         picture.Row(0)[0] = 0xFF000000;
         given_.clipboard.Offer(picture);
         given_.desktop.choice = "/none";
+        given_.desktop.printer = services::ChosenPrinter{"", "/a.pdf", 1};
         Icon().FilePath = "/b.ico";
         Icon().Modified = false;
     }
@@ -65,6 +66,8 @@ class CommandWindow : public test::WindowTest {
         }
         const gdi::PaletteColors& colors = Editor().ColorPalette().Colors();
         state << Editor().History().UndoCount() << Editor().Selected().Exists() << colors[0] << " "
+              << colors[1] << given_.clipboard.image->Width() << window_.isVisible() << dialog_
+              << window_.windowTitle().toStdString() << given_.printer.titles;
               << colors[1] << given_.clipboard.image->Width() << VisibleWindows() << dialog_
               << window_.windowTitle().toStdString();
         for (const auto& box : given_.boxes.shown)
