@@ -1,9 +1,11 @@
 // Writes the program's artwork as the files that a desktop and the help want:
 // make_artwork <folder for icons> <folder for pictures>, both existing.
 
+#include <QApplication>
 #include <QImage>
 #include <cstdio>
 
+#include "desktop/LibraryTranslator.h"
 #include "desktop/Pictures.h"
 #include "document/ApplicationIcon.h"
 #include "formats/IcoFile.h"
@@ -13,6 +15,7 @@
 #include "resources/ImageList.h"
 #include "resources/ToolStrip.h"
 #include "resources/WellPictures.h"
+#include "tools/WindowPictures.h"
 #include "resources/ZoomPictures.h"
 #include "tools/Magnifier.h"
 #include "tools/MagnifierSettings.h"
@@ -100,6 +103,9 @@ bool WriteHelpPictures(const std::string& folder) {
     bool written = WritePictures(folder, "", {kImageList, kImageListInks});
     written = WritePictures(folder, "tool-", {kToolStrip, kImageListInks}) && written;
     written = WritePictures(folder, "well-", {kWellPictures, kImageListInks}) && written;
+    for (const auto& [name, picture] : artwork::WindowPictures())
+        written = Save(picture, folder + "/" + name + ".png") && written;
+    return written;
     written = WritePictures(folder, "zoom-", {kZoomPictures, kImageListInks}) && written;
     return Save(MagnifiedIcon(), folder + "/zoom.png") && written;
 }
@@ -111,6 +117,12 @@ int main(int argc, char* argv[]) {
         std::fputs("Usage: make_artwork <folder for icons> <folder for pictures>\n", stderr);
         return 2;
     }
+    // Windows are drawn, but on no screen.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    desktop::LibraryTranslator translator;
+    QApplication::installTranslator(&translator);
+    QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
     const bool iconWritten = WriteIcon(argv[1]);
     return WriteHelpPictures(argv[2]) && iconWritten ? 0 : 1;
 }

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QImage>
+#include <map>
+#include <string>
+
+namespace kestrel::artwork {
+
+// Windows as they look in both languages, and a printed page, by the names of their files without
+// ending. Needs a QApplication.
+std::map<std::string, QImage> WindowPictures();
+
+}  // namespace kestrel::artwork
