@@ -104,7 +104,7 @@ bool WriteHelpPictures(const std::string& folder) {
     written = WritePictures(folder, "tool-", {kToolStrip, kImageListInks}) && written;
     written = WritePictures(folder, "well-", {kWellPictures, kImageListInks}) && written;
     for (const auto& [name, picture] : artwork::WindowPictures())
-        written = Save(picture, folder + "/" + name + ".png") && written;
+        written = Save(picture, std::string(folder).append("/").append(name) + ".png") && written;
     return written;
     written = WritePictures(folder, "zoom-", {kZoomPictures, kImageListInks}) && written;
     return Save(MagnifiedIcon(), folder + "/zoom.png") && written;

@@ -31,8 +31,9 @@ struct Layer {
 struct StateRow {
     i18n::Text label;
     // How the label is drawn, from the lowest layer.
-    std::vector<Layer> (*labelLayers)(const StateColors& colors);
-    void (*drawIcon)(gdi::Surface& ground, const gdi::IconPlanes& icon, const StateColors& colors);
+    std::vector<Layer> (*labelLayers)(const StateColors& colors) = nullptr;
+    void (*drawIcon)(gdi::Surface& ground, const gdi::IconPlanes& icon,
+                     const StateColors& colors) = nullptr;
 };
 
 // From left to right.

@@ -11,7 +11,7 @@ namespace kestrel::tools {
 namespace {
 
 struct Viewer {
-    const char* program;
+    const char* program = nullptr;
     const char* argument = nullptr;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/Pictures.h"
 #include "desktop/Text.h"
@@ -55,9 +56,9 @@ QImage TextPicture(const QString& text, const QFont& font, QColor color, qreal r
 
 }  // namespace
 
-frmDrawState::frmDrawState(QWidget* owner, const gdi::IconPlanes& icon)
+frmDrawState::frmDrawState(QWidget* owner, gdi::IconPlanes icon)
     : QDialog(owner),
-      icon_(icon),
+      icon_(std::move(icon)),
       picCut_(new widgets::SurfaceWidget(this)),
       CmdClose_(new QPushButton(this)) {
     widgets::DressDialog(*this, {});

@@ -13,7 +13,7 @@ namespace kestrel::windows {
 // desktop's colours and the language.
 class frmDrawState : public QDialog {
   public:
-    frmDrawState(QWidget* owner, const gdi::IconPlanes& icon);
+    frmDrawState(QWidget* owner, gdi::IconPlanes icon);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
