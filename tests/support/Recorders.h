@@ -98,33 +98,27 @@ class MemoryClipboard : public services::Clipboard {
     std::optional<gdi::Surface> image;
 };
 
-// A printer that keeps what it prints; with `error` set it fails after that.
+// A printer that notes what it prints: rectangles as "left,top widthxheight color, " in hexadecimal
+// colours, and titles.
 class RecordingPrinter : public services::Printer {
   public:
-    struct Filled {
-        gdi::Rect area;
-        gdi::COLORREF color;
-        bool operator==(const Filled&) const = default;
-    };
-
     bool IsInstalled() const override { return installed; }
-    void SetOrientation(services::Orientation chosen) override { orientation = chosen; }
+    void SetOrientation(services::Orientation /*orientation*/) override {}
     gdi::Size PrintableArea() const override { return page; }
     void FillRectangle(gdi::Rect area, gdi::COLORREF color) override {
-        filled.push_back({area, color});
+        std::ostringstream text;
+        text << area.left << ',' << area.top << ' ' << area.width << 'x' << area.height << ' '
+             << std::hex << color << ", ";
+        printed += text.str();
     }
     Result<void> EndDocument(const std::string& title) override {
-        titles += title + ' ';
-        if (error.number != 0) return Fail(error.number, error.description);
+        printed += title + ' ';
         return {};
     }
 
     bool installed = true;
     gdi::Size page{320, 400};
-    std::optional<services::Orientation> orientation;
-    std::vector<Filled> filled;
-    std::string titles;
-    Error error;
+    std::string printed;
 };
 
 // A disk in memory that tells files by their size; with `writeError` set every write fails with it.

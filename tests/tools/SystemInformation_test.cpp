@@ -7,35 +7,31 @@
 namespace kestrel::tools {
 namespace {
 
-using namespace std::string_literals;
-
 TEST(SystemInformation, StartsTheFirstProgramOfItsPlaces) {
-    constexpr char kNone[] = "System Information Is Unavailable At This Time";
-    const std::string longest(1023, 'x');
-    const struct {
-        std::optional<std::string> path, folder;
-        std::string installed, started;
-    } kRows[] = {
-        {"/a.exe\0b"s, "/m", "/a.exe /m\\MSINFO32.EXE hardinfo ", "/a.exe"},
-        {"/a.exe", "/m", "/m\\MSINFO32.EXE hardinfo ", kNone},
-        {{}, "/m", "/m\\MSINFO32.EXE hardinfo ", "/m\\MSINFO32.EXE"},
-        {{}, "/n", "/n\\MSINFO32.EXE hardinfo ", kNone},
-        {longest, {}, longest + " hardinfo ", longest},
-        {longest + "x", {}, longest + "x hardinfo ", "hardinfo"},
-        {{}, {}, "gnome-control-center xfce4-about ", "gnome-control-center info-overview"},
-        {{}, {}, "", kNone},
+    const std::string none = "System Information Is Unavailable At This Time";
+    const std::string program = "/m\\MSINFO32.EXE", longest(1023, 'x');
+    // The two values of the registry, '-' for none; what is installed; what is started or said.
+    const std::string rows[][4] = {
+        {std::string("/a\0b", 4), "/m", "/a hardinfo ", "/a"},
+        {"/gone", "/m", program + " hardinfo ", none},
+        {"-", "/m", program + " hardinfo ", program},
+        {"-", "/n", "/n\\MSINFO32.EXE hardinfo ", none},
+        {longest, "-", longest + " hardinfo ", longest},
+        {longest + "x", "-", longest + "x hardinfo ", "hardinfo"},
+        {"-", "-", "gnome-control-center xfce4-about ", "gnome-control-center info-overview"},
+        {"-", "-", "", none},
     };
-    for (const auto& row : kRows) {
+    for (const auto& [path, folder, installed, expected] : rows) {
         test::FakeServices given;
-        given.files.contents["/m\\MSINFO32.EXE"] = {};
-        given.shell.installed = row.installed;
-        auto& values = given.registry.values;
-        if (row.path) values["HKLM\\SOFTWARE\\Microsoft\\Shared Tools\\MSINFO"]["PATH"] = *row.path;
-        if (row.folder)
-            values["HKLM\\SOFTWARE\\Microsoft\\Shared Tools Location"]["MSINFO"] = *row.folder;
+        given.files.contents[program] = {};
+        given.shell.installed = installed;
+        const std::string key = "HKLM\\SOFTWARE\\Microsoft\\Shared Tools";
+        if (path != "-") given.registry.values[key + "\\MSINFO"]["PATH"] = path;
+        if (folder != "-") given.registry.values[key + " Location"]["MSINFO"] = folder;
         SystemInformation(given.registry, given.files, given.shell, given.boxes).Start();
-        EXPECT_EQ(given.boxes.shown.empty() ? given.shell.started : given.boxes.shown[0].text,
-                  row.started);
+        for (const auto& box : given.boxes.shown)
+            given.shell.started += box.text;
+        EXPECT_EQ(given.shell.started, expected);
     }
 }
 
