@@ -15,10 +15,10 @@
 #include "resources/ImageList.h"
 #include "resources/ToolStrip.h"
 #include "resources/WellPictures.h"
-#include "tools/WindowPictures.h"
 #include "resources/ZoomPictures.h"
 #include "tools/Magnifier.h"
 #include "tools/MagnifierSettings.h"
+#include "tools/WindowPictures.h"
 
 namespace {
 
@@ -103,10 +103,9 @@ bool WriteHelpPictures(const std::string& folder) {
     bool written = WritePictures(folder, "", {kImageList, kImageListInks});
     written = WritePictures(folder, "tool-", {kToolStrip, kImageListInks}) && written;
     written = WritePictures(folder, "well-", {kWellPictures, kImageListInks}) && written;
+    written = WritePictures(folder, "zoom-", {kZoomPictures, kImageListInks}) && written;
     for (const auto& [name, picture] : artwork::WindowPictures())
         written = Save(picture, std::string(folder).append("/").append(name) + ".png") && written;
-    return written;
-    written = WritePictures(folder, "zoom-", {kZoomPictures, kImageListInks}) && written;
     return Save(MagnifiedIcon(), folder + "/zoom.png") && written;
 }
 

@@ -4,8 +4,7 @@
 
 # To build and run the program, with or without a display.
 kRunPackages=(
-    g++ cmake ninja-build qt6-base-dev libpng-dev libcups2-dev libexpected-dev libxcb1-dev
-    libxcb-shm0-dev libcli11-dev
+  g++ cmake ninja-build qt6-base-dev libpng-dev libcups2-dev libexpected-dev libxcb1-dev libxcb-shm0-dev libcli11-dev
   qt6-translations-l10n
   xvfb openbox x11-utils xdotool imagemagick fonts-dejavu-core fonts-noto-cjk
 )
@@ -15,8 +14,8 @@ kRunPackages=(
 kTestPackages=(
   "${kRunPackages[@]}"
   clang clang-format clang-tidy libclang-rt-14-dev libgtest-dev libbenchmark-dev
-    xclip icoutils x11-apps cups-daemon cups-client poppler-utils x11-xserver-utils
-    desktop-file-utils shared-mime-info dbus-bin dbus-daemon
+  xclip icoutils x11-apps x11-xserver-utils cups-daemon cups-client poppler-utils
+  desktop-file-utils shared-mime-info dbus-bin dbus-daemon
 )
 
 # RequirePackages <package>...: installs those that are missing. Asks dpkg once and touches the

@@ -111,7 +111,8 @@ int main(int argc, char* argv[]) {
     // programs that are started would inherit that.
     std::signal(SIGXFSZ, [](int /*signal*/) {});
     QApplication application(argc, argv);
-    // The bar stands in the window; asking for a native one would load the session bus at the start.
+    // The bar stands in the window; asking for a native one would load the session bus at the
+    // start.
     QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     // Other windows may be open while the main window is in the tray.
     QApplication::setQuitOnLastWindowClosed(false);
@@ -146,8 +147,7 @@ int main(int argc, char* argv[]) {
     const document::JournalFolder journals(system::StateFolder());
     editing::WorkLog log(system::StateFolder());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
-                              screen, printer, random, settings, folders, facts.systemLcid});
-                              screen, tray, random, settings, log, journals, folders,
+                              screen, printer, tray, random, settings, log, journals, folders,
                               facts.systemLcid});
     const desktop::EndOfSession endOfSession(
         [&window](bool mayAsk) { return window.MayEndSession(mayAsk); });

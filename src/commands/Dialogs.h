@@ -32,7 +32,6 @@ class Dialogs {
     // Lets the user pick a square as large as an icon out of a picture of the screen, which covers
     // the screen meanwhile; none when the user leaves it.
     virtual std::optional<gdi::Surface> PickSquare(gdi::Surface screen) = 0;
-    virtual void ShowAbout() = 0;
 };
 
 }  // namespace kestrel::commands

@@ -35,14 +35,14 @@ bool FrmDialogs::PickIcon(tools::IconExtraction& extraction) {
 
 void FrmDialogs::ShowStates(const gdi::IconPlanes& icon) {
     frmDrawState(&owner_, icon).exec();
+}
+
 std::optional<gdi::Surface> FrmDialogs::PickSquare(gdi::Surface screen) {
     return FrmSnap(screen_, std::move(screen)).Pick();
 }
 
 void FrmDialogs::ShowAbout(tools::SystemInformation& information) {
     frmAbout(&owner_, information).exec();
-void FrmDialogs::ShowAbout() {
-    frmAbout(&owner_).exec();
 }
 
 }  // namespace kestrel::windows

@@ -20,7 +20,6 @@ class FrmDialogs : public commands::Dialogs {
     void ShowStates(const gdi::IconPlanes& icon) override;
     void ShowAbout(tools::SystemInformation& information) override;
     std::optional<gdi::Surface> PickSquare(gdi::Surface screen) override;
-    void ShowAbout() override;
 
   private:
     QWidget& owner_;

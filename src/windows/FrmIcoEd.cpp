@@ -6,8 +6,8 @@
 #include "i18n/Language.h"
 #include "resources/ImageList.h"
 #include "resources/WellPictures.h"
-#include "windows/WindowColor.h"
 #include "tools/MagnifierSettings.h"
+#include "windows/WindowColor.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {

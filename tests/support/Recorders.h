@@ -42,7 +42,6 @@ class AnsweredDialogs : public commands::Dialogs {
     std::optional<gdi::Surface> PickSquare(gdi::Surface /*screen*/) override {
         return std::nullopt;
     }
-    void ShowAbout() override {}
 
     gdi::Surface shown{0, 0};
     std::function<bool(imaging::ColorAdjustment& colors)> adjust;

@@ -153,22 +153,10 @@ class RecordingTray : public services::Tray {
 // All that a main window is given.
 struct FakeServices {
     commands::MainServices Given() {
-        return {application,
-                desktop,
-                clipboard,
-                boxes,
-                help,
-                files,
-                registry,
-                shell,
-                screen,
-                printer,
-                tray,
-                random,
-                settings,
-                log,
-                journals,
-                {"/program", "/windows"},
+        return {application, desktop, clipboard, boxes,
+                help,        files,   registry,  shell,
+                screen,      printer, tray,      random,
+                settings,    log,     journals,  {"/program", "/windows"},
                 1033};
     }
 

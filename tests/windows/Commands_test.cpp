@@ -66,11 +66,8 @@ class CommandWindow : public test::WindowTest {
         }
         const gdi::PaletteColors& colors = Editor().ColorPalette().Colors();
         state << Editor().History().UndoCount() << Editor().Selected().Exists() << colors[0] << " "
-              << colors[1] << given_.clipboard.image->Width() << window_.isVisible() << dialog_
-              << window_.windowTitle().toStdString() << given_.printer.printed;
-              << window_.windowTitle().toStdString() << given_.printer.titles;
               << colors[1] << given_.clipboard.image->Width() << VisibleWindows() << dialog_
-              << window_.windowTitle().toStdString();
+              << window_.windowTitle().toStdString() << given_.printer.printed;
         for (const auto& box : given_.boxes.shown)
             state << box.text;
         for (const auto& [path, bytes] : given_.files.contents)
