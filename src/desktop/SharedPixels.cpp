@@ -12,7 +12,7 @@ SharedPixels::SharedPixels(xcb_connection_t* connection) : connection_(connectio
     if (extension == nullptr || extension->present == 0) return;
     const int id = shmget(IPC_PRIVATE, kSize, IPC_CREAT | S_IRUSR | S_IWUSR);
     if (id < 0) return;
-    if (void* memory = shmat(id, nullptr, 0); memory != reinterpret_cast<void*>(-1)) {
+    if (void* memory = shmat(id, nullptr, 0); reinterpret_cast<std::intptr_t>(memory) != -1) {
         memory_ = static_cast<std::uint8_t*>(memory);
         segment_ = xcb_generate_id(connection);
         const XReply<xcb_generic_error_t> refused(xcb_request_check(

@@ -29,8 +29,8 @@ void SaveSwitch(settings::Settings& settings, std::string_view key, bool on) {
 MagnifierSettings ReadMagnifierSettings(settings::Settings& settings) {
     const std::string zoom = settings.ReadSetting(kSection, "Zoom", "");
     MagnifierSettings chosen;
-    chosen.zoom =
-        WithinBounds(system::LeadingNumber(system::Trimmed(zoom)).value_or(chosen.kUsualZoom));
+    chosen.zoom = WithinBounds(
+        system::LeadingNumber(system::Trimmed(zoom)).value_or(MagnifierSettings::kUsualZoom));
     chosen.grid = ReadSwitch(settings, "Grid");
     chosen.onTop = ReadSwitch(settings, "OnTop");
     return chosen;

@@ -4,7 +4,7 @@ namespace kestrel::windows {
 
 void ShownMagnifier::ShowMagnifier() {
     // A window that was just closed is only about to go.
-    if (window_ != nullptr && window_->isHidden()) delete window_.data();
+    if (window_ != nullptr && window_->isHidden()) Delete();
     if (window_ == nullptr) {
         window_ = new frmZoom(services_);
         window_->setAttribute(Qt::WA_DeleteOnClose);
@@ -13,6 +13,12 @@ void ShownMagnifier::ShowMagnifier() {
     window_->show();
     window_->raise();
     window_->activateWindow();
+}
+
+void ShownMagnifier::Delete() {
+    const frmZoom* const gone = window_;
+    window_.clear();
+    delete gone;
 }
 
 void ShownMagnifier::Rest(bool resting) {

@@ -13,7 +13,7 @@ class ShownMagnifier : public commands::MagnifierWindow {
     explicit ShownMagnifier(const MagnifierServices& services) : services_(services) {}
     ShownMagnifier(const ShownMagnifier&) = delete;
     ShownMagnifier& operator=(const ShownMagnifier&) = delete;
-    ~ShownMagnifier() override { delete window_.data(); }
+    ~ShownMagnifier() override { Delete(); }
 
     void ShowMagnifier() override;
     void Rest(bool resting) override;
@@ -22,6 +22,8 @@ class ShownMagnifier : public commands::MagnifierWindow {
     void Close();
 
   private:
+    void Delete();
+
     MagnifierServices services_;
     QPointer<frmZoom> window_;
 };

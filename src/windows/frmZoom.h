@@ -72,11 +72,11 @@ class frmZoom : public QWidget {
     desktop::XWindowState topmost_{*this, "_NET_WM_STATE_ABOVE"};
     bool resting_ = false;
 
-    widgets::PictureButton* chkGrid_;
-    widgets::PictureButton* chkOnTop_;
-    widgets::PercentBox* txtZoom_;
-    widgets::ValueBar* hsbZoom_;
-    widgets::DevicePixelView* picZoom_;
+    widgets::PictureButton* chkGrid_ = nullptr;
+    widgets::PictureButton* chkOnTop_ = nullptr;
+    widgets::PercentBox* txtZoom_ = nullptr;
+    widgets::ValueBar* hsbZoom_ = nullptr;
+    widgets::DevicePixelView* picZoom_ = nullptr;
     QTimer tmrZoom_;
 };
 

@@ -17,7 +17,7 @@ TEST(Magnifier, TakesWholePixelsAndOneMoreWhereTheyDoNotFillThePicture) {
     struct {
         gdi::Point pointer;
         gdi::Size picture;
-        float factor;
+        float factor = 1;
         Magnification shown;
     } const cases[] = {
         {{100, 100}, {160, 120}, 2, {{60, 70, 80, 60}, {160, 120}}},
