@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 export LC_ALL=C.UTF-8
 tables=(../src/commands/{CommandTable,CommandTable_MenuBar,ModLanguage}.cpp ../src/i18n/{Captions.h,ClassicMenu.cpp} ../src/editing/ToolTable.cpp)
-pictures='(0[1-9]|[123][0-9]|40|tool-(0[1-9]|1[0-2])|well-0[1-5]|zoom(-0[12])?|filters/(original|mnu[A-Za-z0-9]+)|page|(states|about)-(ENG|CHS))'
+pictures='(0[1-9]|[123][0-9]|40|tool-(0[1-9]|1[0-2])|well-0[1-5]|zoom(-0[12])?|capture|filters/(original|mnu[A-Za-z0-9]+)|page|(states|about)-(ENG|CHS))'
 fault=0
 Fault() { echo "help/$*" >&2; fault=1; }
 

@@ -16,6 +16,7 @@
 #include "resources/ToolStrip.h"
 #include "resources/WellPictures.h"
 #include "resources/ZoomPictures.h"
+#include "tools/Capture.h"
 #include "tools/Magnifier.h"
 #include "tools/MagnifierSettings.h"
 #include "tools/WindowPictures.h"
@@ -98,6 +99,29 @@ QImage MagnifiedIcon() {
     return desktop::ToImage(picture, picture.Bounds());
 }
 
+// A corner of a desktop while one picks the program's icon from it.
+bool WritePicking(const std::string& file) {
+    constexpr gdi::Size kScreen{640, 480};
+    constexpr gdi::Rect kShown{0, 0, 400, 300};
+    constexpr int kCell = 50;
+    constexpr int kMargin = 17;
+    constexpr gdi::COLORREF kWallpaper = gdi::Rgb(0x5B, 0x7F, 0xA6);
+    gdi::Surface desktop(kScreen.width, kScreen.height, kWallpaper);
+    const controls::ImageList list(resources::kImageList, resources::kImageListInks);
+    int number = 0;
+    for (int y = kMargin; y < kShown.height; y += kCell) {
+        for (int x = kMargin; x < kShown.width; x += kCell)
+            gdi::DrawOver(desktop, {x, y, 16, 16}, list.Picture(number++ % list.Count() + 1));
+    }
+    const gdi::Point picked{2 * kCell + kMargin - 8, kMargin - 8};
+    gdi::PatBlt(desktop, {picked.x, picked.y, gdi::kIconSize, gdi::kIconSize}, kWallpaper);
+    gdi::DrawOver(desktop, {picked.x, picked.y, gdi::kIconSize, gdi::kIconSize},
+                  document::ApplicationIcon());
+    tools::Capture capture(desktop, {});
+    capture.PointAt(picked);
+    return Save(desktop::ToImage(capture.Shown(kShown), kShown), file);
+}
+
 bool WriteHelpPictures(const std::string& folder) {
     using namespace resources;
     bool written = WritePictures(folder, "", {kImageList, kImageListInks});
@@ -106,6 +130,7 @@ bool WriteHelpPictures(const std::string& folder) {
     written = WritePictures(folder, "zoom-", {kZoomPictures, kImageListInks}) && written;
     for (const auto& [name, picture] : artwork::WindowPictures())
         written = Save(picture, std::string(folder).append("/").append(name) + ".png") && written;
+    written = WritePicking(folder + "/capture.png") && written;
     return Save(MagnifiedIcon(), folder + "/zoom.png") && written;
 }
 
