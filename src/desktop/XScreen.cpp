@@ -1,5 +1,7 @@
 #include "desktop/XScreen.h"
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <algorithm>
 #include <cstring>
 #include <string_view>
@@ -19,6 +21,15 @@ constexpr std::uint8_t kEventBits = 0x7F;
 
 const xcb_screen_t& ScreenOf(xcb_connection_t* connection) {
     return *xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+}
+
+// Xwayland shows X programs on a Wayland desktop. Its own screen stays black; its monitors bear its
+// name.
+bool IsGuest() {
+    const QList<QScreen*> monitors = QGuiApplication::screens();
+    return std::ranges::any_of(monitors, [](const QScreen* monitor) {
+        return monitor->name().startsWith(QLatin1String("XWAYLAND"));
+    });
 }
 
 struct Disconnect {
@@ -141,7 +152,7 @@ XScreen::XScreen() = default;
 XScreen::~XScreen() = default;
 
 bool XScreen::IsSeen() const {
-    return XConnection() != nullptr;
+    return XConnection() != nullptr && !IsGuest();
 }
 
 XScreen::Link* XScreen::Linked() const {

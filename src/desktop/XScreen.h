@@ -6,8 +6,8 @@
 
 namespace kestrel::desktop {
 
-// The screen of an X display. On any other desktop no program sees it, and a picture of it comes
-// from the desktop's portal.
+// The screen of an X display. On any other desktop no program sees it, nor where the display is a
+// guest of such a desktop; there a picture of it comes from the desktop's portal.
 class XScreen : public services::Screen {
   public:
     XScreen();

@@ -77,7 +77,8 @@ void FrmSnap::CoverMonitors() {
         window.onClick = [this] { Take(); };
         window.onKey = [this](int key) { PressKey(key); };
         window.onGone = [this] { loop_.quit(); };
-        window.Cover();
+        // Where programs do not see the screen, the desktop shows no windows that it does not know.
+        screen_.IsSeen() ? window.CoverUnmanaged() : window.CoverManaged();
     }
 }
 

@@ -9,7 +9,6 @@
 
 #include "desktop/Pictures.h"
 #include "desktop/Text.h"
-#include "desktop/XConnection.h"
 #include "i18n/Captions.h"
 
 namespace kestrel::widgets {
@@ -34,22 +33,26 @@ FrozenMonitor::FrozenMonitor(const tools::Capture& capture, gdi::Rect part, QScr
     setCursor(Qt::BlankCursor);
 }
 
-// A window manager would keep the window off its panels, and move it. Other desktops have no
-// windows that it does not manage.
-void FrozenMonitor::Cover() {
-    const bool unmanaged = desktop::XConnection() != nullptr;
-    setWindowFlags(unmanaged ? Qt::Window | Qt::X11BypassWindowManagerHint : Qt::Window);
+// A window manager would keep the window off its panels, and move it.
+void FrozenMonitor::CoverUnmanaged() {
+    setWindowFlags(Qt::Window | Qt::X11BypassWindowManagerHint);
+    PutOnMonitor();
+    show();
+    raise();
+    activateWindow();
+    windowHandle()->installEventFilter(this);
+}
+
+void FrozenMonitor::CoverManaged() {
+    PutOnMonitor();
+    showFullScreen();
+    activateWindow();
+}
+
+void FrozenMonitor::PutOnMonitor() {
     setScreen(monitor_);
     // A unit more each way covers what a scale that is no whole number leaves.
     setGeometry(monitor_->geometry().adjusted(0, 0, 1, 1));
-    if (unmanaged) {
-        show();
-        raise();
-        windowHandle()->installEventFilter(this);
-    } else {
-        showFullScreen();
-    }
-    activateWindow();
 }
 
 double FrozenMonitor::Pixels() const {
@@ -88,13 +91,16 @@ void FrozenMonitor::paintEvent(QPaintEvent* event) {
     }
 }
 
-// The desktop library rounds points to units; those in the scene are exact.
+// The desktop library rounds points to units; those in the scene are exact. Where the pointer has
+// not moved, keys may have moved the square since.
 void FrozenMonitor::PointAt(QPointF unit) {
+    if (unit == pointer_) return;
+    pointer_ = unit;
+    // Wayland cuts points to so much of a unit: a pixel's edge must not fall to its neighbour.
+    constexpr double kCut = 1.0 / 256;
     const double pixels = Pixels();
-    // A pixel's own edge must not fall to its neighbour.
-    constexpr double kTiny = 1e-6;
-    onPointer({part_.left + static_cast<int>(std::floor(unit.x() * pixels + kTiny)),
-               part_.top + static_cast<int>(std::floor(unit.y() * pixels + kTiny))});
+    onPointer({part_.left + static_cast<int>(std::floor((unit.x() + kCut) * pixels)),
+               part_.top + static_cast<int>(std::floor((unit.y() + kCut) * pixels))});
 }
 
 void FrozenMonitor::enterEvent(QEnterEvent* event) {

@@ -14,7 +14,9 @@ class FrozenMonitor : public QWidget {
     // `part` is the monitor's part of the picture, which outlives the window.
     FrozenMonitor(const tools::Capture& capture, gdi::Rect part, QScreen* monitor);
 
-    void Cover();
+    // In front of all, beside the window manager, or as a full-screen window of its.
+    void CoverUnmanaged();
+    void CoverManaged();
     // These pixels changed.
     void Repaint(gdi::Rect area);
 
@@ -36,6 +38,7 @@ class FrozenMonitor : public QWidget {
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
+    void PutOnMonitor();
     void PointAt(QPointF unit);
     // Of the picture for one unit of the window.
     double Pixels() const;
@@ -43,6 +46,8 @@ class FrozenMonitor : public QWidget {
     const tools::Capture& capture_;
     gdi::Rect part_;
     QScreen* monitor_;
+    // Where it was last, in units; at first outside.
+    QPointF pointer_{-1, -1};
     bool pressed_ = false;
 };
 
