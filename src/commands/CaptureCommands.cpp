@@ -34,17 +34,21 @@ CaptureCommands::CaptureCommands(editing::Editor& editor, const CaptureParts& pa
 void CaptureCommands::Capture() {
     parts_.magnifier.Rest(true);
     LeaveScreen();
-    Result<gdi::Surface> picture = parts_.screen.Picture();
-    std::optional<gdi::Surface> square;
-    if (picture) square = parts_.dialogs.PickSquare(*std::move(picture));
-    if (square) Take(*square);
+    const Result<void> picked = Pick();
     parts_.window.ComeBack();
     parts_.magnifier.Rest(false);
-    if (!picture) {
-        const bool refused = picture.error().number == services::kScreenRefused;
-        ShowError(parts_.boxes,
-                  std::string((refused ? i18n::kScreenRefused : i18n::kNoScreenPictures).Now()));
-    }
+    if (picked) return;
+    const bool refused = picked.error().number == services::kScreenRefused;
+    const i18n::Text& text = refused ? i18n::kScreenRefused : i18n::kNoScreenPictures;
+    ShowError(parts_.boxes, std::string(text.Now()));
+}
+
+Result<void> CaptureCommands::Pick() {
+    Result<gdi::Surface> picture = parts_.screen.Picture();
+    if (!picture) return tl::unexpected(picture.error());
+    const std::optional<gdi::Surface> square = parts_.dialogs.PickSquare(*std::move(picture));
+    if (square) Take(*square);
+    return {};
 }
 
 void CaptureCommands::LeaveScreen() {

@@ -31,6 +31,8 @@ class CaptureCommands {
 
   private:
     void LeaveScreen();
+    // Fails when there is no picture of the screen.
+    Result<void> Pick();
     void Take(const gdi::Surface& square);
 
     editing::Editor& editor_;

@@ -26,7 +26,7 @@ class FakePortal : public QDBusVirtualObject {
     QString introspect(const QString& /*path*/) const override { return {}; }
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override {
         if (call.member() != "Screenshot") return false;
-        const QVariantMap options = qdbus_cast<QVariantMap>(call.arguments().at(1));
+        const auto options = qdbus_cast<QVariantMap>(call.arguments().at(1));
         asked = options.value("interactive").toBool() ? "a window" : "at once";
         const QString path = "/org/freedesktop/portal/desktop/request/" +
                              call.service().mid(1).replace('.', '_') + '/' +
