@@ -124,7 +124,8 @@ void FrmSnap::PressKey(int key) {
 }
 
 void FrmSnap::Take() {
-    taken_ = capture_.Square();
+    // What comes after it in the same breath counts no more.
+    if (!taken_) taken_ = capture_.Square();
     loop_.quit();
 }
 

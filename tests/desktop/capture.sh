@@ -55,6 +55,7 @@ ExpectSquare 992 568 "$wall"
 Freeze
 xdotool mousemove 0 767
 sleep 0.1
+[[ $(xdotool getmouselocation) == 'x:0 y:736 '* ]] || Fail 'the pointer goes where no square begins'
 import -silent -window root "$scratch/picking.png"
 EndsWith key Right Right Left Return
 ExpectSquare 1 736 "$wall"

@@ -25,6 +25,8 @@ class FrmSnapTest : public test::WindowTest {
         Editor().PopUndoSnapshot();
         Icon().Modified = false;
     }
+    // Windows of later tests must not lie under the pointer.
+    ~FrmSnapTest() override { QCursor::setPos(0, 0); }
     static gdi::COLORREF ColorAt(int x, int y) {
         return kFirstColor + static_cast<gdi::COLORREF>(x + 1000 * y);
     }
