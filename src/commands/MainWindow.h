@@ -36,6 +36,7 @@ class MainControls : public CaptionedWindow {
 class TaskListWindow {
   public:
     virtual ~TaskListWindow() = default;
+    virtual bool IsShown() const = 0;
     virtual void Hide() = 0;
     // In its normal state, not minimised.
     virtual void ShowNormal() = 0;

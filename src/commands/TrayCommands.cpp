@@ -14,7 +14,12 @@ TrayCommands::TrayCommands(const MainParts& parts, services::Tray& tray, system:
       tray_(tray),
       trayImage_(folders.windows + "/kestrel.ico"),
       sysTray_(taskWindow_, tray, files, boxes) {
-    tray_.onHostGone = [this] { sysTray_.Restore(); };
+    // A window that is shown keeps its place among the others.
+    tray_.onHostGone = [this] {
+        if (!taskWindow_.IsShown()) return sysTray_.Restore();
+        taskWindow_.ShowInTaskList(true);
+        sysTray_.RemoveFromSysTray();
+    };
 }
 
 TrayCommands::~TrayCommands() {

@@ -39,6 +39,8 @@ FrmIcoEd::FrmIcoEd(const commands::MainServices& services)
 
 FrmIcoEd::~FrmIcoEd() {
     editor_.EndGesture();
+    // Also where the program ends on a signal: it keeps its settings.
+    magnifier_.Close();
     clipboard_.onChanged = nullptr;
     tray_.onMenu = nullptr;
     // Hidden first: no event must reach panes whose editor is gone.

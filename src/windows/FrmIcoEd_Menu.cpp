@@ -14,6 +14,7 @@ namespace kestrel::windows {
 namespace {
 
 constexpr std::string_view kPopupRoot = "mnuEdit";
+constexpr std::string_view kRestore = "mnuRestore";
 
 // A drag ends at the grid's corner before a capture, and where it is before other commands.
 constexpr std::string_view kCaptureKeys[] = {"mnuToolsOpts0", "Capture"};
@@ -30,10 +31,15 @@ void FrmIcoEd::BuildMenus() {
         RunRow(commands::PopupRows(), key);
     };
     barView_.FillBar(*menuBar_);
-    tray_.onMenu = [this](std::string_view key) { RunRow(commands::TrayRows(), key); };
-    // A dialog that waits would be left behind alone.
+    tray_.onMenu = [this](std::string_view key) {
+        // The window comes back also while a dialog waits; nothing else is done then.
+        if (key == kRestore) return commands_.Click(commands::TrayRows(), key);
+        RunRow(commands::TrayRows(), key);
+    };
+    // A dialog that waits would be left behind alone, and its window has to be found again.
     task_.onMinimised = [this] {
-        if (!runner_.IsRunning()) commands_.tray.WindowMinimised();
+        if (runner_.IsRunning()) return task_.ShowInTaskList(true);
+        commands_.tray.WindowMinimised();
     };
 }
 

@@ -25,8 +25,12 @@ void TaskWindow::ShowInTaskList(bool shown) {
 }
 
 bool TaskWindow::eventFilter(QObject* /*object*/, QEvent* event) {
-    // Window managers forget the state of a window that is hidden.
-    if (event->type() == QEvent::Show && !isListed_) ShowInTaskList(false);
+    // Window managers forget the state of a window that is hidden, and hear of a window that comes
+    // back only after this event.
+    if (event->type() == QEvent::Show && !isListed_) {
+        QMetaObject::invokeMethod(
+            this, [this] { ShowInTaskList(isListed_); }, Qt::QueuedConnection);
+    }
     if (event->type() == QEvent::WindowStateChange && window_.isMinimized() && onMinimised)
         QMetaObject::invokeMethod(
             this, [this] { onMinimised(); }, Qt::QueuedConnection);

@@ -13,6 +13,7 @@ class TaskWindow : public QObject, public commands::TaskListWindow {
   public:
     explicit TaskWindow(QWidget& window);
 
+    bool IsShown() const override { return window_.isVisible(); }
     void Hide() override;
     void ShowNormal() override;
     void ShowInTaskList(bool shown) override;

@@ -141,6 +141,8 @@ void frmZoom::Form_Load() {
 }
 
 void frmZoom::Form_Unload() {
+    // A number that is being typed counts.
+    if (txtZoom_->hasFocus()) txtZoom_LostFocus();
     SaveWindowPosition(services_.settings, place_);
     tools::SaveMagnifierSettings(
         services_.settings, {hsbZoom_->value(), chkGrid_->isChecked(), chkOnTop_->isChecked()});

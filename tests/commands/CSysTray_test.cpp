@@ -12,6 +12,7 @@ using services::TrayMessage;
 
 class NotedWindow : public TaskListWindow {
   public:
+    bool IsShown() const override { return !hidden; }
     void Hide() override { hidden = true; }
     void ShowNormal() override { hidden = false; }
     void ShowInTaskList(bool shown) override { listed = shown; }

@@ -53,6 +53,13 @@ Expect listed
 Quit
 StartEditor '* - Untitled'
 Expect unlisted
+# A window that was away for a capture is still off the list.
+Press ctrl+q
+WaitFor "$kPatience" xdotool search --onlyvisible --name 'Capture Image' >/dev/null ||
+    Fail "no picking window"
+Press Escape
+WaitForWindow '* - Untitled'
+Expect unlisted
 Kill "$host"
 Expect listed
 Quit
