@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPrintDialog>
@@ -133,6 +134,9 @@ class PrinterDialog : public QPrintDialog {
         for (const char* name : {"gbPrintRange", "reverse", "duplex"}) {
             if (auto* choice = findChild<QWidget*>(QLatin1String(name))) choice->hide();
         }
+        // Completing a name opens the files beside it, which can take for ever.
+        if (auto* file = findChild<QLineEdit*>(QStringLiteral("filename")))
+            file->setCompleter(nullptr);
     }
 
     Silence& silence_;

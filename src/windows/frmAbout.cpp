@@ -86,6 +86,9 @@ QWidget* frmAbout::NewButtons(tools::SystemInformation& information) {
     auto* cmdSysInfo =
         buttons->addButton(ToText(i18n::kSystemInfo.Now()), QDialogButtonBox::ResetRole);
     cmdSysInfo->setObjectName("cmdSysInfo");
+    // Return closes the box.
+    cmdSysInfo->setAutoDefault(false);
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     connect(cmdSysInfo, &QPushButton::clicked, this, [&information] { information.Start(); });
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     return buttons;
