@@ -21,6 +21,8 @@ constexpr int kPatience = 60'000;  // milliseconds
 }  // namespace
 
 std::optional<QUrl> PortalRequest::AskForScreenshot() {
+    // Calls would have no end.
+    if (!bus_.isConnected()) return std::nullopt;
     const QString token = QStringLiteral("kestrel%1").arg(QRandomGenerator::global()->generate());
     // Listened to before it is asked: the answer may be there at once.
     Listen(ObjectNamed(token));

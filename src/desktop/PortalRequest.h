@@ -7,15 +7,18 @@
 #include <QUrl>
 #include <QVariantMap>
 #include <optional>
+#include <utility>
 
 namespace kestrel::desktop {
 
-// One question to the desktop's portal on the session bus. The answer comes as a signal of an
-// object of its own.
+// One question to the desktop's portal on the session bus, which may be none. The answer comes as a
+// signal of an object of its own.
 class PortalRequest : public QObject {
     Q_OBJECT
 
   public:
+    explicit PortalRequest(QDBusConnection sessionBus) : bus_(std::move(sessionBus)) {}
+
     // Asks for a picture of the screen, and waits for it. Where the picture is; empty when it was
     // refused, nothing when no portal answers.
     std::optional<QUrl> AskForScreenshot();
@@ -28,7 +31,7 @@ class PortalRequest : public QObject {
     // A slot by name is the one way to hear of a signal of the bus.
     Q_SLOT void Response(uint code, const QVariantMap& results);
 
-    QDBusConnection bus_ = QDBusConnection::sessionBus();
+    QDBusConnection bus_;
     QEventLoop loop_;
     QString object_;
     std::optional<QUrl> answer_;

@@ -26,8 +26,8 @@ gdi::Surface ToSurface(const QImage& picture) {
 
 }  // namespace
 
-Result<gdi::Surface> PictureFromPortal() {
-    const std::optional<QUrl> answer = PortalRequest().AskForScreenshot();
+Result<gdi::Surface> PictureFromPortal(const QDBusConnection& sessionBus) {
+    const std::optional<QUrl> answer = PortalRequest(sessionBus).AskForScreenshot();
     if (!answer) return Fail(services::kNoScreenPictures, "No screenshot portal answers");
     const QString file = answer->toLocalFile();
     const QImage picture = file.isEmpty() ? QImage() : QImage(file);

@@ -183,7 +183,7 @@ void XScreen::MovePointer(gdi::Point to) {
 }
 
 Result<gdi::Surface> XScreen::Picture() {
-    if (!IsSeen()) return PictureFromPortal();
+    if (!IsSeen()) return PictureFromPortal(QDBusConnection::sessionBus());
     const gdi::Size size = Size();
     gdi::Surface picture(size.width, size.height);
     if (!Copy({0, 0}, picture))

@@ -94,6 +94,14 @@ class RecordingHelp : public services::HelpViewer {
     std::string shownTitle;
 };
 
+// A picture in which each pixel has its number as its colour.
+inline gdi::Surface Numbered(int width, int height) {
+    gdi::Surface picture(width, height);
+    for (int i = 0; i < width * height; ++i)
+        picture.SetPixel(i % width, i / width, static_cast<gdi::COLORREF>(i));
+    return picture;
+}
+
 // A screen that shows what a test painted; nothing lies on it at first.
 class PaintedScreen : public services::Screen {
   public:

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/Services.h"
 #include "tools/ScreenSettling.h"
 
 namespace kestrel::tools {
@@ -9,19 +10,8 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Each pixel has a colour of its own.
-gdi::Surface Numbered(int width, int height) {
-    gdi::Surface picture(width, height);
-    gdi::COLORREF number = 0x10000;
-    for (int y = 0; y < height; ++y) {
-        for (gdi::COLORREF& pixel : picture.Row(y))
-            pixel = number++;
-    }
-    return picture;
-}
-
 TEST(Capture, TheSquareAlwaysLiesOnTheMonitors) {
-    Capture capture(Numbered(300, 200), {{{0, 0, 180, 200}}, {{180, 50, 120, 100}}});
+    Capture capture(test::Numbered(300, 200), {{{0, 0, 180, 200}}, {{180, 50, 120, 100}}});
     EXPECT_EQ(capture.Corners(), (gdi::Rect{0, 0, 269, 169}));
     const struct {
         gdi::Point pointer, corner;
@@ -33,37 +23,33 @@ TEST(Capture, TheSquareAlwaysLiesOnTheMonitors) {
         EXPECT_EQ(capture.Corner(), corner) << pointer.x << ", " << pointer.y;
     }
     capture.MoveBy(-1, -2);
-    EXPECT_EQ(capture.Square().GetPixel(31, 1), 0x10000U + 117 * 300 + 298);
+    EXPECT_EQ(capture.Square().GetPixel(31, 1), 117U * 300 + 298);
 }
 
 TEST(Capture, FrameAndLoupeLeaveTheSquareAloneAndShowItsPixels) {
-    const gdi::Surface picture = Numbered(700, 500);
-    for (const Monitor& monitor : {Monitor{{0, 0, 700, 500}, 1}, Monitor{{20, 10, 640, 480}, 2}}) {
-        Capture capture(picture, {monitor});
+    const gdi::Surface picture = test::Numbered(700, 500);
+    for (const auto& [on, line] : {Monitor{{0, 0, 700, 500}, 1}, Monitor{{20, 10, 640, 480}, 2}}) {
+        Capture capture(picture, {{on, line}});
         for (int at = 0; at < 700; at += 9) {
             capture.PointAt({at, (at * 7) % 500});
             const auto [frame, loupe] = capture.Marks();
-            const gdi::Point corner = capture.Corner();
-            const gdi::Rect& on = monitor.area;
-            ASSERT_TRUE(loupe.left >= on.left && loupe.left + loupe.width <= on.left + on.width);
+            const auto [x, y] = capture.Corner();
+            const int right = loupe.left + loupe.width;
+            ASSERT_TRUE(loupe.left >= on.left && right <= on.left + on.width);
             ASSERT_TRUE(loupe.top >= on.top && loupe.top + loupe.height <= on.top + on.height);
-            ASSERT_TRUE(loupe.left > frame.left + frame.width ||
-                        loupe.left + loupe.width < frame.left);
-            const gdi::Surface shown = capture.Shown({frame.left, frame.top, 40, 40});
-            const int line = corner.x - frame.left;
-            ASSERT_EQ(line, 3 * monitor.scale);
-            ASSERT_EQ(shown.GetPixel(line, line), picture.GetPixel(corner.x, corner.y));
-            ASSERT_EQ(shown.GetPixel(line - 1, line), gdi::kBlack);
-            ASSERT_EQ(shown.GetPixel(line, line / 2), gdi::kWhite);
-            const gdi::Surface enlarged = capture.Shown(loupe);
+            ASSERT_TRUE(loupe.left > frame.left + frame.width || right < frame.left);
+            const gdi::Surface shown = capture.Shown({x - 2 * line, y - 1, 34, 33});
+            ASSERT_EQ(shown.GetPixel(0, 1), gdi::kWhite);
+            ASSERT_EQ(shown.GetPixel(2 * line - 1, 1), gdi::kBlack);
+            ASSERT_EQ(shown.GetPixel(2 * line, 1), picture.GetPixel(x, y));
             // Two edges, 32 pixels, three lines between blocks of eight.
-            const int side = (loupe.width - 9 * monitor.scale) / 32;
-            ASSERT_EQ(loupe.width, 9 * monitor.scale + 32 * side);
+            const int side = (loupe.width - 9 * line) / 32;
+            const gdi::Surface enlarged = capture.Shown(loupe);
             for (int i = 0; i < 32; ++i) {
-                const int x = line + i * side + i / 8 * monitor.scale;
-                const gdi::COLORREF color = picture.GetPixel(corner.x + i, corner.y + 31);
-                ASSERT_EQ(enlarged.GetPixel(x, loupe.height - line - 1), color);
-                ASSERT_EQ(enlarged.GetPixel(x + side - 1, loupe.height - line - side), color);
+                const int left = 3 * line + i * side + i / 8 * line;
+                for (const int of : {left, left + side - 1})
+                    ASSERT_EQ(enlarged.GetPixel(of, loupe.height - 3 * line - side),
+                              picture.GetPixel(x + i, y + 31));
             }
         }
     }
