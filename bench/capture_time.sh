@@ -50,7 +50,7 @@ Watch() { ("${@:2}" || true) 2>/dev/null | cut -d' ' -f1 >>"$scratch/$1.times"; 
 for ((round = 0; round < rounds; ++round)); do
     xdotool mousemove 300 200
     sleep 0.3
-    Watch picking "$bin/pixel_watch" "${frame[@]}" xdotool key ctrl+q
+    Watch picking "$bin/pixel_watch" "${frame[@]}" xdotool key --delay 0 ctrl+q
     sleep 0.3
     Watch icon "$bin/pixel_watch" "${cell[@]}" "$shown" xdotool click 1
     sleep 0.3

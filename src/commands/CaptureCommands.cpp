@@ -33,7 +33,6 @@ CaptureCommands::CaptureCommands(editing::Editor& editor, const CaptureParts& pa
 
 void CaptureCommands::Capture() {
     parts_.magnifier.Rest(true);
-    LeaveScreen();
     const Result<void> picked = Pick();
     parts_.window.ComeBack();
     parts_.magnifier.Rest(false);
@@ -44,31 +43,49 @@ void CaptureCommands::Capture() {
 }
 
 Result<void> CaptureCommands::Pick() {
-    Result<gdi::Surface> picture = parts_.screen.Picture();
+    Result<gdi::Surface> picture =
+        parts_.screen.IsSeen() ? PictureWithoutWindow() : UnseenPicture();
     if (!picture) return tl::unexpected(picture.error());
     const std::optional<gdi::Surface> square = parts_.dialogs.PickSquare(*std::move(picture));
     if (square) Take(*square);
     return {};
 }
 
-void CaptureCommands::LeaveScreen() {
+// The picture of a large screen takes its time: it is taken while one still makes sure that nothing
+// changes any more where the window was, and again when something does.
+Result<gdi::Surface> CaptureCommands::PictureWithoutWindow() {
     const gdi::Rect window = parts_.window.ScreenArea();
     const gdi::Point leftTop{window.left - kShadow, window.top - kShadow};
     gdi::Surface place(window.width + 2 * kShadow, window.height + 2 * kShadow);
     parts_.screen.Copy(leftTop, place);
-    const bool seen = parts_.screen.IsSeen();
     tools::ScreenSettling settling(place, {kShadow, kShadow, window.width, window.height},
                                    parts_.screen.IsComposited() ? kPatienceWhileFading : kPatience);
 
     parts_.window.LeaveScreen();
     const auto start = Clock::now();
-    for (milliseconds elapsed{0};;) {
+    std::optional<Result<gdi::Surface>> picture;
+    while (true) {
         parts_.loop.DoEvents();
-        elapsed = std::chrono::duration_cast<milliseconds>(Clock::now() - start);
+        const auto elapsed = std::chrono::duration_cast<milliseconds>(Clock::now() - start);
         parts_.screen.Copy(leftTop, place);
-        if (seen ? settling.IsOver(elapsed, place) : elapsed >= kUnseen) break;
+        const tools::Gone gone = settling.Look(elapsed, place);
+        if (gone == tools::Gone::No) {
+            picture.reset();
+        } else if (!picture) {
+            picture = parts_.screen.Picture();
+        }
+        if (gone == tools::Gone::Yes) return *std::move(picture);
         std::this_thread::sleep_for(kPoll);
     }
+}
+
+Result<gdi::Surface> CaptureCommands::UnseenPicture() {
+    parts_.window.LeaveScreen();
+    for (const auto start = Clock::now(); Clock::now() - start < kUnseen;) {
+        parts_.loop.DoEvents();
+        std::this_thread::sleep_for(kPoll);
+    }
+    return parts_.screen.Picture();
 }
 
 void CaptureCommands::Take(const gdi::Surface& square) {

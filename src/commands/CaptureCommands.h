@@ -30,9 +30,11 @@ class CaptureCommands {
     void Capture();
 
   private:
-    void LeaveScreen();
     // Fails when there is no picture of the screen.
     Result<void> Pick();
+    // Take the window off the screen. Where programs see the screen they look whether it is gone.
+    Result<gdi::Surface> PictureWithoutWindow();
+    Result<gdi::Surface> UnseenPicture();
     void Take(const gdi::Surface& square);
 
     editing::Editor& editor_;

@@ -11,6 +11,7 @@ using std::chrono::milliseconds;
 
 // Nothing has changed for so long.
 constexpr milliseconds kQuiet{30};
+constexpr milliseconds kNearlyQuiet{10};
 
 // The side of a part by which the window is known.
 constexpr int kPart = 16;
@@ -52,13 +53,15 @@ bool ScreenSettling::ShowsWindow(const gdi::Surface& now) const {
                                [&](gdi::Point at) { return IsSamePart(before_, now, at); });
 }
 
-bool ScreenSettling::IsOver(milliseconds elapsed, const gdi::Surface& now) {
+Gone ScreenSettling::Look(milliseconds elapsed, const gdi::Surface& now) {
     if (!now.SamePixels(last_)) {
         last_ = now;
         lastChange_ = elapsed;
     }
-    if (elapsed >= patience_) return true;
-    return elapsed - lastChange_ >= kQuiet && !ShowsWindow(now);
+    const milliseconds quiet = elapsed - lastChange_;
+    if (elapsed >= patience_) return Gone::Yes;
+    if (quiet < kNearlyQuiet || ShowsWindow(now)) return Gone::No;
+    return quiet < kQuiet ? Gone::Nearly : Gone::Yes;
 }
 
 }  // namespace kestrel::tools

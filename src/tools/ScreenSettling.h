@@ -7,6 +7,9 @@
 
 namespace kestrel::tools {
 
+// Whether a window is gone from the screen. Nearly: it seems so, but not for long enough yet.
+enum class Gone { No, Nearly, Yes };
+
 // Tells from pictures of one place of the screen when a window that lay there is gone from it:
 // window managers take their frame away a moment later, compositors fade windows out, and programs
 // below without a background show what lay there before until they repaint.
@@ -16,8 +19,9 @@ class ScreenSettling {
     // long one waits at most.
     ScreenSettling(gdi::Surface before, gdi::Rect window, std::chrono::milliseconds patience);
 
-    // Whether the window is gone, so long after it was taken away, from what the place shows now.
-    bool IsOver(std::chrono::milliseconds elapsed, const gdi::Surface& now);
+    // From what the place shows so long after the window was taken away. While the answer does not
+    // go back to No, the place has not changed.
+    Gone Look(std::chrono::milliseconds elapsed, const gdi::Surface& now);
 
   private:
     bool ShowsWindow(const gdi::Surface& now) const;

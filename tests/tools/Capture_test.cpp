@@ -64,20 +64,25 @@ TEST(ScreenSettling, EndsWhenTheWindowIsGoneAndAllIsQuiet) {
     };
     const struct {
         const char* pictures;  // one each 10 ms
-        int over;              // in ms
-    } cases[] = {{"aaaaaaa", 30},
-                 {"waaaaaaa", 40},
-                 {"abcdeeeee", 70},
-                 {"aabbbbbbb", 50},
-                 {"wwwwwwwwwaaaaaa", 120},
-                 {"wwwwwwwwwwwwwwwwwww", 150},
-                 {"abababababababababab", 150}};
-    for (const auto& [pictures, over] : cases) {
+        int nearly, gone;      // in ms
+    } cases[] = {{"aaaaaaa", 10, 30},
+                 {"waaaaaaa", 20, 40},
+                 {"abcdeeeee", 50, 70},
+                 {"aaabbbbbbb", 40, 60},
+                 {"wwwwwwwwwaaaaaa", 100, 120},
+                 {"wwwwwwwwwwwwwwwwwww", 150, 150},
+                 {"abababababababababab", 150, 150}};
+    for (const auto& c : cases) {
         ScreenSettling settling(picture('w'), {16, 16, 32, 32}, milliseconds(150));
+        int nearly = 0;
         int elapsed = 0;
-        while (!settling.IsOver(milliseconds(elapsed), picture(pictures[elapsed / 10])))
-            elapsed += 10;
-        EXPECT_EQ(elapsed, over) << pictures;
+        for (;; elapsed += 10) {
+            const Gone gone =
+                settling.Look(milliseconds(elapsed), picture(c.pictures[elapsed / 10]));
+            if (gone == Gone::Yes) break;
+            if (gone == Gone::No) nearly = elapsed + 10;
+        }
+        EXPECT_EQ(std::pair(nearly, elapsed), std::pair(c.nearly, c.gone)) << c.pictures;
     }
 }
 

@@ -72,9 +72,9 @@ void FrozenMonitor::Repaint(gdi::Rect area) {
     update(units.left - 1, units.top - 1, units.width + 2, units.height + 2);
 }
 
-// In strips that stay in the processor's cache.
+// In strips that stay in the processor's cache, and for which no memory is mapped.
 void FrozenMonitor::paintEvent(QPaintEvent* event) {
-    constexpr int kStrip = 64;
+    constexpr int kStrip = 16;
     const double pixels = Pixels();
     QPainter painter(this);
     painter.scale(1 / pixels, 1 / pixels);
