@@ -1,8 +1,14 @@
 #include "desktop/XHold.h"
 
+#include <chrono>
+
+#include "desktop/XConnection.h"
+
 namespace kestrel::desktop {
 
 namespace {
+
+constexpr std::chrono::milliseconds kBetweenTries{100};
 
 xcb_window_t NewFence(xcb_connection_t* connection, gdi::Rect area) {
     const xcb_window_t fence = xcb_generate_id(connection);
@@ -25,16 +31,28 @@ xcb_window_t NewFence(xcb_connection_t* connection, gdi::Rect area) {
 // The program's windows get their events as ever. A fence that is crossed by a pen or by a program
 // that moves the pointer is no fence: a grab also keeps those inside, which barriers do not.
 XHold::XHold(xcb_connection_t* connection, xcb_window_t window, gdi::Rect area)
-    : connection_(connection), fence_(NewFence(connection, area)) {
+    : connection_(connection), window_(window), fence_(NewFence(connection, area)) {
+    if (Grab()) return;
+    again_.callOnTimeout([this] {
+        if (Grab()) again_.stop();
+    });
+    again_.start(kBetweenTries);
+}
+
+bool XHold::Grab() {
     constexpr std::uint16_t kEvents =
         XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION;
-    const auto pointer = xcb_grab_pointer(connection_, 1, window, kEvents, XCB_GRAB_MODE_ASYNC,
-                                          XCB_GRAB_MODE_ASYNC, fence_, XCB_NONE, XCB_CURRENT_TIME);
-    const auto keys = xcb_grab_keyboard(connection_, 1, window, XCB_CURRENT_TIME,
-                                        XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-    xcb_discard_reply(connection_, pointer.sequence);
-    xcb_discard_reply(connection_, keys.sequence);
-    xcb_flush(connection_);
+    const auto askedPointer =
+        xcb_grab_pointer(connection_, 1, window_, kEvents, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+                         fence_, XCB_NONE, XCB_CURRENT_TIME);
+    const auto askedKeys = xcb_grab_keyboard(connection_, 1, window_, XCB_CURRENT_TIME,
+                                             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const XReply<xcb_grab_pointer_reply_t> pointer(
+        xcb_grab_pointer_reply(connection_, askedPointer, nullptr));
+    const XReply<xcb_grab_keyboard_reply_t> keys(
+        xcb_grab_keyboard_reply(connection_, askedKeys, nullptr));
+    return pointer && pointer->status == XCB_GRAB_STATUS_SUCCESS && keys &&
+           keys->status == XCB_GRAB_STATUS_SUCCESS;
 }
 
 XHold::~XHold() {

@@ -127,16 +127,6 @@ gdi::Rect FrmIcoEd::ScreenArea() const {
     return desktop::PixelsOf(*screen(), frameGeometry());
 }
 
-void FrmIcoEd::LeaveScreen() {
-    hide();
-}
-
-void FrmIcoEd::ComeBack() {
-    show();
-    raise();
-    activateWindow();
-}
-
 void FrmIcoEd::LanguageChanged() {
     editor_.ShowTitle();
     statusBar_.Clear();

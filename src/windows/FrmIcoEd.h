@@ -94,8 +94,8 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void Unload() override;
     void LanguageChanged() override;
     gdi::Rect ScreenArea() const override;
-    void LeaveScreen() override;
-    void ComeBack() override;
+    void LeaveScreen() override { task_.Leave(); }
+    void ComeBack() override { task_.ComeBack(); }
 
     services::Application& application_;
     services::HelpViewer& help_;

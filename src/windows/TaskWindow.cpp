@@ -13,10 +13,21 @@ void TaskWindow::Hide() {
 }
 
 void TaskWindow::ShowNormal() {
+    if (isAway_) return;
     window_.setWindowState(window_.windowState() & ~Qt::WindowMinimized);
     window_.show();
     window_.raise();
     window_.activateWindow();
+}
+
+void TaskWindow::Leave() {
+    isAway_ = true;
+    window_.hide();
+}
+
+void TaskWindow::ComeBack() {
+    isAway_ = false;
+    ShowNormal();
 }
 
 void TaskWindow::ShowInTaskList(bool shown) {

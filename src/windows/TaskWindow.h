@@ -17,6 +17,9 @@ class TaskWindow : public QObject, public commands::TaskListWindow {
     void Hide() override;
     void ShowNormal() override;
     void ShowInTaskList(bool shown) override;
+    // Off the screen for a while, whatever the tray asks for meanwhile, and back where it was.
+    void Leave();
+    void ComeBack();
 
     std::function<void()> onMinimised;
 
@@ -27,6 +30,7 @@ class TaskWindow : public QObject, public commands::TaskListWindow {
     QWidget& window_;
     desktop::XWindowState offTaskList_{window_, "_NET_WM_STATE_SKIP_TASKBAR"};
     bool isListed_ = true;
+    bool isAway_ = false;
 };
 
 }  // namespace kestrel::windows
