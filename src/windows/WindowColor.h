@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QApplication>
+#include <QPalette>
+#include <QWidget>
 
 #include "desktop/Pictures.h"
 
