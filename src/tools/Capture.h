@@ -30,7 +30,6 @@ class Capture {
     // The square begins at this pixel or, where it would not lie on the monitors, at the nearest
     // one where it does.
     void PointAt(gdi::Point pixel);
-    void MoveBy(int columns, int rows) { PointAt({corner_.x + columns, corner_.y + rows}); }
     gdi::Point Corner() const { return corner_; }
     // Its pixels.
     gdi::Surface Square() const;

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "windows/FrmIcoEd.h"
+#include "windows/widgets/ArrowStep.h"
 #include "windows/widgets/MousePoint.h"
 
 namespace kestrel::windows {
@@ -84,18 +85,11 @@ bool FrmIcoEd::IsBackground(QPoint at) const {
 
 // The arrow keys; false for any other key.
 bool FrmIcoEd::MoveSelectionByKey(const QKeyEvent& event) {
-    constexpr struct {
-        Qt::Key key;
-        int columns;
-        int rows;
-    } kArrows[] = {
-        {Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}};
-    const auto* const arrow = std::find_if(std::begin(kArrows), std::end(kArrows),
-                                           [&](const auto& a) { return a.key == event.key(); });
+    const auto step = widgets::ArrowStep(event.key());
     const bool modified = (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
     // On the toolbar they go from button to button.
-    if (arrow == std::end(kArrows) || modified || !hasFocus()) return false;
-    runner_.Run([&] { editor_.Selected().MoveBy(arrow->columns, arrow->rows); });
+    if (!step || modified || !hasFocus()) return false;
+    runner_.Run([&] { editor_.Selected().MoveBy(step->x(), step->y()); });
     return true;
 }
 

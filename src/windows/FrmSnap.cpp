@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "desktop/ScreenPixels.h"
+#include "windows/widgets/ArrowStep.h"
 
 namespace kestrel::windows {
 
@@ -104,17 +105,9 @@ void FrmSnap::PointAt(gdi::Point pixel) {
 }
 
 void FrmSnap::PressKey(int key) {
-    constexpr struct {
-        Qt::Key key;
-        int columns;
-        int rows;
-    } kArrows[] = {
-        {Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}};
-    const auto* const arrow =
-        std::ranges::find_if(kArrows, [key](const auto& each) { return each.key == key; });
-    if (arrow != std::end(kArrows)) {
+    if (const auto step = widgets::ArrowStep(key)) {
         const gdi::Point at = capture_.Corner();
-        PointAt({at.x + arrow->columns, at.y + arrow->rows});
+        PointAt({at.x + step->x(), at.y + step->y()});
         screen_.MovePointer(capture_.Corner());
     } else if (key == Qt::Key_Return || key == Qt::Key_Enter) {
         Take();
