@@ -14,7 +14,7 @@ void Recovery::Offer() {
     for (document::EndedJournal& journal : journals_.Ended()) {
         const auto content = journal.Content();
         // Unreadable for now, or of another version.
-        if (!content || (!content->empty() && !document::IsJournal(*content))) continue;
+        if (!content || !document::IsJournal(*content)) continue;
         editing::ReplayedWork replayed = editing::Replay(*content);
         if (!replayed.work.modified) {
             journal.Remove();

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "document/JournalFolder.h"
+#include "document/JournalRecords.h"
 #include "platform/system/DiskFiles.h"
 #include "platform/system/SystemError.h"
 
@@ -83,7 +84,8 @@ JournalFile::~JournalFile() = default;
 bool JournalFile::Append(formats::Bytes records) {
     const std::lock_guard lock(mutex_);
     // What a failure leaves behind the end is torn, or overwritten later.
-    if (!WriteAt(file_.Number(), records, size_)) return false;
+    if (size_ + records.size() > kMostJournalBytes || !WriteAt(file_.Number(), records, size_))
+        return false;
     size_ += records.size();
     if (!std::exchange(changed_, true)) changes_.notify_one();
     return true;
@@ -108,8 +110,10 @@ void JournalFile::KeepOnDisk(const std::stop_token& stop) {
         const std::size_t length = size_;
         lock.unlock();
         fdatasync(file_.Number());
+        if (stop.stop_requested()) return;
         // Where that fails it is not tried again soon.
-        if (length > rewriteAbove_ && !Rewrite(length, stop)) rewriteAbove_ = 2 * length;
+        if (length > rewriteAbove_ && !Rewrite(length, stop))
+            rewriteAbove_ = length + limits_.rewriteAbove;
         lock.lock();
     }
 }

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "document/JournalRecords.h"
 #include "platform/system/DiskFiles.h"
 
 namespace kestrel::document {
@@ -14,8 +15,6 @@ namespace kestrel::document {
 namespace {
 
 constexpr std::string_view kSetAside = "discarded";
-// A journal is rewritten long before it becomes so long.
-constexpr std::size_t kMostBytes = std::size_t{256} << 20;
 
 // Whether the path still leads to this open file.
 bool IsAt(const std::string& path, const system::FileHandle& file) {
@@ -35,7 +34,7 @@ EndedJournal::EndedJournal(std::string path, system::FileHandle file)
 }
 
 Result<std::vector<std::uint8_t>> EndedJournal::Content() const {
-    return system::DiskFiles(system::PathNames::AsWritten).ReadFile(path_, kMostBytes);
+    return system::DiskFiles(system::PathNames::AsWritten).ReadFile(path_, kMostJournalBytes);
 }
 
 void EndedJournal::Remove() {

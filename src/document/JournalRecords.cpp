@@ -31,8 +31,9 @@ std::uint32_t SumOf(formats::Bytes content) {
 }  // namespace
 
 bool IsJournal(formats::Bytes bytes) {
-    return bytes.size() >= kJournalHead.size() &&
-           std::equal(kJournalHead.begin(), kJournalHead.end(), bytes.begin());
+    return std::ranges::equal(bytes.first(std::min(bytes.size(), kJournalHead.size())),
+                              kJournalHead.substr(0, bytes.size()),
+                              [](std::uint8_t byte, char letter) { return byte == letter; });
 }
 
 std::vector<std::uint8_t> EmptyJournal() {

@@ -16,6 +16,10 @@ inline constexpr std::string_view kJournalHead = "KestrelJournal1\n";
 // A journal with longer records is damaged.
 inline constexpr std::size_t kLongestRecord = std::size_t{1} << 20;
 
+// Longer ones are not written. They are rewritten long before.
+inline constexpr std::size_t kMostJournalBytes = std::size_t{256} << 20;
+
+// Also one whose writing ended within the head.
 bool IsJournal(formats::Bytes bytes);
 std::vector<std::uint8_t> EmptyJournal();
 // Puts a record at the end, unless it has no content.

@@ -48,7 +48,13 @@ void WorkLog::StepEnded(const Editor& editor) {
         isBehind_ = !journal.empty() && !file_->Append(journal);
     }
     told_ = std::move(now);
-    if (!Keeps() && told_.modified) BeginAnew(editor.History().Pictures());
+    if (Keeps()) return;
+    if (told_.modified) {
+        BeginAnew(editor.History().Pictures());
+    } else if (file_) {
+        // It would offer what has been saved since.
+        std::exchange(file_, nullptr)->Remove();
+    }
 }
 
 // With the whole state. The journal before stays where that fails.

@@ -226,7 +226,8 @@ TEST_F(WorkLogTest, KeepsWhatHasRoom) {
     getrlimit(RLIMIT_FSIZE, &limit);
     const rlimit little{2000, limit.rlim_max};
     setrlimit(RLIMIT_FSIZE, &little);
-    for (const std::string& folder : {folder_, std::string("/dev/null"), std::string()}) {
+    for (const auto& [folder, saved] :
+         {std::pair{folder_, false}, {"/dev/null", false}, {"", false}, {folder_, true}}) {
         test::EditorRecorder views;
         WorkLog log(folder);
         Editor editor(views.Views(log), 0);
@@ -234,10 +235,11 @@ TEST_F(WorkLogTest, KeepsWhatHasRoom) {
         EXPECT_EQ(log.Keeps(), folder == folder_);
         MakeSteps(editor, 100);
         EXPECT_FALSE(log.Keeps());
-        editor.Document().Modified = true;
+        editor.Document().Modified = !saved;
         editor.EndStep();
     }
     setrlimit(RLIMIT_FSIZE, &limit);
+    EXPECT_EQ(document::JournalFolder(folder_).Ended().size(), 1U) << "what was saved is not told";
     EXPECT_GT(ReplayNewest().history.UndoSteps().size(), 10U);
 }
 
