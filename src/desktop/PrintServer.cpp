@@ -2,6 +2,7 @@
 
 #include <cups/cups.h>
 
+#include <atomic>
 #include <memory>
 
 #include "desktop/OffThread.h"
@@ -84,7 +85,8 @@ bool SendDocument(http_t* server, const char* printer, int id, const PrintJob& j
            cupsFinishDocument(server, printer) <= IPP_STATUS_OK_CONFLICTING;
 }
 
-Result<void> Send(const PrintJob& job) {
+// `wanted` turns false when nobody waits for it any more: what is told as lost must not be printed.
+Result<void> Send(const PrintJob& job, const std::atomic<bool>& wanted) {
     if (!Ask()) return Failure(i18n::kPrintServerIsSilent);
     const Connection server = Connect(kPatienceToPrint);
     if (!server) return Failure(i18n::kPrintServerIsSilent);
@@ -97,7 +99,7 @@ Result<void> Send(const PrintJob& job) {
     const int id = cupsCreateJob(server.get(), name.c_str(), job.title.c_str(), count, options);
     cupsFreeOptions(count, options);
     if (id == 0) return Failure();
-    if (!SendDocument(server.get(), name.c_str(), id, job)) {
+    if (!wanted || !SendDocument(server.get(), name.c_str(), id, job) || !wanted) {
         const tl::unexpected<Error> failure = Failure();
         cupsCancelJob2(server.get(), name.c_str(), id, 0);
         return failure;
@@ -122,8 +124,12 @@ NoPrintServer::~NoPrintServer() {
 }
 
 Result<void> SendToPrinter(const PrintJob& job) {
-    return AskOffThread<Result<void>>([job] { return Send(job); }, kPatienceToPrint)
-        .value_or(Failure(i18n::kPrintServerIsSilent));
+    const auto wanted = std::make_shared<std::atomic<bool>>(true);
+    const auto sent =
+        AskOffThread<Result<void>>([job, wanted] { return Send(job, *wanted); }, kPatienceToPrint);
+    if (sent) return *sent;
+    *wanted = false;
+    return Failure(i18n::kPrintServerIsSilent);
 }
 
 }  // namespace kestrel::desktop

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
 #include <QLocale>
@@ -9,12 +10,14 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTimer>
+#include <cerrno>
 #include <filesystem>
 #include <memory>
 #include <optional>
 
 #include "desktop/Pictures.h"
 #include "i18n/Language.h"
+#include "i18n/Messages.h"
 #include "platform/system/PathText.h"
 
 namespace kestrel::desktop {
@@ -111,11 +114,15 @@ class PrinterDialog : public QPrintDialog {
   public:
     using Silence = std::unique_ptr<NoPrintServer>;
 
-    PrinterDialog(QPrinter& printer, Silence& silence, QWidget* owner)
-        : QPrintDialog(&printer, owner), silence_(silence) {
+    PrinterDialog(QPrinter& printer, Silence& silence, services::MessageBoxes& boxes,
+                  QWidget* owner)
+        : QPrintDialog(&printer, owner), silence_(silence), boxes_(boxes) {
         setOptions(PrintToFile | PrintShowPageSize);
         // Once the library has shown them all.
-        QTimer::singleShot(0, this, [this] { HideWhatNeedsPages(); });
+        QTimer::singleShot(0, this, [this] {
+            HideWhatNeedsPages();
+            KeepFromSpecialFiles();
+        });
     }
 
     void accept() override {
@@ -134,12 +141,38 @@ class PrinterDialog : public QPrintDialog {
         for (const char* name : {"gbPrintRange", "reverse", "duplex"}) {
             if (auto* choice = findChild<QWidget*>(QLatin1String(name))) choice->hide();
         }
-        // Completing a name opens the files beside it, which can take for ever.
-        if (auto* file = findChild<QLineEdit*>(QStringLiteral("filename")))
-            file->setCompleter(nullptr);
+    }
+
+    // The library opens files beside the name that is typed, to complete it, and the file itself to
+    // see whether it can be written. A pipe would keep it for ever.
+    void KeepFromSpecialFiles() {
+        auto* file = findChild<QLineEdit*>(QStringLiteral("filename"));
+        auto* buttons = findChild<QDialogButtonBox*>();
+        if (file == nullptr || buttons == nullptr) return;
+        file->setCompleter(nullptr);
+        disconnect(buttons, &QDialogButtonBox::accepted, this, nullptr);
+        connect(buttons, &QDialogButtonBox::accepted, this, [this, file] {
+            if (file->isVisible() && IsSpecial(*file)) {
+                boxes_.Show(services::BoxIcon::Exclamation, services::BoxButtons::Ok,
+                            std::string(i18n::ReasonOf(EINVAL, "")),
+                            std::string(i18n::kErrorTitle.Now()));
+            } else if (!QMetaObject::invokeMethod(this, "_q_checkFields")) {
+                accept();
+            }
+        });
+    }
+
+    static bool IsSpecial(const QLineEdit& file) {
+        std::error_code unknown;
+        const auto kind = std::filesystem::status(file.text().toStdString(), unknown).type();
+        return kind == std::filesystem::file_type::fifo ||
+               kind == std::filesystem::file_type::socket ||
+               kind == std::filesystem::file_type::character ||
+               kind == std::filesystem::file_type::block;
     }
 
     Silence& silence_;
+    services::MessageBoxes& boxes_;
 };
 
 }  // namespace
@@ -192,7 +225,7 @@ std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
     printer.setCopyCount(copies);
     // Else the library takes a printer that does not say so to print in grey.
     printer.setColorMode(QPrinter::Color);
-    PrinterDialog dialog(printer, silence, WindowOf(record.owner));
+    PrinterDialog dialog(printer, silence, boxes_, WindowOf(record.owner));
     wait.reset();
     if (!Ask(dialog)) return kCancelled;
     printer_.Use(printer);
