@@ -9,6 +9,8 @@ namespace kestrel::windows {
 namespace {
 
 constexpr int kTwipsOfPixel = 15;
+// Of the free room on the screen, how much lies to the left and above at first.
+constexpr qreal kPlace = 0.9;
 // Of a title that can still be grasped with the mouse.
 constexpr QSize kGrasp(80, 20);
 
@@ -49,11 +51,17 @@ void PlacedWindow::Maximise() {
     window_.setWindowState(window_.windowState() | Qt::WindowMaximized);
 }
 
+void PlacedWindow::PlaceAtFirst() {
+    const QRect free = window_.screen()->availableGeometry();
+    const QSize room = RoomIn(free) * kPlace;
+    window_.move(free.topLeft() + QPoint(room.width(), room.height()));
+}
+
 void PlacedWindow::BringOntoMonitor() {
     if (IsGraspable({window_.pos(), QSize(window_.width(), kGrasp.height())})) return;
     const QRect free = window_.screen()->availableGeometry();
     window_.resize(window_.size().boundedTo(free.size() - FrameSize()));
-    const QSize room = free.size() - window_.size() - FrameSize();
+    const QSize room = RoomIn(free);
     const QPoint farthest = free.topLeft() + QPoint(room.width(), room.height());
     window_.move(std::clamp(window_.x(), free.left(), std::max(free.left(), farthest.x())),
                  std::clamp(window_.y(), free.top(), std::max(free.top(), farthest.y())));

@@ -24,11 +24,18 @@ class PlacedWindow : public settings::PositionedWindow {
     void Move(const settings::WindowBounds& bounds) override;
     void Maximise() override;
 
+    // At the lower right of its monitor, where the editor's window is not.
+    void PlaceAtFirst();
     // Moves the window, before it is shown, onto a monitor where none shows its title any more.
     void BringOntoMonitor();
 
   private:
-    QSize FrameSize() const { return framed_.frameGeometry().size() - framed_.size(); }
+    QSize FrameSize() const {
+        const QWidget& known = window_.isVisible() ? window_ : framed_;
+        return known.frameGeometry().size() - known.size();
+    }
+    // What the window leaves free of an area.
+    QSize RoomIn(const QRect& area) const { return area.size() - window_.size() - FrameSize(); }
 
     QWidget& window_;
     const QWidget& framed_;

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QScreen>
 
 #include "desktop/CloseKey.h"
 #include "desktop/Pictures.h"
@@ -30,8 +29,6 @@ constexpr int kLeastBarWidth = 40;
 constexpr QSize kLeastPicture(112, 48);
 constexpr QSize kDesignedPicture(320, 240);
 constexpr int kPageStep = 10;
-// Of the free room on the screen, how much lies to the left and above at first.
-constexpr qreal kPlace = 0.9;
 
 // Those that move the scroll bar.
 bool IsBarKey(int key) {
@@ -122,12 +119,10 @@ void frmZoom::ShowCaptions(std::string_view code) {
 }
 
 void frmZoom::Form_Load() {
-    // As large as was designed, at the lower right where the editor's window is not.
+    // As large as was designed.
     layout()->activate();
     resize(minimumSizeHint() - picZoom_->minimumSize() + kDesignedPicture);
-    const QRect free = screen()->availableGeometry();
-    const QSize room = (free.size() - size()) * kPlace;
-    move(free.topLeft() + QPoint(room.width(), room.height()));
+    place_.PlaceAtFirst();
     RestoreWindowPosition(services_.settings, place_);
     place_.BringOntoMonitor();
 
@@ -136,6 +131,7 @@ void frmZoom::Form_Load() {
     hsbZoom_Change();
     chkGrid_->setChecked(chosen.grid);
     chkGrid_Click();
+    // The first tick puts the window on top: only one that is shown can be.
     chkOnTop_->setChecked(chosen.onTop);
     picZoom_->setFocus();
 }
