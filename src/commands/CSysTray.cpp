@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "commands/ErrorBox.h"
 #include "formats/IconFile.h"
 #include "formats/IconSource.h"
 #include "i18n/Messages.h"
@@ -72,10 +73,8 @@ void CSysTray::ChangeIcon(const std::string& file) {
     if (IsAnimation(file)) {
         const bool shown = ShowStep(file) || (std::exchange(frame_, 0) != 0 && ShowStep(file));
         if (!shown) {
-            boxes_.Show(services::BoxIcon::Exclamation, services::BoxButtons::Ok,
-                        std::string(i18n::kTrayIconFailed).append(file).append("[0]  "),
-                        std::string(i18n::kTrayErrorTitle));
-            return;
+            return ShowError(boxes_, std::string(i18n::kTrayIconFailed).append(file) + "[0]  ",
+                             i18n::kTrayErrorTitle);
         }
     } else {
         icon_.picture.reset();

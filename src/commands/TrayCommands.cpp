@@ -28,8 +28,8 @@ TrayCommands::~TrayCommands() {
 
 void TrayCommands::WindowStands() {
     LanguageChanged();
+    sysTray_.ChangeIcon(trayImage_);
     tray_.FindHost([this] {
-        sysTray_.ChangeIcon(trayImage_);
         sysTray_.IconInSysTray();
         taskWindow_.ShowInTaskList(false);
     });

@@ -44,7 +44,11 @@ bool TaskWindow::eventFilter(QObject* /*object*/, QEvent* event) {
     }
     if (event->type() == QEvent::WindowStateChange && window_.isMinimized() && onMinimised)
         QMetaObject::invokeMethod(
-            this, [this] { onMinimised(); }, Qt::QueuedConnection);
+            this,
+            [this] {
+                if (window_.isMinimized()) onMinimised();
+            },
+            Qt::QueuedConnection);
     return false;
 }
 

@@ -25,6 +25,8 @@ Is() {
         *) [[ $1 == listed ]] ;;
     esac
 }
+# The falcon has many colours.
+HasPicture() { [[ $(import -silent -window root -crop 22x22+0+0 -format %k info:) -gt 20 ]]; }
 Minimise() { xdotool windowminimize "$window"; }
 
 # Without a tray the window is an ordinary one.
@@ -39,6 +41,7 @@ Expect listed
 StartHost x_tray_host
 Minimise
 Expect hidden
+WaitFor "$kPatience" HasPicture || Fail "the icon has no picture"
 xdotool mousemove 12 12 click 1
 sleep 0.3
 Is hidden || Fail "a single click restores the window"
