@@ -76,6 +76,12 @@ void frmDrawState::ShowTexts() {
     setWindowTitle(ToText(i18n::kStatesTitle.Now()));
     CmdClose_->setText(ToText(i18n::kClose.Now()));
     CmdClose_->adjustSize();
+    // What is only painted has no name that a screen reader could find.
+    QStringList labels;
+    for (const tools::StateRow& state : tools::DrawStates())
+        labels.append(ToText(state.label.Now()));
+    setAccessibleDescription(labels.join(QStringLiteral(", ")));
+    picCut_->setAccessibleName(labels.constLast());
     const int width = PlaceOf(tools::DrawStates().size(), 0).x() + kLeft;
     const int top = kIconTop + tools::kStateSize + kDialogMargin;
     CmdClose_->move(width - kLeft - CmdClose_->width(), top);
@@ -89,7 +95,7 @@ void frmDrawState::DrawStates() {
         return desktop::ToColorRef(palette().color(role));
     };
     colors_ = {.ground = color(QPalette::Window),
-               .text = color(QPalette::Text),
+               .text = color(QPalette::WindowText),
                .marked = color(QPalette::Highlight),
                .window = color(QPalette::Base)};
     pictures_.clear();

@@ -18,7 +18,7 @@ TEST_F(frmDrawStateTest, ShowsSixStatesAndFollowsColoursAndLanguage) {
         ASSERT_NE(dialog, nullptr);
         QPalette colors(Qt::black);
         for (const auto& [role, color] : {std::pair{QPalette::Window, Qt::white},
-                                          {QPalette::Text, Qt::darkRed},
+                                          {QPalette::WindowText, Qt::darkRed},
                                           {QPalette::Highlight, Qt::black},
                                           {QPalette::Base, Qt::blue}})
             colors.setColor(role, color);
