@@ -21,6 +21,7 @@ inline constexpr std::initializer_list<gdi::ArtInk> kKestrelInks = {
     {'r', gdi::Rgb(200, 104, 48)},   // back
     {'R', gdi::Rgb(152, 72, 32)},    // back, in shade
     {'s', gdi::Rgb(96, 96, 112)},    // beak
+    {'h', gdi::Rgb(148, 150, 166)},  // beak, in light
     {'S', gdi::Rgb(48, 48, 60)},     // nostril
     {'w', gdi::Rgb(255, 255, 255)},  // glint
     {'y', gdi::Rgb(248, 200, 48)},   // cere and ring of the eye

@@ -3,7 +3,11 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPainter>
 #include <cstdio>
+#include <span>
+#include <string>
+#include <string_view>
 
 #include "desktop/LibraryTranslator.h"
 #include "desktop/Pictures.h"
@@ -11,8 +15,11 @@
 #include "formats/IcoFile.h"
 #include "platform/controls/ImageList.h"
 #include "platform/gdi/Blit.h"
+#include "platform/gdi/PixelArt.h"
 #include "platform/system/DiskFiles.h"
 #include "resources/ImageList.h"
+#include "resources/KestrelIcon.h"
+#include "resources/KestrelIconSizes.h"
 #include "resources/ToolStrip.h"
 #include "resources/WellPictures.h"
 #include "resources/ZoomPictures.h"
@@ -34,17 +41,38 @@ bool Save(const QImage& picture, const std::string& file) {
     return Said(picture.save(QString::fromStdString(file)), file);
 }
 
+// The picture of an icon theme's size: a drawing, enlarged, or in the middle of a larger square.
+struct ThemeIcon {
+    int size;
+    std::string_view drawing;
+    int scale = 1;
+};
+
+constexpr ThemeIcon kThemeIcons[] = {
+    {16, resources::kKestrelIcon16},   {22, resources::kKestrelIcon22},
+    {24, resources::kKestrelIcon22},   {32, resources::kKestrelIcon},
+    {48, resources::kKestrelIcon48},   {64, resources::kKestrelIcon, 2},
+    {128, resources::kKestrelIcon, 4}, {256, resources::kKestrelIcon, 8},
+};
+
+bool WriteThemeIcon(const std::string& folder, const ThemeIcon& icon) {
+    const std::span inks(resources::kKestrelInks.begin(), resources::kKestrelInks.size());
+    const QImage drawn = desktop::ToImage(gdi::ReadIconArt(icon.drawing, inks));
+    QImage picture(icon.size, icon.size, QImage::Format_ARGB32);
+    picture.fill(Qt::transparent);
+    const QSize enlarged = drawn.size() * icon.scale;
+    QPainter(&picture).drawImage((icon.size - enlarged.width()) / 2,
+                                 (icon.size - enlarged.height()) / 2, drawn.scaled(enlarged));
+    return Save(picture, folder + "/kestrel-icon-editor-" + std::to_string(icon.size) + ".png");
+}
+
 bool WriteIcon(const std::string& folder) {
     const gdi::IconPlanes icon = document::ApplicationIcon();
     system::DiskFiles files;
     const std::string iconFile = folder + "/kestrel.ico";
     bool written = Said(formats::WriteIcoCopy(files, icon, iconFile).has_value(), iconFile);
-    const QImage picture = desktop::ToImage(icon);
-    for (const int scale : {1, 2, 4, 8}) {
-        const int size = gdi::kIconSize * scale;
-        const std::string name = folder + "/kestrel-icon-editor-" + std::to_string(size) + ".png";
-        written = Save(picture.scaled(size, size), name) && written;
-    }
+    for (const ThemeIcon& drawn : kThemeIcons)
+        written = WriteThemeIcon(folder, drawn) && written;
     return written;
 }
 

@@ -19,6 +19,7 @@
 #include "desktop/QtMessageBoxes.h"
 #include "desktop/QtShell.h"
 #include "desktop/QtTray.h"
+#include "desktop/RecentlyUsed.h"
 #include "desktop/TwoColorWindows.h"
 #include "desktop/XScreen.h"
 #include "document/ApplicationIcon.h"
@@ -138,6 +139,7 @@ int main(int argc, char* argv[]) {
     desktop::QtDesktopDialogs dialogs(boxes, printer);
     desktop::QtClipboard clipboard;
     desktop::QtShell shell;
+    desktop::RecentlyUsed documents(files, system::RecentDocumentsFile());
     desktop::XScreen screen;
     desktop::QtTray tray;
     desktop::QtHelpViewer help(shell);
@@ -147,8 +149,8 @@ int main(int argc, char* argv[]) {
     const document::JournalFolder journals(system::StateFolder());
     editing::WorkLog log(system::StateFolder());
     windows::FrmIcoEd window({program, dialogs, clipboard, boxes, help, files, registry, shell,
-                              screen, printer, tray, random, settings, log, journals, folders,
-                              facts.systemLcid});
+                              documents, screen, printer, tray, random, settings, log, journals,
+                              folders, facts.systemLcid});
     const desktop::EndOfSession endOfSession(
         [&window](bool mayAsk) { return window.MayEndSession(mayAsk); });
     boxes.SetOwner(&window);

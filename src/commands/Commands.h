@@ -23,6 +23,7 @@
 #include "editing/Editor.h"
 #include "services/Cdb.h"
 #include "services/Printer.h"
+#include "services/RecentDocuments.h"
 #include "services/Screen.h"
 #include "settings/Settings.h"
 
@@ -38,6 +39,7 @@ struct MainServices {
     system::FileSystem& files;
     system::Registry& registry;
     services::Shell& shell;
+    services::RecentDocuments& documents;
     services::Screen& screen;
     services::Printer& printer;
     services::Tray& tray;

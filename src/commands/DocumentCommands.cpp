@@ -66,6 +66,7 @@ void DocumentCommands::mnuOpen_Click() {
 
 void DocumentCommands::OpenChosenFile() {
     services::FileRequest request = IconRequest(i18n::kOpenTitle.Now());
+    request.filter += i18n::kCursorFilter.Now();
     request.flags = services::kFileMustExist | services::kHideReadOnly;
     const Result<services::ChosenFile> chosen = parts_.cdb.ShowOpen(request);
     if (!chosen) {

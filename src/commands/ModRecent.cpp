@@ -56,8 +56,13 @@ std::string CaptionOf(const std::string& path, std::uint32_t systemLcid) {
 
 ModRecent::ModRecent(controls::SmartMenuXP& menu, system::Registry& registry,
                      system::FileSystem& files, services::MessageBoxes& boxes,
-                     std::uint32_t systemLcid)
-    : menu_(menu), registry_(registry), files_(files), boxes_(boxes), systemLcid_(systemLcid) {}
+                     services::RecentDocuments& documents, std::uint32_t systemLcid)
+    : menu_(menu),
+      registry_(registry),
+      files_(files),
+      boxes_(boxes),
+      documents_(documents),
+      systemLcid_(systemLcid) {}
 
 void ModRecent::LoadRecentFiles() {
     if (!registry_.KeyExists(RegistryRoot::CurrentUser, kKey)) return;
@@ -76,6 +81,7 @@ void ModRecent::AddRecentFile(const std::string& path) {
     RecentFiles.insert(RecentFiles.begin(), path);
     if (RecentFiles.size() > kSlots) RecentFiles.pop_back();
     Change();
+    documents_.Add(path);
 }
 
 std::string ModRecent::GetRecentFile(int slot) {

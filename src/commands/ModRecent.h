@@ -8,6 +8,7 @@
 #include "platform/system/FileSystem.h"
 #include "platform/system/Registry.h"
 #include "services/MessageBoxes.h"
+#include "services/RecentDocuments.h"
 
 namespace kestrel::commands {
 
@@ -20,11 +21,13 @@ class ModRecent {
 
     // `systemLcid` is the locale whose code page tells how wide a caption is.
     ModRecent(controls::SmartMenuXP& menu, system::Registry& registry, system::FileSystem& files,
-              services::MessageBoxes& boxes, std::uint32_t systemLcid);
+              services::MessageBoxes& boxes, services::RecentDocuments& documents,
+              std::uint32_t systemLcid);
 
     // Shows the list that the registry holds.
     void LoadRecentFiles();
-    // Puts a file that was opened or saved in slot 1; the one after slot 4 is dropped.
+    // Puts a file that was opened or saved in slot 1, the one after slot 4 is dropped, and tells
+    // the desktop of it.
     void AddRecentFile(const std::string& path);
     // The path of a slot, empty for an empty one. A file that is gone is reported, leaves the list
     // and gives an empty path.
@@ -39,6 +42,7 @@ class ModRecent {
     system::Registry& registry_;
     system::FileSystem& files_;
     services::MessageBoxes& boxes_;
+    services::RecentDocuments& documents_;
     std::uint32_t systemLcid_;
     // Slot k is entry k - 1.
     std::vector<std::string> RecentFiles;

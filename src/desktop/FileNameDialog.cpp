@@ -1,6 +1,6 @@
 #include "desktop/FileNameDialog.h"
 
-#include <QLayout>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QListView>
 #include <QScreen>
@@ -8,6 +8,7 @@
 #include <QTreeView>
 #include <QUrl>
 
+#include "desktop/FilePreview.h"
 #include "desktop/Text.h"
 #include "i18n/Messages.h"
 #include "platform/system/PathText.h"
@@ -57,6 +58,7 @@ FileNameDialog::FileNameDialog(FilePurpose purpose, FileRecord record,
     ShowFolderAndName();
     MarkPlace();
     MakeReadable();
+    AddPreview();
     if (purpose == FilePurpose::Open && !Asks(services::kHideReadOnly)) {
         readOnly_ = new QCheckBox(ToText(i18n::kOpenReadOnly.Now()), this);
         readOnly_->setChecked(Asks(services::kReadOnly));
@@ -92,6 +94,24 @@ void FileNameDialog::MarkPlace() {
         if (place.data(kUrl).toUrl() == folder)
             places->selectionModel()->select(place, QItemSelectionModel::ClearAndSelect);
     }
+}
+
+// Where icons are chosen: beside the files, which the grid of the library's dialog has in its
+// second row.
+void FileNameDialog::AddPreview() {
+    constexpr int kRowOfFiles = 1;
+    auto* grid = qobject_cast<QGridLayout*>(layout());
+    const auto offers = [&](const char* pattern) {
+        return record_.filter.find(pattern) != std::string::npos;
+    };
+    if (grid == nullptr || !(offers("*.ico") || offers("*.icl"))) return;
+    auto* preview = new FilePreview(this);
+    grid->addWidget(preview, kRowOfFiles, grid->columnCount());
+    connect(this, &QFileDialog::currentChanged, preview,
+            [preview](const QString& path) { preview->Show(path.toStdString()); });
+    connect(this, &QFileDialog::directoryEntered, preview, [preview] { preview->Show({}); });
+    if (const QStringList named = selectedFiles(); !named.isEmpty())
+        preview->Show(named.front().toStdString());
 }
 
 // The library cuts its side bar and the dates.

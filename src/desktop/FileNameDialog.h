@@ -30,6 +30,7 @@ class FileNameDialog : public QFileDialog {
     bool Asks(std::uint32_t flag) const { return (record_.flags & flag) != 0; }
     void ShowFolderAndName();
     void MarkPlace();
+    void AddPreview();
     void MakeReadable();
     void EnterFolder(const QString& folder, QLineEdit& name);
     int SelectedFilter() const;

@@ -50,6 +50,9 @@ inline constexpr Text kSaveChanges{"Save changes to current icon?", "是否保�
 inline constexpr Text kOpenTitle{"KestrelIconEditor - Open", "KestrelIconEditor - 打开"};
 inline constexpr Text kSaveAsTitle{"KestrelIconEditor - Save As", "KestrelIconEditor - 保存为"};
 inline constexpr std::string_view kIconFilter = "Icon Files (*.ico)|*.ico";
+// Open offers both, too.
+inline constexpr Text kCursorFilter{"|Icon and Cursor Files (*.ico; *.cur)|*.ico;*.cur",
+                                    "|图标和光标文件 (*.ico; *.cur)|*.ico;*.cur"};
 
 // The window title of an icon whose file has this name; empty for a new icon.
 std::string WindowTitle(std::string_view fileTitle);
@@ -112,6 +115,11 @@ inline constexpr Text kFolderNotFound{
     "%1\r\n找不到文件夹.\r\n请检查文件夹名是否正确."};
 inline constexpr Text kNotAFileName{"%1\r\nThe file name is not valid.", "%1\r\n文件名无效."};
 inline constexpr Text kFileNameTooLong{"%1\r\nThe file name is too long.", "%1\r\n文件名太长."};
+// What they tell of the file that is marked; %1 is a number.
+inline constexpr Text kPreview{"Preview", "预览"};
+inline constexpr Text kBitsPerPixel{"%1 bits", "%1 位"};
+inline constexpr Text kImageCount{"%1 images", "%1 个图像"};
+inline constexpr Text kIconCount{"%1 icons", "%1 个图标"};
 // The text in the language in force with `name` in the place of every "%1".
 std::string Filled(const Text& text, std::string_view name);
 

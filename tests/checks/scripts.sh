@@ -3,11 +3,12 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
-for script in run test .ci/run $(find tools tests bench help -name '*.sh'); do
+for script in run test .ci/run $(find tools tests bench help packaging -name '*.sh'); do
     bash -n "$script"
 done
 
 desktop-file-validate share/*.desktop
+complaints=$(appstreamcli validate --no-net --no-color share/metainfo/*.in) || { echo "$complaints" >&2; exit 1; }
 
 # The MIME database's own tool reads the package; it prints nothing when all is well.
 data=$(mktemp -d)

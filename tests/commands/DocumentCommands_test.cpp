@@ -62,7 +62,7 @@ class DocumentCommandsTest : public testing::Test {
     RecordingGuard guard_;
     test::OwnerOfDialogs owner_;
     controls::SmartMenuXP menu_;
-    ModRecent recent_{menu_, given_.registry, given_.files, given_.boxes, 1033};
+    ModRecent recent_{menu_, given_.registry, given_.files, given_.boxes, given_.documents, 1033};
     editing::Editor editor_{views_.Views(), 0xF0F0F0};
     document::IconDocument& icon_ = editor_.Document();
     services::Cdb cdb_{given_.desktop, owner_};

@@ -17,7 +17,7 @@ class ModRecentTest : public testing::Test {
     ModRecentTest() { BuildMenuBar(menus_); }
     // A list of the next start, with what the one before left in the registry.
     ModRecent NewList(std::uint32_t lcid = 1033) {
-        ModRecent list(menu_, given_.registry, given_.files, given_.boxes, lcid);
+        ModRecent list(menu_, given_.registry, given_.files, given_.boxes, given_.documents, lcid);
         list.LoadRecentFiles();
         return list;
     }
@@ -63,6 +63,7 @@ TEST_F(ModRecentTest, IsInTheRegistryAtEveryMoment) {
     EXPECT_EQ(stored_.size(), 4U) << "until it is replaced";
     list.AddRecentFile("/y");
     EXPECT_EQ(stored_, (Values{{"1.", "/y"}, {"2.", "/x"}, {"3.", wide}}));
+    EXPECT_EQ(given_.documents.used, Paths{"/y"}) << "the desktop is told of use, not of the start";
 }
 
 TEST_F(ModRecentTest, AMissingFileIsReportedAndLeavesTheList) {

@@ -13,6 +13,7 @@
 #include <QSpinBox>
 #include <QTimer>
 #include <QtTest/QTest>
+#include <algorithm>
 
 #include "desktop/DialogStyle.h"
 #include "desktop/LibraryTranslator.h"
@@ -85,6 +86,29 @@ TEST_F(DialogsTest, SaveBeginsAsToldAndAnswers) {
     EXPECT_EQ(save("", "SUB/two"), Path("sub/two.ico"));
     EXPECT_EQ(save("", "/"), "");
     EXPECT_EQ(save("", "three"), Path("sub/three.ico"));
+}
+
+TEST_F(DialogsTest, PreviewTellsWhatOpenWouldTake) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"several.ico", "32 x 32\n32 bits\n4 images"},
+        {"pointer.cur", "24 x 24\n24 bits"},
+        {"icons32.dll", "32 x 32\n4 bits\n2 icons"},
+        {"make.sh", ""},
+        {"gone.ico", ""}};
+    FileRecord record;
+    record.filter = "Icon Files (*.ico)\0*.ico\0\0"s;
+    for (const auto& [name, text] : cases) {
+        record.file = TEST_DATA "/" + std::string(name);
+        InNext<QFileDialog>(false, [&](QFileDialog& dialog) {
+            const auto widgets = dialog.findChildren<QWidget*>();
+            const auto shown = std::ranges::find_if(widgets, [](const QWidget* widget) {
+                return widget->accessibleName() == QStringLiteral("Preview");
+            });
+            ASSERT_NE(shown, widgets.end());
+            EXPECT_EQ((*shown)->accessibleDescription().toStdString(), text) << name;
+        });
+        dialogs_.GetOpenFileName(record);
+    }
 }
 
 TEST(QtMessageBoxes, WrapNamesWithoutBlanksAndHaveNoPicturesInButtons) {

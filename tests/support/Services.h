@@ -158,13 +158,34 @@ class RecordingTray : public services::Tray {
     std::vector<services::TrayMenuItem> menu;
 };
 
+// Notes the documents it is told of.
+class RecordingDocuments : public services::RecentDocuments {
+  public:
+    void Add(const std::string& path) override { used.push_back(path); }
+
+    std::vector<std::string> used;
+};
+
 // All that a main window is given.
 struct FakeServices {
     commands::MainServices Given() {
-        return {application, desktop, clipboard, boxes,
-                help,        files,   registry,  shell,
-                screen,      printer, tray,      random,
-                settings,    log,     journals,  {"/program", "/windows"},
+        return {application,
+                desktop,
+                clipboard,
+                boxes,
+                help,
+                files,
+                registry,
+                shell,
+                documents,
+                screen,
+                printer,
+                tray,
+                random,
+                settings,
+                log,
+                journals,
+                {"/program", "/windows"},
                 1033};
     }
 
@@ -176,6 +197,7 @@ struct FakeServices {
     MemoryFiles files;
     MemoryRegistry registry;
     RecordingShell shell;
+    RecordingDocuments documents;
     PaintedScreen screen;
     RecordingPrinter printer;
     RecordingTray tray;

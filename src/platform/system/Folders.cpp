@@ -63,20 +63,29 @@ bool WouldBeOurs(std::filesystem::path folder) {
     return IsOwnFolder(folder);
 }
 
+// The folder that this user's programs share; empty for a user without a home.
+std::string SharedFolder(const char* variable, const char* belowHome) {
+    const std::string folder = FolderFromEnvironment(variable);
+    if (!folder.empty()) return folder;
+    std::string home = FolderFromEnvironment("HOME");
+    if (home.empty()) home = HomeFromAccount();
+    return home.empty() ? "" : home + belowHome;
+}
+
 // Empty where nothing may be kept.
-std::string UserFolder(const char* variable, const char* belowHome) {
-    std::string parent = FolderFromEnvironment(variable);
-    if (parent.empty()) {
-        std::string home = FolderFromEnvironment("HOME");
-        if (home.empty()) home = HomeFromAccount();
-        if (home.empty()) return {};
-        parent = home + belowHome;
-    }
-    std::string folder = parent + "/" + kProgram;
+std::string Kept(const std::string& folder) {
     struct stat status {};
     const bool exists = lstat(folder.c_str(), &status) == 0;
     return (exists ? IsOurs(folder) : WouldBeOurs(folder)) ? folder : "";
 }
+
+std::string UserFolder(const char* variable, const char* belowHome) {
+    const std::string parent = SharedFolder(variable, belowHome);
+    return parent.empty() ? "" : Kept(parent + "/" + kProgram);
+}
+
+constexpr char kDataVariable[] = "XDG_DATA_HOME";
+constexpr char kDataBelowHome[] = "/.local/share";
 
 }  // namespace
 
@@ -101,12 +110,18 @@ std::string InstalledDataFolder(const std::string& applicationFolder) {
 }
 
 std::string WindowsDirectory() {
-    const std::string folder = UserFolder("XDG_DATA_HOME", "/.local/share");
+    const std::string folder = UserFolder(kDataVariable, kDataBelowHome);
     return folder.empty() ? "" : folder + "/Windows";
 }
 
 std::string ConfigFolder() {
     return UserFolder("XDG_CONFIG_HOME", "/.config");
+}
+
+std::string RecentDocumentsFile() {
+    const std::string shared = SharedFolder(kDataVariable, kDataBelowHome);
+    const std::string folder = shared.empty() ? "" : Kept(shared);
+    return folder.empty() ? "" : folder + "/recently-used.xbel";
 }
 
 std::string StateFolder() {

@@ -21,6 +21,8 @@ std::string InstalledDataFolder(const std::string& applicationFolder);
 // their own in the program's way: nothing is kept then.
 std::string WindowsDirectory();
 std::string ConfigFolder();
+// The desktop's list of recent documents in the user's data folder; empty as the ones above.
+std::string RecentDocumentsFile();
 // The user's folder for what one run leaves to the next; empty as the ones above.
 std::string StateFolder();
 // The user's own short-lived folder for locks (the runtime directory, else one below /tmp).
