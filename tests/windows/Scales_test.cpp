@@ -12,6 +12,12 @@ constexpr int kLines = 33;
 class ScalesTest : public WindowTest, public testing::WithParamInterface<Qt::Orientation> {
   protected:
     double Scale() const { return window_.devicePixelRatioF(); }
+    // As many pixels of the screen as lie wholly within the grid.
+    int Room() {
+        const QPoint corner = Grid()->mapTo(&window_, QPoint());
+        const int at = GetParam() == Qt::Horizontal ? corner.x() : corner.y();
+        return qFloor((at + 321) * Scale()) - qCeil(at * Scale());
+    }
     // A pixel of the screen so far along the grid, through the middle of its first cells.
     QPoint Pixel(int along) {
         const QPointF corner = Grid()->mapTo(&window_, QPointF()) * Scale();
@@ -38,7 +44,7 @@ TEST_P(ScalesTest, GridLinesAreEvenAndEveryPixelIsPartOfTheCellItShows) {
     std::vector<int> lines;
     std::vector<int> cells;
     bool wasLine = false;
-    for (int along = 0; along < std::floor(321 * Scale()); ++along) {
+    for (int along = 0; along < Room(); ++along) {
         const bool isLine = shown.pixelColor(Pixel(along)) == Qt::black;
         auto& parts = isLine ? lines : cells;
         if (along == 0 || isLine != wasLine) parts.push_back(0);

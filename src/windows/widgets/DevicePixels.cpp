@@ -72,6 +72,12 @@ void DrawSharp(QPainter& painter, const QRect& place, const QImage& picture) {
     painter.drawImage(target, picture);
 }
 
+void DrawUnscaled(QPainter& painter, QPoint leftTop, const QImage& picture) {
+    const QPoint corner = InDevicePixels(painter, {leftTop, QSize()}).topLeft();
+    const DevicePainting device(painter);
+    painter.drawImage(QRect(corner, picture.size()), picture);
+}
+
 // Filled: a pen may leave out a side where a unit is no whole number of pixels.
 void DrawOutline(QPainter& painter, const QRect& place, const QColor& color) {
     const QRect outside = InDevicePixels(painter, place);

@@ -26,6 +26,9 @@ QRect InDevicePixels(const QPainter& painter, const QRect& place);
 // screen, as large as the place allows.
 void DrawSharp(QPainter& painter, const QRect& place, const QImage& picture);
 
+// Draws a picture whose pixels are those of the device, with its corner nearest to a point.
+void DrawUnscaled(QPainter& painter, QPoint leftTop, const QImage& picture);
+
 // Draws the outline of a place along its inside, as wide as a unit is in whole pixels.
 void DrawOutline(QPainter& painter, const QRect& place, const QColor& color);
 
