@@ -93,6 +93,8 @@ void ColorsPane::LayOutBoxes() {
 
 void ColorsPane::LayOutPalette() {
     picPal_.setObjectName("PicPal");
+    constexpr std::string_view kEdgesAndColor = "|...........|";
+    picPal_.DivideBy({kEdgesAndColor, kEdgesAndColor});
     picPal_.move(kPicPal);
     picPal_.onMouseMove = [this](Qt::MouseButtons /*held*/, QPoint /*at*/) {
         parts_.status.SetStatusPanel(StatusPanel::Hint, i18n::kSelfDefineColor.Now());

@@ -45,6 +45,8 @@ QCursor ToCursor(GridCursor cursor) {
 
 GridPane::GridPane(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
+    constexpr std::string_view kLineAndCell = "|.........";
+    picMain_.DivideBy({kLineAndCell, kLineAndCell});
     picMain_.move(widgets::kEdgeDistance, widgets::kEdgeDistance);
     tmr_.setInterval(kGuardAfterOpen);
     tmr_.setSingleShot(true);

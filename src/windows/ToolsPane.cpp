@@ -10,6 +10,8 @@ namespace kestrel::windows {
 
 ToolsPane::ToolsPane(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
+    // Edges with the tool's picture between them.
+    picTools_.DivideBy({"|...################..|", "|...###############..|"});
     picTools_.move(widgets::kEdgeDistance, widgets::kEdgeDistance);
 }
 

@@ -13,6 +13,7 @@
 #include "document/ApplicationIcon.h"
 #include "i18n/Captions.h"
 #include "i18n/Messages.h"
+#include "windows/widgets/DevicePixels.h"
 
 namespace kestrel::windows {
 
@@ -41,14 +42,20 @@ QLabel* NewHeading(const QString& text) {
     return heading;
 }
 
-QLabel* NewPicture() {
-    const gdi::IconPlanes icon = document::ApplicationIcon();
-    const QImage picture = desktop::ToImage(icon);
-    auto* label = new QLabel;
-    label->setPixmap(QPixmap::fromImage(picture.scaled(picture.size() * kPictureTimes)));
-    label->setAlignment(Qt::AlignTop);
-    return label;
-}
+// The program's icon, enlarged.
+class Picture : public QWidget {
+  public:
+    Picture() { setFixedSize(picture_.size() * kPictureTimes); }
+
+  protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        widgets::DrawSharp(painter, rect(), picture_);
+    }
+
+  private:
+    QImage picture_ = desktop::ToImage(document::ApplicationIcon());
+};
 
 }  // namespace
 
@@ -56,7 +63,7 @@ frmAbout::frmAbout(QWidget* owner, tools::SystemInformation& information) : QDia
     setWindowTitle(ToText(i18n::kAboutTitle.Now()));
     auto* facts = new QHBoxLayout;
     facts->setSpacing(kBetweenBlocks);
-    facts->addWidget(NewPicture());
+    facts->addWidget(new Picture, 0, Qt::AlignTop);
     facts->addLayout(NewTexts());
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(kAboutMargin, kAboutMargin, kAboutMargin, kAboutMargin);

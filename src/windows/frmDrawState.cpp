@@ -9,6 +9,7 @@
 #include "i18n/Captions.h"
 #include "windows/FrmParts.h"
 #include "windows/WindowColor.h"
+#include "windows/widgets/DevicePixels.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
@@ -22,6 +23,7 @@ constexpr int kStep = 50;
 constexpr int kLabelTop = 14;
 constexpr QSize kLabel(50, 13);
 constexpr int kIconTop = 30;
+constexpr QSize kState(tools::kStateSize, tools::kStateSize);
 constexpr int kSmallestFont = 8;
 // Between two labels side by side.
 constexpr int kBetweenLabels = 4;
@@ -118,7 +120,7 @@ void frmDrawState::paintEvent(QPaintEvent* /*event*/) {
         DrawLabel(painter, {PlaceOf(i, kLabelTop), kLabel}, tools::DrawStates()[i]);
         // The last one has a box of its own.
         if (i + 1 < pictures_.size())
-            painter.drawImage(PlaceOf(i, kIconTop), ImageOf(pictures_[i]));
+            widgets::DrawSharp(painter, {PlaceOf(i, kIconTop), kState}, ImageOf(pictures_[i]));
     }
 }
 
@@ -141,7 +143,7 @@ void frmDrawState::DrawLabel(QPainter& painter, QRect box, const tools::StateRow
         QImage picture = TextPicture(ToText(state.label.Now()), painter.font(),
                                      desktop::ToColor(layer.color), devicePixelRatioF());
         if (layer.dithered) Dither(picture);
-        painter.drawImage(box.topLeft() + QPoint(layer.shift, layer.shift), picture);
+        widgets::DrawUnscaled(painter, box.topLeft() + QPoint(layer.shift, layer.shift), picture);
     }
 }
 

@@ -23,7 +23,8 @@ using tools::MagnifierSettings;
 constexpr int kZoomMargin = 4;
 constexpr int kZoomGap = 4;
 constexpr QSize kSwitch(26, 26);
-constexpr QSize kSwitchPicture(16, 16);
+// Leaves room for twice the pictures on screens of one and a half device pixels.
+constexpr QSize kSwitchPicture(22, 22);
 constexpr int kZoomBoxWidth = 56;
 constexpr int kLeastBarWidth = 40;
 constexpr QSize kLeastPicture(112, 48);

@@ -2,21 +2,16 @@
 
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "desktop/Pictures.h"
+#include "windows/widgets/DevicePixels.h"
 
 namespace kestrel::widgets {
 
 namespace {
 
 constexpr int kRowsAtATime = 16;
-
-// The whole pixels between two points of one axis, in units of a window of this scale.
-int PixelsBetween(int start, int end, qreal scale) {
-    return static_cast<int>(std::floor(end * scale) - std::ceil(start * scale));
-}
 
 }  // namespace
 
@@ -26,10 +21,8 @@ DevicePixelView::DevicePixelView(DrawRows drawRows, QWidget* parent)
 }
 
 gdi::Size DevicePixelView::SizeInPixels() const {
-    const qreal scale = devicePixelRatioF();
-    const QPoint from = mapTo(window(), QPoint());
-    return {PixelsBetween(from.x(), from.x() + width(), scale),
-            PixelsBetween(from.y(), from.y() + height(), scale)};
+    const QSize size = DevicePixelsOf(*this).size();
+    return {size.width(), size.height()};
 }
 
 void DevicePixelView::paintEvent(QPaintEvent* /*event*/) {
@@ -40,9 +33,7 @@ void DevicePixelView::paintEvent(QPaintEvent* /*event*/) {
     if (toDevice.mapRect(QRectF(rect())).size() != QSizeF(width, height)) {
         painter.fillRect(rect(), palette().color(QPalette::Window));
     }
-    painter.setTransform(
-        QTransform::fromTranslate(std::ceil(toDevice.dx()), std::ceil(toDevice.dy())) *
-        toDevice.inverted());
+    UseDevicePixels(painter);
     gdi::Surface rows(width, kRowsAtATime);
     for (int top = 0; top < height; top += kRowsAtATime) {
         const int count = std::min(kRowsAtATime, height - top);

@@ -9,6 +9,8 @@
 #include "desktop/Text.h"
 #include "i18n/Captions.h"
 #include "i18n/Messages.h"
+#include "windows/widgets/DevicePixels.h"
+#include "windows/widgets/MousePoint.h"
 
 namespace kestrel::widgets {
 
@@ -67,15 +69,12 @@ void IconGridView::paintEvent(QPaintEvent* event) {
     for (int icon = FirstIconAt(event->rect().top()); icon < end; ++icon) {
         const QRect picture = ToRect(grid.PictureOf(icon));
         if (event->region().intersects(picture))
-            painter.drawImage(picture.topLeft(),
-                              desktop::ToImage(extraction_.PictureOf(icon),
-                                               {0, 0, picture.width(), picture.height()}));
+            DrawSharp(painter, picture,
+                      desktop::ToImage(extraction_.PictureOf(icon),
+                                       {0, 0, picture.width(), picture.height()}));
     }
     if (!extraction_.HasIcons()) return;
-    // Filled: a line may leave out a side where a unit is no whole number of pixels.
-    const QRect box = ToRect(grid.BoxOf(boxed_));
-    for (const QRect& side : QRegion(box) - box.adjusted(1, 1, -1, -1))
-        painter.fillRect(side, Qt::black);
+    DrawOutline(painter, ToRect(grid.BoxOf(boxed_)), Qt::black);
 }
 
 void IconGridView::mousePressEvent(QMouseEvent* /*event*/) {
@@ -88,7 +87,8 @@ void IconGridView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void IconGridView::mouseReleaseEvent(QMouseEvent* event) {
     const bool second = std::exchange(doubleClicked_, false);
-    if (onMouseUp && visibleRegion().contains(event->pos())) onMouseUp(event->pos(), second);
+    const QPoint at = UnitOf(*event);
+    if (onMouseUp && visibleRegion().contains(at)) onMouseUp(at, second);
 }
 
 }  // namespace kestrel::widgets

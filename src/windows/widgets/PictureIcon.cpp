@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/Pictures.h"
+#include "windows/widgets/DevicePixels.h"
 
 namespace kestrel::widgets {
 
@@ -44,11 +45,7 @@ class PictureEngine : public QIconEngine {
                QIcon::State /*state*/) override {
         QImage picture = desktop::ToImage(pictures_->Picture(number_));
         if (mode == QIcon::Disabled) picture = Disabled(picture);
-        const int times =
-            std::max(1, std::min(area.width() / picture.width(), area.height() / picture.height()));
-        QRect target(QPoint(), picture.size() * times);
-        target.moveCenter(area.center());
-        painter->drawImage(target, picture);
+        DrawSharp(*painter, area, picture);
     }
 
   private:

@@ -3,8 +3,10 @@
 #include <QCursor>
 #include <QPaintEvent>
 #include <QPainter>
+#include <cmath>
 
 #include "desktop/Pictures.h"
+#include "windows/widgets/DevicePixels.h"
 #include "windows/widgets/MousePoint.h"
 
 namespace kestrel::widgets {
@@ -24,28 +26,61 @@ void SurfaceWidget::Show(const gdi::Surface& surface) {
     setFixedSize(surface.Width(), surface.Height());
 }
 
+gdi::ScreenSteps SurfaceWidget::Steps() const {
+    const QSize room = DevicePixelsOf(*this).size();
+    return {pattern_,
+            {surface_->Width(), surface_->Height()},
+            {room.width(), room.height()},
+            devicePixelRatioF()};
+}
+
+QRectF SurfaceWidget::UnitsOf(gdi::Rect pixels) const {
+    const gdi::Rect place = Steps().PlaceOf(pixels);
+    const qreal scale = devicePixelRatioF();
+    const QPointF corner = DevicePixelsOf(*this).topLeft() + QPoint(place.left, place.top);
+    return {corner / scale - mapTo(window(), QPoint()), QSizeF(place.width, place.height) / scale};
+}
+
 void SurfaceWidget::Repaint(gdi::Rect area) {
-    update(area.left, area.top, area.width, area.height);
+    if (surface_ == nullptr) return;
+    const QRectF units = UnitsOf(area);
+    const QRect whole = units.toAlignedRect();
+    // The desktop library rounds once more before it hands on what was painted.
+    update(whole == units ? whole : whole.adjusted(-1, -1, 1, 1));
 }
 
 void SurfaceWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
+    const QTransform toDevice = painter.deviceTransform();
+    const QColor ground = palette().color(QPalette::Window);
+    const gdi::ScreenSteps steps = Steps();
+    // Pixels that lie in the widget in part only.
+    if (toDevice.m11() != std::floor(toDevice.m11())) painter.fillRect(rect(), ground);
+    UseDevicePixels(painter);
+    const QTransform toPixels = toDevice * painter.deviceTransform().inverted();
+    const QRect all(QPoint(), DevicePixelsOf(*this).size());
     for (const QRect& part : event->region()) {
-        const QRect inside = part & rect();
-        painter.drawImage(
-            inside.topLeft(),
-            desktop::ToImage(*surface_, {inside.x(), inside.y(), inside.width(), inside.height()}));
+        const QRect pixels = toPixels.mapRect(QRectF(part)).toAlignedRect() & all;
+        const gdi::Surface shown =
+            steps.Shown(*surface_, {pixels.x(), pixels.y(), pixels.width(), pixels.height()},
+                        desktop::ToColorRef(ground));
+        painter.drawImage(pixels.topLeft(), desktop::ToImage(shown, shown.Bounds()));
     }
+}
+
+QPoint SurfaceWidget::PixelAt(QPointF unit) const {
+    const gdi::Point pixel = Steps().At(DevicePixelAt(*this, unit));
+    return {pixel.x, pixel.y};
 }
 
 QPoint SurfaceWidget::PointerAt() const {
     const QPoint rounded = mapFromGlobal(QCursor::pos());
-    return rounded == lastRounded_ ? lastPoint_ : rounded;
+    return rounded == lastRounded_ ? lastPoint_ : PixelAt(rounded);
 }
 
 void SurfaceWidget::mousePressEvent(QMouseEvent* event) {
     doubleClicked_ = Qt::NoButton;
-    if (!mouseIgnored_ && onMouseDown) onMouseDown(event->button(), UnitOf(*event));
+    if (!mouseIgnored_ && onMouseDown) onMouseDown(event->button(), PixelAt(ExactPoint(*event)));
 }
 
 // The second press of a quick pair is a press like any other.
@@ -55,7 +90,7 @@ void SurfaceWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void SurfaceWidget::mouseMoveEvent(QMouseEvent* event) {
-    lastPoint_ = UnitOf(*event);
+    lastPoint_ = PixelAt(ExactPoint(*event));
     lastRounded_ = mapFromGlobal(event->globalPosition().toPoint());
     if (!mouseIgnored_ && onMouseMove) onMouseMove(event->buttons(), lastPoint_);
 }
@@ -67,7 +102,7 @@ void SurfaceWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (ofDoubleClick && onDoubleClick) {
         onDoubleClick();
     } else if (onMouseUp) {
-        onMouseUp(event->button(), UnitOf(*event));
+        onMouseUp(event->button(), PixelAt(ExactPoint(*event)));
     }
 }
 

@@ -4,18 +4,20 @@
 #include <QWidget>
 #include <functional>
 
-#include "platform/gdi/Surface.h"
+#include "platform/gdi/ScreenSteps.h"
 
 namespace kestrel::widgets {
 
-// Shows a surface, one pixel of it a unit of the window, and hands on its mouse events. Points are
-// in pixels of the surface and may lie outside while a button is held. Without a surface it has no
-// size.
+// Shows a surface, one pixel of it a unit of the window and on scaled desktops in whole pixels of
+// the screen, and hands on its mouse events. Points are in pixels of the surface and may lie
+// outside while a button is held. Without a surface it has no size.
 class SurfaceWidget : public QWidget {
   public:
     explicit SurfaceWidget(QWidget* parent);
     SurfaceWidget(const gdi::Surface& surface, QWidget* parent);
 
+    // How the surface is divided, which counts on scaled desktops; at first it is one picture.
+    void DivideBy(const gdi::StepPattern& pattern) { pattern_ = pattern; }
     // Shows this surface from now on, which outlives the widget or is shown no longer than it is.
     void Show(const gdi::Surface& surface);
 
@@ -28,6 +30,8 @@ class SurfaceWidget : public QWidget {
 
     // These pixels changed.
     void Repaint(gdi::Rect area);
+    // Where they are shown, in the widget's units.
+    QRectF UnitsOf(gdi::Rect pixels) const;
 
     std::function<void(Qt::MouseButton button, QPoint point)> onMouseDown;
     std::function<void(Qt::MouseButtons held, QPoint point)> onMouseMove;
@@ -43,7 +47,11 @@ class SurfaceWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    gdi::ScreenSteps Steps() const;
+    QPoint PixelAt(QPointF unit) const;
+
     const gdi::Surface* surface_ = nullptr;
+    gdi::StepPattern pattern_;
     bool mouseIgnored_ = false;
     // Where the pointer moved last, and what the cursor's own point, which is rounded, made of it.
     QPoint lastPoint_;
