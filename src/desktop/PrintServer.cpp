@@ -25,7 +25,7 @@ struct Freed {
     }
 };
 using Connection = std::unique_ptr<http_t, Freed<httpClose>>;
-using Answer = std::unique_ptr<ipp_t, Freed<ippDelete>>;
+using ServerAnswer = std::unique_ptr<ipp_t, Freed<ippDelete>>;
 
 // A connection on which no answer takes longer. Passwords are not asked for: the library would do
 // so on the terminal.
@@ -46,7 +46,8 @@ bool Ask() {
     const Connection server = Connect(kPatienceToList);
     if (!server) return false;
     // Whatever it answers.
-    const Answer answer(cupsDoRequest(server.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
+    const ServerAnswer answer(
+        cupsDoRequest(server.get(), ippNewRequest(IPP_OP_CUPS_GET_DEFAULT), "/"));
     return answer != nullptr;
 }
 
