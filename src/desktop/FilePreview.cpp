@@ -18,7 +18,7 @@ namespace kestrel::desktop {
 namespace {
 
 constexpr int kSide = 128;
-constexpr int kFrame = 4;
+constexpr int kPreviewFrame = 4;
 constexpr int kTextLines = 3;
 // Icon files above it are not read while one moves through a folder.
 constexpr std::size_t kMostIconBytes = 4 << 20;
@@ -55,8 +55,9 @@ std::optional<Preview> PreviewOf(const std::string& path) {
 
 FilePreview::FilePreview(QWidget* parent) : QWidget(parent) {
     setAccessibleName(ToText(i18n::kPreview.Now()));
-    setMinimumSize(kSide + 2 * kFrame,
-                   kSide + 2 * kFrame + kTextLines * fontMetrics().lineSpacing() + kFrame);
+    setMinimumSize(
+        kSide + 2 * kPreviewFrame,
+        kSide + 2 * kPreviewFrame + kTextLines * fontMetrics().lineSpacing() + kPreviewFrame);
 }
 
 void FilePreview::Show(const std::string& path) {
@@ -78,7 +79,7 @@ void FilePreview::Show(const std::string& path) {
 
 void FilePreview::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const int side = kSide + 2 * kFrame;
+    const int side = kSide + 2 * kPreviewFrame;
     QStyleOptionFrame frame;
     frame.initFrom(this);
     frame.rect = QRect((width() - side) / 2, 0, side, side);
@@ -89,7 +90,7 @@ void FilePreview::paintEvent(QPaintEvent* /*event*/) {
     if (picture_.isNull()) return;
     DrawPicture(painter, frame.rect);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(QRect(0, side + kFrame, width(), height() - side - kFrame),
+    painter.drawText(QRect(0, side + kPreviewFrame, width(), height() - side - kPreviewFrame),
                      Qt::AlignHCenter | Qt::AlignTop, accessibleDescription());
 }
 

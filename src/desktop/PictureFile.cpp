@@ -110,7 +110,7 @@ bool HasManyScans(const QByteArray& file) {
     return file.count("\xFF\xDA") > kMostScans;
 }
 
-tl::unexpected<Error> Unreadable() {
+tl::unexpected<Error> UnreadablePicture() {
     return Fail(kInvalidPicture, "Invalid picture");
 }
 
@@ -128,17 +128,17 @@ gdi::Surface PixelsOf(const formats::IconImage& icon) {
 // By the readers of the editor's own files.
 Result<gdi::SampledPicture> ReadIcon(formats::Bytes file) {
     const auto icon = formats::ReadBestImage(file);
-    if (!icon) return Unreadable();
+    if (!icon) return UnreadablePicture();
     return gdi::SampledPicture(PixelsOf(*icon));
 }
 
 Result<gdi::SampledPicture> ReadPng(formats::Bytes file) {
     const auto info = formats::ReadPngInfo(file, kLongestSide);
-    if (!info) return Unreadable();
+    if (!info) return UnreadablePicture();
     gdi::SampledPicture picture(gdi::Size{info->width, info->height});
     std::size_t work = 0;
     auto pixels = formats::ReadPngPixels(file, *info, picture.Kept(), work);
-    if (!pixels) return Unreadable();
+    if (!pixels) return UnreadablePicture();
     picture.Pixels() = *std::move(pixels);
     return picture;
 }
@@ -161,13 +161,14 @@ Result<gdi::SampledPicture> ReadByLibrary(const QByteArray& file) {
     const QByteArray format = reader.format();
     const bool isBmp = format == "bmp";
     const qint64 bytesAPixel = BytesAPixel(format, file);
-    if (bytesAPixel == 0) return Unreadable();
+    if (bytesAPixel == 0) return UnreadablePicture();
     // Asked before anything is allocated for it. Rows from the top make the height negative.
     const QSize told = reader.size();
     const QSize size(told.width(), std::abs(told.height()));
-    if (size.isEmpty()) return Unreadable();
+    if (size.isEmpty()) return UnreadablePicture();
     const qint64 rows = isBmp ? std::min(size.height(), kMostKeptRows) : size.height();
-    if (qint64{size.width()} * rows * bytesAPixel + file.size() > kMostMemory) return Unreadable();
+    if (qint64{size.width()} * rows * bytesAPixel + file.size() > kMostMemory)
+        return UnreadablePicture();
     gdi::SampledPicture picture(gdi::Size{size.width(), size.height()});
     QImage image;
     if (isBmp) {
@@ -176,7 +177,7 @@ Result<gdi::SampledPicture> ReadByLibrary(const QByteArray& file) {
         image = reader.read();
     }
     if (image.isNull() || image.width() != size.width() || (!isBmp && image.size() != size))
-        return Unreadable();
+        return UnreadablePicture();
     TakeKept(image, picture);
     return picture;
 }

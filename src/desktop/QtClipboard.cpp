@@ -43,7 +43,7 @@ constexpr std::array kFormats{kPng,           kBmp,
                               "image/gif",    "image/jpeg",
                               kFileList};
 
-tl::unexpected<Error> Unreadable() {
+tl::unexpected<Error> UnreadableClip() {
     return Fail(kInvalidPicture, "Invalid picture");
 }
 
@@ -84,11 +84,11 @@ std::optional<std::string> OfferedFormat(XSelection& selection) {
 
 // What the clipboard holds in this format as an image, or the file that it names.
 Picture ReadContent(const std::string& format, const QByteArray& content) {
-    if (static_cast<std::size_t>(content.size()) > kMostBytes) return Unreadable();
+    if (static_cast<std::size_t>(content.size()) > kMostBytes) return UnreadableClip();
     if (format != kFileList) return ReadPicture(content);
     const auto file = system::DiskFiles(system::PathNames::AsWritten)
                           .ReadFile(CopiedPicture(content), kMostBytes);
-    if (!file) return Unreadable();
+    if (!file) return UnreadableClip();
     return ReadPicture(ViewOf(*file));
 }
 
@@ -96,9 +96,9 @@ Picture ReadContent(const std::string& format, const QByteArray& content) {
 Picture Fetch(const XSelection::Wanted& wanted) {
     XSelection selection(wanted);
     const auto format = OfferedFormat(selection);
-    if (!format || format->empty()) return Unreadable();
+    if (!format || format->empty()) return UnreadableClip();
     const auto bytes = selection.Read(*format, kMostBytes);
-    if (!bytes) return Unreadable();
+    if (!bytes) return UnreadableClip();
     return ReadContent(*format, ViewOf(*bytes));
 }
 
@@ -106,7 +106,7 @@ Picture OrRunOut(const std::function<Picture()>& work) {
     try {
         return work();
     } catch (const std::bad_alloc&) {
-        return Unreadable();
+        return UnreadableClip();
     }
 }
 
@@ -181,10 +181,10 @@ void QtClipboard::Learn(const std::string& format) {
 }
 
 Picture QtClipboard::GetImage() {
-    if (!HasImage()) return Unreadable();
+    if (!HasImage()) return UnreadableClip();
     // What came too late for the last call may be there by now.
     if (!coming_.valid() || comingFor_ != question_) StartFetching();
-    if (coming_.wait_for(kSelectionPatience) != std::future_status::ready) return Unreadable();
+    if (coming_.wait_for(kSelectionPatience) != std::future_status::ready) return UnreadableClip();
     Picture picture = coming_.get();
     if (!picture) Ask();
     return picture;

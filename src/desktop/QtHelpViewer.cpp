@@ -12,7 +12,7 @@ namespace {
 
 constexpr QSize kWindowSize(700, 560);
 // What a window manager puts around a window, at the most.
-constexpr QSize kFrame(16, 40);
+constexpr QSize kWindowFrame(16, 40);
 
 bool CanRead(const std::string& file) {
     const QFileInfo page(QString::fromStdString(file));
@@ -54,7 +54,7 @@ void QtHelpViewer::Close() {
 QTextBrowser* QtHelpViewer::NewWindow() {
     auto* window = new QTextBrowser;
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->resize(kWindowSize.boundedTo(window->screen()->availableSize() - kFrame));
+    window->resize(kWindowSize.boundedTo(window->screen()->availableSize() - kWindowFrame));
     // The browser follows links within the help; the web is for the desktop's own.
     window->setOpenLinks(false);
     QObject::connect(window, &QTextBrowser::anchorClicked, window,

@@ -22,12 +22,12 @@ constexpr int kBetweenLabels = 6;
 
 // In the order of AdjustmentBar.
 constexpr std::array kNames{"Brightness", "Red", "Green", "Blue"};
-constexpr std::array kCaptions{i18n::kBrightness, i18n::kRed, i18n::kGreen, i18n::kBlue};
+constexpr std::array kBarCaptions{i18n::kBrightness, i18n::kRed, i18n::kGreen, i18n::kBlue};
 
 // All of one width, so that the bars and the preview stand at even distances.
 QVBoxLayout* NewColumn(const QDialog& dialog) {
     int width = 0;
-    for (const i18n::Text& caption : kCaptions)
+    for (const i18n::Text& caption : kBarCaptions)
         width = std::max(width, dialog.fontMetrics().horizontalAdvance(ToText(caption.Now())));
     auto* column = new QVBoxLayout;
     column->setSpacing(kBetweenLabels);
@@ -65,7 +65,7 @@ FrmColAdj::FrmColAdj(QWidget* owner, imaging::ColorAdjustment& colors, gdi::Surf
 
 QLayout* FrmColAdj::NewBarColumn(imaging::AdjustmentBar bar) {
     const auto index = static_cast<std::size_t>(bar);
-    auto* caption = new QLabel(ToText(kCaptions[index].Now()));
+    auto* caption = new QLabel(ToText(kBarCaptions[index].Now()));
     caption->setAlignment(Qt::AlignCenter);
     QLabel* value = NewValueLabel(kNames[index]);
     auto* vsb = new widgets::ValueBar(Qt::Vertical);

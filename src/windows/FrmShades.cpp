@@ -17,7 +17,7 @@ using desktop::ToText;
 using filters::kMaxLevel;
 using filters::Level;
 
-constexpr int kPageStep = 5;
+constexpr int kLevelPage = 5;
 constexpr int kBarWidth = 128;
 // Left and right of a box's text together.
 constexpr int kBoxEdges = 16;
@@ -25,7 +25,7 @@ constexpr int kSwatchHeight = 22;
 constexpr int kGroupMargin = 10;
 constexpr int kBetweenControls = 8;
 constexpr std::size_t kChannels = 3;
-constexpr std::array kCaptions{i18n::kGradientRed, i18n::kGradientGreen, i18n::kGradientBlue};
+constexpr std::array kLevelCaptions{i18n::kGradientRed, i18n::kGradientGreen, i18n::kGradientBlue};
 
 // None when it is too large for a level. Nothing counts as 0.
 std::optional<int> LevelOf(const QString& text) {
@@ -39,7 +39,7 @@ widgets::ValueBar* NewLevelBar(std::size_t index, int value) {
     auto* bar = new widgets::ValueBar(Qt::Horizontal);
     bar->setObjectName(QStringLiteral("Hsb%1").arg(index));
     bar->setRange(0, kMaxLevel);
-    bar->setPageStep(kPageStep);
+    bar->setPageStep(kLevelPage);
     bar->setValue(value);
     bar->setFixedWidth(kBarWidth);
     return bar;
@@ -87,7 +87,7 @@ QWidget* FrmShades::NewColorGroup(End end) {
     const std::size_t first = end == End::Start ? 0 : kChannels;
     for (std::size_t i = 0; i < kChannels; ++i) {
         AddLevel(first + i, end == End::Start ? 0 : kMaxLevel);
-        auto* caption = new QLabel(ToText(kCaptions[i].Now()));
+        auto* caption = new QLabel(ToText(kLevelCaptions[i].Now()));
         caption->setBuddy(TxtColor_[first + i]);
         const int row = static_cast<int>(i) + 1;
         grid->addWidget(caption, row, 0, Qt::AlignRight);

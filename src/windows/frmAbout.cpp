@@ -22,7 +22,7 @@ namespace {
 using desktop::ToText;
 
 constexpr int kAboutMargin = 20;
-constexpr int kBetweenBlocks = 18;
+constexpr int kBetweenFacts = 18;
 constexpr int kBetweenLines = 6;
 constexpr int kPictureTimes = 2;
 
@@ -62,12 +62,12 @@ class Picture : public QWidget {
 frmAbout::frmAbout(QWidget* owner, tools::SystemInformation& information) : QDialog(owner) {
     setWindowTitle(ToText(i18n::kAboutTitle.Now()));
     auto* facts = new QHBoxLayout;
-    facts->setSpacing(kBetweenBlocks);
+    facts->setSpacing(kBetweenFacts);
     facts->addWidget(new Picture, 0, Qt::AlignTop);
     facts->addLayout(NewTexts());
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(kAboutMargin, kAboutMargin, kAboutMargin, kAboutMargin);
-    rows->setSpacing(kBetweenBlocks);
+    rows->setSpacing(kBetweenFacts);
     rows->addLayout(facts);
     rows->addWidget(NewButtons(information));
     desktop::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);

@@ -26,7 +26,7 @@ constexpr int kIconTop = 30;
 constexpr QSize kState(tools::kStateSize, tools::kStateSize);
 constexpr int kSmallestFont = 8;
 // Between two labels side by side.
-constexpr int kBetweenLabels = 4;
+constexpr int kBetweenStates = 4;
 
 QPoint PlaceOf(std::size_t state, int top) {
     return {kLeft + kStep * static_cast<int>(state), top};
@@ -129,7 +129,7 @@ QFont frmDrawState::LabelFont() const {
     int pixels = widgets::kSmallFontPixels;
     const auto fits = [this](const tools::StateRow& state, int size) {
         const QFontMetrics metrics(widgets::FontOf(*this, size));
-        return metrics.horizontalAdvance(ToText(state.label.Now())) <= kStep - kBetweenLabels;
+        return metrics.horizontalAdvance(ToText(state.label.Now())) <= kStep - kBetweenStates;
     };
     while (pixels > kSmallestFont && !std::ranges::all_of(tools::DrawStates(), [&](const auto& s) {
                return fits(s, pixels);

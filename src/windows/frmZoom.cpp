@@ -29,7 +29,7 @@ constexpr int kZoomBoxWidth = 56;
 constexpr int kLeastBarWidth = 40;
 constexpr QSize kLeastPicture(112, 48);
 constexpr QSize kDesignedPicture(320, 240);
-constexpr int kPageStep = 10;
+constexpr int kZoomPage = 10;
 
 // Those that move the scroll bar.
 bool IsBarKey(int key) {
@@ -94,7 +94,7 @@ QLayout* frmZoom::NewControlRow() {
     hsbZoom_ = new widgets::ValueBar(Qt::Horizontal);
     hsbZoom_->setObjectName("hsbZoom");
     hsbZoom_->setRange(MagnifierSettings::kLeastZoom, MagnifierSettings::kMostZoom);
-    hsbZoom_->setPageStep(kPageStep);
+    hsbZoom_->setPageStep(kZoomPage);
     hsbZoom_->setMinimumWidth(kLeastBarWidth);
     connect(hsbZoom_, &QScrollBar::valueChanged, this, &frmZoom::hsbZoom_Change);
 
