@@ -61,6 +61,7 @@ Result<std::unique_ptr<Replacement>> Replacement::Write(FileCalls& calls, const 
     RemoveLeftovers(calls, replacement->target_);
     auto written = replacement->Done(replacement->Create(bytes));
     if (!written) return tl::unexpected(written.error());
+    replacement->device_ = written->device;
     return replacement;
 }
 

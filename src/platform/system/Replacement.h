@@ -31,6 +31,8 @@ class Replacement {
     // Whether the file is still the one that was there when this was written.
     bool FitsTarget() const;
     const std::string& Target() const { return target_; }
+    // The number of the file system that it lies on.
+    std::uint64_t Device() const { return device_; }
 
   private:
     Replacement(FileCalls& calls, std::string target);
@@ -42,6 +44,7 @@ class Replacement {
 
     std::string target_;
     std::optional<struct stat> old_;
+    std::uint64_t device_ = 0;
     TemporaryFile file_;
 };
 
