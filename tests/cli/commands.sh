@@ -29,7 +29,7 @@ keys=$(Icon apply --help | grep -o 'mnu[A-Za-z0-9]*' | sort -u | wc -l)
 ExpectGradient() {
     local seen
     seen=$(Icon gradient --from 250,0,64 --to 0,0,64 --format png "${@:3}" - |
-        Magick png:- -format "%[pixel:p{$1}] %[pixel:p{$2}]" info:)
+        Magick png:- -alpha set -format "%[pixel:p{$1}] %[pixel:p{$2}]" info:)
     [[ $seen == 'srgba(250,0,64,1) srgba(125,0,64,1)' ]] || Fail "gradient ${*:3}: $seen"
 }
 ExpectGradient 0,9 16,9
