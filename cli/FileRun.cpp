@@ -137,11 +137,6 @@ void FileRun::Stop(const Error& failure) {
     told_.notify_all();
 }
 
-std::string Summary(const Totals& totals, std::optional<std::size_t> count) {
-    std::string files = std::to_string(count.value_or(totals.files)) + " files";
-    return std::to_string(totals.failed) + " of " + files + " failed";
-}
-
 Result<void> FileRun::Finish() {
     const Result<void> written = teller_.Finish();
     if (!written && !failure_) failure_ = written.error();
@@ -149,15 +144,13 @@ Result<void> FileRun::Finish() {
     const auto count = names_.Count();
     if (failure_) return tl::unexpected(*failure_);
     if (IsInterrupted() && totals.files != count) {
-        std::string done = "interrupted: " + std::to_string(totals.files - totals.failed);
-        if (count) done.append(" of ").append(std::to_string(*count));
-        done += " files done";
-        if (totals.failed > 0) done.append(", ").append(std::to_string(totals.failed)) += " failed";
-        return Fail(kInterrupted, done);
+        return Fail(kInterrupted, "interrupted: " + FilesText(totals.files - totals.failed, count) +
+                                      " done" + FailedText(totals));
     }
     if (totals.failed == 0) return {};
     // The lines before have told all of a single file.
-    return Fail(EIO, totals.files > 1 ? Summary(totals, count) : "");
+    if (totals.files == 1) return Fail(EIO, "");
+    return Fail(EIO, FilesText(totals.failed, totals.files) + " failed");
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "cli/Progress.h"
 
-#include <string>
 #include <string_view>
 
 #include "cli/Streams.h"
@@ -14,16 +13,23 @@ constexpr std::string_view kClearLine = "\r\x1b[K";
 
 }  // namespace
 
+std::string FilesText(std::size_t files, std::optional<std::size_t> count) {
+    std::string text = std::to_string(files);
+    if (count) text.append(" of ").append(std::to_string(*count));
+    return text + (count.value_or(files) == 1 ? " file" : " files");
+}
+
+std::string FailedText(const Totals& totals) {
+    if (totals.failed == 0) return {};
+    return ", " + std::to_string(totals.failed) + " failed";
+}
+
 void Progress::Show(const Totals& totals) {
     if (!shown_ || Clock::now() < next_) return;
     constexpr std::chrono::milliseconds kPause(100);
     next_ = Clock::now() + kPause;
-    std::string line(kClearLine);
-    line += std::to_string(totals.files);
-    if (count_) line.append(" of ").append(std::to_string(*count_));
-    line += " files";
-    if (totals.failed > 0) line.append(", ").append(std::to_string(totals.failed)) += " failed";
-    Tell(line);
+    const std::string line(kClearLine);
+    Tell(line + FilesText(totals.files, count_) + FailedText(totals));
     visible_ = true;
 }
 

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstddef>
 #include <optional>
+#include <string>
 
 namespace kestrel::cli {
 
@@ -10,6 +11,11 @@ struct Totals {
     std::size_t files = 0;
     std::size_t failed = 0;
 };
+
+// "1 file", "2 files"; of how many, where that is known.
+std::string FilesText(std::size_t files, std::optional<std::size_t> count = std::nullopt);
+// ", 2 failed", or nothing.
+std::string FailedText(const Totals& totals);
 
 // A line on the terminal that tells how far a run of more than a second has come.
 class Progress {
