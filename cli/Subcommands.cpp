@@ -42,27 +42,29 @@ void DeclareThumbnail(CLI::App& command, Arguments& arguments) {
 void DeclareApply(CLI::App& command, Arguments& arguments) {
     command
         .add_option("COMMANDS", arguments.commands,
-                    "KEY[=VALUE][,KEY...], run in order on the whole icon")
+                    "NAME[=VALUE][,NAME...], run in order on the whole icon")
         ->required();
     AddIn(command, arguments);
     AddOut(command, arguments);
     AddOptional(command, "--seed", arguments.seed,
                 "start of the random numbers, 0 to 4294967295, for the same noise every time");
-    command.footer("Keys (mnuGamma takes the factor times 100, 1 to 9999):\n" + CommandKeys() +
-                   "\n\nExamples:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
-                   "  kestrel-icon apply mnuGamma=200,mnuRotateOpts1 in.ico out.png\n"
-                   "  kestrel-icon apply --seed 7 mnuAddNoise - - <in.ico >out.ico");
+    command.footer("Commands by name or key, in any letter case (gamma=200 is a factor of 2):\n" +
+                   CommandList() +
+                   "\n\nExamples:\n  kestrel-icon apply emboss in.ico out.ico\n"
+                   "  kestrel-icon apply gamma=200,rotate-right in.ico out.png\n"
+                   "  kestrel-icon apply --seed 7 add-noise - - <in.ico >out.ico");
 }
 
 void DeclareGradient(CLI::App& command, Arguments& arguments) {
-    command.add_option("--from", arguments.from, "start colour, R,G,B from 0 to 255")->required();
+    command.add_option("--from", arguments.from, "start colour, R,G,B from 0 to 255, or #rrggbb")
+        ->required();
     command.add_option("--to", arguments.to, "end colour")->required();
     command.add_option("--angle", arguments.angle,
                        "where the start colour is: 0 left, 45 top left and so on clockwise, to "
                        "360 (0 when left out)");
     AddOut(command, arguments);
     command.footer(
-        "Example:\n  kestrel-icon gradient --from 255,0,0 --to 0,0,255 --angle 45 out.ico");
+        "Example:\n  kestrel-icon gradient --from 255,0,0 --to '#0000ff' --angle 45 out.ico");
 }
 
 void DeclarePalette(CLI::App& command, Arguments& arguments) {

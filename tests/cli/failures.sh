@@ -30,13 +30,13 @@ Refused 'not expected: --more' info --more in.ico
 Refused 'ico: the name ends in neither' convert in.ico ico
 Refused '--format' convert --format gif in.ico out.ico
 Refused 'mnuNone: no such command' apply mnuNegative,mnuNone in.ico out.ico
-Refused 'COMMANDS: a key is missing' apply mnuNegative, in.ico out.ico
+Refused 'COMMANDS: a name is missing' apply mnuNegative, in.ico out.ico
 Refused 'takes no value' apply mnuImageOpts3= in.ico out.ico
 for gamma in '' =0 =10000 =1.5; do
     Refused 'needs a value from 1 to 9999' apply "mnuGamma$gamma" in.ico out.ico
 done
 Refused '--seed' apply --seed 4294967296 mnuDiffuse in.ico out.ico
-for color in 1,2 1,2,3,4 1,2,256; do
+for color in 1,2 1,2,3,4 1,2,256 '#12345' '#12345g' '#+12345'; do
     Refused 'a colour as R,G,B' gradient --from "$color" --to 0,0,0 out.ico
 done
 for angle in 44 405; do
