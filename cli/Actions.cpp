@@ -50,7 +50,8 @@ Result<void> Gradient(const Arguments& arguments) {
     constexpr int kFullTurn = imaging::kDegreesPerStep * imaging::kDirections;
     const auto angle = NumberIn(arguments.angle, 0, kFullTurn);
     if (!from || !to)
-        return Fail(EINVAL, "--from and --to want a colour as R,G,B, each from 0 to 255");
+        return Fail(EINVAL,
+                    "--from and --to want a colour as R,G,B, each from 0 to 255, or #rrggbb");
     if (!angle || *angle % imaging::kDegreesPerStep != 0)
         return Fail(EINVAL, "--angle wants 0 to 360 in steps of 45");
     gdi::IconPlanes icon;
