@@ -38,8 +38,8 @@ Result<void> Apply(const Arguments& arguments) {
     if (!seed) return tl::unexpected(seed.error());
     auto icon = ReadIcon(arguments.in, arguments.choice, arguments.Fit());
     if (!icon) return tl::unexpected(icon.error());
-    RunCommands(*commands, *seed, *icon);
-    return WriteIcon(target, *icon);
+    RunCommands(*commands, *seed, icon->planes);
+    return WriteIcon(target, icon->planes, icon->hotspot);
 }
 
 Result<void> Gradient(const Arguments& arguments) {
@@ -62,14 +62,6 @@ Result<void> Gradient(const Arguments& arguments) {
 
 Result<void> Palette(const Arguments& arguments) {
     return WriteText(arguments.out, formats::PaletteText(resources::kDefaultPalette));
-}
-
-Result<void> Convert(const Arguments& arguments) {
-    const IconTarget target{arguments.out, arguments.format};
-    if (Result<void> checked = CheckTarget(target); !checked) return checked;
-    const auto icon = ReadIcon(arguments.in, arguments.choice, arguments.Fit());
-    if (!icon) return tl::unexpected(icon.error());
-    return WriteIcon(target, *icon);
 }
 
 }  // namespace kestrel::cli

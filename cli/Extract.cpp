@@ -12,7 +12,6 @@
 #include "cli/Streams.h"
 #include "formats/IconExport.h"
 #include "formats/IconPixels.h"
-#include "formats/PngWriter.h"
 
 namespace kestrel::cli {
 
@@ -43,14 +42,6 @@ Result<void> MakeFolder(const std::string& folder) {
     std::filesystem::create_directories(folder, error);
     if (!error) return {};
     return FailureOf(folder, {error.value(), error.message()});
-}
-
-// A PNG stays as it is stored.
-Bytes PngOf(const SourceFile& file, const ImageEntry& image) {
-    if (image.info.png) return file.Source().Stored(image);
-    const auto pixels = file.Source().Pixels(image);
-    if (!pixels) return tl::unexpected(pixels.error());
-    return formats::PngBytes(*pixels);
 }
 
 Result<std::vector<std::size_t>> ChosenIcons(const SourceFile& file,
@@ -91,11 +82,12 @@ class Extraction {
         if (!arguments_.png && std::ranges::any_of(*images, IsTooLarge))
             return FailureOf(name + ".ico", {EINVAL, "an image is too large for an icon: --png"});
         if (!arguments_.png)
-            return WriteResult(name + ".ico", formats::ExportImages(file_.Source(), *images));
+            return WriteResult(name + ".ico",
+                               file_.Named(formats::ExportImages(file_.Source(), *images)));
         for (const ImageEntry& image : *images) {
             std::string picture = name + "-";
             picture.append(std::to_string(image.index + 1)).append(".png");
-            auto written = WriteResult(picture, PngOf(file_, image));
+            auto written = WriteResult(picture, file_.Png(image));
             if (!written) return written;
         }
         return {};
@@ -103,7 +95,7 @@ class Extraction {
 
   private:
     Result<void> WriteResult(const std::string& name, const Bytes& bytes) const {
-        if (!bytes) return file_.Failure(bytes.error());
+        if (!bytes) return tl::unexpected(bytes.error());
         if (IsRead(name)) return FailureOf(name, {EINVAL, "it is one of the files to read"});
         return WriteNew(name, *bytes);
     }

@@ -10,16 +10,20 @@
 
 namespace kestrel::cli {
 
-// Where an icon goes to: a file's name or "-" for standard output, and "ico" or "png". Where no
-// format is asked for, the name's extension tells it; what is no file takes an icon file.
+// Where an icon goes to: a file's name or "-" for standard output, and "ico", "cur" or "png". Where
+// no format is asked for, the name's extension tells it; what is no file takes an icon file.
 struct IconTarget {
     std::string name;
     std::string format;
 };
 
+// "ico", "cur" or "png"; empty when it cannot be told which is wanted.
+std::string_view FormatOf(const IconTarget& target);
 // Fails before anything is read or written when it cannot be told which format is wanted.
 Result<void> CheckTarget(const IconTarget& target);
-Result<void> WriteIcon(const IconTarget& target, const gdi::IconPlanes& icon);
+// The hotspot is a cursor's.
+Result<void> WriteIcon(const IconTarget& target, const gdi::IconPlanes& icon,
+                       gdi::Point hotspot = {});
 
 // A file is replaced wholly or not at all. What exists and is no regular file is written to as it
 // stands, and so is a link, as /dev/stdout, to where standard output leads. A failure begins with

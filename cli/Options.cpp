@@ -7,7 +7,7 @@ namespace {
 constexpr const char* kInHelp =
     "icon, cursor or PNG file, program, library or animated cursor to read; - is standard "
     "input";
-constexpr const char* kOutHelp = "file to write, .ico or .png; - is standard output";
+constexpr const char* kOutHelp = "file to write, .ico, .cur or .png; - is standard output";
 
 }  // namespace
 
@@ -41,7 +41,7 @@ void AddIn(CLI::App& command, Arguments& arguments) {
 void AddOut(CLI::App& command, Arguments& arguments) {
     command.add_option("OUT", arguments.out, kOutHelp)->required();
     command.add_option("--format", arguments.format,
-                       "ico or png, whatever OUT ends in; standard output is ico otherwise");
+                       "ico, cur or png, whatever OUT ends in; standard output is ico otherwise");
 }
 
 }  // namespace kestrel::cli

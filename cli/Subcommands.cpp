@@ -76,8 +76,17 @@ void DeclarePalette(CLI::App& command, Arguments& arguments) {
 void DeclareConvert(CLI::App& command, Arguments& arguments) {
     AddIn(command, arguments);
     AddOut(command, arguments);
+    command.add_option("--sizes", arguments.sizes,
+                       "sides of an icon's images, 1 to 256, parted by commas; each is made of the "
+                       "best image of all INs");
+    AddOptional(command, "--hotspot", arguments.hotspot,
+                "the point of a cursor that points, X,Y in pixels of the first size (32 without "
+                "--sizes)");
     command.footer(
         "Examples:\n  kestrel-icon convert in.ico out.png\n"
+        "  kestrel-icon convert --sizes 16,24,32,48,256 logo.png small.png out.ico\n"
+        "  kestrel-icon convert --hotspot 3,5 arrow.png arrow.cur\n"
+        "  kestrel-icon convert --image 4 in.ico fourth.png\n"
         "  kestrel-icon convert --icon 3 setup.exe out.ico\n"
         "  kestrel-icon convert --keep-aspect photo.png out.ico");
 }

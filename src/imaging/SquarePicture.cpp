@@ -4,26 +4,24 @@
 
 namespace kestrel::imaging {
 
-namespace {
-
-gdi::Size SizeIn(int side, gdi::Size size) {
-    const int longer = std::max(size.width, size.height);
-    return {std::max(size.width * side / longer, 1), std::max(size.height * side / longer, 1)};
+gdi::Rect PlaceInSquare(gdi::Size picture, int side) {
+    const int longer = std::max(picture.width, picture.height);
+    const int width = std::max(picture.width * side / longer, 1);
+    const int height = std::max(picture.height * side / longer, 1);
+    return {(side - width) / 2, (side - height) / 2, width, height};
 }
 
-}  // namespace
-
 SquarePicture::SquarePicture(gdi::Size from, int side)
-    : side_(side), size_(SizeIn(side, from)), averager_(from, size_) {}
+    : side_(side),
+      place_(PlaceInSquare(from, side)),
+      averager_(from, {place_.width, place_.height}) {}
 
 gdi::Surface SquarePicture::Square() const {
     gdi::Surface picture = averager_.Average();
-    if (size_ == gdi::Size{side_, side_}) return picture;
     gdi::Surface square(side_, side_, gdi::kBlack);
-    const int left = (side_ - size_.width) / 2;
-    const int top = (side_ - size_.height) / 2;
-    for (int y = 0; y < size_.height; ++y)
-        std::ranges::copy(picture.Row(y), square.Row(top + y).begin() + left);
+    if (place_ == square.Bounds()) return picture;
+    for (int y = 0; y < place_.height; ++y)
+        std::ranges::copy(picture.Row(y), square.Row(place_.top + y).begin() + place_.left);
     return square;
 }
 

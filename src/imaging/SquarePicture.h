@@ -6,8 +6,10 @@
 
 namespace kestrel::imaging {
 
-// Brings a picture of any proportions into a square: as large as it fits, in the middle,
-// transparent beside it.
+// Where a picture of any proportions lies in a square: as large as it fits, in the middle.
+gdi::Rect PlaceInSquare(gdi::Size picture, int side);
+
+// Brings a picture into a square like that, transparent beside it.
 class SquarePicture {
   public:
     SquarePicture(gdi::Size from, int side);
@@ -18,7 +20,7 @@ class SquarePicture {
 
   private:
     int side_;
-    gdi::Size size_;
+    gdi::Rect place_;
     AreaAverager averager_;
 };
 
