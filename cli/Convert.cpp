@@ -1,7 +1,12 @@
-#include <cerrno>
+#include <cstdint>
+#include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "cli/Actions.h"
+#include "cli/Conversion.h"
+#include "cli/ExitCodes.h"
 #include "cli/IconInput.h"
 #include "cli/IconOutput.h"
 #include "cli/Numbers.h"
@@ -12,62 +17,82 @@ namespace kestrel::cli {
 
 namespace {
 
+using Bytes = Result<std::vector<std::uint8_t>>;
+
+struct Wishes {
+    std::vector<int> sizes;
+    std::optional<gdi::Point> hotspot;
+};
+
 // X,Y inside an image of this side.
 Result<gdi::Point> ReadHotspot(const std::string& text, int side) {
     const auto parts = Split(text);
     const auto x = NumberIn(parts.front(), 0, side - 1);
     const auto y = NumberIn(parts.back(), 0, side - 1);
     if (parts.size() == 2 && x && y) return gdi::Point{static_cast<int>(*x), static_cast<int>(*y)};
-    return Fail(EINVAL, "--hotspot wants X,Y, each from 0 to " + std::to_string(side - 1));
+    return WrongUsage("--hotspot wants X,Y, each from 0 to " + std::to_string(side - 1));
 }
 
-// Nothing where none is asked for.
-Result<std::optional<gdi::Point>> WantedHotspot(const Arguments& arguments, std::string_view format,
-                                                int side) {
-    if (!arguments.hotspot) return std::nullopt;
-    if (format != "cur") return Fail(EINVAL, "--hotspot is for .cur");
-    const auto hotspot = ReadHotspot(*arguments.hotspot, side);
-    if (!hotspot) return tl::unexpected(hotspot.error());
-    return *hotspot;
+Result<Wishes> ReadWishes(const Arguments& arguments) {
+    Wishes wishes;
+    if (!arguments.sizes.empty()) {
+        auto sizes = ReadSizes(arguments.sizes);
+        if (!sizes) return tl::unexpected(sizes.error());
+        wishes.sizes = *std::move(sizes);
+    }
+    if (arguments.hotspot) {
+        const int side = wishes.sizes.empty() ? gdi::kIconSize : wishes.sizes.front();
+        const auto hotspot = ReadHotspot(*arguments.hotspot, side);
+        if (!hotspot) return tl::unexpected(hotspot.error());
+        wishes.hotspot = *hotspot;
+    }
+    return wishes;
 }
 
-// An icon or cursor of several images.
-Result<void> ConvertToSizes(const Arguments& arguments, const IconTarget& target) {
-    const std::string_view format = FormatOf(target);
-    if (format == "png") return Fail(EINVAL, "--sizes is for .ico and .cur");
-    auto sizes = ReadSizes(arguments.sizes);
-    if (!sizes) return tl::unexpected(sizes.error());
-    const auto hotspot = WantedHotspot(arguments, format, sizes->front());
-    if (!hotspot) return tl::unexpected(hotspot.error());
-    const auto bytes = SizedIconBytes(
-        {*std::move(sizes), {arguments.in}, arguments.choice, format == "cur", *hotspot});
-    if (!bytes) return tl::unexpected(bytes.error());
-    return WriteOutput(target.name, *bytes);
+// An icon of several sizes is made of all files before OUT, or of each that goes into a folder.
+std::vector<InputFile> SourcesOf(const Arguments& arguments, const InputFile& in) {
+    if (!arguments.into.empty()) return {in};
+    std::vector<InputFile> sources;
+    for (const std::string& file : arguments.files)
+        sources.push_back({file});
+    sources.pop_back();
+    return sources;
 }
 
 // An image that is asked for, in its own size.
-Result<void> ConvertImage(const Arguments& arguments) {
-    const auto file = SourceFile::Open(arguments.in);
-    if (!file) return tl::unexpected(file.error());
-    const auto images = ChosenImages(*file, arguments.choice);
+Bytes ImageBytes(const SourceFile& file, const IconChoice& choice) {
+    const auto images = ChosenImages(file, choice);
     if (!images) return tl::unexpected(images.error());
-    const auto bytes = file->Png(images->front());
-    if (!bytes) return tl::unexpected(bytes.error());
-    return WriteOutput(arguments.out, *bytes);
+    return file.Png(images->front());
+}
+
+Bytes ConvertFile(const Arguments& arguments, const Wishes& wishes, const InputFile& in,
+                  const IconTarget& target) {
+    const std::string_view format = FormatOf(target);
+    if (wishes.hotspot && format != "cur") return WrongUsage("--hotspot is for .cur");
+    if (!wishes.sizes.empty()) {
+        if (format == "png") return WrongUsage("--sizes is for .ico and .cur");
+        return SizedIconBytes({wishes.sizes, SourcesOf(arguments, in), arguments.choice,
+                               format == "cur", wishes.hotspot});
+    }
+    const auto file = SourceFile::Open(in);
+    if (!file) return tl::unexpected(file.error());
+    if (arguments.choice.image && format == "png") return ImageBytes(*file, arguments.choice);
+    const auto icon = ReadIcon(*file, arguments.choice, arguments.Fit());
+    if (!icon) return tl::unexpected(icon.error());
+    return EncodeIcon(target, icon->planes, wishes.hotspot.value_or(icon->hotspot));
 }
 
 }  // namespace
 
 Result<void> Convert(const Arguments& arguments) {
-    const IconTarget target{arguments.out, arguments.format};
-    if (Result<void> checked = CheckTarget(target); !checked) return checked;
-    if (!arguments.sizes.empty()) return ConvertToSizes(arguments, target);
-    const auto hotspot = WantedHotspot(arguments, FormatOf(target), gdi::kIconSize);
-    if (!hotspot) return tl::unexpected(hotspot.error());
-    if (arguments.choice.image && FormatOf(target) == "png") return ConvertImage(arguments);
-    const auto icon = ReadIcon(arguments.in, arguments.choice, arguments.Fit());
-    if (!icon) return tl::unexpected(icon.error());
-    return WriteIcon(target, icon->planes, hotspot->value_or(icon->hotspot));
+    const auto wishes = ReadWishes(arguments);
+    if (!wishes) return tl::unexpected(wishes.error());
+    if (auto checked = CheckChoice(arguments.choice); !checked) return checked;
+    return MakeResults(arguments, arguments.format,
+                       [&](const InputFile& in, const IconTarget& target) {
+                           return ConvertFile(arguments, *wishes, in, target);
+                       });
 }
 
 }  // namespace kestrel::cli

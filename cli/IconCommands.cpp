@@ -1,8 +1,8 @@
 #include "cli/IconCommands.h"
 
-#include <cerrno>
 #include <optional>
 
+#include "cli/ExitCodes.h"
 #include "cli/Numbers.h"
 
 namespace kestrel::cli {
@@ -19,7 +19,7 @@ class NoEvents : public services::MessageLoop {
 };
 
 tl::unexpected<Error> BadCommand(std::string_view what, std::string_view why) {
-    return Fail(EINVAL, std::string(what).append(": ").append(why));
+    return WrongUsage(std::string(what).append(": ").append(why));
 }
 
 Result<IconCommand> ReadCommand(std::string_view item) {

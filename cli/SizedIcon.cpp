@@ -1,9 +1,9 @@
 #include "cli/SizedIcon.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <utility>
 
+#include "cli/ExitCodes.h"
 #include "cli/Numbers.h"
 #include "formats/BestImage.h"
 #include "formats/DibWriter.h"
@@ -29,10 +29,10 @@ gdi::Size SizeOf(const ImageEntry& image) {
     return {image.info.width, image.info.height};
 }
 
-Result<std::vector<SourceFile>> OpenAll(const std::vector<std::string>& names) {
+Result<std::vector<SourceFile>> OpenAll(const std::vector<InputFile>& sources) {
     std::vector<SourceFile> files;
-    for (const std::string& name : names) {
-        auto file = SourceFile::Open(name);
+    for (const InputFile& source : sources) {
+        auto file = SourceFile::Open(source);
         if (!file) return tl::unexpected(file.error());
         files.push_back(*std::move(file));
     }
@@ -78,8 +78,8 @@ Result<std::vector<int>> ReadSizes(std::string_view list) {
     for (const std::string_view part : Split(list)) {
         const auto size = NumberIn(part, 1, kMostSide);
         if (!size || std::ranges::find(sizes, *size) != sizes.end()) {
-            return Fail(EINVAL, "--sizes wants numbers from 1 to " + std::to_string(kMostSide) +
-                                    ", each once, as in 16,32,48");
+            return WrongUsage("--sizes wants numbers from 1 to " + std::to_string(kMostSide) +
+                              ", each once, as in 16,32,48");
         }
         sizes.push_back(static_cast<int>(*size));
     }

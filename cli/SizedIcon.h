@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -20,7 +19,7 @@ struct SizedIcon {
     // In the order of the file; not empty.
     std::vector<int> sizes;
     // The files that the images come from, and which icons and images of them.
-    std::vector<std::string> sources;
+    std::vector<InputFile> sources;
     IconChoice choice;
     bool cursor = false;
     // In pixels of the first size; that of the image it is made of when left out.

@@ -17,7 +17,7 @@ void DeclareInfo(CLI::App& command, Arguments& arguments) {
 
 void DeclareExtract(CLI::App& command, Arguments& arguments) {
     AddFiles(command, arguments);
-    command.add_option("--into", arguments.into, "folder to write to, made where there is none");
+    AddInto(command, arguments);
     command.add_flag("--png", arguments.png, "write each image as PNG, not each icon as .ico");
     command
         .add_option("--icon", arguments.icons,
@@ -33,7 +33,6 @@ void DeclareExtract(CLI::App& command, Arguments& arguments) {
 
 void DeclareThumbnail(CLI::App& command, Arguments& arguments) {
     AddSource(command, arguments);
-    command.add_option("OUT", arguments.out, "PNG file to write; - is standard output")->required();
     command.add_option("--size", arguments.size,
                        "longest side in pixels, 1 to 1024 (128 when left out)");
     command.footer("Example:\n  kestrel-icon thumbnail --size 256 setup.exe setup.png");
@@ -45,7 +44,8 @@ void DeclareApply(CLI::App& command, Arguments& arguments) {
                     "NAME[=VALUE][,NAME...], run in order on the whole icon")
         ->required();
     AddIn(command, arguments);
-    AddOut(command, arguments);
+    command.add_flag("--in-place", arguments.inPlace,
+                     "write each result in place of its file, .ico, .cur or .png");
     AddOptional(command, "--seed", arguments.seed,
                 "start of the random numbers, 0 to 4294967295, for the same noise every time");
     command.footer("Commands by name or key, in any letter case (gamma=200 is a factor of 2):\n" +
@@ -75,7 +75,6 @@ void DeclarePalette(CLI::App& command, Arguments& arguments) {
 
 void DeclareConvert(CLI::App& command, Arguments& arguments) {
     AddIn(command, arguments);
-    AddOut(command, arguments);
     command.add_option("--sizes", arguments.sizes,
                        "sides of an icon's images, 1 to 256, parted by commas; each is made of the "
                        "best image of all INs");
@@ -84,10 +83,11 @@ void DeclareConvert(CLI::App& command, Arguments& arguments) {
                 "--sizes)");
     command.footer(
         "Examples:\n  kestrel-icon convert in.ico out.png\n"
+        "  kestrel-icon convert --into pictures --format png *.ico\n"
         "  kestrel-icon convert --sizes 16,24,32,48,256 logo.png small.png out.ico\n"
         "  kestrel-icon convert --hotspot 3,5 arrow.png arrow.cur\n"
-        "  kestrel-icon convert --image 4 in.ico fourth.png\n"
         "  kestrel-icon convert --icon 3 setup.exe out.ico\n"
+        "  kestrel-icon convert --image 4 in.ico fourth.png\n"
         "  kestrel-icon convert --keep-aspect photo.png out.ico");
 }
 

@@ -6,8 +6,11 @@
 #include <exception>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "cli/Actions.h"
+#include "cli/ExitCodes.h"
 #include "cli/IconOutput.h"
 #include "cli/Streams.h"
 #include "cli/Subcommands.h"
@@ -21,7 +24,7 @@ using cli::Subcommand;
 // Declaring is most of the work: where a subcommand comes first, that one alone is declared.
 void Declare(CLI::App& app, std::string_view firstWord, Arguments& arguments) {
     app.require_subcommand(1);
-    app.set_version_flag("--version", "kestrel-icon " KESTREL_VERSION);
+    app.set_version_flag("-V,--version", "kestrel-icon " KESTREL_VERSION);
     app.footer(
         "Example:\n  kestrel-icon apply emboss in.ico out.ico\n"
         "\"kestrel-icon SUBCOMMAND --help\" tells more.");
@@ -33,21 +36,43 @@ void Declare(CLI::App& app, std::string_view firstWord, Arguments& arguments) {
     }
 }
 
+// What was typed, last word first, as the parser takes it. It ends at "--" where it expects no more
+// names: names that begin like options are turned into paths instead.
+std::vector<std::string> ReversedWords(int argc, char* argv[]) {
+    std::vector<std::string> words;
+    bool isName = false;
+    for (int i = 1; i < argc; ++i) {
+        std::string word = argv[i];
+        if (!isName && word == "--") {
+            isName = true;
+            continue;
+        }
+        if (isName && word.size() > 1 && word[0] == '-') word.insert(0, "./");
+        words.push_back(std::move(word));
+    }
+    std::ranges::reverse(words);
+    return words;
+}
+
 Result<void> Run(int argc, char* argv[]) {
     CLI::App app("Runs the commands of KestrelIconEditor on icon files.", "kestrel-icon");
     Arguments arguments;
     Declare(app, argc > 1 ? argv[1] : "", arguments);
     const std::string output(cli::kStandardStream);
+    if (argc < 2) {
+        cli::Tell(app.help());
+        return cli::WrongUsage("");
+    }
     try {
-        app.parse(argc, argv);
+        app.parse(ReversedWords(argc, argv));
     } catch (const CLI::CallForHelp&) {
         return cli::WriteText(output, app.help());
     } catch (const CLI::CallForVersion&) {
         return cli::WriteText(output, app.version() + "\n");
     } catch (const CLI::ParseError& error) {
-        if (app.get_subcommands().empty() && argc > 1)
-            return Fail(EINVAL, std::string(argv[1]) + ": no such command or option");
-        return Fail(EINVAL, error.what());
+        if (app.get_subcommands().empty())
+            return cli::WrongUsage(std::string(argv[1]) + ": no such command or option");
+        return cli::WrongUsage(error.what());
     }
     const std::string chosen = app.get_subcommands().front()->get_name();
     const auto subcommand = std::ranges::find_if(
@@ -64,7 +89,9 @@ int main(int argc, char* argv[]) {
     try {
         const Result<void> done = Run(argc, argv);
         if (done) return 0;
-        cli::Complain(done.error().description);
+        // Without a description all is told already.
+        if (!done.error().description.empty()) cli::Complain(done.error().description);
+        return cli::ExitCodeOf(done.error());
     } catch (const std::exception& error) {
         cli::Complain(error.what());
     }

@@ -9,6 +9,7 @@
 #include <cassert>
 #include <cerrno>
 
+#include "platform/system/FileIdentity.h"
 #include "platform/system/SystemError.h"
 
 namespace kestrel::system {
@@ -142,9 +143,8 @@ Result<void> FileBytes::Read(std::uint64_t offset, std::span<std::uint8_t> out) 
 }
 
 // 0 for a file that can be read in parts, else the errno value that refuses it.
-int RefusalOf(const struct stat& status) {
-    if (S_ISDIR(status.st_mode)) return EISDIR;
-    if (!S_ISREG(status.st_mode)) return EINVAL;
+int RefusalToRead(const struct stat& status) {
+    if (const int refusal = RefusalOf(status); refusal != 0) return refusal;
     return static_cast<std::uint64_t>(status.st_size) > kLargestSource ? EFBIG : 0;
 }
 
@@ -164,11 +164,11 @@ Result<std::unique_ptr<ByteSource>> OpenByteSource(const std::string& path) {
     // Looked at before it is opened too: opening alone can move a device or wake a pipe's writer.
     struct stat status {};
     if (stat(path.c_str(), &status) < 0) return SystemFailure(errno);
-    if (const int refusal = RefusalOf(status); refusal != 0) return RefusalFailure(refusal);
+    if (const int refusal = RefusalToRead(status); refusal != 0) return RefusalFailure(refusal);
     constexpr int kFlags = O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
     const int file = Retry([&] { return open(path.c_str(), kFlags); });
     if (file < 0) return SystemFailure(errno);
-    int refusal = fstat(file, &status) < 0 ? errno : RefusalOf(status);
+    int refusal = fstat(file, &status) < 0 ? errno : RefusalToRead(status);
     if (refusal != 0) {
         close(file);
         return RefusalFailure(refusal);
