@@ -6,6 +6,7 @@ function __kestrel_icon_help
     kestrel-icon $argv[2..] --help | string replace -fr $argv[1] '$1\t$2'
 end
 
+# What the word under the cursor may become; fails where that is a file.
 function __kestrel_icon_words
     set -l words (commandline -opc)
     set -l current (commandline -ct)
@@ -33,7 +34,7 @@ function __kestrel_icon_words
         case --into
             __fish_complete_directories $current ''
         case --files-from
-            __fish_complete_path $current
+            return 1
         case '-*'
         case '*'
             if string match -q -- '-?*' $current
@@ -43,9 +44,9 @@ function __kestrel_icon_words
                 set -l before (string replace -r '[^,]*$' '' -- $current)
                 printf "$before%s\n" (__kestrel_icon_help '^  ([a-z-]+) +mnu\w+ +(.*)' apply)
             else
-                __fish_complete_path $current
+                return 1
             end
     end
 end
 
-complete -c kestrel-icon -f -a '(__kestrel_icon_words)'
+complete -c kestrel-icon -f -n '__kestrel_icon_words >/dev/null' -a '(__kestrel_icon_words)'

@@ -25,8 +25,8 @@ END
 # Each command has a line with a name and a key of its own.
 Icon apply --help | grep -E '^  [a-z-]+ +mnu[A-Za-z0-9]+ +[a-z]' >commands
 for column in 1 2; do
-    words=$(awk "{ print tolower(\$$column) }" commands | sort -u | wc -l)
-    [[ $words -eq 51 ]] || Fail "the help lists $words in column $column"
+    count=$(awk "{ print tolower(\$$column) }" commands | sort -u | wc -l)
+    [[ $count -eq 51 ]] || Fail "the help lists $count in column $column"
 done
 
 # 32 steps from the side that the angle names, the left one when left out. Nothing is transparent.
