@@ -33,7 +33,7 @@ done
 ExpectGradient() {
     local seen
     seen=$(Icon gradient --from '#Fa0040' --to 0,0,64 --format png "${@:3}" - |
-        Magick png:- -format "%[pixel:p{$1}] %[pixel:p{$2}]" info:)
+        Magick png:- -alpha set -format "%[pixel:p{$1}] %[pixel:p{$2}]" info:)
     [[ $seen == 'srgba(250,0,64,1) srgba(125,0,64,1)' ]] || Fail "gradient ${*:3}: $seen"
 }
 ExpectGradient 0,9 16,9
