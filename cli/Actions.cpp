@@ -57,8 +57,8 @@ Result<void> Apply(const Arguments& arguments) {
             return file->Failure({EINVAL, "its content is not what its name says"});
         auto icon = ReadIcon(*file, arguments.choice, arguments.Fit());
         if (!icon) return tl::unexpected(icon.error());
-        RunCommands(*commands, seed->value_or(std::random_device()()), *icon);
-        return EncodeIcon(target, *icon);
+        RunCommands(*commands, seed->value_or(std::random_device()()), icon->planes);
+        return EncodeIcon(target, icon->planes, icon->hotspot);
     };
     return MakeResults(arguments, arguments.format, make);
 }
@@ -73,7 +73,7 @@ Result<void> Gradient(const Arguments& arguments) {
     constexpr int kFullTurn = imaging::kDegreesPerStep * imaging::kDirections;
     const auto angle = NumberIn(arguments.angle, 0, kFullTurn);
     if (!from || !to)
-        return WrongUsage("--from and --to want a colour as R,G,B, each from 0 to 255");
+        return WrongUsage("--from and --to want a colour as R,G,B, each from 0 to 255, or #rrggbb");
     if (!angle || *angle % imaging::kDegreesPerStep != 0)
         return WrongUsage("--angle wants 0 to 360 in steps of 45");
     gdi::IconPlanes icon;
@@ -84,18 +84,6 @@ Result<void> Gradient(const Arguments& arguments) {
 
 Result<void> Palette(const Arguments& arguments) {
     return WriteText(arguments.out, formats::PaletteText(resources::kDefaultPalette));
-}
-
-Result<void> Convert(const Arguments& arguments) {
-    if (auto checked = CheckChoice(arguments.choice); !checked) return checked;
-    const auto make = [&](const InputFile& in, const IconTarget& target) -> Bytes {
-        const auto file = SourceFile::Open(in);
-        if (!file) return tl::unexpected(file.error());
-        const auto icon = ReadIcon(*file, arguments.choice, arguments.Fit());
-        if (!icon) return tl::unexpected(icon.error());
-        return EncodeIcon(target, *icon);
-    };
-    return MakeResults(arguments, arguments.format, make);
 }
 
 }  // namespace kestrel::cli

@@ -34,6 +34,8 @@ struct Arguments {
     bool png = false;
     std::vector<std::string> icons;
     std::string size = "128";
+    std::string sizes;
+    std::optional<std::string> hotspot;
 
     imaging::PasteFit Fit() const {
         return keepAspect ? imaging::PasteFit::KeepAspect : imaging::PasteFit::Shrink;

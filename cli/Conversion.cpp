@@ -1,5 +1,6 @@
 #include "cli/Conversion.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -16,18 +17,20 @@ namespace kestrel::cli {
 
 namespace {
 
-// IN OUT.
+// IN OUT. Of the images of several INs an icon of several sizes is made.
 Result<void> MakeOne(const Arguments& arguments, const std::string& format, const Make& make) {
     constexpr std::size_t kInOut = 2;
     const std::vector<std::string>& files = arguments.files;
     if (!arguments.filesFrom.empty()) return WrongUsage("--files-from wants --into");
     if (files.empty()) return WrongUsage("IN is required");
     if (files.size() < kInOut) return WrongUsage("OUT is required");
-    if (files.size() > kInOut) return WrongUsage("several files want --into");
-    const IconTarget target{files[1], format};
+    if (files.size() > kInOut && arguments.sizes.empty())
+        return WrongUsage("several files want --into");
+    const IconTarget target{files.back(), format};
+    const auto isOlder = [&](const std::string& file) { return IsNewer(target.name, file); };
     if (auto checked = CheckTarget(target); !checked) return checked;
     if (auto checked = CheckTerminal(target.name, arguments.force); !checked) return checked;
-    if (arguments.skipExisting && IsNewer(target.name, files[0])) return {};
+    if (arguments.skipExisting && std::all_of(files.begin(), files.end() - 1, isOlder)) return {};
     const auto bytes = make({files[0]}, target);
     if (!bytes) return tl::unexpected(bytes.error());
     return WriteOutput(target.name, *bytes);

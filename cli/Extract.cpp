@@ -12,7 +12,6 @@
 #include "cli/Streams.h"
 #include "formats/IconExport.h"
 #include "formats/IconPixels.h"
-#include "formats/PngWriter.h"
 
 namespace kestrel::cli {
 
@@ -20,14 +19,6 @@ namespace {
 
 using formats::ImageEntry;
 using Bytes = Result<std::vector<std::uint8_t>>;
-
-// A PNG stays as it is stored.
-Bytes PngOf(const SourceFile& file, const ImageEntry& image) {
-    if (image.info.png) return file.Source().Stored(image);
-    const auto pixels = file.Source().Pixels(image);
-    if (!pixels) return tl::unexpected(pixels.error());
-    return formats::PngBytes(*pixels);
-}
 
 Result<std::vector<std::size_t>> ChosenIcons(const SourceFile& file,
                                              const std::vector<std::string>& numbers) {
@@ -71,13 +62,14 @@ class Extraction {
         if (!png_ && std::ranges::any_of(*images, IsTooLarge))
             return FailureOf(name + ".ico", {EINVAL, "an image is too large for an icon: --png"});
         if (!png_) {
-            return WriteResult(name + ".ico",
-                               [&] { return formats::ExportImages(file_.Source(), *images); });
+            return WriteResult(name + ".ico", [&] {
+                return file_.Named(formats::ExportImages(file_.Source(), *images));
+            });
         }
         for (const ImageEntry& image : *images) {
             std::string picture = name + "-";
             picture.append(std::to_string(image.index + 1)).append(".png");
-            auto written = WriteResult(picture, [&] { return PngOf(file_, image); });
+            auto written = WriteResult(picture, [&] { return file_.Png(image); });
             if (!written) return written;
         }
         return {};
@@ -88,7 +80,7 @@ class Extraction {
     Result<void> WriteResult(const std::string& name, const Encode& encode) const {
         if (results_.IsSkipped(file_.Name(), name)) return {};
         const Bytes bytes = encode();
-        if (!bytes) return file_.Failure(bytes.error());
+        if (!bytes) return tl::unexpected(bytes.error());
         return results_.Write(name, *bytes, report_);
     }
 

@@ -13,6 +13,8 @@
 #include "cli/ExitCodes.h"
 #include "cli/Numbers.h"
 #include "cli/Streams.h"
+#include "formats/BestImage.h"
+#include "formats/PngWriter.h"
 #include "formats/UnreadableFile.h"
 #include "platform/gdi/Blit.h"
 #include "platform/system/SystemError.h"
@@ -148,6 +150,20 @@ Result<std::vector<ImageEntry>> SourceFile::Images(std::size_t icon) const {
     return images;
 }
 
+Result<std::vector<std::uint8_t>> SourceFile::Png(const ImageEntry& image) const {
+    if (image.info.png) return Named(source_.Stored(image));
+    const auto pixels = source_.Pixels(image);
+    if (!pixels) return Failure(pixels.error());
+    return formats::PngBytes(*pixels);
+}
+
+gdi::Point SourceFile::HotspotIn(const ImageEntry& image, gdi::Rect place) const {
+    if (source_.kind != formats::SourceKind::Cur) return {};
+    const auto scaled = [](int at, int from, int to) { return std::min(at, from - 1) * to / from; };
+    return {place.left + scaled(image.hotspot.x, image.info.width, place.width),
+            place.top + scaled(image.hotspot.y, image.info.height, place.height)};
+}
+
 Result<std::size_t> SourceFile::Numbered(const std::string& number) const {
     const auto icon = NumberFor("--icon", number);
     if (!icon) return icon;
@@ -178,16 +194,17 @@ Result<std::vector<ImageEntry>> ChosenImages(const SourceFile& file, const IconC
         {EINVAL, "there is no image " + *choice.image + " in icon " + std::to_string(*icon + 1)});
 }
 
-Result<gdi::IconPlanes> ReadIcon(const SourceFile& file, const IconChoice& choice,
-                                 imaging::PasteFit fit) {
+Result<OpenedIcon> ReadIcon(const SourceFile& file, const IconChoice& choice,
+                            imaging::PasteFit fit) {
     const auto images = ChosenImages(file, choice);
     if (!images) return tl::unexpected(images.error());
     const gdi::Size size = WantedSize(file, *images, fit);
     const auto image = file.Named(file.Source().Best(*images, size));
     if (!image) return tl::unexpected(image.error());
-    gdi::IconPlanes icon;
-    for (const auto& [to, from] :
-         {std::pair{&icon.image, &image->planes.image}, {&icon.mask, &image->planes.mask}}) {
+    OpenedIcon icon;
+    icon.hotspot = file.HotspotIn(formats::BestFirst(*images).front(), icon.planes.Bounds());
+    for (const auto& [to, from] : {std::pair{&icon.planes.image, &image->planes.image},
+                                   {&icon.planes.mask, &image->planes.mask}}) {
         gdi::BitBlt(*to, 0, 0, size.width, size.height, *from, 0, 0, gdi::RasterOp::Copy);
     }
     return icon;

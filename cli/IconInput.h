@@ -34,6 +34,10 @@ class SourceFile {
     // As it is stored; the icon of an icon file is called "1".
     Result<std::string> NameOf(std::size_t icon) const;
     Result<std::vector<formats::ImageEntry>> Images(std::size_t icon) const;
+    // The image in its own size; a PNG stays as it is stored.
+    Result<std::vector<std::uint8_t>> Png(const formats::ImageEntry& image) const;
+    // Where a cursor's hotspot comes to lie when the image fills this place; elsewhere its corner.
+    gdi::Point HotspotIn(const formats::ImageEntry& image, gdi::Rect place) const;
     // The icon that a user's number means.
     Result<std::size_t> Numbered(const std::string& number) const;
 
@@ -66,9 +70,15 @@ Result<void> CheckChoice(const IconChoice& choice);
 Result<std::vector<formats::ImageEntry>> ChosenImages(const SourceFile& file,
                                                       const IconChoice& choice);
 
+struct OpenedIcon {
+    gdi::IconPlanes planes;
+    // Of a cursor.
+    gdi::Point hotspot;
+};
+
 // The icon in a file, as the editor opens it. A PNG, told by its content, is pasted at the top left
 // of an empty icon instead: a larger one is fitted, a smaller one leaves the rest transparent.
-Result<gdi::IconPlanes> ReadIcon(const SourceFile& file, const IconChoice& choice,
-                                 imaging::PasteFit fit);
+Result<OpenedIcon> ReadIcon(const SourceFile& file, const IconChoice& choice,
+                            imaging::PasteFit fit);
 
 }  // namespace kestrel::cli

@@ -8,8 +8,8 @@ constexpr const char* kInHelp =
     "icon, cursor or PNG file, program, library or animated cursor to read; - is standard "
     "input";
 constexpr const char* kFormatHelp =
-    "ico or png, whatever the name of the result ends in; standard output is ico otherwise";
-constexpr const char* kOutHelp = "file to write, .ico or .png; - is standard output";
+    "ico, cur or png, whatever the name of the result ends in; standard output is ico otherwise";
+constexpr const char* kOutHelp = "file to write, .ico, .cur or .png; - is standard output";
 
 // `before` says what else FILE can be.
 void AddFilesAs(CLI::App& command, Arguments& arguments, const std::string& before) {

@@ -41,28 +41,30 @@ void DeclareThumbnail(CLI::App& command, Arguments& arguments) {
 void DeclareApply(CLI::App& command, Arguments& arguments) {
     command
         .add_option("COMMANDS", arguments.commands,
-                    "KEY[=VALUE][,KEY...], run in order on the whole icon")
+                    "NAME[=VALUE][,NAME...], run in order on the whole icon")
         ->required();
     AddIn(command, arguments);
     command.add_flag("--in-place", arguments.inPlace,
-                     "write each result in place of its file, .ico or .png");
+                     "write each result in place of its file, .ico, .cur or .png");
     AddOptional(command, "--seed", arguments.seed,
                 "start of the random numbers, 0 to 4294967295, for the same noise every time");
-    command.footer("Keys (mnuGamma takes the factor times 100, 1 to 9999):\n" + CommandKeys() +
-                   "\n\nExamples:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
-                   "  kestrel-icon apply mnuGamma=200,mnuRotateOpts1 in.ico out.png\n"
-                   "  kestrel-icon apply --seed 7 mnuAddNoise - - <in.ico >out.ico");
+    command.footer("Commands by name or key, in any letter case (gamma=200 is a factor of 2):\n" +
+                   CommandList() +
+                   "\n\nExamples:\n  kestrel-icon apply emboss in.ico out.ico\n"
+                   "  kestrel-icon apply gamma=200,rotate-right in.ico out.png\n"
+                   "  kestrel-icon apply --seed 7 add-noise - - <in.ico >out.ico");
 }
 
 void DeclareGradient(CLI::App& command, Arguments& arguments) {
-    command.add_option("--from", arguments.from, "start colour, R,G,B from 0 to 255")->required();
+    command.add_option("--from", arguments.from, "start colour, R,G,B from 0 to 255, or #rrggbb")
+        ->required();
     command.add_option("--to", arguments.to, "end colour")->required();
     command.add_option("--angle", arguments.angle,
                        "where the start colour is: 0 left, 45 top left and so on clockwise, to "
                        "360 (0 when left out)");
     AddOut(command, arguments);
     command.footer(
-        "Example:\n  kestrel-icon gradient --from 255,0,0 --to 0,0,255 --angle 45 out.ico");
+        "Example:\n  kestrel-icon gradient --from 255,0,0 --to '#0000ff' --angle 45 out.ico");
 }
 
 void DeclarePalette(CLI::App& command, Arguments& arguments) {
@@ -73,10 +75,19 @@ void DeclarePalette(CLI::App& command, Arguments& arguments) {
 
 void DeclareConvert(CLI::App& command, Arguments& arguments) {
     AddIn(command, arguments);
+    command.add_option("--sizes", arguments.sizes,
+                       "sides of an icon's images, 1 to 256, parted by commas; each is made of the "
+                       "best image of all INs");
+    AddOptional(command, "--hotspot", arguments.hotspot,
+                "the point of a cursor that points, X,Y in pixels of the first size (32 without "
+                "--sizes)");
     command.footer(
         "Examples:\n  kestrel-icon convert in.ico out.png\n"
         "  kestrel-icon convert --into pictures --format png *.ico\n"
+        "  kestrel-icon convert --sizes 16,24,32,48,256 logo.png small.png out.ico\n"
+        "  kestrel-icon convert --hotspot 3,5 arrow.png arrow.cur\n"
         "  kestrel-icon convert --icon 3 setup.exe out.ico\n"
+        "  kestrel-icon convert --image 4 in.ico fourth.png\n"
         "  kestrel-icon convert --keep-aspect photo.png out.ico");
 }
 

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <span>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "cli/Actions.h"
@@ -11,6 +10,7 @@
 #include "cli/ExitCodes.h"
 #include "cli/IconInput.h"
 #include "cli/Numbers.h"
+#include "formats/BestImage.h"
 #include "formats/IconPixels.h"
 #include "formats/PngWriter.h"
 #include "imaging/AreaAverage.h"
@@ -24,16 +24,6 @@ using formats::ImageEntry;
 
 // Damaged images cost as much time as good ones; no icon has more of them before a good one.
 constexpr std::size_t kMostTries = 8;
-
-// The smallest image that needs no enlarging comes first, then the largest of the others; of one
-// size the deepest.
-void SortForThumbnail(std::vector<ImageEntry>& images, int side) {
-    std::ranges::stable_sort(images, {}, [side](const ImageEntry& image) {
-        const formats::ImageInfo& info = image.info;
-        const int own = std::max(info.width, info.height);
-        return std::tuple(own < side, own < side ? -own : own, -info.bitsPerPixel);
-    });
-}
 
 Result<gdi::Surface> ReadFirst(const SourceFile& file, const std::vector<ImageEntry>& images) {
     Result<gdi::Surface> pixels = Fail(EINVAL, "");
@@ -50,7 +40,9 @@ Result<std::vector<std::uint8_t>> ThumbnailOf(const InputFile& input, const Icon
     if (!file) return tl::unexpected(file.error());
     auto images = ChosenImages(*file, choice);
     if (!images) return tl::unexpected(images.error());
-    SortForThumbnail(*images, side);
+    std::ranges::stable_sort(*images, {}, [side](const ImageEntry& image) {
+        return formats::RankForSide(image.info, side);
+    });
     auto pixels = ReadFirst(*file, *images);
     if (!pixels) return tl::unexpected(pixels.error());
     const gdi::Size size{pixels->Width(), pixels->Height()};

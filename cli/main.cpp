@@ -26,7 +26,7 @@ void Declare(CLI::App& app, std::string_view firstWord, Arguments& arguments) {
     app.require_subcommand(1);
     app.set_version_flag("-V,--version", "kestrel-icon " KESTREL_VERSION);
     app.footer(
-        "Example:\n  kestrel-icon apply mnuEmboss in.ico out.ico\n"
+        "Example:\n  kestrel-icon apply emboss in.ico out.ico\n"
         "\"kestrel-icon SUBCOMMAND --help\" tells more.");
     const auto isFirst = [firstWord](const Subcommand& each) { return firstWord == each.name; };
     const bool onlyFirst = std::ranges::any_of(cli::Subcommands(), isFirst);

@@ -36,16 +36,16 @@ Misused '-0 tells about the list' info -0 in.ico
 Misused 'FILE is required' convert --into ..
 Misused '-j wants a number from 1 to' info -j 0 in.ico
 Misused 'not expected: --more' info --more in.ico
-Misused 'ico: the name ends in neither' convert in.ico ico
+Misused 'ico: the name ends in none' convert in.ico ico
 Misused '--format' convert --format gif in.ico out.ico
 Misused 'mnuNone: no such command' apply mnuNegative,mnuNone in.ico out.ico
-Misused 'COMMANDS: a key is missing' apply mnuNegative, in.ico out.ico
+Misused 'COMMANDS: a name is missing' apply mnuNegative, in.ico out.ico
 Misused 'takes no value' apply mnuImageOpts3= in.ico out.ico
 for gamma in '' =0 =10000 =1.5; do
     Misused 'needs a value from 1 to 9999' apply "mnuGamma$gamma" in.ico out.ico
 done
 Misused '--seed' apply --seed 4294967296 mnuDiffuse in.ico out.ico
-for color in 1,2 1,2,3,4 1,2,256; do
+for color in 1,2 1,2,3,4 1,2,256 '#12345' '#12345g' '#+12345'; do
     Misused 'a colour as R,G,B' gradient --from "$color" --to 0,0,0 out.ico
 done
 for angle in 44 405; do
