@@ -33,6 +33,8 @@ Result<void> Teller::Tell(std::vector<Report> reports) {
 
 Result<void> Teller::Finish() {
     PlaceWaiting();
+    // The names of the last ones.
+    flush_.Flush();
     WriteOutput();
     progress_.Clear();
     return written_;
