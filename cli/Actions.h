@@ -13,7 +13,8 @@ namespace kestrel::cli {
 // What was typed, as it was typed.
 struct Arguments {
     std::vector<std::string> files;
-    std::string in;
+    std::string filesFrom;
+    bool zeros = false;
     IconChoice choice;
     std::string out;
     std::string format;
@@ -25,9 +26,16 @@ struct Arguments {
     std::string angle = "0";
     bool json = false;
     std::string into;
+    bool inPlace = false;
+    bool skipExisting = false;
+    std::string jobs;
+    bool quiet = false;
+    bool force = false;
     bool png = false;
     std::vector<std::string> icons;
     std::string size = "128";
+    std::string sizes;
+    std::optional<std::string> hotspot;
 
     imaging::PasteFit Fit() const {
         return keepAspect ? imaging::PasteFit::KeepAspect : imaging::PasteFit::Shrink;

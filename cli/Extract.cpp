@@ -1,18 +1,17 @@
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
-#include <map>
 #include <numeric>
-#include <system_error>
-#include <utility>
+#include <string>
 #include <vector>
 
 #include "cli/Actions.h"
-#include "cli/IconOutput.h"
+#include "cli/FileRun.h"
+#include "cli/IconInput.h"
+#include "cli/Inputs.h"
+#include "cli/Results.h"
 #include "cli/Streams.h"
 #include "formats/IconExport.h"
 #include "formats/IconPixels.h"
-#include "formats/PngWriter.h"
 
 namespace kestrel::cli {
 
@@ -20,38 +19,6 @@ namespace {
 
 using formats::ImageEntry;
 using Bytes = Result<std::vector<std::uint8_t>>;
-
-// What the names of a file's results begin with.
-std::string StemOf(const std::string& name) {
-    if (name == kStandardStream) return "icon";
-    return std::filesystem::path(name).stem().string();
-}
-
-// Results are called alike only where the files' stems are: all else is numbers.
-Result<void> CheckStems(const std::vector<std::string>& files) {
-    std::map<std::string, std::string> owners;
-    for (const std::string& file : files) {
-        const auto [owner, isNew] = owners.try_emplace(StemOf(file), file);
-        if (isNew) continue;
-        return FailureOf(file, {EINVAL, "its icons would be called as those of " + owner->second});
-    }
-    return {};
-}
-
-Result<void> MakeFolder(const std::string& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    if (!error) return {};
-    return FailureOf(folder, {error.value(), error.message()});
-}
-
-// A PNG stays as it is stored.
-Bytes PngOf(const SourceFile& file, const ImageEntry& image) {
-    if (image.info.png) return file.Source().Stored(image);
-    const auto pixels = file.Source().Pixels(image);
-    if (!pixels) return tl::unexpected(pixels.error());
-    return formats::PngBytes(*pixels);
-}
 
 Result<std::vector<std::size_t>> ChosenIcons(const SourceFile& file,
                                              const std::vector<std::string>& numbers) {
@@ -81,76 +48,77 @@ bool EndsAll(int error) {
 // Writes icons of one file, each under a name that begins with `start`.
 class Extraction {
   public:
-    Extraction(const SourceFile& file, const Arguments& arguments, std::string start)
-        : file_(file), arguments_(arguments), start_(std::move(start)) {}
+    Extraction(const SourceFile& file, Results& results, bool png, Report& report)
+        : file_(file),
+          results_(results),
+          png_(png),
+          start_(results.PathOf(StemOf(file.Name()) + "-")),
+          report_(report) {}
 
     Result<void> Write(std::size_t icon) const {
         const auto images = file_.Images(icon);
         if (!images) return tl::unexpected(images.error());
         const std::string name = start_ + std::to_string(icon + 1);
-        if (!arguments_.png && std::ranges::any_of(*images, IsTooLarge))
+        if (!png_ && std::ranges::any_of(*images, IsTooLarge))
             return FailureOf(name + ".ico", {EINVAL, "an image is too large for an icon: --png"});
-        if (!arguments_.png)
-            return WriteResult(name + ".ico", formats::ExportImages(file_.Source(), *images));
+        if (!png_) {
+            return WriteResult(name + ".ico", [&] {
+                return file_.Named(formats::ExportImages(file_.Source(), *images));
+            });
+        }
         for (const ImageEntry& image : *images) {
             std::string picture = name + "-";
             picture.append(std::to_string(image.index + 1)).append(".png");
-            auto written = WriteResult(picture, PngOf(file_, image));
+            auto written = WriteResult(picture, [&] { return file_.Png(image); });
             if (!written) return written;
         }
         return {};
     }
 
   private:
-    Result<void> WriteResult(const std::string& name, const Bytes& bytes) const {
-        if (!bytes) return file_.Failure(bytes.error());
-        if (IsRead(name)) return FailureOf(name, {EINVAL, "it is one of the files to read"});
-        return WriteNew(name, *bytes);
-    }
-
-    // Whether the result would replace another file of this run.
-    bool IsRead(const std::string& name) const {
-        std::error_code unreachable;
-        if (!std::filesystem::exists(name, unreachable)) return false;
-        return std::ranges::any_of(arguments_.files, [&](const std::string& file) {
-            return std::filesystem::equivalent(name, file, unreachable);
-        });
+    template <class Encode>
+    Result<void> WriteResult(const std::string& name, const Encode& encode) const {
+        if (results_.IsSkipped(file_.Name(), name)) return {};
+        const Bytes bytes = encode();
+        if (!bytes) return tl::unexpected(bytes.error());
+        return results_.Write(name, *bytes, report_);
     }
 
     const SourceFile& file_;
-    const Arguments& arguments_;
+    Results& results_;
+    bool png_;
     std::string start_;
+    Report& report_;
 };
 
-Result<void> ExtractFile(const std::string& name, const Arguments& arguments) {
-    const auto file = SourceFile::Open(name);
+Result<void> ExtractFile(const InputFile& input, const Arguments& arguments, Results& results,
+                         Report& report) {
+    const auto file = SourceFile::Open(input);
     if (!file) return tl::unexpected(file.error());
     const auto icons = ChosenIcons(*file, arguments.icons);
     if (!icons) return tl::unexpected(icons.error());
-    std::string start = StemOf(name) + "-";
-    if (!arguments.into.empty()) {
-        if (auto made = MakeFolder(arguments.into); !made) return made;
-        start.insert(0, arguments.into + "/");
-    }
-    const Extraction extraction(*file, arguments, start);
+    const Extraction extraction(*file, results, arguments.png, report);
     // One bad icon does not lose the others.
-    Result<void> all;
     for (const std::size_t icon : *icons) {
-        auto written = extraction.Write(icon);
-        if (written) continue;
-        if (!all) Complain(all.error().description);
-        all = tl::unexpected<Error>(written.error());
-        if (EndsAll(written.error().number)) break;
+        const auto written = extraction.Write(icon);
+        report.Add(written);
+        if (!written && EndsAll(written.error().number)) break;
     }
-    return all;
+    return {};
 }
 
 }  // namespace
 
 Result<void> Extract(const Arguments& arguments) {
-    if (auto checked = CheckStems(arguments.files); !checked) return checked;
-    return ForEachFile(arguments.files,
-                       [&](const std::string& file) { return ExtractFile(file, arguments); });
+    for (const std::string& icon : arguments.icons) {
+        if (auto checked = CheckChoice({icon, {}}); !checked) return checked;
+    }
+    auto inputs = ReadInputs(arguments, StemOf, "its icons would be called as those of");
+    if (!inputs) return tl::unexpected(inputs.error());
+    Results results(inputs->files, arguments.into, arguments.skipExisting);
+    return RunFiles(inputs->files, inputs->options, [&](const InputFile& file, Report& report) {
+        return ExtractFile(file, arguments, results, report);
+    });
 }
 
 }  // namespace kestrel::cli

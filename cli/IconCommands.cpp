@@ -1,8 +1,8 @@
 #include "cli/IconCommands.h"
 
-#include <cerrno>
 #include <optional>
 
+#include "cli/ExitCodes.h"
 #include "cli/Numbers.h"
 
 namespace kestrel::cli {
@@ -19,20 +19,20 @@ class NoEvents : public services::MessageLoop {
 };
 
 tl::unexpected<Error> BadCommand(std::string_view what, std::string_view why) {
-    return Fail(EINVAL, std::string(what).append(": ").append(why));
+    return WrongUsage(std::string(what).append(": ").append(why));
 }
 
 Result<IconCommand> ReadCommand(std::string_view item) {
     const std::size_t equals = item.find('=');
-    const std::string_view key = item.substr(0, equals);
-    if (key.empty()) return BadCommand("COMMANDS", "a key is missing");
-    IconCommand command{imaging::FindOperation(key)};
-    if (command.operation == nullptr) return BadCommand(key, "no such command");
+    const std::string_view name = item.substr(0, equals);
+    if (name.empty()) return BadCommand("COMMANDS", "a name is missing");
+    IconCommand command{imaging::FindNamedOperation(name)};
+    if (command.operation == nullptr) return BadCommand(name, "no such command");
     if (command.operation->TakesValue()) {
         const auto value = equals == std::string_view::npos
                                ? std::nullopt
                                : NumberIn(item.substr(equals + 1), kLeastGamma, kMostGamma);
-        if (!value) return BadCommand(item, "needs a value from 1 to 9999, as in mnuGamma=200");
+        if (!value) return BadCommand(item, "needs a value from 1 to 9999, as in gamma=200");
         command.value = static_cast<int>(*value);
     } else if (equals != std::string_view::npos) {
         return BadCommand(item, "this command takes no value");
@@ -61,20 +61,19 @@ void RunCommands(const std::vector<IconCommand>& commands, std::uint32_t seed,
         imaging::RunOperation(*command.operation, command.value, icon, filters);
 }
 
-std::string CommandKeys() {
-    constexpr std::size_t kLineLength = 76;
-    std::string lines = " ";
-    std::size_t length = lines.size();
-    const auto add = [&](std::string_view key) {
-        if (length + 1 + key.size() > kLineLength) {
-            lines += "\n ";
-            length = 1;
-        }
-        lines.append(" ").append(key);
-        length += 1 + key.size();
+std::string CommandList() {
+    constexpr std::size_t kNameWidth = 21;
+    constexpr std::size_t kKeyWidth = 16;
+    std::string lines;
+    const auto add = [&](std::string_view word, std::size_t width) {
+        lines.append(word).append(width - word.size(), ' ');
     };
-    for (const imaging::Operation& operation : imaging::Operations())
-        add(operation.key);
+    for (const imaging::Operation& operation : imaging::Operations()) {
+        lines += lines.empty() ? "  " : "\n  ";
+        add(operation.name, kNameWidth);
+        add(operation.key, kKeyWidth);
+        lines += operation.meaning;
+    }
     return lines;
 }
 

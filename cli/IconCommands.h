@@ -16,14 +16,14 @@ struct IconCommand {
     int value = 0;
 };
 
-// Reads KEY[=VALUE][,KEY...]. Gamma alone takes a value, which it must have.
+// Reads NAME[=VALUE][,NAME...]. Gamma alone takes a value, which it must have.
 Result<std::vector<IconCommand>> ReadCommands(std::string_view list);
 
 // The same seed brings the same noise.
 void RunCommands(const std::vector<IconCommand>& commands, std::uint32_t seed,
                  gdi::IconPlanes& icon);
 
-// Every key, in lines for the help.
-std::string CommandKeys();
+// Name, key and meaning of every command, a line each.
+std::string CommandList();
 
 }  // namespace kestrel::cli

@@ -10,8 +10,11 @@
 #include <span>
 #include <utility>
 
+#include "cli/ExitCodes.h"
 #include "cli/Numbers.h"
 #include "cli/Streams.h"
+#include "formats/BestImage.h"
+#include "formats/PngWriter.h"
 #include "formats/UnreadableFile.h"
 #include "platform/gdi/Blit.h"
 #include "platform/system/SystemError.h"
@@ -24,27 +27,30 @@ using formats::ImageEntry;
 using system::SystemFailure;
 using Source = Result<std::unique_ptr<system::ByteSource>>;
 
-// Pipes and devices have no size and are read as they come.
-bool IsStream(const std::string& name) {
-    struct stat status {};
-    return stat(name.c_str(), &status) == 0 && !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode);
-}
-
 Source ReadWhole(int file) {
     auto bytes = ReadStream(file, formats::kMaxIconFileBytes);
     if (!bytes) return tl::unexpected(bytes.error());
     return std::make_unique<system::MemoryBytes>(*std::move(bytes));
 }
 
-Source OpenAnything(const std::string& name) {
-    if (name == kStandardStream) return ReadWhole(STDIN_FILENO);
-    if (!IsStream(name)) return system::OpenByteSource(name);
-    const int file =
-        system::Retry([&] { return open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY); });
+// Pipes and devices have no size and are read as they come.
+Source OpenStream(const InputFile& input) {
+    struct stat status {};
+    if (stat(input.name.c_str(), &status) < 0) return SystemFailure(errno);
+    const bool isDevice = S_ISCHR(status.st_mode) || S_ISBLK(status.st_mode);
+    if (input.isAmongOthers && isDevice) return Fail(EINVAL, "It is a device");
+    const int flags = O_RDONLY | O_CLOEXEC | O_NOCTTY | (input.isAmongOthers ? O_NONBLOCK : 0);
+    const int file = system::Retry([&] { return open(input.name.c_str(), flags); });
     if (file < 0) return SystemFailure(errno);
     Source bytes = ReadWhole(file);
     close(file);
     return bytes;
+}
+
+Source OpenAnything(const InputFile& input) {
+    if (input.name == kStandardStream) return ReadWhole(STDIN_FILENO);
+    Source file = system::OpenByteSource(input.name);
+    return file || file.error().number != EINVAL ? std::move(file) : OpenStream(input);
 }
 
 // As much of a file as tells what is wrong with it.
@@ -66,14 +72,14 @@ Error WhyNoIcons(std::span<const std::uint8_t> head, const Error& found) {
     return formats::WhyUnreadable(head);
 }
 
-Result<formats::IconSource> OpenSource(const std::string& name) {
-    auto bytes = OpenAnything(name);
+Result<formats::IconSource> OpenSource(const InputFile& input) {
+    auto bytes = OpenAnything(input);
     if (!bytes) return tl::unexpected(bytes.error());
     const auto head = HeadOf(**bytes);
     if (!head) return tl::unexpected(head.error());
     const std::uint64_t size = (*bytes)->Size();
-    auto source =
-        formats::IconSource::Open(*std::move(bytes), name, formats::IconSource::Lists::Stored);
+    auto source = formats::IconSource::Open(*std::move(bytes), input.name,
+                                            formats::IconSource::Lists::Stored);
     if (!source) return tl::unexpected(WhyNoIcons(*head, source.error()));
     if (formats::IsOneIcon(source->kind) && size > formats::kMaxIconFileBytes)
         return SystemFailure(EFBIG);
@@ -105,17 +111,19 @@ Result<std::size_t> FirstReadable(const SourceFile& file) {
 
 constexpr std::int64_t kMostNumber = 65536;
 
-Error NoNumber(std::string_view option) {
-    return {EINVAL,
-            std::string(option) + " wants a number from 1 to " + std::to_string(kMostNumber)};
+Result<std::size_t> NumberFor(std::string_view option, const std::string& text) {
+    const auto number = NumberIn(text, 1, kMostNumber);
+    if (number) return static_cast<std::size_t>(*number);
+    return WrongUsage(std::string(option) + " wants a number from 1 to " +
+                      std::to_string(kMostNumber));
 }
 
 }  // namespace
 
-Result<SourceFile> SourceFile::Open(const std::string& name) {
-    auto source = OpenSource(name);
-    if (!source) return FileFailure(name, source.error());
-    return SourceFile(name, *std::move(source));
+Result<SourceFile> SourceFile::Open(const InputFile& input) {
+    auto source = OpenSource(input);
+    if (!source) return FileFailure(input.name, source.error());
+    return SourceFile(input.name, *std::move(source));
 }
 
 tl::unexpected<Error> SourceFile::Failure(const Error& error) const {
@@ -142,12 +150,35 @@ Result<std::vector<ImageEntry>> SourceFile::Images(std::size_t icon) const {
     return images;
 }
 
+Result<std::vector<std::uint8_t>> SourceFile::Png(const ImageEntry& image) const {
+    if (image.info.png) return Named(source_.Stored(image));
+    const auto pixels = source_.Pixels(image);
+    if (!pixels) return Failure(pixels.error());
+    return formats::PngBytes(*pixels);
+}
+
+gdi::Point SourceFile::HotspotIn(const ImageEntry& image, gdi::Rect place) const {
+    if (source_.kind != formats::SourceKind::Cur) return {};
+    const auto scaled = [](int at, int from, int to) { return std::min(at, from - 1) * to / from; };
+    return {place.left + scaled(image.hotspot.x, image.info.width, place.width),
+            place.top + scaled(image.hotspot.y, image.info.height, place.height)};
+}
+
 Result<std::size_t> SourceFile::Numbered(const std::string& number) const {
-    const auto icon = NumberIn(number, 1, kMostNumber);
-    if (!icon) return tl::unexpected(NoNumber("--icon"));
-    if (static_cast<std::size_t>(*icon) <= Count()) return static_cast<std::size_t>(*icon) - 1;
+    const auto icon = NumberFor("--icon", number);
+    if (!icon) return icon;
+    if (*icon <= Count()) return *icon - 1;
     return Failure(
         {EINVAL, "there is no icon " + number + "; the last is " + std::to_string(Count())});
+}
+
+Result<void> CheckChoice(const IconChoice& choice) {
+    for (const auto& [option, text] :
+         {std::pair{"--icon", &choice.icon}, {"--image", &choice.image}}) {
+        if (!*text) continue;
+        if (auto number = NumberFor(option, **text); !number) return tl::unexpected(number.error());
+    }
+    return {};
 }
 
 Result<std::vector<ImageEntry>> ChosenImages(const SourceFile& file, const IconChoice& choice) {
@@ -155,27 +186,25 @@ Result<std::vector<ImageEntry>> ChosenImages(const SourceFile& file, const IconC
     if (!icon) return tl::unexpected(icon.error());
     auto images = file.Images(*icon);
     if (!images || !choice.image) return images;
-    const auto number = NumberIn(*choice.image, 1, kMostNumber);
-    if (!number) return tl::unexpected(NoNumber("--image"));
-    const auto image =
-        std::ranges::find(*images, static_cast<std::size_t>(*number) - 1, &ImageEntry::index);
+    const auto number = NumberFor("--image", *choice.image);
+    if (!number) return tl::unexpected(number.error());
+    const auto image = std::ranges::find(*images, *number - 1, &ImageEntry::index);
     if (image != images->end()) return std::vector{*image};
     return file.Failure(
         {EINVAL, "there is no image " + *choice.image + " in icon " + std::to_string(*icon + 1)});
 }
 
-Result<gdi::IconPlanes> ReadIcon(const std::string& name, const IconChoice& choice,
-                                 imaging::PasteFit fit) {
-    const auto file = SourceFile::Open(name);
-    if (!file) return tl::unexpected(file.error());
-    const auto images = ChosenImages(*file, choice);
+Result<OpenedIcon> ReadIcon(const SourceFile& file, const IconChoice& choice,
+                            imaging::PasteFit fit) {
+    const auto images = ChosenImages(file, choice);
     if (!images) return tl::unexpected(images.error());
-    const gdi::Size size = WantedSize(*file, *images, fit);
-    const auto image = file->Named(file->Source().Best(*images, size));
+    const gdi::Size size = WantedSize(file, *images, fit);
+    const auto image = file.Named(file.Source().Best(*images, size));
     if (!image) return tl::unexpected(image.error());
-    gdi::IconPlanes icon;
-    for (const auto& [to, from] :
-         {std::pair{&icon.image, &image->planes.image}, {&icon.mask, &image->planes.mask}}) {
+    OpenedIcon icon;
+    icon.hotspot = file.HotspotIn(formats::BestFirst(*images).front(), icon.planes.Bounds());
+    for (const auto& [to, from] : {std::pair{&icon.planes.image, &image->planes.image},
+                                   {&icon.planes.mask, &image->planes.mask}}) {
         gdi::BitBlt(*to, 0, 0, size.width, size.height, *from, 0, 0, gdi::RasterOp::Copy);
     }
     return icon;

@@ -13,11 +13,18 @@ namespace kestrel::cli {
 
 // Every failure below begins with the file's name.
 
+// A file to read, as it was named.
+struct InputFile {
+    std::string name;
+    // Among others, a device is refused and no pipe is waited for that no program writes to.
+    bool isAmongOthers = false;
+};
+
 // A file, a pipe or standard input ("-") that holds icons. An icon, cursor or PNG file is one icon
 // with all its images. Icons are counted from 0 here, from 1 by users.
 class SourceFile {
   public:
-    static Result<SourceFile> Open(const std::string& name);
+    static Result<SourceFile> Open(const InputFile& input);
 
     const std::string& Name() const { return name_; }
     const formats::IconSource& Source() const { return source_; }
@@ -27,6 +34,10 @@ class SourceFile {
     // As it is stored; the icon of an icon file is called "1".
     Result<std::string> NameOf(std::size_t icon) const;
     Result<std::vector<formats::ImageEntry>> Images(std::size_t icon) const;
+    // The image in its own size; a PNG stays as it is stored.
+    Result<std::vector<std::uint8_t>> Png(const formats::ImageEntry& image) const;
+    // Where a cursor's hotspot comes to lie when the image fills this place; elsewhere its corner.
+    gdi::Point HotspotIn(const formats::ImageEntry& image, gdi::Rect place) const;
     // The icon that a user's number means.
     Result<std::size_t> Numbered(const std::string& number) const;
 
@@ -52,13 +63,22 @@ struct IconChoice {
     std::optional<std::string> image;
 };
 
+// Whether numbers were typed.
+Result<void> CheckChoice(const IconChoice& choice);
+
 // All images of the icon, or the one that is chosen.
 Result<std::vector<formats::ImageEntry>> ChosenImages(const SourceFile& file,
                                                       const IconChoice& choice);
 
+struct OpenedIcon {
+    gdi::IconPlanes planes;
+    // Of a cursor.
+    gdi::Point hotspot;
+};
+
 // The icon in a file, as the editor opens it. A PNG, told by its content, is pasted at the top left
 // of an empty icon instead: a larger one is fitted, a smaller one leaves the rest transparent.
-Result<gdi::IconPlanes> ReadIcon(const std::string& name, const IconChoice& choice,
-                                 imaging::PasteFit fit);
+Result<OpenedIcon> ReadIcon(const SourceFile& file, const IconChoice& choice,
+                            imaging::PasteFit fit);
 
 }  // namespace kestrel::cli

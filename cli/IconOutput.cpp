@@ -6,9 +6,9 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
 #include <vector>
 
+#include "cli/ExitCodes.h"
 #include "cli/Streams.h"
 #include "formats/IcoFile.h"
 #include "formats/PngWriter.h"
@@ -23,20 +23,26 @@ namespace {
 using system::SystemFailure;
 using Bytes = std::vector<std::uint8_t>;
 
-Bytes IcoBytes(const gdi::IconPlanes& icon) {
+Bytes IcoBytes(const gdi::IconPlanes& icon, gdi::Point /*hotspot*/) {
     const formats::IcoBytes bytes = formats::EncodeIco(icon);
     return {bytes.begin(), bytes.end()};
 }
 
-Bytes PngBytes(const gdi::IconPlanes& icon) {
+Bytes CurBytes(const gdi::IconPlanes& icon, gdi::Point hotspot) {
+    const formats::IcoBytes bytes = formats::EncodeCur(icon, hotspot);
+    return {bytes.begin(), bytes.end()};
+}
+
+Bytes PngBytes(const gdi::IconPlanes& icon, gdi::Point /*hotspot*/) {
     return formats::PngBytes(icon);
 }
 
 struct Format {
     std::string_view name;
-    Bytes (*encode)(const gdi::IconPlanes& icon);
+    Bytes (*encode)(const gdi::IconPlanes& icon, gdi::Point hotspot);
 };
-constexpr Format kFormats[] = {{"ico", IcoBytes}, {"png", PngBytes}};
+// The first is that of what has no ending.
+constexpr Format kFormats[] = {{"ico", IcoBytes}, {"cur", CurBytes}, {"png", PngBytes}};
 constexpr const Format* kNoFormat = std::end(kFormats);
 
 enum class Way { Replace, StandardOutput, Stream };
@@ -59,7 +65,7 @@ const Format* FindFormat(std::string_view name) {
                         [&](const Format& format) { return system::SameName(format.name, name); });
 }
 
-const Format* FormatOf(const IconTarget& target) {
+const Format* WantedFormat(const IconTarget& target) {
     if (!target.format.empty()) return FindFormat(target.format);
     const std::size_t dot = target.name.find_last_of("./");
     if (dot != std::string::npos && target.name[dot] == '.') {
@@ -97,36 +103,36 @@ Result<void> WriteAnywhere(const std::string& name, std::span<const std::uint8_t
 
 }  // namespace
 
-Result<void> CheckTarget(const IconTarget& target) {
-    if (FormatOf(target) != kNoFormat) return {};
-    if (!target.format.empty()) return Fail(EINVAL, "--format is ico or png");
-    return FailureOf(target.name, {EINVAL, "the name ends in neither .ico nor .png"});
+Result<std::string_view> FormatNamed(std::string_view format) {
+    const Format* known = FindFormat(format);
+    if (known != kNoFormat) return known->name;
+    if (format.empty()) return format;
+    return WrongUsage("--format is ico, cur or png");
 }
 
-Result<void> WriteIcon(const IconTarget& target, const gdi::IconPlanes& icon) {
-    return WriteOutput(target.name, FormatOf(target)->encode(icon));
+std::string_view FormatOf(const IconTarget& target) {
+    const Format* format = WantedFormat(target);
+    return format == kNoFormat ? "" : format->name;
+}
+
+Result<void> CheckTarget(const IconTarget& target) {
+    if (!FormatOf(target).empty()) return {};
+    return WrongUsage(target.name + ": the name ends in none of .ico, .cur and .png");
+}
+
+Result<void> CheckTerminal(const std::string& name, bool forced) {
+    if (forced || WayTo(name) != Way::StandardOutput || isatty(STDOUT_FILENO) == 0) return {};
+    return WrongUsage("standard output is a terminal; --force writes to it all the same");
+}
+
+Bytes EncodeIcon(const IconTarget& target, const gdi::IconPlanes& icon, gdi::Point hotspot) {
+    return WantedFormat(target)->encode(icon, hotspot);
 }
 
 Result<void> WriteOutput(const std::string& name, std::span<const std::uint8_t> bytes) {
     const Result<void> written = WriteAnywhere(name, bytes);
     if (written) return {};
     return FailureOf(name == kStandardStream ? "standard output" : name, written.error());
-}
-
-Result<void> WriteNew(const std::string& name, std::span<const std::uint8_t> bytes) {
-    constexpr int kFlags = O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC;
-    constexpr mode_t kEveryone = 0666;
-    const int file = system::Retry([&] { return open(name.c_str(), kFlags, kEveryone); });
-    if (file < 0 && errno == EEXIST) {
-        std::error_code gone;
-        if (!std::filesystem::is_symlink(name, gone)) return WriteOutput(name, bytes);
-        return FailureOf(name, {EEXIST, "it is a link"});
-    }
-    const bool made = file >= 0;
-    const Result<void> written = WriteAndClose(file, bytes);
-    if (written) return {};
-    if (made) unlink(name.c_str());
-    return FailureOf(name, written.error());
 }
 
 Result<void> WriteText(const std::string& name, std::string_view text) {

@@ -3,8 +3,9 @@
 #include <string>
 
 #include "cli/Actions.h"
-#include "cli/IconOutput.h"
-#include "cli/Streams.h"
+#include "cli/FileRun.h"
+#include "cli/IconInput.h"
+#include "cli/Inputs.h"
 #include "formats/UnreadableFile.h"
 #include "formats/Utf16.h"
 #include "platform/system/Characters.h"
@@ -130,10 +131,10 @@ class JsonLine : public InfoText {
     std::string End() const override { return "]}\n"; }
 };
 
-Result<void> AppendInfo(const std::string& name, const InfoText& form, std::string& text) {
-    const auto file = SourceFile::Open(name);
+Result<void> AppendInfo(const InputFile& input, const InfoText& form, std::string& text) {
+    const auto file = SourceFile::Open(input);
     if (!file) return tl::unexpected(file.error());
-    const std::size_t start = text.size();
+    std::string icons;
     std::size_t count = 0;
     for (std::size_t icon = 0; icon < file->Count(); ++icon) {
         const auto info = ReadInfo(*file, icon);
@@ -142,34 +143,28 @@ Result<void> AppendInfo(const std::string& name, const InfoText& form, std::stri
             if (!file->IsOneIcon() && info.error().number == formats::kDamagedPicture) continue;
             return tl::unexpected(info.error());
         }
-        if (count++ > 0) text += form.BetweenIcons();
-        form.AppendIcon(text, *file, *info);
+        if (count++ > 0) icons += form.BetweenIcons();
+        form.AppendIcon(icons, *file, *info);
     }
     if (count == 0) return file->Failure({kNoIcons, "none of its icons can be read"});
-    text.insert(start, form.Begin(*file, count));
-    text += form.End();
+    text.append(form.Begin(*file, count)).append(icons).append(form.End());
     return {};
 }
 
 }  // namespace
 
 Result<void> Info(const Arguments& arguments) {
-    const PlainText plain(arguments.files.size() == 1);
+    const auto options = ReadRunOptions(arguments);
+    if (!options) return tl::unexpected(options.error());
+    const auto names = OpenNames(arguments);
+    if (!names) return tl::unexpected(names.error());
+    const PlainText plain((*names)->Count() == 1);
     const JsonLine json;
     const InfoText& form =
         arguments.json ? static_cast<const InfoText&>(json) : static_cast<const InfoText&>(plain);
-    std::string all;
-    Result<void> read = ForEachFile(arguments.files, [&](const std::string& file) {
-        const std::size_t before = all.size();
-        Result<void> done = AppendInfo(file, form, all);
-        if (!done) all.resize(before);
-        return done;
+    return RunFiles(**names, *options, [&](const InputFile& file, Report& report) {
+        return AppendInfo(file, form, report.output);
     });
-    if (all.empty()) return read;
-    Result<void> written = WriteText(std::string(kStandardStream), all);
-    if (written) return read;
-    if (!read) Complain(read.error().description);
-    return written;
 }
 
 }  // namespace kestrel::cli

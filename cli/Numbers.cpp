@@ -23,7 +23,26 @@ std::optional<std::int64_t> NumberIn(std::string_view text, std::int64_t least, 
     return number;
 }
 
+namespace {
+
+// The colour of six hexadecimal digits.
+std::optional<gdi::COLORREF> HexColorIn(std::string_view digits) {
+    constexpr std::size_t kDigits = 6;
+    constexpr int kBase = 16;
+    std::uint32_t number = 0;
+    const char* end = digits.data() + digits.size();
+    const auto [stopped, error] = std::from_chars(digits.data(), end, number, kBase);
+    if (error != std::errc() || stopped != end || digits.size() != kDigits) return std::nullopt;
+    const auto level = [number](unsigned shift) {
+        return static_cast<std::uint8_t>(number >> shift);
+    };
+    return gdi::Rgb(level(16), level(8), level(0));
+}
+
+}  // namespace
+
 std::optional<gdi::COLORREF> ColorIn(std::string_view text) {
+    if (text.starts_with('#')) return HexColorIn(text.substr(1));
     constexpr int kMostLevel = 255;
     constexpr std::size_t kChannels = 3;
     const std::vector<std::string_view> parts = Split(text);

@@ -1,11 +1,13 @@
 #include "cli/Streams.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <array>
 #include <cerrno>
 #include <utility>
 
+#include "cli/Interrupt.h"
 #include "platform/system/Characters.h"
 #include "platform/system/SystemError.h"
 
@@ -17,8 +19,14 @@ using system::SystemFailure;
 Result<std::vector<std::uint8_t>> ReadStream(int file, std::size_t limit) {
     std::array<std::uint8_t, 1U << 16> part{};
     std::vector<std::uint8_t> bytes;
+    bool waits = (fcntl(file, F_GETFL) & O_NONBLOCK) == 0;
     for (;;) {
+        if (waits && !WaitForInput(file)) return SystemFailure(EINTR);
         const ssize_t count = Retry([&] { return read(file, part.data(), part.size()); });
+        if (count < 0 && errno == EAGAIN) {
+            waits = true;
+            continue;
+        }
         if (count < 0) return SystemFailure(errno);
         if (count == 0) return bytes;
         bytes.insert(bytes.end(), part.begin(), part.begin() + count);
@@ -35,22 +43,14 @@ Result<void> WriteStream(int file, std::span<const std::uint8_t> bytes) {
     return {};
 }
 
-void Complain(std::string_view message) {
-    const std::string line = "kestrel-icon: " + system::Printable(message) + "\n";
+void Tell(std::string_view text) {
     // When even this cannot be written, the exit code is left to tell.
-    (void)WriteStream(STDERR_FILENO, std::vector<std::uint8_t>(line.begin(), line.end()));
+    (void)WriteStream(STDERR_FILENO,
+                      {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
 
-Result<void> ForEachFile(const std::vector<std::string>& files,
-                         const std::function<Result<void>(const std::string&)>& work) {
-    Result<void> all;
-    for (const std::string& file : files) {
-        Result<void> done = work(file);
-        if (done) continue;
-        if (!all) Complain(all.error().description);
-        all = std::move(done);
-    }
-    return all;
+void Complain(std::string_view message) {
+    Tell("kestrel-icon: " + system::Printable(message) + "\n");
 }
 
 tl::unexpected<Error> FailureOf(std::string_view name, const Error& error) {

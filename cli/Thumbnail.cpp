@@ -1,11 +1,16 @@
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <span>
-#include <tuple>
+#include <string>
+#include <vector>
 
 #include "cli/Actions.h"
-#include "cli/IconOutput.h"
+#include "cli/Conversion.h"
+#include "cli/ExitCodes.h"
+#include "cli/IconInput.h"
 #include "cli/Numbers.h"
+#include "formats/BestImage.h"
 #include "formats/IconPixels.h"
 #include "formats/PngWriter.h"
 #include "imaging/AreaAverage.h"
@@ -20,16 +25,6 @@ using formats::ImageEntry;
 // Damaged images cost as much time as good ones; no icon has more of them before a good one.
 constexpr std::size_t kMostTries = 8;
 
-// The smallest image that needs no enlarging comes first, then the largest of the others; of one
-// size the deepest.
-void SortForThumbnail(std::vector<ImageEntry>& images, int side) {
-    std::ranges::stable_sort(images, {}, [side](const ImageEntry& image) {
-        const formats::ImageInfo& info = image.info;
-        const int own = std::max(info.width, info.height);
-        return std::tuple(own < side, own < side ? -own : own, -info.bitsPerPixel);
-    });
-}
-
 Result<gdi::Surface> ReadFirst(const SourceFile& file, const std::vector<ImageEntry>& images) {
     Result<gdi::Surface> pixels = Fail(EINVAL, "");
     for (const ImageEntry& image : std::span(images).first(std::min(images.size(), kMostTries))) {
@@ -39,25 +34,35 @@ Result<gdi::Surface> ReadFirst(const SourceFile& file, const std::vector<ImageEn
     return pixels;
 }
 
+Result<std::vector<std::uint8_t>> ThumbnailOf(const InputFile& input, const IconChoice& choice,
+                                              int side) {
+    const auto file = SourceFile::Open(input);
+    if (!file) return tl::unexpected(file.error());
+    auto images = ChosenImages(*file, choice);
+    if (!images) return tl::unexpected(images.error());
+    std::ranges::stable_sort(*images, {}, [side](const ImageEntry& image) {
+        return formats::RankForSide(image.info, side);
+    });
+    auto pixels = ReadFirst(*file, *images);
+    if (!pixels) return tl::unexpected(pixels.error());
+    const gdi::Size size{pixels->Width(), pixels->Height()};
+    const gdi::Size wanted = gdi::SizeWithin(size, side);
+    if (wanted != size) *pixels = imaging::AreaAverage(*pixels, wanted);
+    return formats::PngBytes(*pixels);
+}
+
 }  // namespace
 
 Result<void> Thumbnail(const Arguments& arguments) {
     const auto side = NumberIn(arguments.size, 1, formats::kMaxImageSide);
     if (!side) {
-        return Fail(EINVAL,
-                    "--size wants a number from 1 to " + std::to_string(formats::kMaxImageSide));
+        return WrongUsage("--size wants a number from 1 to " +
+                          std::to_string(formats::kMaxImageSide));
     }
-    const auto file = SourceFile::Open(arguments.in);
-    if (!file) return tl::unexpected(file.error());
-    auto images = ChosenImages(*file, arguments.choice);
-    if (!images) return tl::unexpected(images.error());
-    SortForThumbnail(*images, static_cast<int>(*side));
-    auto pixels = ReadFirst(*file, *images);
-    if (!pixels) return tl::unexpected(pixels.error());
-    const gdi::Size size{pixels->Width(), pixels->Height()};
-    const gdi::Size wanted = gdi::SizeWithin(size, static_cast<int>(*side));
-    if (wanted != size) *pixels = imaging::AreaAverage(*pixels, wanted);
-    return WriteOutput(arguments.out, formats::PngBytes(*pixels));
+    if (auto checked = CheckChoice(arguments.choice); !checked) return checked;
+    return MakeResults(arguments, "png", [&](const InputFile& in, const IconTarget&) {
+        return ThumbnailOf(in, arguments.choice, static_cast<int>(*side));
+    });
 }
 
 }  // namespace kestrel::cli

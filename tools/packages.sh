@@ -15,7 +15,7 @@ kTestPackages=(
   "${kRunPackages[@]}"
   clang clang-format clang-tidy libclang-rt-14-dev libgtest-dev libbenchmark-dev
   xclip icoutils x11-apps x11-xserver-utils cups-daemon cups-client poppler-utils
-  desktop-file-utils shared-mime-info appstream dbus-bin dbus-daemon
+  desktop-file-utils shared-mime-info appstream dbus-bin dbus-daemon zsh fish parallel
 )
 
 # RequirePackages <package>...: installs those that are missing. Asks dpkg once and touches the

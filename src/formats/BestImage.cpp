@@ -36,4 +36,9 @@ std::vector<ImageEntry> BestFirst(std::vector<ImageEntry> entries) {
     return best;
 }
 
+std::tuple<bool, int, int> RankForSide(const ImageInfo& info, int side) {
+    const int own = std::max(info.width, info.height);
+    return {own < side, own < side ? -own : own, -info.bitsPerPixel};
+}
+
 }  // namespace kestrel::formats

@@ -1,6 +1,10 @@
 #include "formats/DibWriter.h"
 
 #include <algorithm>
+#include <bit>
+
+#include "formats/IconPixels.h"
+#include "formats/PngWriter.h"
 
 namespace kestrel::formats {
 namespace {
@@ -54,10 +58,10 @@ class RowWriter {
 
 // From the bottom up.
 template <class ValueAt>
-void WriteRows(ByteWriter& out, const gdi::IconPlanes& icon, int bits, ValueAt valueAt) {
+void WriteRows(ByteWriter& out, const ImageInfo& info, int bits, ValueAt valueAt) {
     RowWriter rows(out, bits);
-    for (int y = icon.Height() - 1; y >= 0; --y) {
-        for (int x = 0; x < icon.Width(); ++x)
+    for (int y = info.height - 1; y >= 0; --y) {
+        for (int x = 0; x < info.width; ++x)
             rows.Add(valueAt(x, y));
         rows.EndRow();
     }
@@ -87,15 +91,36 @@ ImageBytes EncodeDib(const gdi::IconPlanes& icon) {
     }
     // A palette is whole: not every reader knows shorter ones.
     if (!palette.empty()) out.FillTo(kHeaderBytes + (std::size_t{4} << bits));
-    WriteRows(out, icon, bits, [&](int x, int y) {
+    WriteRows(out, info, bits, [&](int x, int y) {
         // Whole colours have their bytes in the order of rows: blue, green, red.
         const COLORREF color = ShownAt(icon, x, y);
         if (palette.empty()) return color;
         return static_cast<std::uint32_t>(std::ranges::lower_bound(palette, color) -
                                           palette.begin());
     });
-    WriteRows(out, icon, 1, [&](int x, int y) { return icon.IsTransparent(x, y) ? 1U : 0U; });
+    WriteRows(out, info, 1, [&](int x, int y) { return icon.IsTransparent(x, y) ? 1U : 0U; });
     return {info, out.Take()};
+}
+
+ImageBytes EncodeDib(const gdi::Surface& pixels) {
+    constexpr int kBits = 32;
+    const ImageInfo info{pixels.Width(), pixels.Height(), kBits, false};
+    const auto at = [&](int x, int y) { return pixels.Row(y)[static_cast<std::size_t>(x)]; };
+    ByteWriter out;
+    WriteHeader(out, info);
+    WriteRows(out, info, kBits, [&](int x, int y) -> std::uint32_t {
+        const COLORREF pixel = at(x, y);
+        // The bytes of a row: blue, green, red, alpha.
+        return (pixel & kAlphaBits) == 0 ? 0 : std::rotl(pixel, 8);
+    });
+    WriteRows(out, info, 1, [&](int x, int y) { return at(x, y) >> 24 < kOpaqueAlpha ? 1U : 0U; });
+    return {info, out.Take()};
+}
+
+ImageBytes EncodeImage(const gdi::Surface& pixels) {
+    constexpr int kLeastPngSide = 256;
+    if (std::max(pixels.Width(), pixels.Height()) < kLeastPngSide) return EncodeDib(pixels);
+    return {{pixels.Width(), pixels.Height(), 32, true}, PngBytes(pixels)};
 }
 
 }  // namespace kestrel::formats

@@ -6,6 +6,8 @@ namespace kestrel::formats {
 
 namespace {
 
+constexpr std::size_t kTypeOffset = 2;
+constexpr std::size_t kHotspotOffset = 10;
 constexpr std::size_t kColorOffset = 62;
 constexpr std::size_t kMaskOffset = 3134;
 constexpr std::size_t kBitsPerByte = 8;
@@ -87,6 +89,17 @@ IcoBytes EncodeIco(const gdi::IconPlanes& icon) {
             }
         }
     }
+    return file;
+}
+
+IcoBytes EncodeCur(const gdi::IconPlanes& icon, gdi::Point hotspot) {
+    IcoBytes file = EncodeIco(icon);
+    file[kTypeOffset] = 2;
+    // The hotspot stands where an icon has planes and bits.
+    file[kHotspotOffset] = static_cast<std::uint8_t>(hotspot.x);
+    file[kHotspotOffset + 1] = 0;
+    file[kHotspotOffset + 2] = static_cast<std::uint8_t>(hotspot.y);
+    file[kHotspotOffset + 3] = 0;
     return file;
 }
 

@@ -21,6 +21,9 @@ using IcoBytes = std::array<std::uint8_t, kIcoFileBytes>;
 // the bottom. Transparent pixels are written black.
 IcoBytes EncodeIco(const gdi::IconPlanes& icon);
 
+// The same as a cursor file with this hotspot.
+IcoBytes EncodeCur(const gdi::IconPlanes& icon, gdi::Point hotspot);
+
 // The byte whose bits, highest first, are the eight characters; anything but '1' is 0.
 std::uint8_t BitsToByte(std::string_view bits);
 

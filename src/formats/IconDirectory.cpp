@@ -29,7 +29,9 @@ std::optional<ImageEntry> EntryImage(SourceReader& file, Extent directory, std::
         return std::nullopt;
     auto image = ReadImageHead(file, {directory.offset + offset, directory.size - offset},
                                {DirectorySide(fields.U8(0)), DirectorySide(fields.U8(1))});
-    if (image) image->index = index;
+    if (!image) return std::nullopt;
+    image->index = index;
+    image->hotspot = {fields.U16(4), fields.U16(6)};
     return image;
 }
 

@@ -23,6 +23,9 @@ void WriteDirectoryEntry(ByteWriter& out, const ImageBytes& image);
 // An icon file of these images, each byte for byte.
 std::vector<std::uint8_t> IconFileOf(std::span<const ImageBytes> images);
 
+// A cursor file of them; the hotspot of the first, in its pixels, and of the others in proportion.
+std::vector<std::uint8_t> CursorFileOf(std::span<const ImageBytes> images, gdi::Point hotspot);
+
 // Images of the source as an icon file of their own. Fails as IconSource does, with EFBIG where it
 // would be larger than any icon file that is read.
 Result<std::vector<std::uint8_t>> ExportImages(const IconSource& source,

@@ -18,6 +18,8 @@ struct ImageEntry {
     std::size_t size = 0;
     ImageInfo info;
     std::size_t index = 0;
+    // Of a cursor file, in pixels; the words mean something else in other files.
+    gdi::Point hotspot{};
 };
 
 // No icon file that this program reads is larger; callers cap what they load by it.

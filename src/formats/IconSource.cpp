@@ -111,4 +111,11 @@ Result<gdi::Surface> IconSource::Pixels(const ImageEntry& image) const {
     return *std::move(pixels);
 }
 
+Result<void> IconSource::GivePixels(const ImageEntry& image, const gdi::TakePixels& take) const {
+    const auto bytes = Stored(image);
+    if (!bytes) return tl::unexpected(bytes.error());
+    if (!StoredRuns(*bytes, image.info, take)) return Damaged();
+    return {};
+}
+
 }  // namespace kestrel::formats

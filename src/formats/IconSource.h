@@ -11,6 +11,7 @@
 #include "formats/IconFile.h"
 #include "formats/IconTable.h"
 #include "platform/Result.h"
+#include "platform/gdi/PixelRun.h"
 #include "platform/system/ByteSource.h"
 
 namespace kestrel::formats {
@@ -67,6 +68,8 @@ class IconSource {
     // Its pixels as 0xAABBGGRR, with the alpha that is stored or else that of the mask. A PNG with
     // a side above 1024 comes in proportion smaller.
     Result<gdi::Surface> Pixels(const ImageEntry& image) const;
+    // All of them, also of a large PNG, given away piece by piece.
+    Result<void> GivePixels(const ImageEntry& image, const gdi::TakePixels& take) const;
 
   private:
     explicit IconSource(std::unique_ptr<system::ByteSource> bytes);

@@ -4,6 +4,7 @@
 #include <array>
 #include <bit>
 #include <span>
+#include <vector>
 
 #include "formats/IconPixels.h"
 #include "formats/PngChunks.h"
@@ -75,19 +76,18 @@ void KeepPixels(const PngColors& colors, Bytes row, int y, const Pass& pass,
     }
 }
 
-// An interlaced picture comes as up to seven smaller ones, each with rows of its own.
-std::optional<gdi::Surface> ReadRows(PngChunks& chunks, const ImageInfo& info,
-                                     const gdi::Samples& samples) {
+// Gives each row to take(colors, row, y, pass, columns). An interlaced picture comes as up to seven
+// smaller ones, each with rows of its own. False when a row is missing or damaged.
+template <class Take>
+bool ReadRows(PngChunks& chunks, const ImageInfo& info, const Take& take) {
     const auto header = chunks.Next();
-    if (!header) return std::nullopt;
+    if (!header) return false;
     PngColors colors = ColorsOf(ByteReader(header->content));
     const bool interlaced = ByteReader(header->content).U8(kInterlace) != 0;
     const auto first = ReadPngColors(chunks, colors);
-    if (!first) return std::nullopt;
+    if (!first) return false;
 
     const auto bits = static_cast<unsigned>(info.bitsPerPixel);
-    gdi::Surface pixels(static_cast<int>(samples.columns.size()),
-                        static_cast<int>(samples.rows.size()), gdi::kBlack);
     PngRows rows(chunks, *first, RowBytes(info.width, bits), std::max(1U, bits / 8));
     for (const Pass& pass : interlaced ? std::span<const Pass>(kAdam7) : kOnePass) {
         const int columns = (info.width - pass.firstX + pass.distanceX - 1) / pass.distanceX;
@@ -95,11 +95,11 @@ std::optional<gdi::Surface> ReadRows(PngChunks& chunks, const ImageInfo& info,
         rows.BeginImage();
         for (int y = pass.firstY; y < info.height; y += pass.distanceY) {
             const Bytes row = rows.Next(RowBytes(columns, bits));
-            if (row.empty()) return std::nullopt;
-            KeepPixels(colors, row, y, pass, samples, pixels);
+            if (row.empty()) return false;
+            take(colors, row, y, pass, columns);
         }
     }
-    return pixels;
+    return true;
 }
 
 }  // namespace
@@ -138,9 +138,28 @@ std::optional<ImageInfo> ReadPngInfo(Bytes image, int longestSide) {
 std::optional<gdi::Surface> ReadPngPixels(Bytes image, const ImageInfo& info,
                                           const gdi::Samples& samples, std::size_t& work) {
     PngChunks chunks(image);
-    auto pixels = ReadRows(chunks, info, samples);
+    gdi::Surface pixels(static_cast<int>(samples.columns.size()),
+                        static_cast<int>(samples.rows.size()), gdi::kBlack);
+    const bool whole =
+        ReadRows(chunks, info,
+                 [&](const PngColors& colors, Bytes row, int y, const Pass& pass, int /*columns*/) {
+                     KeepPixels(colors, row, y, pass, samples, pixels);
+                 });
     work += static_cast<std::size_t>(UnpackedBytes(info)) + image.size() - chunks.BytesLeft();
+    if (!whole) return std::nullopt;
     return pixels;
+}
+
+bool ReadPngRuns(Bytes image, const ImageInfo& info, const gdi::TakePixels& take) {
+    PngChunks chunks(image);
+    std::vector<gdi::COLORREF> pixels;
+    return ReadRows(chunks, info,
+                    [&](const PngColors& colors, Bytes row, int y, const Pass& pass, int columns) {
+                        pixels.resize(static_cast<std::size_t>(columns));
+                        for (std::size_t x = 0; x < pixels.size(); ++x)
+                            pixels[x] = colors.At(row, x);
+                        take({pass.firstX, pass.distanceX, y, pixels});
+                    });
 }
 
 std::optional<IconImage> DecodePng(Bytes image, const ImageInfo& info, gdi::Size size,

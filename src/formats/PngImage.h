@@ -4,6 +4,7 @@
 
 #include "formats/ByteReader.h"
 #include "formats/IconImage.h"
+#include "platform/gdi/PixelRun.h"
 #include "platform/gdi/Samples.h"
 
 namespace kestrel::formats {
@@ -24,6 +25,10 @@ std::optional<ImageInfo> ReadPngInfo(Bytes image, int longestSide);
 // read and unpacked, or could have been.
 std::optional<gdi::Surface> ReadPngPixels(Bytes image, const ImageInfo& info,
                                           const gdi::Samples& samples, std::size_t& work);
+
+// The same of all pixels, each once, in the order in which they are stored. False when any of the
+// rows is missing or damaged; those before it have been given then.
+bool ReadPngRuns(Bytes image, const ImageInfo& info, const gdi::TakePixels& take);
 
 // Decodes a PNG in another size; its alpha becomes the mask.
 std::optional<IconImage> DecodePng(Bytes image, const ImageInfo& info, gdi::Size size,

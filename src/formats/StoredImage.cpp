@@ -102,6 +102,14 @@ std::optional<gdi::Surface> StoredPixels(Bytes image, const ImageInfo& info) {
     return ReadDibPixels(image, *dib);
 }
 
+bool StoredRuns(Bytes image, const ImageInfo& info, const gdi::TakePixels& take) {
+    if (info.png) return ReadPngRuns(image, info, take);
+    const auto pixels = StoredPixels(image, info);
+    for (int y = 0; pixels && y < pixels->Height(); ++y)
+        take({.y = y, .pixels = pixels->Row(y)});
+    return pixels.has_value();
+}
+
 bool DrawableIcons::CanDraw(const ImageEntry& first,
                             const std::function<std::vector<ImageEntry>()>& images) {
     if (!first.info.png || work_ > kMostTrialWork) return true;

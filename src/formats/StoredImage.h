@@ -7,6 +7,7 @@
 #include "formats/IconFile.h"
 #include "formats/IconPixels.h"
 #include "formats/SourceReader.h"
+#include "platform/gdi/PixelRun.h"
 #include "platform/gdi/Samples.h"
 
 namespace kestrel::formats {
@@ -52,6 +53,10 @@ std::optional<IconImage> ReadAndDecode(SourceReader& file, const ImageEntry& ima
 // The image's pixels as 0xAABBGGRR, with the alpha that is stored or else that of the mask. A PNG
 // with a side above 1024 comes in proportion smaller, by dropping pixels.
 std::optional<gdi::Surface> StoredPixels(Bytes image, const ImageInfo& info);
+
+// The same pixels, all of them also of a large PNG, without ever holding such a one. False where it
+// turns out to be damaged, which may be after some.
+bool StoredRuns(Bytes image, const ImageInfo& info, const gdi::TakePixels& take);
 
 // Tells icons that can be drawn from those whose images are all damaged PNGs. Bitmaps need no
 // trial. After about 30 ms of trials the heads of images are believed.

@@ -1,8 +1,7 @@
 #include "imaging/AreaAverage.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
+#include <cstddef>
 
 namespace kestrel::imaging {
 
@@ -10,69 +9,76 @@ namespace {
 
 using gdi::COLORREF;
 
-// Sums of what an area covers; the colours are weighted by their alpha, too.
-struct Sums {
-    void Add(COLORREF pixel, std::uint64_t share) {
-        const std::uint64_t opaque = (pixel >> 24) * share;
-        area += share;
-        alpha += opaque;
-        for (unsigned i = 0; i < colors.size(); ++i)
-            colors[i] += (pixel >> (8 * i) & 0xFF) * opaque;
+constexpr unsigned kAlphaShift = 24;
+constexpr std::size_t kAlpha = 3;
+
+// Calls take(cell, share) for each of the `to` cells of the result's line that pixel i of the
+// picture's line of `from` pixels meets. Lengths are in parts of which a pixel of the picture has
+// `to` and a cell `from`, so that all of them are whole numbers.
+template <class Take>
+void ForEachCell(int i, int from, int to, const Take& take) {
+    const int end = (i + 1) * to;
+    for (int at = i * to; at < end;) {
+        const int cell = at / from;
+        const int next = std::min(end, (cell + 1) * from);
+        take(static_cast<std::size_t>(cell), static_cast<std::uint64_t>(next - at));
+        at = next;
     }
-
-    COLORREF Average() const {
-        if (alpha == 0) return 0;
-        COLORREF pixel = static_cast<COLORREF>((alpha + area / 2) / area) << 24;
-        for (unsigned i = 0; i < colors.size(); ++i)
-            pixel |= static_cast<COLORREF>((colors[i] + alpha / 2) / alpha) << (8 * i);
-        return pixel;
-    }
-
-    std::uint64_t area = 0;
-    std::uint64_t alpha = 0;
-    std::array<std::uint64_t, 3> colors{};
-};
-
-// What pixel i of `to` covers of a line of `from` pixels. Lengths are in parts of which a pixel of
-// the line has `to` and one of the result `from`, so that all of them are whole numbers.
-struct Cover {
-    Cover(int i, int from, int to)
-        : start(i * from), end(start + from), step(to), first(start / to), last((end - 1) / to) {}
-
-    std::uint64_t ShareOf(int pixel) const {
-        return static_cast<std::uint64_t>(std::min(end, (pixel + 1) * step) -
-                                          std::max(start, pixel * step));
-    }
-
-    int start;
-    int end;
-    int step;
-    int first;
-    int last;
-};
-
-COLORREF Average(const gdi::Surface& picture, const Cover& columns, const Cover& rows) {
-    Sums sums;
-    for (int y = rows.first; y <= rows.last; ++y) {
-        const auto row = picture.Row(y);
-        for (int x = columns.first; x <= columns.last; ++x)
-            sums.Add(row[static_cast<std::size_t>(x)], rows.ShareOf(y) * columns.ShareOf(x));
-    }
-    return sums.Average();
 }
 
 }  // namespace
 
-gdi::Surface AreaAverage(const gdi::Surface& picture, gdi::Size size) {
-    gdi::Surface result(size.width, size.height);
-    for (int y = 0; y < size.height; ++y) {
-        const Cover rows(y, picture.Height(), size.height);
-        for (int x = 0; x < size.width; ++x) {
-            result.Row(y)[static_cast<std::size_t>(x)] =
-                Average(picture, Cover(x, picture.Width(), size.width), rows);
+AreaAverager::AreaAverager(gdi::Size from, gdi::Size to)
+    : from_(from),
+      to_(to),
+      sums_(static_cast<std::size_t>(to.width) * static_cast<std::size_t>(to.height)),
+      row_(static_cast<std::size_t>(to.width)) {}
+
+void AreaAverager::Add(const gdi::PixelRun& run) {
+    std::ranges::fill(row_, Sums{});
+    int x = run.x;
+    for (const COLORREF pixel : run.pixels) {
+        const std::uint64_t alpha = pixel >> kAlphaShift;
+        const Sums weighted{(pixel & 0xFF) * alpha, (pixel >> 8 & 0xFF) * alpha,
+                            (pixel >> 16 & 0xFF) * alpha, alpha};
+        ForEachCell(x, from_.width, to_.width, [&](std::size_t column, std::uint64_t share) {
+            for (std::size_t i = 0; i < weighted.size(); ++i)
+                row_[column][i] += weighted[i] * share;
+        });
+        x += run.distance;
+    }
+    ForEachCell(run.y, from_.height, to_.height, [&](std::size_t line, std::uint64_t share) {
+        Sums* sums = &sums_[line * row_.size()];
+        for (const Sums& column : row_) {
+            for (std::size_t i = 0; i < column.size(); ++i)
+                (*sums)[i] += column[i] * share;
+            ++sums;
+        }
+    });
+}
+
+gdi::Surface AreaAverager::Average() const {
+    const auto area =
+        static_cast<std::uint64_t>(from_.width) * static_cast<std::uint64_t>(from_.height);
+    gdi::Surface result(to_.width, to_.height);
+    const Sums* sums = sums_.data();
+    for (int y = 0; y < to_.height; ++y) {
+        for (COLORREF& pixel : result.Row(y)) {
+            const std::uint64_t alpha = (*sums)[kAlpha];
+            pixel = static_cast<COLORREF>((alpha + area / 2) / area) << kAlphaShift;
+            for (unsigned i = 0; i < kAlpha && pixel > 0; ++i)
+                pixel |= static_cast<COLORREF>(((*sums)[i] + alpha / 2) / alpha) << (8 * i);
+            ++sums;
         }
     }
     return result;
+}
+
+gdi::Surface AreaAverage(const gdi::Surface& picture, gdi::Size size) {
+    AreaAverager averager({picture.Width(), picture.Height()}, size);
+    for (int y = 0; y < picture.Height(); ++y)
+        averager.Add({.y = y, .pixels = picture.Row(y)});
+    return averager.Average();
 }
 
 }  // namespace kestrel::imaging

@@ -6,6 +6,7 @@
 #include "imaging/FilterPipeline.h"
 #include "imaging/Recoloring.h"
 #include "imaging/Transforms.h"
+#include "platform/system/LetterCase.h"
 
 namespace kestrel::imaging {
 
@@ -18,23 +19,35 @@ void Quietly(gdi::IconPlanes& planes, services::MessageLoop& /*loop*/) {
 }
 
 constexpr Operation kChanges[] = {
-    {"mnuRotateOpts0", OnSelection::Lifted, Quietly<Rotate, Turn::Left>},
-    {"mnuRotateOpts1", OnSelection::Lifted, Quietly<Rotate, Turn::Right>},
-    {"mnuRotateOpts3", OnSelection::Unrecorded, Quietly<Flip, FlipAxis::Horizontal>},
-    {"mnuRotateOpts4", OnSelection::Unrecorded, Quietly<Flip, FlipAxis::Vertical>},
-    {"mnuMirrorOpts0", OnSelection::Recorded, Quietly<Mirror, Reflection::LeftIntoRight>},
-    {"mnuMirrorOpts1", OnSelection::Recorded, Quietly<Mirror, Reflection::RightIntoLeft>},
-    {"mnuMirrorOpts2", OnSelection::Recorded, Quietly<Mirror, Reflection::TopIntoBottom>},
-    {"mnuMirrorOpts3", OnSelection::Recorded, Quietly<Mirror, Reflection::BottomIntoTop>},
-    {"mnuImageOpts1", OnSelection::PutDown, Buttonize},
-    {"mnuImageOpts2", OnSelection::Unrecorded, Quietly<Grayscale>},
-    {"mnuImageOpts3", OnSelection::Unrecorded, Quietly<Invert>},
+    {"mnuRotateOpts0", "rotate-left", "a quarter turn", OnSelection::Lifted,
+     Quietly<Rotate, Turn::Left>},
+    {"mnuRotateOpts1", "rotate-right", "a quarter turn", OnSelection::Lifted,
+     Quietly<Rotate, Turn::Right>},
+    {"mnuRotateOpts3", "flip-horizontal", "left and right trade places", OnSelection::Unrecorded,
+     Quietly<Flip, FlipAxis::Horizontal>},
+    {"mnuRotateOpts4", "flip-vertical", "top and bottom trade places", OnSelection::Unrecorded,
+     Quietly<Flip, FlipAxis::Vertical>},
+    {"mnuMirrorOpts0", "reflect-left", "the left half mirrored into the right",
+     OnSelection::Recorded, Quietly<Mirror, Reflection::LeftIntoRight>},
+    {"mnuMirrorOpts1", "reflect-right", "the right half mirrored into the left",
+     OnSelection::Recorded, Quietly<Mirror, Reflection::RightIntoLeft>},
+    {"mnuMirrorOpts2", "reflect-top", "the top half mirrored into the bottom",
+     OnSelection::Recorded, Quietly<Mirror, Reflection::TopIntoBottom>},
+    {"mnuMirrorOpts3", "reflect-bottom", "the bottom half mirrored into the top",
+     OnSelection::Recorded, Quietly<Mirror, Reflection::BottomIntoTop>},
+    {"mnuImageOpts1", "buttonize", "darkens the rim as of a button", OnSelection::PutDown,
+     Buttonize},
+    {"mnuImageOpts2", "grayscale", "grey as bright as the eye sees the colour",
+     OnSelection::Unrecorded, Quietly<Grayscale>},
+    {"mnuImageOpts3", "invert", "inverts each colour, as negative does", OnSelection::Unrecorded,
+     Quietly<Invert>},
 };
 
 std::vector<Operation> FiltersAndChanges() {
     std::vector<Operation> all;
     for (const filters::FilterRow& filter : filters::Filters())
-        all.push_back({filter.key, OnSelection::Recorded, nullptr, &filter});
+        all.push_back(
+            {filter.key, filter.name, filter.meaning, OnSelection::Recorded, nullptr, &filter});
     all.insert(all.end(), std::begin(kChanges), std::end(kChanges));
     return all;
 }
@@ -53,6 +66,14 @@ std::span<const Operation> Operations() {
 const Operation* FindOperation(std::string_view key) {
     const auto all = Operations();
     const auto found = std::ranges::find(all, key, &Operation::key);
+    return found == all.end() ? nullptr : &*found;
+}
+
+const Operation* FindNamedOperation(std::string_view name) {
+    const auto all = Operations();
+    const auto found = std::ranges::find_if(all, [name](const Operation& operation) {
+        return system::SameName(operation.name, name) || system::SameName(operation.key, name);
+    });
     return found == all.end() ? nullptr : &*found;
 }
 

@@ -17,6 +17,9 @@ enum class OnSelection { Recorded, Unrecorded, Lifted, PutDown };
 // A command of the Image or Effect menu that needs no dialog of its own: a function, or a filter.
 struct Operation {
     std::string_view key;
+    // What it is called where there is no menu, and a line that tells what it does.
+    std::string_view name;
+    std::string_view meaning;
     OnSelection onSelection = OnSelection::Recorded;
     // Changes both planes alike. Events may run in between.
     void (*change)(gdi::IconPlanes& planes, services::MessageLoop& loop) = nullptr;
@@ -30,6 +33,8 @@ struct Operation {
 std::span<const Operation> Operations();
 // Null for a key that is no operation's.
 const Operation* FindOperation(std::string_view key);
+// By its name or key, in any letter case.
+const Operation* FindNamedOperation(std::string_view name);
 
 // Changes the planes; those of a part of an icon are filtered from their own pixels alone. `value`
 // is used where the operation takes one.

@@ -9,27 +9,31 @@ while read -r commands options; do
     read -ra words <<<"$options"
     SamePixels "$commands" out.png holed.png "${words[@]}"
 done <<'END'
-mnuRotateOpts0 -rotate -90
+Rotate-Left -rotate -90
 mnuRotateOpts1 -rotate 90
-mnuRotateOpts3 -flop
+mnurotateopts3 -flop
 mnuRotateOpts4 -flip
-mnuMirrorOpts0 -crop 16x32+0+0 +repage ( +clone -flop ) +append
+reflect-left -crop 16x32+0+0 +repage ( +clone -flop ) +append
 mnuMirrorOpts1 -crop 16x32+16+0 +repage ( +clone -flop ) +swap +append
 mnuMirrorOpts2 -crop 32x16+0+0 +repage ( +clone -flip ) -append
-mnuMirrorOpts3 -crop 32x16+0+16 +repage ( +clone -flip ) +swap -append
+reflect-bottom -crop 32x16+0+16 +repage ( +clone -flip ) +swap -append
 mnuNegative -channel RGB -negate +channel
-mnuImageOpts3 -channel RGB -negate +channel
-mnuGamma=200 -channel RGB -fx round(255*sqrt(u))/255 +channel
-mnuRotateOpts1,mnuMirrorOpts0 -rotate 90 -crop 16x32+0+0 +repage ( +clone -flop ) +append
+INVERT -channel RGB -negate +channel
+gamma=200 -channel RGB -fx round(255*sqrt(u))/255 +channel
+rotate-right,mnuMirrorOpts0 -rotate 90 -crop 16x32+0+0 +repage ( +clone -flop ) +append
 END
-keys=$(Icon apply --help | grep -o 'mnu[A-Za-z0-9]*' | sort -u | wc -l)
-[[ $keys -eq 51 ]] || Fail "the help lists $keys keys"
+# Each command has a line with a name and a key of its own.
+Icon apply --help | grep -E '^  [a-z-]+ +mnu[A-Za-z0-9]+ +[a-z]' >commands
+for column in 1 2; do
+    count=$(awk "{ print tolower(\$$column) }" commands | sort -u | wc -l)
+    [[ $count -eq 51 ]] || Fail "the help lists $count in column $column"
+done
 
 # 32 steps from the side that the angle names, the left one when left out. Nothing is transparent.
 ExpectGradient() {
     local seen
-    seen=$(Icon gradient --from 250,0,64 --to 0,0,64 --format png "${@:3}" - |
-        Magick png:- -format "%[pixel:p{$1}] %[pixel:p{$2}]" info:)
+    seen=$(Icon gradient --from '#Fa0040' --to 0,0,64 --format png "${@:3}" - |
+        Magick png:- -alpha set -format "%[pixel:p{$1}] %[pixel:p{$2}]" info:)
     [[ $seen == 'srgba(250,0,64,1) srgba(125,0,64,1)' ]] || Fail "gradient ${*:3}: $seen"
 }
 ExpectGradient 0,9 16,9

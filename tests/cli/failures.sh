@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# What cannot be done ends with 1 and one line that says why, and leaves every file as it was.
+# What cannot be done ends with 1, wrong usage with 2, and one line that says why, and leaves every
+# file as it was.
 # shellcheck source=tests/cli/cli.sh
 source "$(dirname "$0")/cli.sh"
 mkdir work folder
@@ -10,11 +11,14 @@ printf 'old' >old.ico
 before=$(cksum ./*)
 
 # Refused <part of the line> <argument>...: the exit code is 1, the message is one line, no file has
-# come, gone or changed.
-Refused() {
+# come, gone or changed. Misused: the same with 2.
+Refused() { Ends 1 "$@"; }
+Misused() { Ends 2 "$@"; }
+Ends() {
     local status=0
-    Icon "${@:2}" 2>../message || status=$?
-    [[ $status -eq 1 ]] || Fail "$1: exit code $status"
+    Icon "${@:3}" 2>../message || status=$?
+    [[ $status -eq $1 ]] || Fail "$2: exit code $status"
+    shift
     [[ $(wc -l <../message) -eq 1 && $(<../message) == "kestrel-icon: "*"$1"* ]] ||
         Fail "$1: $(<../message)"
     [[ $(cksum ./*) == "$before" ]] || Fail "$1: a file has changed"
@@ -23,24 +27,29 @@ Refused() {
 exec >../output
 
 # How it is called.
-Refused 'A subcommand is required'
-Refused 'more: no such command' more
-Refused 'OUT is required' convert in.ico
-Refused 'not expected: --more' info --more in.ico
-Refused 'ico: the name ends in neither' convert in.ico ico
-Refused '--format' convert --format gif in.ico out.ico
-Refused 'mnuNone: no such command' apply mnuNegative,mnuNone in.ico out.ico
-Refused 'COMMANDS: a key is missing' apply mnuNegative, in.ico out.ico
-Refused 'takes no value' apply mnuImageOpts3= in.ico out.ico
+Misused 'more: no such command' more
+Misused 'OUT is required' convert in.ico
+Misused 'several files want --into' convert in.ico old.ico out.ico
+Misused '--in-place goes with neither' apply --in-place --into .. mnuNegative in.ico
+Misused 'named beside --files-from' info --files-from in.ico in.ico
+Misused '-0 tells about the list' info -0 in.ico
+Misused 'FILE is required' convert --into ..
+Misused '-j wants a number from 1 to' info -j 0 in.ico
+Misused 'not expected: --more' info --more in.ico
+Misused 'ico: the name ends in none' convert in.ico ico
+Misused '--format' convert --format gif in.ico out.ico
+Misused 'mnuNone: no such command' apply mnuNegative,mnuNone in.ico out.ico
+Misused 'COMMANDS: a name is missing' apply mnuNegative, in.ico out.ico
+Misused 'takes no value' apply mnuImageOpts3= in.ico out.ico
 for gamma in '' =0 =10000 =1.5; do
-    Refused 'needs a value from 1 to 9999' apply "mnuGamma$gamma" in.ico out.ico
+    Misused 'needs a value from 1 to 9999' apply "mnuGamma$gamma" in.ico out.ico
 done
-Refused '--seed' apply --seed 4294967296 mnuDiffuse in.ico out.ico
-for color in 1,2 1,2,3,4 1,2,256; do
-    Refused 'a colour as R,G,B' gradient --from "$color" --to 0,0,0 out.ico
+Misused '--seed' apply --seed 4294967296 mnuDiffuse in.ico out.ico
+for color in 1,2 1,2,3,4 1,2,256 '#12345' '#12345g' '#+12345'; do
+    Misused 'a colour as R,G,B' gradient --from "$color" --to 0,0,0 out.ico
 done
 for angle in 44 405; do
-    Refused '0 to 360 in steps of 45' gradient --from 1,2,3 --to 0,0,0 --angle "$angle" out.ico
+    Misused '0 to 360 in steps of 45' gradient --from 1,2,3 --to 0,0,0 --angle "$angle" out.ico
 done
 
 # What is read.
@@ -57,10 +66,10 @@ ln -s "$data/icons32.dll" "$data/frames.ani" ../
 Refused 'icons32.dll: there is no icon 3; the last is 2' convert --icon 3 ../icons32.dll old.ico
 Refused 'there is no image 2 in icon 2' apply --icon 2 --image 2 mnuNegative ../icons32.dll old.ico
 for number in 0 1x 65537; do
-    Refused '--icon wants a number' extract --icon "$number" ../icons32.dll
-    Refused '--image wants a number' thumbnail --image "$number" ../icons32.dll out.png
+    Misused '--icon wants a number' extract --icon "$number" ../icons32.dll
+    Misused '--image wants a number' thumbnail --image "$number" ../icons32.dll out.png
 done
-Refused '--size wants a number from 1 to 1024' thumbnail --size 1025 in.ico out.png
+Misused '--size wants a number from 1 to 1024' thumbnail --size 1025 in.ico out.png
 head -c 12 ../frames.ani >../empty.ani
 Refused 'empty.ani: The file contains no icons' info ../empty.ani
 cp ../opaque.png ../large.png
@@ -69,7 +78,7 @@ Refused 'large.png: File too large' thumbnail ../large.png out.png
 Refused 'ls: It is a program without icons' extract /bin/ls
 Refused 'cli.sh: It is no icon' thumbnail "$tests/cli/cli.sh" out.png
 # Before anything is written.
-Refused 'folder/in.exe: its icons would be called as those of in.ico' extract in.ico ../folder/in.exe
+Misused 'folder/in.exe: its icons would be called as those of in.ico' extract in.ico ../folder/in.exe
 
 # What is written.
 Refused 'none/out.ico: No such file or directory' convert in.ico none/out.ico

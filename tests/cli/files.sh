@@ -108,8 +108,10 @@ for choice in '' --icon=2; do
 done
 if Icon extract gap.dll 2>message; then Fail 'the missing icon is not told'; fi
 [[ $(<message) == *'no image of icon 1 can be read' && -f gap-2.ico ]] || Fail "$(<message)"
+Icon convert --image 1 "$data/several.ico" image.ico
+SamePixels 'the first image' ico:image.ico "$data/several-0.pam" -sample 32x32
 Icon convert --image 1 "$data/several.ico" image.png
-SamePixels 'the first image' image.png "$data/several-0.pam" -sample 32x32
+SamePixels 'the first image in its own size' image.png "$data/several-0.pam"
 Icon extract --icon 2 --png --icon 3 "$data/frames.ani"
 [[ $(echo frames-*) == 'frames-2-1.png frames-3-1.png' ]] || Fail "chosen: $(echo frames-*)"
 

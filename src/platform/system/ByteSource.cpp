@@ -9,6 +9,7 @@
 #include <cassert>
 #include <cerrno>
 
+#include "platform/system/FileIdentity.h"
 #include "platform/system/SystemError.h"
 
 namespace kestrel::system {
@@ -143,8 +144,7 @@ Result<void> FileBytes::Read(std::uint64_t offset, std::span<std::uint8_t> out) 
 
 // 0 for a file that can be read in parts, else the errno value that refuses it.
 int RefusalToRead(const struct stat& status) {
-    if (S_ISDIR(status.st_mode)) return EISDIR;
-    if (!S_ISREG(status.st_mode)) return EINVAL;
+    if (const int refusal = RefusalOf(status); refusal != 0) return refusal;
     return static_cast<std::uint64_t>(status.st_size) > kLargestSource ? EFBIG : 0;
 }
 

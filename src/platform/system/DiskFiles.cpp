@@ -11,32 +11,11 @@
 #include <utility>
 
 #include "platform/system/PathText.h"
+#include "platform/system/Replacement.h"
 #include "platform/system/SystemError.h"
-#include "platform/system/TemporaryFile.h"
 
 namespace kestrel::system {
 namespace {
-
-constexpr int kMaxLinks = 40;
-constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
-// A new file is everybody's as far as the umask lets it; a replacement is private until it has
-// taken over the old file's permissions.
-constexpr mode_t kNewFileMode = 0666;
-constexpr mode_t kReplacementMode = 0600;
-
-// 0 for a regular file, else the errno value that refuses it.
-int RefusalOf(const struct stat& status) {
-    if (S_ISDIR(status.st_mode)) return EISDIR;
-    return S_ISREG(status.st_mode) ? 0 : EINVAL;
-}
-
-// The same for a file that is to be replaced. The superuser is held to the write bits as well: a
-// file without any was meant to be kept.
-int RefusalToReplace(const std::string& path, const struct stat& status) {
-    if (const int refusal = RefusalOf(status); refusal != 0) return refusal;
-    if ((status.st_mode & kAnyWrite) == 0) return EACCES;
-    return access(path.c_str(), W_OK) < 0 ? errno : 0;
-}
 
 // The absolute path of a file that was found. What "." and ".." say goes, unless a link before
 // them leads elsewhere.
@@ -46,37 +25,6 @@ std::string AbsolutePath(const std::string& found) {
     if (failed) return found;  // the current folder is gone
     const std::filesystem::path plain = absolute.lexically_normal();
     return (std::filesystem::equivalent(plain, absolute, failed) ? plain : absolute).string();
-}
-
-// The place that a chain of links ends at, also when nothing is there yet.
-Result<std::string> FollowLinks(std::filesystem::path path) {
-    for (int links = 0; links < kMaxLinks; ++links) {
-        std::error_code notALink;
-        const std::filesystem::path target = std::filesystem::read_symlink(path, notALink);
-        if (notALink) return path.string();
-        path = path.parent_path() / target;
-    }
-    return SystemFailure(ELOOP);
-}
-
-// 0 or an errno value. `old` is the file that is to be replaced, if there is one.
-int Fill(TemporaryFile& replacement, const struct stat* old, std::span<const std::uint8_t> bytes) {
-    int error = replacement.Write(bytes);
-    if (error == 0 && old != nullptr) error = replacement.Inherit(*old);
-    return error == 0 ? replacement.Finish() : error;
-}
-
-// Writes a file that is ready to replace the old one. Not every file system makes files without a
-// name, and without /proc they cannot be given one: there the file is named from the start.
-int Prepare(TemporaryFile& replacement, const struct stat* old,
-            std::span<const std::uint8_t> bytes) {
-    const mode_t mode = old != nullptr ? kReplacementMode : kNewFileMode;
-    if (replacement.CreateUnnamed(mode) == 0) {
-        if (const int error = Fill(replacement, old, bytes); error != 0) return error;
-        if (replacement.GiveName() == 0) return 0;
-    }
-    const int error = replacement.CreateNamed(mode);
-    return error == 0 ? Fill(replacement, old, bytes) : error;
 }
 
 }  // namespace
@@ -134,24 +82,12 @@ Result<std::unique_ptr<ByteSource>> DiskFiles::OpenSource(const std::string& pat
 
 Result<FileIdentity> DiskFiles::ReplaceFile(const std::string& path,
                                             std::span<const std::uint8_t> bytes) {
-    if (path.empty()) return SystemFailure(ENOENT);
-    const Result<std::string> target = FollowLinks(path);
-    if (!target) return tl::unexpected(target.error());
-    struct stat old {};
-    const bool exists = stat(target->c_str(), &old) == 0;
-    if (!exists && errno != ENOENT) return SystemFailure(errno);
-    if (exists) {
-        if (const int refusal = RefusalToReplace(*target, old); refusal != 0) {
-            return SystemFailure(refusal);
-        }
-    }
-    RemoveLeftovers(calls_, *target);
-    TemporaryFile replacement(calls_, *target);
-    int error = Prepare(replacement, exists ? &old : nullptr, bytes);
-    if (error == 0) error = replacement.ReplaceTarget();
-    if (error == EACCES && exists) return Fail(EACCES, "Permission denied in the file's folder");
-    if (error != 0) return SystemFailure(error);
-    return replacement.Identity();
+    const auto replacement = Replacement::Write(calls_, path, bytes);
+    if (!replacement) return tl::unexpected(replacement.error());
+    if (auto flushed = (*replacement)->Flush(); !flushed) return tl::unexpected(flushed.error());
+    auto placed = (*replacement)->TakePlace();
+    if (placed) (*replacement)->FlushName();
+    return placed;
 }
 
 std::optional<std::string> DiskFiles::Find(const std::string& path) {

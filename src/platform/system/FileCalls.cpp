@@ -26,6 +26,9 @@ int FileCalls::ChangeMode(int file, mode_t mode) {
 int FileCalls::Sync(int file) {
     return fsync(file);
 }
+int FileCalls::SyncFileSystem(int file) {
+    return syncfs(file);
+}
 int FileCalls::Close(int file) {
     return close(file);
 }

@@ -19,6 +19,8 @@ class FileCalls {
     virtual int ChangeOwner(int file, uid_t user, gid_t group);
     virtual int ChangeMode(int file, mode_t mode);
     virtual int Sync(int file);
+    // The whole file system that the file or folder lies on.
+    virtual int SyncFileSystem(int file);
     virtual int Close(int file);
     // Gives an open file that has no name this one.
     virtual int Link(int file, const std::string& path);

@@ -2,6 +2,7 @@
 
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <cstdint>
 
 namespace kestrel::system {
@@ -21,6 +22,12 @@ struct FileIdentity {
 inline FileIdentity IdentityOf(const struct stat& status) {
     return {status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
             status.st_mtim.tv_sec, status.st_mtim.tv_nsec};
+}
+
+// 0 for a regular file, else the errno value that refuses it.
+inline int RefusalOf(const struct stat& status) {
+    if (S_ISDIR(status.st_mode)) return EISDIR;
+    return S_ISREG(status.st_mode) ? 0 : EINVAL;
 }
 
 }  // namespace kestrel::system

@@ -111,7 +111,7 @@ int TemporaryFile::TryNames(const std::function<int(const std::string& path)>& u
 }
 
 int TemporaryFile::CreateUnnamed(mode_t mode) {
-    constexpr int kFlags = O_WRONLY | O_TMPFILE | O_CLOEXEC;
+    constexpr int kFlags = O_RDWR | O_TMPFILE | O_CLOEXEC;
     file_ = Retry([&] { return calls_.Open(FolderOfTarget(target_), kFlags, mode); });
     if (file_ < 0) return errno;
     Lock(file_);
@@ -137,6 +137,19 @@ int TemporaryFile::Write(std::span<const std::uint8_t> bytes) {
         if (written < 0) return errno;
         if (written == 0) return EIO;
         bytes = bytes.subspan(static_cast<std::size_t>(written));
+    }
+    return 0;
+}
+
+int TemporaryFile::ReadBack(std::vector<std::uint8_t>& bytes) {
+    struct stat status {};
+    if (fstat(file_, &status) < 0 || lseek(file_, 0, SEEK_SET) < 0) return errno;
+    bytes.resize(static_cast<std::size_t>(status.st_size));
+    for (std::span rest(bytes); !rest.empty();) {
+        const ssize_t count = Retry([&] { return calls_.Read(file_, rest.data(), rest.size()); });
+        if (count < 0) return errno;
+        if (count == 0) return EIO;
+        rest = rest.subspan(static_cast<std::size_t>(count));
     }
     return 0;
 }
@@ -175,11 +188,22 @@ int TemporaryFile::GiveName() {
 int TemporaryFile::ReplaceTarget() {
     if (calls_.Rename(path_, target_) < 0) return errno;
     path_.clear();
+    return 0;
+}
+
+void TemporaryFile::FlushFolder() {
     const int folder = calls_.Open(FolderOfTarget(target_), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
-    if (folder >= 0) {
-        calls_.Sync(folder);
-        calls_.Close(folder);
-    }
+    if (folder < 0) return;
+    calls_.Sync(folder);
+    calls_.Close(folder);
+}
+
+int TemporaryFile::BecomeTarget() {
+    if (path_.empty()) return calls_.Link(file_, target_) < 0 ? errno : 0;
+    struct stat status {};
+    if (lstat(target_.c_str(), &status) == 0) return EEXIST;
+    if (errno != ENOENT || calls_.Rename(path_, target_) < 0) return errno;
+    path_.clear();
     return 0;
 }
 

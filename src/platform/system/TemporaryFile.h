@@ -6,6 +6,7 @@
 #include <functional>
 #include <span>
 #include <string>
+#include <vector>
 
 #include "platform/system/FileCalls.h"
 #include "platform/system/FileIdentity.h"
@@ -29,15 +30,21 @@ class TemporaryFile {
     // Makes a hidden file beside the target, in place of one made before.
     int CreateNamed(mode_t mode);
     int Write(std::span<const std::uint8_t> bytes);
+    // What was written to a file without a name.
+    int ReadBack(std::vector<std::uint8_t>& bytes);
     // Takes over the old file's owner where the system allows it, and its permissions.
     int Inherit(const struct stat& old);
     // Brings the content to the disk.
     int Finish();
     // Gives an unnamed file a hidden name beside the target.
     int GiveName();
-    // Gives the file the target's name. That the folder reaches the disk is tried, not asserted:
-    // the new content is in place by then.
+    // Gives the file the target's name.
     int ReplaceTarget();
+    // The same, and EEXIST where something has that name already. Of a file with a hidden name this
+    // is looked at just before.
+    int BecomeTarget();
+    // That the new name reaches the disk is tried, not asserted: the new content is in place.
+    void FlushFolder();
     FileIdentity Identity() const;
 
   private:
