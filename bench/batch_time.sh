@@ -57,9 +57,10 @@ MakeIcons() {
     done
 }
 
-# Growth <job>: 1,000, 10,000 and 100,000 files in one run, memory and what 100,000 take to 1,000.
+# Growth <job>...: 1,000, 10,000 and 100,000 files in one run each, memory and what 100,000 take to
+# 1,000.
 Growth() {
-    local first=
+    local first='' rounds=1
     for count in 1000 10000 100000; do
         Turns '' "$@" "list$count" -- "$bin/file_floor" each "list$count" other 300
         first=${first:-$own}

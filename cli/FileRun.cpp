@@ -1,5 +1,6 @@
 #include "cli/FileRun.h"
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -26,8 +27,8 @@ namespace {
 // Files are handed out in groups, so that jobs seldom wait for each other.
 constexpr std::size_t kMostInGroup = 16;
 constexpr std::size_t kGroupsEachJob = 4;
-// No job is ahead of the slowest by more groups than this for each job: what came of them waits.
-constexpr std::size_t kGroupsAhead = 2;
+// So many groups may wait for one that takes long, beside those in work.
+constexpr std::size_t kGroupsWaiting = 16;
 
 struct Group {
     std::size_t number = 0;
@@ -40,7 +41,7 @@ class FileRun {
         : names_(names),
           work_(work),
           isAmongOthers_(names.Count() != 1),
-          ahead_(options.jobs * kGroupsAhead),
+          ahead_(options.jobs + kGroupsWaiting),
           groupSize_(GroupSize(names.Count(), options.jobs)),
           teller_(Progress(options.progress && isatty(STDERR_FILENO) == 1, names.Count())) {}
 
@@ -153,16 +154,31 @@ Result<void> FileRun::Finish() {
     return Fail(EIO, FilesText(totals.failed, totals.files) + " failed");
 }
 
+// Each replacement is open until it is in place: no more jobs than the open files are enough for.
+std::size_t MostJobs() {
+    constexpr std::size_t kOthers =
+        32 + Teller::kMostWaiting + kGroupsWaiting * kMostInGroup + kMostInGroup;
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) < 0) return 1;
+    limit.rlim_cur = limit.rlim_max;
+    setrlimit(RLIMIT_NOFILE, &limit);
+    return static_cast<std::size_t>(std::max<rlim_t>(limit.rlim_max, kOthers) - kOthers) /
+               kMostInGroup +
+           1;
+}
+
 }  // namespace
 
 Result<void> RunFiles(FileNames& names, const RunOptions& options, const FileWork& work) {
     // A single file is as well done with when the program ends at once.
     if (names.Count() != 1) WatchForInterrupt();
-    FileRun run(names, options, work);
+    RunOptions possible = options;
+    const std::size_t files = std::max<std::size_t>(names.Count().value_or(options.jobs), 1);
+    possible.jobs = std::min({options.jobs, files, MostJobs()});
+    FileRun run(names, possible, work);
     std::vector<std::jthread> others;
-    const std::size_t most = std::min(options.jobs, names.Count().value_or(options.jobs));
     try {
-        while (others.size() + 1 < most)
+        while (others.size() + 1 < possible.jobs)
             others.emplace_back([&run] { run.Work(); });
     } catch (const std::system_error&) {
         // The system gives no more threads: those that are there do it all.

@@ -1,7 +1,5 @@
 #include "cli/Inputs.h"
 
-#include <sys/resource.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <thread>
@@ -38,14 +36,6 @@ Result<void> CheckNamed(const Arguments& arguments) {
     if (arguments.zeros && arguments.filesFrom.empty())
         return WrongUsage("-0 tells about the list of --files-from");
     return {};
-}
-
-// What waits for its flush is open, and there is no other reason to keep to a small number.
-void AllowManyOpenFiles() {
-    rlimit limit{};
-    if (getrlimit(RLIMIT_NOFILE, &limit) < 0) return;
-    limit.rlim_cur = limit.rlim_max;
-    setrlimit(RLIMIT_NOFILE, &limit);
 }
 
 Result<NameList> ReadNames(const Arguments& arguments) {
@@ -90,7 +80,6 @@ Result<std::unique_ptr<FileNames>> OpenNames(const Arguments& arguments) {
 }
 
 Result<RunOptions> ReadRunOptions(const Arguments& arguments) {
-    AllowManyOpenFiles();
     RunOptions options;
     options.progress = !arguments.quiet;
     if (arguments.jobs.empty()) {

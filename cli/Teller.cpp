@@ -7,13 +7,6 @@
 
 namespace kestrel::cli {
 
-namespace {
-
-// A flush takes as long for so many small files as for one, and so many can be open at once.
-constexpr std::size_t kMostWaiting = 256;
-
-}  // namespace
-
 Result<void> Teller::Tell(std::vector<Report> reports) {
     for (Report& report : reports) {
         if (waiting_.empty() && report.replacements.empty()) {
@@ -33,6 +26,8 @@ Result<void> Teller::Tell(std::vector<Report> reports) {
 
 Result<void> Teller::Finish() {
     PlaceWaiting();
+    // The names of the last ones.
+    flush_.Flush();
     WriteOutput();
     progress_.Clear();
     return written_;

@@ -17,6 +17,9 @@ namespace kestrel::cli {
 // systems are flushed once for many of them, then they take their places.
 class Teller {
   public:
+    // A flush takes as long for so many small files as for one, and so many can be open at once.
+    static constexpr std::size_t kMostWaiting = 256;
+
     explicit Teller(Progress progress) : progress_(progress) {}
 
     // Fails when standard output does.

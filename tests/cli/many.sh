@@ -33,6 +33,7 @@ Holds small a.png b.png 'c d.png' $'e\nf\xff.png'
 cp old.ico ./-
 printf -- '-\n\nin/a.ico' | Icon info --files-from - >output
 [[ $(grep -c : output) -eq 4 && $(head -1 output) == './-: ICO' ]] || Fail "a list: $(<output)"
+Ends 0 '' info --files-from /dev/null
 Ends 2 'in/../in/b.ico: its result would be called as that of in/b.ico' \
     convert --into never --format png in/b.ico in/a.ico in/../in/b.ico
 ln -s in/a.ico link.ico

@@ -85,7 +85,9 @@ Result<FileIdentity> DiskFiles::ReplaceFile(const std::string& path,
     const auto replacement = Replacement::Write(calls_, path, bytes);
     if (!replacement) return tl::unexpected(replacement.error());
     if (auto flushed = (*replacement)->Flush(); !flushed) return tl::unexpected(flushed.error());
-    return (*replacement)->TakePlace();
+    auto placed = (*replacement)->TakePlace();
+    if (placed) (*replacement)->FlushName();
+    return placed;
 }
 
 std::optional<std::string> DiskFiles::Find(const std::string& path) {

@@ -28,6 +28,8 @@ class Replacement {
     // replacements the file systems are flushed at once instead.
     Result<void> Flush();
     Result<FileIdentity> TakePlace();
+    // And its name, as far as that can be done.
+    void FlushName() { file_.FlushFolder(); }
     // Whether the file is still the one that was there when this was written.
     bool FitsTarget() const;
     const std::string& Target() const { return target_; }

@@ -188,12 +188,14 @@ int TemporaryFile::GiveName() {
 int TemporaryFile::ReplaceTarget() {
     if (calls_.Rename(path_, target_) < 0) return errno;
     path_.clear();
-    const int folder = calls_.Open(FolderOfTarget(target_), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
-    if (folder >= 0) {
-        calls_.Sync(folder);
-        calls_.Close(folder);
-    }
     return 0;
+}
+
+void TemporaryFile::FlushFolder() {
+    const int folder = calls_.Open(FolderOfTarget(target_), O_RDONLY | O_DIRECTORY | O_CLOEXEC, 0);
+    if (folder < 0) return;
+    calls_.Sync(folder);
+    calls_.Close(folder);
 }
 
 int TemporaryFile::BecomeTarget() {

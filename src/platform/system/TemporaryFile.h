@@ -38,12 +38,13 @@ class TemporaryFile {
     int Finish();
     // Gives an unnamed file a hidden name beside the target.
     int GiveName();
-    // Gives the file the target's name. That the folder reaches the disk is tried, not asserted:
-    // the new content is in place by then.
+    // Gives the file the target's name.
     int ReplaceTarget();
-    // The same without the folder, and EEXIST where something has that name already. Of a file with
-    // a hidden name this is looked at just before.
+    // The same, and EEXIST where something has that name already. Of a file with a hidden name this
+    // is looked at just before.
     int BecomeTarget();
+    // That the new name reaches the disk is tried, not asserted: the new content is in place.
+    void FlushFolder();
     FileIdentity Identity() const;
 
   private:
