@@ -18,6 +18,8 @@ using formats::ImageBytes;
 using formats::ImageEntry;
 
 constexpr int kMostSide = 256;
+// All of one source are made at once, in 2 MB each at most.
+constexpr std::size_t kMostSizes = 16;
 
 // An image of one of the sources.
 struct Candidate {
@@ -77,8 +79,10 @@ Result<std::vector<int>> ReadSizes(std::string_view list) {
     std::vector<int> sizes;
     for (const std::string_view part : Split(list)) {
         const auto size = NumberIn(part, 1, kMostSide);
-        if (!size || std::ranges::find(sizes, *size) != sizes.end()) {
-            return WrongUsage("--sizes wants numbers from 1 to " + std::to_string(kMostSide) +
+        const bool isNew = size && std::ranges::find(sizes, *size) == sizes.end();
+        if (!isNew || sizes.size() == kMostSizes) {
+            return WrongUsage("--sizes wants at most " + std::to_string(kMostSizes) +
+                              " numbers from 1 to " + std::to_string(kMostSide) +
                               ", each once, as in 16,32,48");
         }
         sizes.push_back(static_cast<int>(*size));

@@ -11,7 +11,7 @@
 
 namespace kestrel::cli {
 
-// Sides in pixels, from 1 to 256, each once, parted by commas.
+// At most 16 sides in pixels, from 1 to 256, each once, parted by commas.
 Result<std::vector<int>> ReadSizes(std::string_view list);
 
 // What an icon or cursor file of several sizes is made of.

@@ -77,7 +77,7 @@ void DeclareConvert(CLI::App& command, Arguments& arguments) {
     AddIn(command, arguments);
     command.add_option("--sizes", arguments.sizes,
                        "sides of an icon's images, 1 to 256, parted by commas; each is made of the "
-                       "best image of all INs");
+                       "best image of all files before OUT");
     AddOptional(command, "--hotspot", arguments.hotspot,
                 "the point of a cursor that points, X,Y in pixels of the first size (32 without "
                 "--sizes)");

@@ -3,11 +3,11 @@
 # tables that it reads its arguments by.
 
 # Subcommands; options, "TEXT" behind those that take a value; commands of apply.
-_kestrel_icon_subcommands() { "$1" --help | sed -nE '/^Subcommands:/,/^$/s/^  ([a-z]+) .*/\1/p'; }
+_kestrel_icon_subcommands() { "$1" --help 2>/dev/null | sed -nE '/^Subcommands:/,/^$/s/^  ([a-z]+) .*/\1/p'; }
 _kestrel_icon_options() {
-    "$@" --help | sed -nE 's/^  (-[A-Za-z0-9],)?(--[a-z-]+)( TEXT)?.*/\2\3/p'
+    "$@" --help 2>/dev/null | sed -nE 's/^  (-[A-Za-z0-9],)?(--[a-z-]+)( TEXT)?.*/\2\3/p'
 }
-_kestrel_icon_commands() { "$1" apply --help | sed -nE 's/^  ([a-z-]+) +mnu.*/\1/p'; }
+_kestrel_icon_commands() { "$1" apply --help 2>/dev/null | sed -nE 's/^  ([a-z-]+) +mnu.*/\1/p'; }
 
 _kestrel_icon() {
     local program=${COMP_WORDS[0]} token=${COMP_WORDS[COMP_CWORD]}

@@ -3,7 +3,7 @@
 
 # Lines of the help that fit an expression, as "word<TAB>description".
 function __kestrel_icon_help
-    kestrel-icon $argv[2..] --help | string replace -fr $argv[1] '$1\t$2'
+    kestrel-icon $argv[2..] --help 2>/dev/null | string replace -fr $argv[1] '$1\t$2'
 end
 
 # What the word under the cursor may become; fails where that is a file.
@@ -15,7 +15,7 @@ function __kestrel_icon_words
         return
     end
     set -l subcommand $words[2]
-    set -l options (kestrel-icon $subcommand --help | string replace -fr '^  (?:-\w,)?(--[a-z-]+) TEXT.*' '$1') -j
+    set -l options (kestrel-icon $subcommand --help 2>/dev/null | string replace -fr '^  (?:-\w,)?(--[a-z-]+) TEXT.*' '$1') -j
     # The option whose value is being typed, and how many names stand before.
     set -l option ''
     set -l names 0

@@ -9,9 +9,8 @@ namespace kestrel::formats {
 // 8 bits where the colours fit, else in 24 bits. Transparent pixels are black.
 ImageBytes EncodeDib(const gdi::IconPlanes& icon);
 
-// Pixels of 0xAABBGGRR as a bitmap of 32 bits that keeps their alpha. In the mask, which readers
-// that know no alpha go by, opaque is what counts as such elsewhere. Wholly transparent pixels are
-// black.
+// Pixels of 0xAABBGGRR as a bitmap of 32 bits that keeps their alpha. The mask, which readers that
+// know no alpha go by, is opaque from kOpaqueAlpha on. Wholly transparent pixels are black.
 ImageBytes EncodeDib(const gdi::Surface& pixels);
 
 // Such pixels as icons of several sizes hold them: a side of 256 or more as a PNG, a smaller one as

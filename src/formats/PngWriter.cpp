@@ -55,7 +55,7 @@ png_byte Alpha(gdi::COLORREF pixel) {
 // What libpng's callbacks and the frame that catches its jumps share. Nothing in it has to be
 // unwound by a jump: the owner frees it afterwards.
 struct PngEncoder {
-    PngEncoder(const gdi::Surface& pixels, PngColors colors);
+    PngEncoder(const gdi::Surface& pixels, PngStorage colors);
     ~PngEncoder() { png_destroy_write_struct(&png, &info); }
     PngEncoder(const PngEncoder&) = delete;
     PngEncoder& operator=(const PngEncoder&) = delete;
@@ -89,9 +89,9 @@ void WriteBytes(png_structp png, png_bytep data, std::size_t count) {
 }
 void FlushNothing(png_structp) {}
 
-PngEncoder::PngEncoder(const gdi::Surface& pixels, PngColors colors)
+PngEncoder::PngEncoder(const gdi::Surface& pixels, PngStorage colors)
     : size{pixels.Width(), pixels.Height()} {
-    if (colors == PngColors::Direct || !FillIndexes(pixels)) FillSamples(pixels);
+    if (colors == PngStorage::Direct || !FillIndexes(pixels)) FillSamples(pixels);
     const std::size_t pitch = samples.size() / static_cast<std::size_t>(size.height);
     for (int y = 0; y < size.height; ++y)
         rows.push_back(&samples[static_cast<std::size_t>(y) * pitch]);
@@ -161,10 +161,10 @@ bool RunEncoder(PngEncoder& encoder) {
 ByteList PngBytes(const gdi::IconPlanes& icon) {
     gdi::IconPlanes joined = icon;
     JoinAlpha(joined);
-    return PngBytes(joined.image, PngColors::FewInPalette);
+    return PngBytes(joined.image, PngStorage::FewInPalette);
 }
 
-ByteList PngBytes(const gdi::Surface& pixels, PngColors colors) {
+ByteList PngBytes(const gdi::Surface& pixels, PngStorage colors) {
     PngEncoder encoder(pixels, colors);
     // Memory is all that a picture of known size can lack.
     if (!RunEncoder(encoder)) throw std::bad_alloc();

@@ -48,6 +48,14 @@ Misused '--seed' apply --seed 4294967296 mnuDiffuse in.ico out.ico
 for color in 1,2 1,2,3,4 1,2,256 '#12345' '#12345g' '#+12345'; do
     Misused 'a colour as R,G,B' gradient --from "$color" --to 0,0,0 out.ico
 done
+for sizes in 0 16,16 257 "$(seq -s, 17)"; do
+    Misused '--sizes wants at most 16' convert --sizes "$sizes" in.ico out.ico
+done
+Misused '--sizes is for .ico and .cur' convert --sizes 16 in.ico out.png
+for hotspot in 3 3,4,5 16,0; do
+    Misused '--hotspot wants X,Y, each from 0 to 15' convert --sizes 16 --hotspot "$hotspot" in.ico o.cur
+done
+Misused '--hotspot is for .cur' convert --hotspot 3,4 in.ico out.ico
 for angle in 44 405; do
     Misused '0 to 360 in steps of 45' gradient --from 1,2,3 --to 0,0,0 --angle "$angle" out.ico
 done

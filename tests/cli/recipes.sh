@@ -22,6 +22,7 @@ for recipe in recipe*; do
     HOME=$PWD bash -e "$recipe" >told 2>&1 || Fail "$(<"$recipe")"$'\n'"$(<told)"
 done
 
+SamePixels 'each icon of its own file' 'ico:icons/holed.ico[2]' holed.png
 # The widths of the images in a file.
 while IFS=: read -r file widths; do
     [[ $(Icon info "$file" | sed 's/^[0-9]*: //; s/ x.*//' | paste -sd' ') == "$widths" ]] ||

@@ -67,10 +67,3 @@ Icon convert holed.png own.ico
 cmp <(tail -c +15 own.cur) <(tail -c +15 own.ico) || Fail 'a cursor of 32 x 32'
 Icon apply invert own.cur - --format cur | Icon convert --sizes 16,8 - twice.cur
 [[ $(icotool -l twice.cur | grep -c 'x=1 .*y=15$\|x=0 .*y=7$') -eq 2 ]] || Fail 'hotspot kept'
-
-# A folder of them, each from its own file.
-Icon convert --into all --format ico --sizes 10,32 red.png lime.png
-for color in red lime; do
-    Icon convert --sizes 10,32 $color.png one.ico
-    cmp one.ico all/$color.ico || Fail "a folder: $color"
-done

@@ -113,7 +113,8 @@ std::string Listing(const ByteList& file) {
         text += " " + *source->NameOf(i);
         char before = ':';
         const auto images = source->Images(i);
-        for (const auto& [offset, size, info, index] : *images) {
+        for (const formats::ImageEntry& image : *images) {
+            const formats::ImageInfo& info = image.info;
             text += before + std::to_string(info.width) + "x" + std::to_string(info.height) + "x" +
                     std::to_string(info.bitsPerPixel) + (info.png ? "p" : "");
             before = ',';
