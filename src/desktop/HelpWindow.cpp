@@ -45,9 +45,10 @@ void HelpWindow::ShowTexts() {
 }
 
 void HelpWindow::resizeEvent(QResizeEvent* event) {
-    bar_.setGeometry(frameWidth(), frameWidth(), width() - 2 * frameWidth(),
-                     bar_.sizeHint().height());
     QTextBrowser::resizeEvent(event);
+    const QRect page = viewport()->geometry();
+    const int height = bar_.sizeHint().height();
+    bar_.setGeometry(page.x(), page.y() - height, page.width(), height);
 }
 
 void HelpWindow::AddKey(const QKeySequence& key, std::function<void()> then) {
