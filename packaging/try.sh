@@ -13,9 +13,11 @@ lintian --allow-root --fail-on error "$packages"/*.deb
 
 debootstrap --variant=minbase bookworm "$bare" "$mirror" >/dev/null
 cp /etc/resolv.conf "$bare/etc/"
+chmod 755 "$bare"
 mkdir "$bare/packages"
 cp "$packages"/*.deb "$bare/packages/"
 cp packaging/try_inside.sh "$bare/packages/"
+# shellcheck disable=SC2016  # for the shell that is started
 unshare --mount --pid --fork bash -c '
     mount -t proc proc "$1/proc"
     exec env -i PATH="$PATH" LANG=C.UTF-8 chroot "$1" bash /packages/try_inside.sh' bash "$bare"

@@ -1,5 +1,5 @@
 // Writes the program's artwork as the files that a desktop and the help want:
-// make_artwork <folder for icons> <folder for pictures>, both existing.
+// make_artwork <folder for icons> <folder for pictures> <icon file> <icon library>, all existing.
 
 #include <QApplication>
 #include <QImage>
@@ -150,13 +150,13 @@ bool WritePicking(const std::string& file) {
     return Save(desktop::ToImage(capture.Shown(kShown), kShown), file);
 }
 
-bool WriteHelpPictures(const std::string& folder) {
+bool WriteHelpPictures(const std::string& folder, const artwork::PictureSources& sources) {
     using namespace resources;
     bool written = WritePictures(folder, "", {kImageList, kImageListInks});
     written = WritePictures(folder, "tool-", {kToolStrip, kImageListInks}) && written;
     written = WritePictures(folder, "well-", {kWellPictures, kImageListInks}) && written;
     written = WritePictures(folder, "zoom-", {kZoomPictures, kImageListInks}) && written;
-    for (const auto& [name, picture] : artwork::WindowPictures())
+    for (const auto& [name, picture] : artwork::WindowPictures(sources))
         written = Save(picture, std::string(folder).append("/").append(name) + ".png") && written;
     written = WritePicking(folder + "/capture.png") && written;
     return Save(MagnifiedIcon(), folder + "/zoom.png") && written;
@@ -165,8 +165,10 @@ bool WriteHelpPictures(const std::string& folder) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 3) {
-        std::fputs("Usage: make_artwork <folder for icons> <folder for pictures>\n", stderr);
+    if (argc != 5) {
+        std::fputs(
+            "Usage: make_artwork <folder for icons> <folder for pictures> <icon> <library>\n",
+            stderr);
         return 2;
     }
     // Windows are drawn, but on no screen.
@@ -176,5 +178,5 @@ int main(int argc, char* argv[]) {
     QApplication::installTranslator(&translator);
     QApplication::setApplicationVersion(QStringLiteral(KESTREL_VERSION));
     const bool iconWritten = WriteIcon(argv[1]);
-    return WriteHelpPictures(argv[2]) && iconWritten ? 0 : 1;
+    return WriteHelpPictures(argv[2], {argv[3], argv[4]}) && iconWritten ? 0 : 1;
 }

@@ -17,6 +17,8 @@ namespace kestrel::desktop {
 
 namespace {
 
+constexpr QSize kRoomForColumns(720, 420);
+
 using services::FilePurpose;
 using services::FileRecord;
 
@@ -104,9 +106,13 @@ void FileNameDialog::AddPreview() {
     const auto offers = [&](const char* pattern) {
         return record_.filter.find(pattern) != std::string::npos;
     };
+    const QSize room = screen()->availableSize();
+    // A small screen is left to the names.
+    if (room.width() < kRoomForColumns.width()) return;
     if (grid == nullptr || !(offers("*.ico") || offers("*.icl"))) return;
     auto* preview = new FilePreview(this);
     grid->addWidget(preview, kRowOfFiles, grid->columnCount());
+    resize(QSize(width() + preview->minimumWidth(), height()).boundedTo(room));
     connect(this, &QFileDialog::currentChanged, preview,
             [preview](const QString& path) { preview->Show(path.toStdString()); });
     connect(this, &QFileDialog::directoryEntered, preview, [preview] { preview->Show({}); });
@@ -116,7 +122,6 @@ void FileNameDialog::AddPreview() {
 
 // The library cuts its side bar and the dates.
 void FileNameDialog::MakeReadable() {
-    constexpr QSize kRoomForColumns(720, 420);
     constexpr int kSideBar = 120;  // pixels
     resize(size().expandedTo(kRoomForColumns).boundedTo(screen()->availableSize()));
     if (const auto* splitter = findChild<QSplitter*>())

@@ -37,6 +37,7 @@ bool QtHelpViewer::ShowHelp(const std::string& file, const std::string& title) {
 void QtHelpViewer::ChangePage(const std::string& file, const std::string& title) {
     if (window_ == nullptr || !CanRead(file)) return;
     window_->setWindowTitle(QString::fromStdString(title));
+    window_->ShowTexts();
     const QUrl url =
         QUrl::fromLocalFile(QFileInfo(QString::fromStdString(file)).absoluteFilePath());
     if (window_->source().adjusted(QUrl::RemoveFragment) == url) return;
@@ -46,13 +47,13 @@ void QtHelpViewer::ChangePage(const std::string& file, const std::string& title)
 }
 
 void QtHelpViewer::Close() {
-    const QTextBrowser* const closing = window_;
+    const HelpWindow* const closing = window_;
     window_.clear();
     delete closing;
 }
 
-QTextBrowser* QtHelpViewer::NewWindow() {
-    auto* window = new QTextBrowser;
+HelpWindow* QtHelpViewer::NewWindow() {
+    auto* window = new HelpWindow;
     window->setAttribute(Qt::WA_DeleteOnClose);
     window->resize(kWindowSize.boundedTo(window->screen()->availableSize() - kWindowFrame));
     // The browser follows links within the help; the web is for the desktop's own.

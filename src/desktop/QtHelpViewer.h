@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QPointer>
-#include <QTextBrowser>
 
+#include "desktop/HelpWindow.h"
 #include "services/HelpViewer.h"
 #include "services/Shell.h"
 
@@ -23,14 +23,14 @@ class QtHelpViewer final : public services::HelpViewer {
     void Close() override;
 
     // Null while no help is shown.
-    QTextBrowser* Window() const { return window_; }
+    HelpWindow* Window() const { return window_; }
 
   private:
-    QTextBrowser* NewWindow();
+    HelpWindow* NewWindow();
     void Follow(const QUrl& link);
 
     services::Shell& shell_;
-    QPointer<QTextBrowser> window_;
+    QPointer<HelpWindow> window_;
 };
 
 }  // namespace kestrel::desktop

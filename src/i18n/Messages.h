@@ -100,6 +100,10 @@ std::string CannotSave(std::string_view reason, std::string_view fileTitle);
 // A recent file that is gone; this one speaks English only.
 std::string CannotLocate(std::string_view path);
 
+// The search field of the help.
+inline constexpr Text kSearchHelp{"Search this help (Ctrl+F)", "搜索帮助 (Ctrl+F)"};
+inline constexpr Text kNotFound{"Not found", "未找到"};
+
 // Kinds of files in the list of the file dialogs, which the desktop library's Chinese lacks.
 inline constexpr std::array kFileKinds{Text{"Folder", "文件夹"}, Text{"Drive", "驱动器"},
                                        Text{"Shortcut", "快捷方式"}, Text{"Unknown", "未知"}};

@@ -42,5 +42,27 @@ TEST_F(QtHelpViewerTest, FollowsLinksAndChangesLanguageInOneWindow) {
     EXPECT_FALSE(window->isBackwardAvailable());
 }
 
+TEST_F(QtHelpViewerTest, SearchGoesRoundAndTellsWhatIsNotThere) {
+    system::MakeFile(Path("long.html"), "one two tone");
+    ASSERT_TRUE(help_.ShowHelp(Path("long.html"), "Help"));
+    HelpWindow& window = *help_.Window();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(window.SearchField().hasFocus());
+    const auto found = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(&window.SearchField(), key, modifiers);
+        return window.textCursor().selectionStart();
+    };
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, int> cases[] = {
+        {Qt::Key_O, {}, 0},      {Qt::Key_N, {}, 0},  {Qt::Key_E, {}, 0},
+        {Qt::Key_Return, {}, 9}, {Qt::Key_F3, {}, 0}, {Qt::Key_F3, Qt::ShiftModifier, 9}};
+    for (const auto& [key, modifiers, at] : cases)
+        EXPECT_EQ(found(key, modifiers), at) << key;
+    const auto* notice = window.findChildren<QLabel*>().back();
+    EXPECT_FALSE(notice->isVisible());
+    EXPECT_EQ(found(Qt::Key_X), 9);
+    EXPECT_TRUE(notice->isVisible());
+}
+
 }  // namespace
 }  // namespace kestrel::desktop

@@ -8,7 +8,7 @@ StartDesktop
 cmake --install "${KESTREL_BUILD:-"$desktopFolder/../../build"}" --prefix "$scratch/usr" >"$scratch/install.log"
 help=$scratch/usr/share/KestrelIconEditor/help
 [[ -s $help/CHS/index.html && -s $help/style.css ]] || Fail 'a page is not installed'
-[[ $(find "$help/pictures" -name '*.png' | wc -l) -eq 107 ]] || Fail 'pictures are missing'
+[[ $(find "$help/pictures" -name '*.png' | wc -l) -eq 119 ]] || Fail 'pictures are missing'
 program=$scratch/usr/bin/KestrelIconEditor
 StartEditor '* - Untitled'
 Press F1
