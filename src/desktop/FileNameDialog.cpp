@@ -8,6 +8,7 @@
 #include <QTreeView>
 #include <QUrl>
 
+#include "desktop/ScreenFit.h"
 #include "desktop/Text.h"
 #include "i18n/Messages.h"
 #include "platform/system/PathText.h"
@@ -98,6 +99,7 @@ void FileNameDialog::MarkPlace() {
 void FileNameDialog::MakeReadable() {
     constexpr QSize kRoomForColumns(720, 420);
     constexpr int kSideBar = 120;  // pixels
+    FitOnScreen(*this);
     resize(size().expandedTo(kRoomForColumns).boundedTo(screen()->availableSize()));
     if (const auto* splitter = findChild<QSplitter*>())
         splitter->widget(0)->setMinimumWidth(kSideBar);

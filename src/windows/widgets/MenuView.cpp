@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 
 #include "desktop/Text.h"
+#include "windows/widgets/DesktopFont.h"
 #include "windows/widgets/PictureIcon.h"
 
 namespace kestrel::widgets {
@@ -71,6 +72,25 @@ void MenuView::FillBar(QMenuBar& bar) {
     for (const MenuItem& item : menu_.Items()) {
         if (item.parent.empty()) bar.addAction(NewAction(item));
     }
+}
+
+void MenuView::FollowDesktopFont(QMenuBar& bar, QSize room) {
+    const int designed = MenuFont(menu_).pixelSize();
+    int pixels = AsOnDesktop(designed);
+    font_.setPixelSize(pixels);
+    for (const auto& [key, submenu] : submenus_)
+        submenu->setFont(font_);
+    for (const auto& item : menu_.Items())
+        Follow(item);
+    const auto fits = [&] {
+        QFont font = font_;
+        font.setPixelSize(pixels);
+        bar.setFont(font);
+        const QSize needed = bar.sizeHint();
+        return needed.width() <= room.width() && needed.height() <= room.height();
+    };
+    while (!fits() && pixels > designed)
+        --pixels;
 }
 
 QMenu* MenuView::Popup(std::string_view root) {
