@@ -3,7 +3,6 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QListView>
-#include <QScreen>
 #include <QSplitter>
 #include <QTreeView>
 #include <QUrl>
@@ -69,6 +68,7 @@ FileNameDialog::FileNameDialog(FilePurpose purpose, FileRecord record,
 FileNameDialog::~FileNameDialog() {
     if (columns_ == nullptr) return;
     columns_->setSectionResizeMode(QHeaderView::Interactive);
+    columns_->setMinimumSectionSize(-1);
     columns_->setStretchLastSection(true);
 }
 
@@ -100,7 +100,7 @@ void FileNameDialog::MakeReadable() {
     constexpr QSize kRoomForColumns(720, 420);
     constexpr int kSideBar = 120;  // pixels
     FitOnScreen(*this);
-    resize(size().expandedTo(kRoomForColumns).boundedTo(screen()->availableSize()));
+    resize(size().expandedTo(kRoomForColumns).boundedTo(RoomOnScreen(*this)));
     if (const auto* splitter = findChild<QSplitter*>())
         splitter->widget(0)->setMinimumWidth(kSideBar);
     if (const auto* files = findChild<QTreeView*>()) {
@@ -108,6 +108,9 @@ void FileNameDialog::MakeReadable() {
         columns_->setStretchLastSection(false);
         columns_->setSectionResizeMode(QHeaderView::ResizeToContents);
         columns_->setSectionResizeMode(0, QHeaderView::Stretch);
+        // Where large text leaves less, the columns are scrolled.
+        constexpr int kLeastLetters = 10;
+        columns_->setMinimumSectionSize(kLeastLetters * fontMetrics().averageCharWidth());
     }
 }
 

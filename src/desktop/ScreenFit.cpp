@@ -14,8 +14,12 @@ constexpr int kSmallestText = 8;  // pixels
 
 }  // namespace
 
+QSize RoomOnScreen(const QDialog& dialog) {
+    return dialog.screen()->availableSize() - kFrame;
+}
+
 void FitOnScreen(QDialog& dialog) {
-    const QSize room = dialog.screen()->availableSize() - kFrame;
+    const QSize room = RoomOnScreen(dialog);
     QFont font = dialog.font();
     int pixels = QFontInfo(font).pixelSize();
     const auto fits = [&] {

@@ -1,7 +1,12 @@
+#include <QLineEdit>
+#include <QScreen>
 #include <algorithm>
 #include <cmath>
 
 #include "tests/windows/WindowTest.h"
+#include "windows/FrmColAdj.h"
+#include "windows/FrmShades.h"
+#include "windows/frmGamma.h"
 
 namespace kestrel::test {
 namespace {
@@ -56,6 +61,58 @@ TEST_P(ScalesTest, GridLinesAreEvenAndEveryPixelIsPartOfTheCellItShows) {
     const auto [least, most] = std::ranges::minmax(cells);
     EXPECT_EQ(std::ssize(cells), kLines - 1);
     EXPECT_LE(most - least, 1);
+}
+
+// The desktop's text from small to large.
+class LargeTextTest : public WindowTest {
+  protected:
+    static constexpr int kSizes[] = {10, 12, 16, 20, 27, 40};
+
+    static void SetText(int pixels) {
+        QFont font = QApplication::font();
+        font.setPixelSize(pixels);
+        QApplication::setFont(font);
+        QApplication::processEvents();
+    }
+    void TearDown() override {
+        QApplication::setFont(before_);
+        WindowTest::TearDown();
+    }
+
+  private:
+    QFont before_ = QApplication::font();
+};
+
+TEST_F(LargeTextTest, TheMainWindowCutsNoText) {
+    for (const char* language : {"mnuLanguageOpts0", "mnuLanguageOpts1"}) {
+        Item(language)->trigger();
+        for (const int pixels : kSizes) {
+            SetText(pixels);
+            for (const char* name : {"Label1", "ChkPal"}) {
+                EXPECT_LE(Control(name)->sizeHint().width(), Control(name)->width())
+                    << name << language << pixels;
+            }
+            const auto* bar = window_.findChild<QMenuBar*>();
+            EXPECT_LE(bar->sizeHint().width(), window_.width()) << language << pixels;
+            EXPECT_LE(bar->geometry().bottom(), window_.Toolbar1().y()) << language << pixels;
+        }
+        EXPECT_EQ(window_.EditingPopup()->font().pixelSize(), 40) << "menus have room";
+    }
+}
+
+TEST_F(LargeTextTest, TheScreenHoldsEveryDialog) {
+    imaging::ColorAdjustment colors{gdi::IconPlanes()};
+    for (const int pixels : kSizes) {
+        SetText(pixels);
+        windows::frmGamma gamma(&window_);
+        windows::FrmShades shades(&window_);
+        windows::FrmColAdj adjustment(&window_, colors, gdi::Surface(32, 32));
+        for (const QDialog* dialog : std::initializer_list<QDialog*>{&gamma, &shades, &adjustment})
+            EXPECT_TRUE(window_.screen()->geometry().contains(dialog->geometry()))
+                << dialog->windowTitle().toStdString() << pixels;
+        EXPECT_GE(gamma.findChild<QLineEdit*>()->width(),
+                  gamma.fontMetrics().horizontalAdvance(QStringLiteral("0000")));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(BothWays, ScalesTest, testing::Values(Qt::Horizontal, Qt::Vertical));

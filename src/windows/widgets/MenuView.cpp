@@ -74,14 +74,18 @@ void MenuView::FillBar(QMenuBar& bar) {
     }
 }
 
-void MenuView::FollowDesktopFont(QMenuBar& bar, QSize room) {
-    const int designed = MenuFont(menu_).pixelSize();
-    int pixels = AsOnDesktop(designed);
-    font_.setPixelSize(pixels);
+void MenuView::FollowDesktopFont() {
+    font_.setPixelSize(AsOnDesktop(MenuFont(menu_).pixelSize()));
     for (const auto& [key, submenu] : submenus_)
         submenu->setFont(font_);
-    for (const auto& item : menu_.Items())
+    for (const MenuItem& item : menu_.Items())
         Follow(item);
+}
+
+void MenuView::FollowDesktopFont(QMenuBar& bar, QSize room) {
+    FollowDesktopFont();
+    const int designed = MenuFont(menu_).pixelSize();
+    int pixels = font_.pixelSize();
     const auto fits = [&] {
         QFont font = font_;
         font.setPixelSize(pixels);
@@ -98,6 +102,7 @@ QMenu* MenuView::Popup(std::string_view root) {
         font_ = MenuFont(menu_);
         NewAction(*menu_.Find(root));
     }
+    FollowDesktopFont();
     const auto found = submenus_.find(root);
     return found == submenus_.end() ? nullptr : found->second.get();
 }

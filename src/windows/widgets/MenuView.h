@@ -32,6 +32,7 @@ class MenuView : public QObject {
     QAction* ActionOf(std::string_view key) const;
 
   private:
+    void FollowDesktopFont();
     QAction* NewAction(const controls::MenuItem& item);
     QMenu* NewSubmenu(const controls::MenuItem& item);
     void AddChildren(QMenu& submenu, std::string_view parent);
