@@ -3,12 +3,12 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QListView>
-#include <QScreen>
 #include <QSplitter>
 #include <QTreeView>
 #include <QUrl>
 
 #include "desktop/FilePreview.h"
+#include "desktop/ScreenFit.h"
 #include "desktop/Text.h"
 #include "i18n/Messages.h"
 #include "platform/system/PathText.h"
@@ -72,6 +72,7 @@ FileNameDialog::FileNameDialog(FilePurpose purpose, FileRecord record,
 FileNameDialog::~FileNameDialog() {
     if (columns_ == nullptr) return;
     columns_->setSectionResizeMode(QHeaderView::Interactive);
+    columns_->setMinimumSectionSize(-1);
     columns_->setStretchLastSection(true);
 }
 
@@ -106,7 +107,7 @@ void FileNameDialog::AddPreview() {
     const auto offers = [&](const char* pattern) {
         return record_.filter.find(pattern) != std::string::npos;
     };
-    const QSize room = screen()->availableSize();
+    const QSize room = RoomOnScreen(*this);
     // A small screen is left to the names.
     if (room.width() < kRoomForColumns.width()) return;
     if (grid == nullptr || !(offers("*.ico") || offers("*.icl"))) return;
@@ -123,7 +124,8 @@ void FileNameDialog::AddPreview() {
 // The library cuts its side bar and the dates.
 void FileNameDialog::MakeReadable() {
     constexpr int kSideBar = 120;  // pixels
-    resize(size().expandedTo(kRoomForColumns).boundedTo(screen()->availableSize()));
+    FitOnScreen(*this);
+    resize(size().expandedTo(kRoomForColumns).boundedTo(RoomOnScreen(*this)));
     if (const auto* splitter = findChild<QSplitter*>())
         splitter->widget(0)->setMinimumWidth(kSideBar);
     if (const auto* files = findChild<QTreeView*>()) {
@@ -131,6 +133,9 @@ void FileNameDialog::MakeReadable() {
         columns_->setStretchLastSection(false);
         columns_->setSectionResizeMode(QHeaderView::ResizeToContents);
         columns_->setSectionResizeMode(0, QHeaderView::Stretch);
+        // Where large text leaves less, the columns are scrolled.
+        constexpr int kLeastLetters = 10;
+        columns_->setMinimumSectionSize(kLeastLetters * fontMetrics().averageCharWidth());
     }
 }
 

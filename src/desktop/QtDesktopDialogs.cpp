@@ -16,6 +16,7 @@
 #include <optional>
 
 #include "desktop/Pictures.h"
+#include "desktop/ScreenFit.h"
 #include "i18n/Language.h"
 #include "i18n/Messages.h"
 #include "platform/system/PathText.h"
@@ -209,6 +210,7 @@ std::int32_t QtDesktopDialogs::ChooseColor(ColorRecord& record) {
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     const bool preset = (record.flags & services::kInitialColor) != 0;
     dialog.setCurrentColor(ToColor(preset ? record.color : gdi::kBlack));
+    FitOnScreen(dialog);
     if (!Ask(dialog)) return kCancelled;
     record.color = ToColorRef(dialog.selectedColor());
     record.customColors = LibrarysCustomColors::Now();
@@ -227,6 +229,7 @@ std::int32_t QtDesktopDialogs::ChoosePrinter(PrinterRecord& record) {
     printer.setColorMode(QPrinter::Color);
     PrinterDialog dialog(printer, silence, boxes_, WindowOf(record.owner));
     wait.reset();
+    FitOnScreen(dialog);
     if (!Ask(dialog)) return kCancelled;
     printer_.Use(printer);
     if (silence && printer.outputFormat() != QPrinter::PdfFormat) printer_.UseNone();

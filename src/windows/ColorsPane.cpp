@@ -8,6 +8,7 @@
 #include "i18n/Captions.h"
 #include "resources/WellPictures.h"
 #include "windows/FrmMouseButtons.h"
+#include "windows/widgets/DesktopFont.h"
 #include "windows/widgets/PictureIcon.h"
 #include "windows/widgets/WindowDesign.h"
 
@@ -104,6 +105,12 @@ void ColorsPane::LayOutPalette() {
     chkPal_.setGeometry(kChkPal);
     // A click leaves the keyboard with the window, whose keys move the selection.
     chkPal_.setFocusPolicy(Qt::TabFocus);
+}
+
+void ColorsPane::FitTexts() {
+    constexpr int kBox = 24;  // with its distance from the text
+    chkPal_.setFont(widgets::FittingFont(*this, widgets::kSmallFontPixels,
+                                         kChkPal.size() - QSize(kBox, 0), {chkPal_.text()}));
 }
 
 void ColorsPane::Show(editing::Palette& palette) {

@@ -31,6 +31,9 @@ class ColorsPane : public QWidget, public editing::ColorsView {
     void Connect(commands::Commands& commands, CommandRunner& runner);
     void AddTo(NamedControls& controls);
 
+    // The text is as large as on the desktop where it has room.
+    void FitTexts();
+
     widgets::SurfaceWidget& PicPal() { return picPal_; }
     QCheckBox& ChkPal() { return chkPal_; }
 

@@ -8,6 +8,7 @@
 
 #include "desktop/Text.h"
 #include "i18n/Captions.h"
+#include "windows/widgets/DesktopFont.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
@@ -16,7 +17,7 @@ namespace {
 
 using desktop::ToText;
 
-constexpr QSize kClipDataSize(268, 168);
+constexpr QRect kClient(0, 0, 268, 168);
 // Where the two lines of text have their top left corners.
 constexpr QPoint kMessage(8, 8);
 constexpr QPoint kSizeAt(8, 21);
@@ -26,24 +27,32 @@ constexpr QRect kCmdCancel(180, 134, 80, 26);
 // In the order of PasteFit.
 constexpr std::array kChoices{i18n::kShrinkToFit, i18n::kShrinkKeepingAspect};
 
-constexpr int kClipDataFont = 12;
 constexpr int kMessageFontPixels = 11;
+
+// All of it grows with the desktop's text.
+int Grown(int pixels) {
+    return widgets::AsOnDesktop(pixels);
+}
+
+QRect Grown(const QRect& place) {
+    return {Grown(place.x()), Grown(place.y()), Grown(place.width()), Grown(place.height())};
+}
 
 }  // namespace
 
 FrmClipData::FrmClipData(QWidget* owner, gdi::Size picture) : QDialog(owner) {
     widgets::DressDialog(*this, ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
-    setFont(widgets::FontOf(*this, kClipDataFont));
-    setFixedSize(kClipDataSize);
+    setFont(widgets::FontOf(*this, Grown(widgets::kDesignedText)));
+    setFixedSize(Grown(kClient).size());
     LayOutControls();
-    widgets::PlaceOnScreen(*this, kClipDataSize);
+    widgets::PlaceOnScreen(*this, size());
 }
 
 void FrmClipData::LayOutControls() {
     auto* frame1 = new QGroupBox(ToText(i18n::kPasteChoice.Now()), this);
     frame1->setObjectName("Frame1");
-    frame1->setGeometry(kFrame1);
+    frame1->setGeometry(Grown(kFrame1));
     auto* choices = new QVBoxLayout(frame1);
     for (std::size_t i = 0; i < opt_.size(); ++i) {
         opt_[i] = new QRadioButton(ToText(kChoices[i].Now()));
@@ -54,12 +63,12 @@ void FrmClipData::LayOutControls() {
 
     auto* cmdOk = new QPushButton(ToText(i18n::kOk.Now()), this);
     cmdOk->setObjectName("cmdOK");
-    cmdOk->setGeometry(kCmdOk);
+    cmdOk->setGeometry(Grown(kCmdOk));
     cmdOk->setDefault(true);
     connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
     auto* cmdCancel = new QPushButton(ToText(i18n::kCancel.Now()), this);
     cmdCancel->setObjectName("cmdCancel");
-    cmdCancel->setGeometry(kCmdCancel);
+    cmdCancel->setGeometry(Grown(kCmdCancel));
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -70,9 +79,9 @@ std::optional<imaging::PasteFit> FrmClipData::Ask() {
 
 void FrmClipData::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    painter.setFont(widgets::FontOf(*this, kMessageFontPixels));
+    painter.setFont(widgets::FontOf(*this, Grown(kMessageFontPixels)));
     const auto print = [&](QPoint at, const QString& text) {
-        painter.drawText(at + QPoint(0, painter.fontMetrics().ascent()), text);
+        painter.drawText(Grown(at.x()), Grown(at.y()) + painter.fontMetrics().ascent(), text);
     };
     print(kMessage, ToText(i18n::kPasteTooLarge.Now()));
     print(kSizeAt, sizeText_);

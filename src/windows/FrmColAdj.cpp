@@ -19,19 +19,21 @@ using desktop::ToText;
 constexpr int kBarHeight = 176;
 constexpr int kBetweenColumns = 12;
 constexpr int kBetweenLabels = 6;
+constexpr int kWidestStrut = 100;
 
 // In the order of AdjustmentBar.
 constexpr std::array kNames{"Brightness", "Red", "Green", "Blue"};
 constexpr std::array kBarCaptions{i18n::kBrightness, i18n::kRed, i18n::kGreen, i18n::kBlue};
 
-// All of one width, so that the bars and the preview stand at even distances.
+// All of one width, so that the bars and the preview stand at even distances, as long as the text
+// is not so large that they would be far apart.
 QVBoxLayout* NewColumn(const QDialog& dialog) {
     int width = 0;
     for (const i18n::Text& caption : kBarCaptions)
         width = std::max(width, dialog.fontMetrics().horizontalAdvance(ToText(caption.Now())));
     auto* column = new QVBoxLayout;
     column->setSpacing(kBetweenLabels);
-    column->addStrut(width);
+    column->addStrut(std::min(width, kWidestStrut));
     return column;
 }
 

@@ -132,7 +132,7 @@ void FrmIcoEd::LanguageChanged() {
     statusBar_.Clear();
     magnifier_.ShowCaptions(i18n::UiLanguage());
     commands_.tray.LanguageChanged();
-    FitMenuBar();
+    FitTexts();
 }
 
 }  // namespace kestrel::windows

@@ -79,6 +79,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     // FrmIcoEd_Layout.cpp
     void LayOutControls();
     void ShowTextControls(bool shown);
+    void FitTexts();
     void FitMenuBar();
     void PlaceOnScreen();
     // FrmIcoEd_Menu.cpp

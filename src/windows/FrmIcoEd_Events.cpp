@@ -50,6 +50,7 @@ void FrmIcoEd::closeEvent(QCloseEvent* event) {
 bool FrmIcoEd::event(QEvent* event) {
     // Also where the window's own colour hides that the desktop's has changed.
     if (event->type() == QEvent::ApplicationPaletteChange) FollowDesktopColors();
+    if (event->type() == QEvent::ApplicationFontChange && menuBar_->isVisibleTo(this)) FitTexts();
     return QWidget::event(event);
 }
 

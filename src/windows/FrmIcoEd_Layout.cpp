@@ -54,7 +54,17 @@ void FrmIcoEd::ShowTextControls(bool shown) {
                                                             &colors_.ChkPal(), &statusBar_}) {
         control->setVisible(shown);
     }
-    if (shown) FitMenuBar();
+    if (!shown) return;
+    FitTexts();
+}
+
+// Also after a change of the language, whose texts have other sizes.
+void FrmIcoEd::FitTexts() {
+    barView_.FollowDesktopFont(*menuBar_, {width(), kToolbar.y() - kMenuBar.y()});
+    FitMenuBar();
+    preview_.FitTexts();
+    colors_.FitTexts();
+    statusBar_.FitTexts();
 }
 
 // Its entries underline the bar only where they are as high as it is, which depends on the font of

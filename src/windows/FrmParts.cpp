@@ -3,6 +3,7 @@
 #include <QFrame>
 #include <QPushButton>
 
+#include "desktop/ScreenFit.h"
 #include "desktop/Text.h"
 #include "windows/widgets/WindowDesign.h"
 
@@ -43,7 +44,7 @@ QWidget* NewFrame(QWidget* picture) {
 }
 
 void PlaceDialog(QDialog& dialog, int parts) {
-    dialog.layout()->activate();
+    desktop::FitOnScreen(dialog);
     widgets::PlaceOnScreen(dialog, dialog.size(), parts);
 }
 

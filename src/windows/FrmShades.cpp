@@ -19,8 +19,6 @@ using filters::Level;
 
 constexpr int kLevelPage = 5;
 constexpr int kBarWidth = 128;
-// Left and right of a box's text together.
-constexpr int kBoxEdges = 16;
 constexpr int kSwatchHeight = 22;
 constexpr int kGroupMargin = 10;
 constexpr int kBetweenControls = 8;
@@ -49,7 +47,7 @@ widgets::DigitBox* NewLevelBox(std::size_t index, int value) {
     auto* box = new widgets::DigitBox(widgets::DigitBox::Backspace::Taken);
     box->setObjectName(QStringLiteral("TxtColor%1").arg(index));
     box->setText(QString::number(value));
-    box->setFixedWidth(box->fontMetrics().horizontalAdvance(QStringLiteral("0000")) + kBoxEdges);
+    box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     return box;
 }
 

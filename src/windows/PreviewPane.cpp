@@ -6,6 +6,7 @@
 #include "desktop/Text.h"
 #include "i18n/Captions.h"
 #include "resources/WellPictures.h"
+#include "windows/widgets/DesktopFont.h"
 #include "windows/widgets/PictureIcon.h"
 #include "windows/widgets/WindowDesign.h"
 
@@ -63,6 +64,15 @@ void PreviewPane::AddTo(NamedControls& controls) {
                         [this](const QString& text) { label1_.setText(OnTwoLines(text)); });
 }
 
+void PreviewPane::FitTexts() {
+    const QStringList lines = label1_.text().split(QLatin1Char('\n'));
+    const QSize line(kLabel1.width(), kLabel1.height() / 2);
+    label1_.setFont(widgets::FittingFont(*this, widgets::kSmallFontPixels, line, lines));
+    readoutFont_ = widgets::FittingFont(*this, widgets::kSmallFontPixels,
+                                        kReadouts.front().text.size(), {QStringLiteral("32 , 32")});
+    update();
+}
+
 void PreviewPane::PrintReadout(StatusPanel panel, std::string_view text) {
     QString& printed = readouts_[panel];
     if (printed == desktop::ToText(text)) return;
@@ -75,7 +85,7 @@ void PreviewPane::PrintReadout(StatusPanel panel, std::string_view text) {
 void PreviewPane::paintEvent(QPaintEvent* /*event*/) {
     widgets::DrawEdgeAround(*this, picIcon_.geometry());
     QPainter painter(this);
-    painter.setFont(widgets::FontOf(*this, widgets::kSmallFontPixels));
+    painter.setFont(readoutFont_);
     for (const Readout& readout : kReadouts) {
         widgets::PictureIcon(pictures_, readout.picture).paint(&painter, readout.pictogram);
         painter.drawText(readout.text, Qt::AlignLeft | Qt::AlignVCenter, readouts_[readout.panel]);

@@ -20,6 +20,9 @@ class PreviewPane : public QWidget, public editing::PreviewView {
     void Show(const gdi::Surface& preview) { picIcon_.Show(preview); }
     void AddTo(NamedControls& controls);
 
+    // The texts are as large as on the desktop where they have room.
+    void FitTexts();
+
     QLabel& Label1() { return label1_; }
 
     void RepaintPreview(gdi::Rect area) override { picIcon_.Repaint(area); }
@@ -30,6 +33,7 @@ class PreviewPane : public QWidget, public editing::PreviewView {
 
   private:
     const controls::ImageList& pictures_;
+    QFont readoutFont_;
     widgets::SurfaceWidget picIcon_{this};
     QLabel label1_{this};
     std::map<editing::StatusPanel, QString> readouts_;

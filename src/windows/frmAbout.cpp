@@ -9,6 +9,7 @@
 
 #include "desktop/CloseKey.h"
 #include "desktop/Pictures.h"
+#include "desktop/ScreenFit.h"
 #include "desktop/Text.h"
 #include "document/ApplicationIcon.h"
 #include "i18n/Captions.h"
@@ -72,6 +73,7 @@ frmAbout::frmAbout(QWidget* owner, tools::SystemInformation& information) : QDia
     rows->addWidget(NewButtons(information));
     desktop::AddCloseKey(*this, Qt::ALT | Qt::Key_F4);
     rows->setSizeConstraint(QLayout::SetFixedSize);
+    desktop::FitOnScreen(*this);
 }
 
 QLayout* frmAbout::NewTexts() {

@@ -21,7 +21,8 @@ frmGamma::frmGamma(QWidget* owner)
     : QDialog(owner), txtGamma_(new widgets::DigitBox(widgets::DigitBox::Backspace::Discarded)) {
     txtGamma_->setObjectName("txtGamma");
     txtGamma_->setMaxLength(kDigits);
-    txtGamma_->setFixedWidth(kBoxWidth);
+    txtGamma_->setMinimumWidth(kBoxWidth);
+    txtGamma_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* lblGamma = new QLabel(desktop::ToText(i18n::kGammaPrompt.Now()));
     lblGamma->setObjectName("lblGamma");
     lblGamma->setBuddy(txtGamma_);

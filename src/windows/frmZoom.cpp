@@ -86,7 +86,7 @@ QLayout* frmZoom::NewControlRow() {
 
     txtZoom_ = new widgets::PercentBox(this);
     txtZoom_->setObjectName("txtZoom");
-    txtZoom_->setFixedWidth(kZoomBoxWidth);
+    txtZoom_->setMinimumWidth(kZoomBoxWidth);
     txtZoom_->onEnter = [this] { txtZoom_KeyEnter(); };
     txtZoom_->onLeave = [this] { txtZoom_LostFocus(); };
     txtZoom_->onRefuse = [this] { services_.application.Beep(); };

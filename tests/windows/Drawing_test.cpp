@@ -31,15 +31,6 @@ TEST_F(DrawingTest, AToolIsChosenAndItsStrokeShownWhileItIsDrawn) {
     EXPECT_FALSE(Icon().IsTransparent(9, 6));
 }
 
-// The desktop library rounds an event's own point: at scale 2 every second pixel goes up.
-TEST_F(DrawingTest, TheLastDevicePixelOfACellBelongsToIt) {
-    const QPointF inWindow = Grid()->mapTo(&window_, QPointF(49.5, 39.5));
-    QMouseEvent press(QEvent::MouseButtonPress, QPointF(50, 40), inWindow,
-                      window_.mapToGlobal(inWindow), Qt::LeftButton, Qt::LeftButton, {});
-    QApplication::sendEvent(Grid(), &press);
-    EXPECT_FALSE(Icon().IsTransparent(4, 3));
-}
-
 TEST_F(DrawingTest, WellsFollowTheirControls) {
     const auto shown = [this](int x) {
         EXPECT_TRUE(ScreenIsFresh());

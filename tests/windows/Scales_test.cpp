@@ -1,7 +1,10 @@
+#include <QScreen>
 #include <algorithm>
 #include <cmath>
 
 #include "tests/windows/WindowTest.h"
+#include "windows/FrmColAdj.h"
+#include "windows/FrmShades.h"
 
 namespace kestrel::test {
 namespace {
@@ -58,6 +61,39 @@ TEST_P(ScalesTest, GridLinesAreEvenAndEveryPixelIsPartOfTheCellItShows) {
     EXPECT_LE(most - least, 1);
 }
 
+// The size of the desktop's text in pixels.
+class TextSizeTest : public WindowTest, public testing::WithParamInterface<int> {
+  protected:
+    TextSizeTest() {
+        QFont font = before_;
+        font.setPixelSize(GetParam());
+        QApplication::setFont(font);
+        QApplication::processEvents();
+    }
+    ~TextSizeTest() override { QApplication::setFont(before_); }
+
+  private:
+    QFont before_ = QApplication::font();
+};
+
+TEST_P(TextSizeTest, CutsNoTextAndNoDialog) {
+    imaging::ColorAdjustment colors{gdi::IconPlanes()};
+    for (const char* language : {"mnuLanguageOpts0", "mnuLanguageOpts1"}) {
+        Item(language)->trigger();
+        for (const char* name : {"Label1", "ChkPal"})
+            EXPECT_LE(Control(name)->sizeHint().width(), Control(name)->width()) << name;
+        const auto* bar = window_.findChild<QMenuBar*>();
+        EXPECT_LE(bar->sizeHint().width(), window_.width());
+        EXPECT_LE(bar->geometry().bottom(), window_.Toolbar1().y());
+        EXPECT_EQ(window_.EditingPopup()->font().pixelSize(), GetParam()) << "menus have room";
+        const windows::FrmShades shades(&window_);
+        const windows::FrmColAdj adjustment(&window_, colors, gdi::Surface(32, 32));
+        for (const QDialog* dialog : std::initializer_list<const QDialog*>{&shades, &adjustment})
+            EXPECT_TRUE(window_.screen()->geometry().contains(dialog->geometry()));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(SmallToLarge, TextSizeTest, testing::Values(10, 12, 20, 27, 40));
 INSTANTIATE_TEST_SUITE_P(BothWays, ScalesTest, testing::Values(Qt::Horizontal, Qt::Vertical));
 
 }  // namespace

@@ -66,8 +66,7 @@ void DrawSharp(QPainter& painter, const QRect& place, const QImage& picture) {
     const int times =
         std::max(1, std::min(pixels.width() / picture.width(), pixels.height() / picture.height()));
     QRect target(QPoint(), picture.size() * times);
-    target.moveTo(pixels.topLeft() + QPoint((pixels.width() - target.width()) / 2,
-                                            (pixels.height() - target.height()) / 2));
+    target.moveCenter(pixels.center());
     const DevicePainting device(painter);
     painter.drawImage(target, picture);
 }

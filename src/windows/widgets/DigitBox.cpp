@@ -20,6 +20,13 @@ void DigitBox::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+QSize DigitBox::sizeHint() const {
+    // Left and right of the text together.
+    constexpr int kEdges = 16;
+    const int digits = fontMetrics().horizontalAdvance(QStringLiteral("0000"));
+    return {digits + kEdges, QLineEdit::sizeHint().height()};
+}
+
 bool DigitBox::Takes(const QKeyEvent& event) const {
     switch (event.key()) {
         case Qt::Key_Return:

@@ -11,6 +11,10 @@ class DigitBox : public QLineEdit {
 
     explicit DigitBox(Backspace backspace);
 
+    // As wide as its digits.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 
 #include "desktop/Text.h"
+#include "windows/widgets/DesktopFont.h"
 #include "windows/widgets/PictureIcon.h"
 
 namespace kestrel::widgets {
@@ -73,11 +74,35 @@ void MenuView::FillBar(QMenuBar& bar) {
     }
 }
 
+void MenuView::FollowDesktopFont() {
+    font_.setPixelSize(AsOnDesktop(MenuFont(menu_).pixelSize()));
+    for (const auto& [key, submenu] : submenus_)
+        submenu->setFont(font_);
+    for (const MenuItem& item : menu_.Items())
+        Follow(item);
+}
+
+void MenuView::FollowDesktopFont(QMenuBar& bar, QSize room) {
+    FollowDesktopFont();
+    const int designed = MenuFont(menu_).pixelSize();
+    int pixels = font_.pixelSize();
+    const auto fits = [&] {
+        QFont font = font_;
+        font.setPixelSize(pixels);
+        bar.setFont(font);
+        const QSize needed = bar.sizeHint();
+        return needed.width() <= room.width() && needed.height() <= room.height();
+    };
+    while (!fits() && pixels > designed)
+        --pixels;
+}
+
 QMenu* MenuView::Popup(std::string_view root) {
     if (!submenus_.contains(root) && menu_.IsSubmenu(root)) {
         font_ = MenuFont(menu_);
         NewAction(*menu_.Find(root));
     }
+    FollowDesktopFont();
     const auto found = submenus_.find(root);
     return found == submenus_.end() ? nullptr : found->second.get();
 }

@@ -18,6 +18,10 @@ class MenuView : public QObject {
     MenuView(controls::SmartMenuXP& menu, const controls::ImageList& pictures);
     ~MenuView() override { menu_.onChanged = nullptr; }
 
+    // In the desktop's size of text, which loads the fonts; the bar keeps to a smaller size where
+    // it would be larger than its room.
+    void FollowDesktopFont(QMenuBar& bar, QSize room);
+
     // Shows the whole menu as a bar, with its shortcuts for the bar's window.
     void FillBar(QMenuBar& bar);
     // The submenu of `root`, to be shown anywhere. Its shortcuts are only texts. Null when no item
@@ -28,6 +32,7 @@ class MenuView : public QObject {
     QAction* ActionOf(std::string_view key) const;
 
   private:
+    void FollowDesktopFont();
     QAction* NewAction(const controls::MenuItem& item);
     QMenu* NewSubmenu(const controls::MenuItem& item);
     void AddChildren(QMenu& submenu, std::string_view parent);

@@ -23,6 +23,14 @@ PercentBox::PercentBox(QWidget* parent) : QLineEdit(parent) {
     setValidator(
         new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*%?")), this));
     setInputMethodHints(Qt::ImhDigitsOnly);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize PercentBox::sizeHint() const {
+    // Left and right of the text together.
+    constexpr int kEdges = 16;
+    const int text = fontMetrics().horizontalAdvance(QStringLiteral("1000%"));
+    return {text + kEdges, QLineEdit::sizeHint().height()};
 }
 
 void PercentBox::keyPressEvent(QKeyEvent* event) {

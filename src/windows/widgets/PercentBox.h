@@ -18,6 +18,10 @@ class PercentBox : public QLineEdit {
     // A character was refused.
     std::function<void()> onRefuse;
 
+    // As wide as its text.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

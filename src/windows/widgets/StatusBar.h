@@ -18,6 +18,8 @@ class StatusBar : public QWidget, public editing::StatusView {
     // A text that is too long is cut at its end.
     void SetStatusPanel(editing::StatusPanel panel, std::string_view text) override;
     std::string Text(editing::StatusPanel panel) const;
+    // The texts are as large as on the desktop where they have room.
+    void FitTexts();
     // Empties the panels that follow the pointer.
     void Clear();
 
@@ -28,6 +30,8 @@ class StatusBar : public QWidget, public editing::StatusView {
     struct Panel {
         QLabel* label;
         int width;
+        // Of its texts, those of the first panel aside, which may be cut.
+        QString widest;
         std::string text;
     };
 

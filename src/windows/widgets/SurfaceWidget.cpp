@@ -21,17 +21,25 @@ SurfaceWidget::SurfaceWidget(const gdi::Surface& surface, QWidget* parent) : Sur
     Show(surface);
 }
 
+void SurfaceWidget::DivideBy(const gdi::StepPattern& pattern) {
+    pattern_ = pattern;
+    known_.reset();
+}
+
 void SurfaceWidget::Show(const gdi::Surface& surface) {
+    known_.reset();
     surface_ = &surface;
     setFixedSize(surface.Width(), surface.Height());
 }
 
-gdi::ScreenSteps SurfaceWidget::Steps() const {
+const gdi::ScreenSteps& SurfaceWidget::Steps() const {
     const QSize room = DevicePixelsOf(*this).size();
-    return {pattern_,
-            {surface_->Width(), surface_->Height()},
-            {room.width(), room.height()},
-            devicePixelRatioF()};
+    const qreal scale = devicePixelRatioF();
+    if (!known_ || known_->room != room || known_->scale != scale) {
+        const gdi::Size surface{surface_->Width(), surface_->Height()};
+        known_ = {room, scale, {pattern_, surface, {room.width(), room.height()}, scale}};
+    }
+    return known_->steps;
 }
 
 QRectF SurfaceWidget::UnitsOf(gdi::Rect pixels) const {
@@ -53,7 +61,7 @@ void SurfaceWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     const QTransform toDevice = painter.deviceTransform();
     const QColor ground = palette().color(QPalette::Window);
-    const gdi::ScreenSteps steps = Steps();
+    const gdi::ScreenSteps& steps = Steps();
     // Pixels that lie in the widget in part only.
     if (toDevice.m11() != std::floor(toDevice.m11())) painter.fillRect(rect(), ground);
     UseDevicePixels(painter);

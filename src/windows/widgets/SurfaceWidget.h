@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "platform/gdi/ScreenSteps.h"
 
@@ -17,7 +18,7 @@ class SurfaceWidget : public QWidget {
     SurfaceWidget(const gdi::Surface& surface, QWidget* parent);
 
     // How the surface is divided, which counts on scaled desktops; at first it is one picture.
-    void DivideBy(const gdi::StepPattern& pattern) { pattern_ = pattern; }
+    void DivideBy(const gdi::StepPattern& pattern);
     // Shows this surface from now on, which outlives the widget or is shown no longer than it is.
     void Show(const gdi::Surface& surface);
 
@@ -47,11 +48,18 @@ class SurfaceWidget : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
-    gdi::ScreenSteps Steps() const;
+    const gdi::ScreenSteps& Steps() const;
     QPoint PixelAt(QPointF unit) const;
 
     const gdi::Surface* surface_ = nullptr;
     gdi::StepPattern pattern_;
+    // Worked out for these pixels of the screen; a stroke asks for it at every move.
+    struct KnownSteps {
+        QSize room;
+        qreal scale = 0;
+        gdi::ScreenSteps steps;
+    };
+    mutable std::optional<KnownSteps> known_;
     bool mouseIgnored_ = false;
     // Where the pointer moved last, and what the cursor's own point, which is rounded, made of it.
     QPoint lastPoint_;
