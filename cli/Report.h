@@ -1,10 +1,12 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "platform/Result.h"
+#include "platform/system/JointFlush.h"
 #include "platform/system/Replacement.h"
 
 namespace kestrel::cli {
@@ -20,5 +22,9 @@ struct Report {
     // Results in place of files that are there, which wait for their flush.
     std::vector<std::unique_ptr<system::Replacement>> replacements;
 };
+
+// Puts the replacements of these reports in their places after one flush. What fails is added to
+// its report.
+void PlaceReplacements(std::span<Report> reports, system::JointFlush& flush);
 
 }  // namespace kestrel::cli

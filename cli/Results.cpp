@@ -10,6 +10,7 @@
 
 #include "cli/Streams.h"
 #include "platform/system/FileIdentity.h"
+#include "platform/system/JointFlush.h"
 #include "platform/system/Replacement.h"
 #include "platform/system/SystemError.h"
 
@@ -80,6 +81,12 @@ Result<void> Results::Replace(const std::string& result, const struct stat& stat
     auto replacement = system::Replacement::Write(calls_, result, bytes);
     if (!replacement) return FailureOf(result, replacement.error());
     report.replacements.push_back(*std::move(replacement));
+    // Each is an open file, and one program can have thousands of icons.
+    constexpr std::size_t kMostOfOneFile = 16;
+    if (report.replacements.size() == kMostOfOneFile) {
+        system::JointFlush flush(calls_);
+        PlaceReplacements({&report, 1}, flush);
+    }
     return {};
 }
 

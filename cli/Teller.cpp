@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "cli/IconOutput.h"
+#include "cli/Report.h"
 #include "cli/Streams.h"
 
 namespace kestrel::cli {
@@ -13,8 +14,6 @@ Result<void> Teller::Tell(std::vector<Report> reports) {
             TellOne(report);
             continue;
         }
-        for (const auto& replacement : report.replacements)
-            flush_.Add(*replacement);
         replacements_ += report.replacements.size();
         waiting_.push_back(std::move(report));
         if (replacements_ >= kMostWaiting) PlaceWaiting();
@@ -34,24 +33,12 @@ Result<void> Teller::Finish() {
 }
 
 void Teller::PlaceWaiting() {
-    if (replacements_ > 0) flush_.Flush();
-    for (Report& report : waiting_) {
-        for (const auto& replacement : report.replacements)
-            report.Add(Place(*replacement));
+    if (waiting_.empty()) return;
+    PlaceReplacements(waiting_, flush_);
+    for (const Report& report : waiting_)
         TellOne(report);
-    }
     waiting_.clear();
     replacements_ = 0;
-}
-
-Result<void> Teller::Place(system::Replacement& replacement) const {
-    if (auto flushed = flush_.FlushedOf(replacement); !flushed)
-        return FailureOf(replacement.Target(), flushed.error());
-    if (!replacement.FitsTarget())
-        return FailureOf(replacement.Target(), {kFileChanged, "it was changed in the meantime"});
-    if (auto placed = replacement.TakePlace(); !placed)
-        return FailureOf(replacement.Target(), placed.error());
-    return {};
 }
 
 void Teller::TellOne(const Report& report) {

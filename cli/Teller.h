@@ -9,7 +9,6 @@
 #include "platform/Result.h"
 #include "platform/system/FileCalls.h"
 #include "platform/system/JointFlush.h"
-#include "platform/system/Replacement.h"
 
 namespace kestrel::cli {
 
@@ -30,7 +29,6 @@ class Teller {
 
   private:
     void PlaceWaiting();
-    Result<void> Place(system::Replacement& replacement) const;
     void TellOne(const Report& report);
     void WriteOutput();
 

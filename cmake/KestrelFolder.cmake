@@ -20,16 +20,20 @@ if(KESTREL_FUZZ)
   target_compile_options(kestrel_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# kestrel_folder(<target> [QT] [SOURCES <files>] [DEPENDS <targets>]): QT where Qt is known.
+# kestrel_folder(<target> [QT] [APART] [SOURCES <files>] [DEPENDS <targets>]): QT where Qt is known,
+# APART where sources are never joined, since local names of two of them are alike.
 # Every header of the folder compiles alone: those that a source begins with do so there, and the
 # target all_verify_interface_header_sets sees to the others.
 function(kestrel_folder name)
-  cmake_parse_arguments(ARG "QT" "" "SOURCES;DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "QT;APART" "" "SOURCES;DEPENDS" ${ARGN})
   if(ARG_SOURCES)
     set(scope PUBLIC)
     add_library(${name} STATIC ${ARG_SOURCES})
-    # Local names of two sources may be alike.
-    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+    # Few enough for all processors to have their part.
+    set_target_properties(${name} PROPERTIES UNITY_BUILD_BATCH_SIZE 10)
+    if(ARG_APART)
+      set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+    endif()
     if(KESTREL_PRECOMPILE)
       kestrel_precompile(${name} ${ARG_QT})
     endif()

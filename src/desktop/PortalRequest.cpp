@@ -16,7 +16,7 @@ constexpr auto kPath = "/org/freedesktop/portal/desktop";
 constexpr auto kRequest = "org.freedesktop.portal.Request";
 
 // The user has to find and read a question.
-constexpr int kPatience = 60'000;  // milliseconds
+constexpr int kPortalPatience = 60'000;  // milliseconds
 
 }  // namespace
 
@@ -33,7 +33,7 @@ std::optional<QUrl> PortalRequest::AskForScreenshot() {
     connect(&watcher, &QDBusPendingCallWatcher::finished, this, &PortalRequest::Called);
     const QDBusServiceWatcher owner(kService, bus_, QDBusServiceWatcher::WatchForUnregistration);
     connect(&owner, &QDBusServiceWatcher::serviceUnregistered, &loop_, &QEventLoop::quit);
-    QTimer::singleShot(kPatience, &loop_, [this] { GiveUp(); });
+    QTimer::singleShot(kPortalPatience, &loop_, [this] { GiveUp(); });
     loop_.exec(QEventLoop::ExcludeUserInputEvents);
     return answer_;
 }

@@ -25,7 +25,7 @@ using Picture = Result<gdi::SampledPicture>;
 using Clock = std::chrono::steady_clock;
 
 // How long the window waits for an owner's answer, and how long anybody does.
-constexpr milliseconds kPatience{800};
+constexpr milliseconds kSelectionPatience{800};
 constexpr milliseconds kLongest{10000};
 // When an owner that gave no answer is asked again; each time twice as late, up to the last.
 constexpr milliseconds kFirstRecovery{2000};
@@ -158,7 +158,7 @@ void QtClipboard::Ask() {
     if (IsAtHand()) return Learn(FormatAtHand());
     aside_->start([this, question] {
         if (question != question_) return;
-        XSelection selection(WantedFor(question, kPatience));
+        XSelection selection(WantedFor(question, kSelectionPatience));
         const auto format = OfferedFormat(selection);
         QMetaObject::invokeMethod(this, [this, question, format] {
             if (question != question_) return;
@@ -184,7 +184,7 @@ Picture QtClipboard::GetImage() {
     if (!HasImage()) return Unreadable();
     // What came too late for the last call may be there by now.
     if (!coming_.valid() || comingFor_ != question_) StartFetching();
-    if (coming_.wait_for(kPatience) != std::future_status::ready) return Unreadable();
+    if (coming_.wait_for(kSelectionPatience) != std::future_status::ready) return Unreadable();
     Picture picture = coming_.get();
     if (!picture) Ask();
     return picture;

@@ -13,7 +13,7 @@ namespace kestrel::desktop {
 
 namespace {
 
-constexpr int kPatience = 700;  // milliseconds
+constexpr int kOpenerPatience = 700;  // milliseconds
 
 tl::unexpected<Error> NotStarted(const QString& reason) {
     return Fail(ECHILD, reason.toStdString());
@@ -51,7 +51,7 @@ Result<void> QtShell::Open(const std::string& address) {
         if (!QDesktopServices::openUrl(QUrl(url))) return NotStarted(reason);
         return {};
     }
-    if (!opener->waitForFinished(kPatience)) return {};
+    if (!opener->waitForFinished(kOpenerPatience)) return {};
     if (opener->exitStatus() == QProcess::NormalExit && opener->exitCode() == 0) return {};
     return NotStarted(QStringLiteral("The opener gave up"));
 }

@@ -32,16 +32,16 @@ bool IsGuest() {
     });
 }
 
-struct Disconnect {
-    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-};
-using OwnConnection = std::unique_ptr<xcb_connection_t, Disconnect>;
-
 }  // namespace
 
 // A connection of its own: that of the desktop library has a thread which wakes up at every answer.
 class XScreen::Link {
   public:
+    struct Disconnect {
+        void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+    };
+    using OwnConnection = std::unique_ptr<xcb_connection_t, Disconnect>;
+
     explicit Link(OwnConnection connection);
 
     gdi::Size Size();
@@ -157,7 +157,7 @@ bool XScreen::IsSeen() const {
 
 XScreen::Link* XScreen::Linked() const {
     if (link_ != nullptr || !IsSeen()) return link_.get();
-    OwnConnection connection(xcb_connect(nullptr, nullptr));
+    Link::OwnConnection connection(xcb_connect(nullptr, nullptr));
     if (xcb_connection_has_error(connection.get()) != 0) return nullptr;
     link_ = std::make_unique<Link>(std::move(connection));
     return link_.get();

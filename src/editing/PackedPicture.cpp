@@ -6,7 +6,6 @@ namespace kestrel::editing {
 
 namespace {
 
-constexpr std::uint32_t kMaskBit = 1U << 24;
 constexpr int kRowBytes = 1;
 constexpr int kBitsBytes = 4;
 constexpr int kColorBytes = 3;

@@ -11,9 +11,10 @@
 
 namespace kestrel::editing {
 
-// Both planes of an icon, a word a pixel, row by row: the colour, and in bit 24 whether the mask is
+// Both planes of an icon, a word a pixel, row by row: the colour, and in a bit whether the mask is
 // white. Masks hold nothing but black and white, so nothing is lost.
 using PackedPicture = std::array<std::uint32_t, std::size_t{gdi::kIconSize} * gdi::kIconSize>;
+inline constexpr std::uint32_t kMaskBit = 1U << 24;
 
 // The planes are 32 x 32 pixels.
 PackedPicture Pack(const gdi::IconPlanes& icon);

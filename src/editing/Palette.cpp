@@ -9,20 +9,23 @@ namespace kestrel::editing {
 
 namespace {
 
-constexpr int kColumns = 16;
-constexpr int kRows = 16;
-constexpr int kCellSize = 13;  // pixels, with the edge
+constexpr int kPaletteColumns = 16;
+constexpr int kPaletteRows = 16;
+constexpr int kPaletteCellSize = 13;  // pixels, with the edge
 
 }  // namespace
 
 Palette::Palette(ColorsView& view)
-    : view_(view), picPal_(kColumns * kCellSize, kRows * kCellSize, gdi::kBlack) {
+    : view_(view),
+      picPal_(kPaletteColumns * kPaletteCellSize, kPaletteRows * kPaletteCellSize, gdi::kBlack) {
     DrawPalette(PaletteReload::Yes);
 }
 
 std::optional<std::size_t> Palette::CellAt(int x, int y) {
-    if (x < 0 || y < 0 || x >= kColumns * kCellSize || y >= kRows * kCellSize) return {};
-    return static_cast<std::size_t>(y / kCellSize * kColumns + x / kCellSize);
+    if (x < 0 || y < 0 || x >= kPaletteColumns * kPaletteCellSize ||
+        y >= kPaletteRows * kPaletteCellSize)
+        return {};
+    return static_cast<std::size_t>(y / kPaletteCellSize * kPaletteColumns + x / kPaletteCellSize);
 }
 
 void Palette::DrawPalette(PaletteReload reload) {
@@ -32,10 +35,10 @@ void Palette::DrawPalette(PaletteReload reload) {
     }
     int cell = 0;
     for (const gdi::COLORREF color : colors_) {
-        const int x = cell % kColumns * kCellSize;
-        const int y = cell / kColumns * kCellSize;
-        gdi::FillBox(picPal_, x, y, x + kCellSize - 1, y + kCellSize - 1, color);
-        gdi::DrawSunkenEdge(picPal_, x, y, x + kCellSize, y + kCellSize);
+        const int x = cell % kPaletteColumns * kPaletteCellSize;
+        const int y = cell / kPaletteColumns * kPaletteCellSize;
+        gdi::FillBox(picPal_, x, y, x + kPaletteCellSize - 1, y + kPaletteCellSize - 1, color);
+        gdi::DrawSunkenEdge(picPal_, x, y, x + kPaletteCellSize, y + kPaletteCellSize);
         ++cell;
     }
     view_.RepaintPalette();

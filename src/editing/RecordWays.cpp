@@ -11,8 +11,6 @@ namespace {
 
 // A longer path cannot be opened.
 constexpr std::size_t kLongestText = 4096;
-// A pixel of the planes as in a PackedPicture.
-constexpr std::uint32_t kMaskBit = 1U << 24;
 
 }  // namespace
 

@@ -9,8 +9,8 @@ namespace kestrel::editing {
 
 namespace {
 
-constexpr int kColumns = 4;
-constexpr int kRows = 3;
+constexpr int kToolColumns = 4;
+constexpr int kToolRows = 3;
 constexpr int kCellWidth = 23;
 constexpr int kCellHeight = 22;
 // Where a glyph stands in its cell.
@@ -33,10 +33,10 @@ constexpr int SlotOf(ToolId tool) {
     return static_cast<int>(tool) - 1;
 }
 constexpr int LeftOf(ToolId tool) {
-    return SlotOf(tool) % kColumns * kCellWidth;
+    return SlotOf(tool) % kToolColumns * kCellWidth;
 }
 constexpr int TopOf(ToolId tool) {
-    return SlotOf(tool) / kColumns * kCellHeight;
+    return SlotOf(tool) / kToolColumns * kCellHeight;
 }
 
 }  // namespace
@@ -45,13 +45,13 @@ ToolPalette::ToolPalette(const EditorViews& views, Selection& selection, gdi::CO
     : views_(views),
       selection_(selection),
       strip_(ToolStrip()),
-      picTools_(kColumns * kCellWidth, kRows * kCellHeight, windowColor) {
+      picTools_(kToolColumns * kCellWidth, kToolRows * kCellHeight, windowColor) {
     Paint();
 }
 
 std::optional<ToolId> ToolPalette::ToolAt(int x, int y) {
-    if (x < 0 || y < 0 || x >= kColumns * kCellWidth || y >= kRows * kCellHeight) return {};
-    return static_cast<ToolId>(x / kCellWidth + 1 + kColumns * (y / kCellHeight));
+    if (x < 0 || y < 0 || x >= kToolColumns * kCellWidth || y >= kToolRows * kCellHeight) return {};
+    return static_cast<ToolId>(x / kCellWidth + 1 + kToolColumns * (y / kCellHeight));
 }
 
 void ToolPalette::SelectTool(ToolId tool) {

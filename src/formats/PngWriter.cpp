@@ -24,7 +24,7 @@ constexpr std::size_t kBytesAPixel = 4;
 constexpr std::size_t kMostOverhead = 4096;
 
 // The colours of a picture that has few, in the order of their first pixels.
-class Palette {
+class FewColors {
   public:
     // The colour's number; none for a colour too many.
     std::optional<std::uint8_t> IndexOf(gdi::COLORREF color) {
@@ -48,14 +48,14 @@ class Palette {
     std::vector<gdi::COLORREF> colors_;
 };
 
-png_byte Alpha(gdi::COLORREF pixel) {
+png_byte AlphaByte(gdi::COLORREF pixel) {
     return static_cast<png_byte>(pixel >> 24);
 }
 
 // What libpng's callbacks and the frame that catches its jumps share. Nothing in it has to be
 // unwound by a jump: the owner frees it afterwards.
 struct PngEncoder {
-    PngEncoder(const gdi::Surface& pixels, PngStorage colors);
+    PngEncoder(const gdi::Surface& pixels, PngPixels stored);
     ~PngEncoder() { png_destroy_write_struct(&png, &info); }
     PngEncoder(const PngEncoder&) = delete;
     PngEncoder& operator=(const PngEncoder&) = delete;
@@ -89,9 +89,9 @@ void WriteBytes(png_structp png, png_bytep data, std::size_t count) {
 }
 void FlushNothing(png_structp) {}
 
-PngEncoder::PngEncoder(const gdi::Surface& pixels, PngStorage colors)
+PngEncoder::PngEncoder(const gdi::Surface& pixels, PngPixels stored)
     : size{pixels.Width(), pixels.Height()} {
-    if (colors == PngStorage::Direct || !FillIndexes(pixels)) FillSamples(pixels);
+    if (stored == PngPixels::Direct || !FillIndexes(pixels)) FillSamples(pixels);
     const std::size_t pitch = samples.size() / static_cast<std::size_t>(size.height);
     for (int y = 0; y < size.height; ++y)
         rows.push_back(&samples[static_cast<std::size_t>(y) * pitch]);
@@ -104,7 +104,7 @@ PngEncoder::PngEncoder(const gdi::Surface& pixels, PngStorage colors)
 }
 
 bool PngEncoder::FillIndexes(const gdi::Surface& pixels) {
-    Palette found;
+    FewColors found;
     samples.reserve(pixels.Pixels().size());
     for (const gdi::COLORREF pixel : pixels.Pixels()) {
         const auto index = found.IndexOf(pixel);
@@ -113,7 +113,7 @@ bool PngEncoder::FillIndexes(const gdi::Surface& pixels) {
     }
     for (const gdi::COLORREF color : found.Colors()) {
         palette.push_back({gdi::Red(color), gdi::Green(color), gdi::Blue(color)});
-        alphas.push_back(Alpha(color));
+        alphas.push_back(AlphaByte(color));
     }
     // Those at the end that are opaque need not be told.
     while (!alphas.empty() && alphas.back() == UINT8_MAX)
@@ -128,7 +128,7 @@ void PngEncoder::FillSamples(const gdi::Surface& pixels) {
         *sample++ = gdi::Red(pixel);
         *sample++ = gdi::Green(pixel);
         *sample++ = gdi::Blue(pixel);
-        *sample++ = Alpha(pixel);
+        *sample++ = AlphaByte(pixel);
     }
 }
 
@@ -161,11 +161,11 @@ bool RunEncoder(PngEncoder& encoder) {
 ByteList PngBytes(const gdi::IconPlanes& icon) {
     gdi::IconPlanes joined = icon;
     JoinAlpha(joined);
-    return PngBytes(joined.image, PngStorage::FewInPalette);
+    return PngBytes(joined.image, PngPixels::FewInPalette);
 }
 
-ByteList PngBytes(const gdi::Surface& pixels, PngStorage colors) {
-    PngEncoder encoder(pixels, colors);
+ByteList PngBytes(const gdi::Surface& pixels, PngPixels stored) {
+    PngEncoder encoder(pixels, stored);
     // Memory is all that a picture of known size can lack.
     if (!RunEncoder(encoder)) throw std::bad_alloc();
     encoder.bytes.resize(encoder.bytes.size() - encoder.unwritten.size());

@@ -9,11 +9,11 @@ namespace kestrel::formats {
 
 // How pixels are stored: 8-bit red, green, blue and alpha each, as icons and thumbnails want it,
 // or, of at most 256 colours, a palette, which takes a fifth of the time to pack.
-enum class PngStorage { Direct, FewInPalette };
+enum class PngPixels { Direct, FewInPalette };
 
 // Pixels of 0xAABBGGRR as a PNG. There is at least one.
 std::vector<std::uint8_t> PngBytes(const gdi::Surface& pixels,
-                                   PngStorage colors = PngStorage::Direct);
+                                   PngPixels stored = PngPixels::Direct);
 
 // The 32 x 32 planes, with a palette if they can have one; transparent pixels are black.
 std::vector<std::uint8_t> PngBytes(const gdi::IconPlanes& icon);

@@ -21,7 +21,7 @@ using editing::Button;
 using editing::StatusPanel;
 using widgets::PictureBox;
 
-constexpr QSize kSize(208, 252);
+constexpr QSize kColorsSize(208, 252);
 constexpr QRect kWells(0, 0, 208, 20);
 // Boxes of the pen colours, both corners included.
 constexpr std::array kIndicators{QRect(3, 4, 11, 11), QRect(21, 4, 11, 11)};
@@ -68,7 +68,7 @@ constexpr std::array kColorBoxes{
 }  // namespace
 
 ColorsPane::ColorsPane(const Parts& parts, QWidget* parent) : QWidget(parent), parts_(parts) {
-    setFixedSize(kSize);
+    setFixedSize(kColorsSize);
     setMouseTracking(true);
     LayOutBoxes();
     LayOutPalette();

@@ -16,17 +16,17 @@ namespace {
 
 using desktop::ToText;
 
-constexpr QSize kClientSize(268, 168);
+constexpr QSize kClipDataSize(268, 168);
 // Where the two lines of text have their top left corners.
 constexpr QPoint kMessage(8, 8);
-constexpr QPoint kSize(8, 21);
+constexpr QPoint kSizeAt(8, 21);
 constexpr QRect kFrame1(8, 42, 252, 84);
 constexpr QRect kCmdOk(92, 134, 80, 26);
 constexpr QRect kCmdCancel(180, 134, 80, 26);
 // In the order of PasteFit.
 constexpr std::array kChoices{i18n::kShrinkToFit, i18n::kShrinkKeepingAspect};
 
-constexpr int kFontPixels = 12;
+constexpr int kClipDataFont = 12;
 constexpr int kMessageFontPixels = 11;
 
 }  // namespace
@@ -34,10 +34,10 @@ constexpr int kMessageFontPixels = 11;
 FrmClipData::FrmClipData(QWidget* owner, gdi::Size picture) : QDialog(owner) {
     widgets::DressDialog(*this, ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
-    setFont(widgets::FontOf(*this, kFontPixels));
-    setFixedSize(kClientSize);
+    setFont(widgets::FontOf(*this, kClipDataFont));
+    setFixedSize(kClipDataSize);
     LayOutControls();
-    widgets::PlaceOnScreen(*this, kClientSize);
+    widgets::PlaceOnScreen(*this, kClipDataSize);
 }
 
 void FrmClipData::LayOutControls() {
@@ -75,7 +75,7 @@ void FrmClipData::paintEvent(QPaintEvent* /*event*/) {
         painter.drawText(at + QPoint(0, painter.fontMetrics().ascent()), text);
     };
     print(kMessage, ToText(i18n::kPasteTooLarge.Now()));
-    print(kSize, sizeText_);
+    print(kSizeAt, sizeText_);
 }
 
 }  // namespace kestrel::windows

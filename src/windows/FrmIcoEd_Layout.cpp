@@ -11,7 +11,7 @@ namespace kestrel::windows {
 namespace {
 
 // The client area, and the whole window with its frame as it was designed.
-constexpr QSize kClientSize(565, 432);
+constexpr QSize kMainSize(565, 432);
 constexpr QSize kWindowSize(571, 457);
 
 constexpr QPoint kMenuBar(0, 2);
@@ -22,15 +22,15 @@ constexpr QPoint kTools(452, 65);
 constexpr QPoint kColors(344, 156);
 constexpr QRect kStatusBar(2, 411, 561, 20);
 
-constexpr int kFontPixels = 12;
+constexpr int kMainFont = 12;
 
 }  // namespace
 
 void FrmIcoEd::LayOutControls() {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
-    setFixedSize(kClientSize);
-    setFont(widgets::FontOf(*this, kFontPixels));
+    setFixedSize(kMainSize);
+    setFont(widgets::FontOf(*this, kMainFont));
     toolbar1_->move(kToolbar);
     grid_.move(kGrid);
     preview_.move(kPreview);

@@ -15,7 +15,7 @@ namespace {
 
 using editing::StatusPanel;
 
-constexpr QSize kSize(108, 85);
+constexpr QSize kPreviewSize(108, 85);
 constexpr QRect kLabel1(46, 5, 62, 34);
 
 // Where a readout is printed, and the pictogram before it.
@@ -45,7 +45,7 @@ QString OnTwoLines(const QString& format) {
 PreviewPane::PreviewPane(editing::StatusView& status, const controls::ImageList& pictures,
                          QWidget* parent)
     : QWidget(parent), pictures_(pictures) {
-    setFixedSize(kSize);
+    setFixedSize(kPreviewSize);
     setMouseTracking(true);
     picIcon_.setObjectName("PicIcon");
     picIcon_.move(widgets::kEdgeDistance, widgets::kEdgeDistance);

@@ -20,7 +20,7 @@ namespace {
 
 using desktop::ToText;
 
-constexpr int kMargin = 20;
+constexpr int kAboutMargin = 20;
 constexpr int kBetweenBlocks = 18;
 constexpr int kBetweenLines = 6;
 constexpr int kPictureTimes = 2;
@@ -59,7 +59,7 @@ frmAbout::frmAbout(QWidget* owner, tools::SystemInformation& information) : QDia
     facts->addWidget(NewPicture());
     facts->addLayout(NewTexts());
     auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    rows->setContentsMargins(kAboutMargin, kAboutMargin, kAboutMargin, kAboutMargin);
     rows->setSpacing(kBetweenBlocks);
     rows->addLayout(facts);
     rows->addWidget(NewButtons(information));

@@ -20,8 +20,8 @@ using desktop::ToText;
 using tools::MagnifierSettings;
 
 // In pixels.
-constexpr int kMargin = 4;
-constexpr int kGap = 4;
+constexpr int kZoomMargin = 4;
+constexpr int kZoomGap = 4;
 constexpr QSize kSwitch(26, 26);
 constexpr QSize kSwitchPicture(16, 16);
 constexpr int kZoomBoxWidth = 56;
@@ -60,8 +60,8 @@ void frmZoom::BuildControls() {
     picZoom_->setFocusPolicy(Qt::StrongFocus);
     picZoom_->installEventFilter(this);
     auto* rows = new QVBoxLayout(this);
-    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    rows->setSpacing(kGap);
+    rows->setContentsMargins(kZoomMargin, kZoomMargin, kZoomMargin, kZoomMargin);
+    rows->setSpacing(kZoomGap);
     rows->addLayout(row);
     rows->addWidget(new widgets::FocusEdge(picZoom_, this), 1);
     FollowDesktopColors();
@@ -98,7 +98,7 @@ QLayout* frmZoom::NewControlRow() {
     connect(hsbZoom_, &QScrollBar::valueChanged, this, &frmZoom::hsbZoom_Change);
 
     auto* row = new QHBoxLayout;
-    row->setSpacing(kGap);
+    row->setSpacing(kZoomGap);
     row->addWidget(chkGrid_);
     row->addWidget(chkOnTop_);
     row->addWidget(txtZoom_);

@@ -8,7 +8,7 @@ namespace kestrel::widgets {
 
 namespace {
 
-constexpr int kGap = 2;
+constexpr int kPanelGap = 2;
 // In pixels, in the order of StatusPanel; the first takes what the others leave.
 constexpr std::array kPanelWidths{0, 84, 56, 56, 44};
 
@@ -19,7 +19,7 @@ StatusBar::StatusBar(QWidget* parent) : QWidget(parent) {
         auto* label = new QLabel(this);
         label->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
         label->setTextFormat(Qt::PlainText);
-        label->setIndent(kGap);
+        label->setIndent(kPanelGap);
         panels_.push_back({label, width, {}});
     }
 }
@@ -44,12 +44,12 @@ void StatusBar::Clear() {
 void StatusBar::resizeEvent(QResizeEvent* /*event*/) {
     int fixed = 0;
     for (const Panel& panel : panels_)
-        fixed += panel.width + kGap;
+        fixed += panel.width + kPanelGap;
     int x = 0;
     for (const Panel& panel : panels_) {
         const int panelWidth = panel.width != 0 ? panel.width : width() - fixed;
         panel.label->setGeometry(x, 0, panelWidth, height());
-        x += panelWidth + kGap;
+        x += panelWidth + kPanelGap;
     }
 }
 

@@ -13,9 +13,9 @@ namespace kestrel::widgets {
 namespace {
 
 // On either side of a button; a line between groups takes those of its two neighbours.
-constexpr int kGap = 1;
+constexpr int kButtonGap = 1;
 // Leaves room for twice the pictures on screens of one and a half device pixels.
-constexpr int kMargin = 3;
+constexpr int kButtonMargin = 3;
 // Of the lines between groups, above and below.
 constexpr int kLineMargin = 4;
 
@@ -27,10 +27,11 @@ ToolBar::ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget*
 }
 
 void ToolBar::AddButton(std::string_view key, int number) {
-    const QSize picture = buttonSize_.shrunkBy(QMargins(kMargin, kMargin, kMargin, kMargin));
+    const QSize picture =
+        buttonSize_.shrunkBy(QMargins(kButtonMargin, kButtonMargin, kButtonMargin, kButtonMargin));
     auto* button = new PictureButton(pictures_, number, picture, this);
     const QRect place(QPoint(ButtonCount() * ButtonWidth(), 0), buttonSize_);
-    button->setGeometry(place.adjusted(kGap, 0, -kGap, 0));
+    button->setGeometry(place.adjusted(kButtonGap, 0, -kButtonGap, 0));
     button->setMouseTracking(true);
     button->installEventFilter(this);
     const auto entry = buttons_.emplace(key, button).first;
