@@ -60,9 +60,10 @@ Result<std::vector<Candidate>> Candidates(const std::vector<SourceFile>& files,
 Result<void> MakeSizes(const Candidate& source, const std::vector<int>& sizes,
                        const std::vector<std::size_t>& places, std::vector<ImageBytes>& images) {
     std::vector<imaging::SquarePicture> pictures;
+    pictures.reserve(places.size());
     for (const std::size_t place : places)
         pictures.emplace_back(SizeOf(source.image), sizes[place]);
-    const auto given = source.file->Named(
+    auto given = source.file->Named(
         source.file->Source().GivePixels(source.image, [&](const gdi::PixelRun& run) {
             for (imaging::SquarePicture& picture : pictures)
                 picture.Add(run);

@@ -36,6 +36,6 @@ Typed bash --noprofile --rcfile rc -i | diff expected - || Fail 'bash'
 echo "PS1='> '; unsetopt prompt_sp; fpath=('$completions' \$fpath); autoload -U compinit; compinit -u -D" >.zshrc
 ZDOTDIR=$PWD Typed zsh -d -i | diff expected - || Fail 'zsh'
 
-while read -r line; do
-    HOME=$PWD fish -c "source '$completions/kestrel-icon.fish'; complete -C '$line'" | cut -f1 | sed 's,/$,,'
-done <typed | diff expected - || Fail 'fish'
+HOME=$PWD fish -c "source '$completions/kestrel-icon.fish'
+    while read line; complete -C \$line; end" <typed |
+    cut -f1 | sed 's,/$,,' | diff expected - || Fail 'fish'
