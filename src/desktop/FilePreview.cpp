@@ -99,11 +99,11 @@ void FilePreview::DrawPicture(QPainter& painter, QRect ground) const {
     const double ratio = devicePixelRatioF();
     const int longest = std::max(picture_.width(), picture_.height());
     const int room = static_cast<int>(kSide * ratio);
-    const QSize size = longest > room ? picture_.size().scaled(room, room, Qt::KeepAspectRatio)
-                                      : picture_.size() * (room / longest);
-    QImage shown =
-        picture_.scaled(size, Qt::IgnoreAspectRatio,
-                        longest > room ? Qt::SmoothTransformation : Qt::FastTransformation);
+    const int scale = room / longest;
+    const QSize size = scale > 0 ? picture_.size() * scale
+                                 : picture_.size().scaled(room, room, Qt::KeepAspectRatio);
+    QImage shown = picture_.scaled(size, Qt::IgnoreAspectRatio,
+                                   scale > 0 ? Qt::FastTransformation : Qt::SmoothTransformation);
     shown.setDevicePixelRatio(ratio);
     const QSizeF drawn = QSizeF(size) / ratio;
     const auto onDevice = [&](double at) { return qRound(at * ratio) / ratio; };

@@ -99,7 +99,7 @@ TEST_F(DialogsTest, PreviewTellsWhatOpenWouldTake) {
     record.filter = "Icon Files (*.ico)\0*.ico\0\0"s;
     for (const auto& [name, text] : cases) {
         record.file = TEST_DATA "/" + std::string(name);
-        InNext<QFileDialog>(false, [&](QFileDialog& dialog) {
+        InNext<QFileDialog>(false, [name = name, text = text](QFileDialog& dialog) {
             const auto widgets = dialog.findChildren<QWidget*>();
             const auto shown = std::ranges::find_if(widgets, [](const QWidget* widget) {
                 return widget->accessibleName() == QStringLiteral("Preview");

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The installed program finds its help. An icon is opened, drawn on and saved, and another program
-# finds these pixels in it. What cannot be opened or saved is told, and the program goes on.
+# finds these pixels in it. What cannot be opened or saved is told, and the program goes on. It keeps
+# nothing beside itself.
 # shellcheck source=tests/desktop/desktop.sh
 source "$(dirname "$0")/desktop.sh"
 StartDesktop
@@ -60,3 +61,5 @@ ExpectError 'File too large*Unable to save Other.ico' '* - Other.ico'
 cmp "$files/Other.ico" "$scratch/Drawn.ico" || Fail 'a failed save changed the file'
 [[ $(find "$files" -type f ! -name '*.ico') == '' ]] || Fail 'a failed save left a file'
 QuitUnsaved
+grep -q "href=\"file://$files/Drawn.ico\"" "$scratch/data/recently-used.xbel" || Fail 'the desktop was not told'
+[[ $(ls "$scratch/usr/bin") == $'KestrelIconEditor\nkestrel-icon' ]] || Fail 'something lies beside the program'
