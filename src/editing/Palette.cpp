@@ -7,14 +7,6 @@
 
 namespace kestrel::editing {
 
-namespace {
-
-constexpr int kColumns = 16;
-constexpr int kRows = 16;
-constexpr int kCellSize = 13;  // pixels, with the edge
-
-}  // namespace
-
 Palette::Palette(ColorsView& view)
     : view_(view), picPal_(kColumns * kCellSize, kRows * kCellSize, gdi::kBlack) {
     DrawPalette(PaletteReload::Yes);

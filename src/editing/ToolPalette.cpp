@@ -9,10 +9,6 @@ namespace kestrel::editing {
 
 namespace {
 
-constexpr int kColumns = 4;
-constexpr int kRows = 3;
-constexpr int kCellWidth = 23;
-constexpr int kCellHeight = 22;
 // Where a glyph stands in its cell.
 constexpr int kGlyphX = 4;
 constexpr int kGlyphY = 3;
@@ -33,10 +29,10 @@ constexpr int SlotOf(ToolId tool) {
     return static_cast<int>(tool) - 1;
 }
 constexpr int LeftOf(ToolId tool) {
-    return SlotOf(tool) % kColumns * kCellWidth;
+    return SlotOf(tool) % ToolPalette::kColumns * ToolPalette::kCellWidth;
 }
 constexpr int TopOf(ToolId tool) {
-    return SlotOf(tool) / kColumns * kCellHeight;
+    return SlotOf(tool) / ToolPalette::kColumns * ToolPalette::kCellHeight;
 }
 
 }  // namespace
