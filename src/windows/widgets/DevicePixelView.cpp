@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "desktop/Pictures.h"
+#include "windows/widgets/AccessibleRole.h"
 
 namespace kestrel::widgets {
 
@@ -23,6 +24,7 @@ int PixelsBetween(int start, int end, qreal scale) {
 DevicePixelView::DevicePixelView(DrawRows drawRows, QWidget* parent)
     : QWidget(parent), drawRows_(std::move(drawRows)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    SetRole(*this, QAccessible::Graphic);
 }
 
 gdi::Size DevicePixelView::SizeInPixels() const {

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "desktop/Text.h"
+#include "windows/widgets/AccessibleRole.h"
 
 namespace kestrel::widgets {
 
@@ -15,6 +16,8 @@ constexpr std::array kPanelWidths{0, 84, 56, 56, 44};
 }  // namespace
 
 StatusBar::StatusBar(QWidget* parent) : QWidget(parent) {
+    setObjectName("StatusBar");
+    SetRole(*this, QAccessible::StatusBar);
     for (const int width : kPanelWidths) {
         auto* label = new QLabel(this);
         label->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
