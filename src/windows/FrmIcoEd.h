@@ -87,6 +87,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void RunRow(std::span<const commands::CommandRow> rows, std::string_view key);
     void Toolbar1_MouseMove(int x);
     // FrmIcoEd_Keys.cpp
+    void BuildKeys();
     void ShowEditingPopupByKey();
     bool MoveSelectionByKey(const QKeyEvent& event);
 

@@ -6,6 +6,7 @@
 #include "desktop/Text.h"
 #include "i18n/Captions.h"
 #include "resources/WellPictures.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/PictureIcon.h"
 #include "windows/widgets/WindowDesign.h"
 
@@ -48,6 +49,7 @@ PreviewPane::PreviewPane(editing::StatusView& status, const controls::ImageList&
     setFixedSize(kSize);
     setMouseTracking(true);
     picIcon_.setObjectName("PicIcon");
+    widgets::SetRole(picIcon_, QAccessible::Graphic);
     picIcon_.move(widgets::kEdgeDistance, widgets::kEdgeDistance);
     picIcon_.onMouseMove = [&status](Qt::MouseButtons /*held*/, QPoint /*at*/) {
         status.SetStatusPanel(StatusPanel::Hint, i18n::kActualSize.Now());
@@ -59,6 +61,7 @@ PreviewPane::PreviewPane(editing::StatusView& status, const controls::ImageList&
 }
 
 void PreviewPane::AddTo(NamedControls& controls) {
+    controls.AddName(picIcon_);
     controls.AddCaption("Label1",
                         [this](const QString& text) { label1_.setText(OnTwoLines(text)); });
 }
