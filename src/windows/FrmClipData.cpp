@@ -34,6 +34,8 @@ constexpr int kMessageFontPixels = 11;
 FrmClipData::FrmClipData(QWidget* owner, gdi::Size picture) : QDialog(owner) {
     widgets::DressDialog(*this, ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
+    // What is only painted has no text that a screen reader could find.
+    setAccessibleDescription(ToText(i18n::kPasteTooLarge.Now()) + QLatin1Char(' ') + sizeText_);
     setFont(widgets::FontOf(*this, kFontPixels));
     setFixedSize(kClientSize);
     LayOutControls();

@@ -4,6 +4,8 @@
 #include <QPushButton>
 
 #include "desktop/Text.h"
+#include "i18n/Captions.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
@@ -40,6 +42,11 @@ QWidget* NewFrame(QWidget* picture) {
     inside->addWidget(picture);
     frame->setFixedSize(frame->sizeHint());
     return frame;
+}
+
+void NamePreview(QWidget& picture) {
+    widgets::SetRole(picture, QAccessible::Graphic);
+    picture.setAccessibleName(desktop::ToText(i18n::kPreviewName.Now()));
 }
 
 void PlaceDialog(QDialog& dialog, int parts) {

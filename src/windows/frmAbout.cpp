@@ -47,6 +47,7 @@ QLabel* NewPicture() {
     auto* label = new QLabel;
     label->setPixmap(QPixmap::fromImage(picture.scaled(picture.size() * kPictureTimes)));
     label->setAlignment(Qt::AlignTop);
+    label->setAccessibleName(ToText(i18n::kProgramName));
     return label;
 }
 
