@@ -22,8 +22,8 @@ template <auto kFunction>
 auto& ObjectOf(Commands& c) {
     using Class = typename ClassOfMember<decltype(kFunction)>::Type;
     return std::get<Class&>(std::tie(c.editor, c.editor.Selected(), c.parts.window, c.parts.dialogs,
-                                     c.palette, c.clipboard, c.images, c.documents, c.extract,
-                                     c.capture, c.prints, c.shell, c.tray, c.zoom));
+                                     c.palette, c.wells, c.clipboard, c.images, c.documents,
+                                     c.extract, c.capture, c.prints, c.shell, c.tray, c.zoom));
 }
 
 template <auto kFunction, auto... kArguments>

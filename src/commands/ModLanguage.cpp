@@ -11,7 +11,7 @@ namespace kestrel::commands {
 
 namespace {
 
-enum class Property { Caption, ToolTip };
+enum class Property { Caption, ToolTip, Name };
 
 struct ControlText {
     std::string_view control;
@@ -32,7 +32,21 @@ constexpr auto kControlTexts = std::to_array<ControlText>({
     {"PicPal", ToolTip, {"Self-Define Color", "双击调色板 自定义颜色"}},
     {"ImgLoadPalette", ToolTip, {"Load Palette", "打开调色板"}},
     {"ImgSavePalette", ToolTip, {"Save Palette", "保存调色板"}},
+    {"MenuBar", Name, {"Menu bar", "菜单栏"}},
+    {"Toolbar1", Name, {"Toolbar", "工具栏"}},
+    {"PicMain", Name, {"Editing grid", "编辑区"}},
+    {"PicIcon", Name, {"Actual Size", "图标实际大小"}},
+    {"PicTools", Name, {"Tools", "工具"}},
+    {"PicPal", Name, {"Color palette", "调色板"}},
+    {"StatusBar", Name, {"Status bar", "状态栏"}},
 });
+
+using SetText = void (CaptionedWindow::*)(std::string_view control, std::string_view text);
+
+// In the order of Property.
+constexpr std::array<SetText, 3> kSetText{&CaptionedWindow::SetControlCaption,
+                                          &CaptionedWindow::SetControlToolTip,
+                                          &CaptionedWindow::SetControlName};
 
 constexpr int kMenuFontPoints = 9;
 
@@ -69,11 +83,8 @@ void ApplyCaptions(std::string_view code, controls::SmartMenuXP& menu,
 void ApplyMainCaptions(std::string_view code, CaptionedWindow& window) {
     if (!IsLanguage(code)) return;
     for (const ControlText& row : kControlTexts) {
-        if (row.property == Caption) {
-            window.SetControlCaption(row.control, row.text.In(code));
-        } else {
-            window.SetControlToolTip(row.control, row.text.In(code));
-        }
+        const SetText set = kSetText[static_cast<std::size_t>(row.property)];
+        (window.*set)(row.control, row.text.In(code));
     }
     for (const CommandRow& button : ToolbarRows())
         window.SetButtonToolTip(button.key, button.caption.In(code));

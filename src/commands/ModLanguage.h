@@ -18,6 +18,8 @@ class CaptionedWindow {
     virtual ~CaptionedWindow() = default;
     virtual void SetControlCaption(std::string_view control, std::string_view text) = 0;
     virtual void SetControlToolTip(std::string_view control, std::string_view text) = 0;
+    // What screen readers call a control that shows no text of its own.
+    virtual void SetControlName(std::string_view control, std::string_view text) = 0;
     // A button of the toolbar, by its key.
     virtual void SetButtonToolTip(std::string_view key, std::string_view text) = 0;
 };

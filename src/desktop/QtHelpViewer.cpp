@@ -38,6 +38,7 @@ void QtHelpViewer::ChangePage(const std::string& file, const std::string& title)
     if (window_ == nullptr || !CanRead(file)) return;
     window_->setWindowTitle(QString::fromStdString(title));
     window_->ShowTexts();
+    window_->setAccessibleName(window_->windowTitle());
     const QUrl url =
         QUrl::fromLocalFile(QFileInfo(QString::fromStdString(file)).absoluteFilePath());
     if (window_->source().adjusted(QUrl::RemoveFragment) == url) return;

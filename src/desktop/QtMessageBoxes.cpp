@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTextBoundaryFinder>
 
@@ -111,6 +112,9 @@ Answer QtMessageBoxes::Ask(BoxIcon icon, BoxButtons buttons, Answer preset, cons
     box.setDefaultButton(ToButton(preset));
     box.setTextFormat(Qt::PlainText);
     MakeRoomForTitle(box);
+    // Of the library's picture, which screen readers show without any.
+    if (auto* picture = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
+        picture->setAccessibleName(box.windowTitle());
     return ToAnswer(box.exec(), buttons);
 }
 

@@ -48,6 +48,8 @@ class Editor {
     // Ends a gesture where it is, as if its button came up there. For whatever may take the mouse
     // away in its midst, such as a command by keyboard.
     void EndGesture();
+    // A button is held that went down on the grid.
+    bool IsInGesture() const { return gestureButton_ != Button::None; }
 
     // Drops the selection, then goes one step of the history back or forward if there is one.
     void PopUndoSnapshot();

@@ -7,25 +7,14 @@
 
 namespace kestrel::editing {
 
-namespace {
-
-constexpr int kPaletteColumns = 16;
-constexpr int kPaletteRows = 16;
-constexpr int kPaletteCellSize = 13;  // pixels, with the edge
-
-}  // namespace
-
 Palette::Palette(ColorsView& view)
-    : view_(view),
-      picPal_(kPaletteColumns * kPaletteCellSize, kPaletteRows * kPaletteCellSize, gdi::kBlack) {
+    : view_(view), picPal_(kColumns * kCellSize, kRows * kCellSize, gdi::kBlack) {
     DrawPalette(PaletteReload::Yes);
 }
 
 std::optional<std::size_t> Palette::CellAt(int x, int y) {
-    if (x < 0 || y < 0 || x >= kPaletteColumns * kPaletteCellSize ||
-        y >= kPaletteRows * kPaletteCellSize)
-        return {};
-    return static_cast<std::size_t>(y / kPaletteCellSize * kPaletteColumns + x / kPaletteCellSize);
+    if (x < 0 || y < 0 || x >= kColumns * kCellSize || y >= kRows * kCellSize) return {};
+    return static_cast<std::size_t>(y / kCellSize * kColumns + x / kCellSize);
 }
 
 void Palette::DrawPalette(PaletteReload reload) {
@@ -35,10 +24,10 @@ void Palette::DrawPalette(PaletteReload reload) {
     }
     int cell = 0;
     for (const gdi::COLORREF color : colors_) {
-        const int x = cell % kPaletteColumns * kPaletteCellSize;
-        const int y = cell / kPaletteColumns * kPaletteCellSize;
-        gdi::FillBox(picPal_, x, y, x + kPaletteCellSize - 1, y + kPaletteCellSize - 1, color);
-        gdi::DrawSunkenEdge(picPal_, x, y, x + kPaletteCellSize, y + kPaletteCellSize);
+        const int x = cell % kColumns * kCellSize;
+        const int y = cell / kColumns * kCellSize;
+        gdi::FillBox(picPal_, x, y, x + kCellSize - 1, y + kCellSize - 1, color);
+        gdi::DrawSunkenEdge(picPal_, x, y, x + kCellSize, y + kCellSize);
         ++cell;
     }
     view_.RepaintPalette();

@@ -15,6 +15,10 @@ enum class PaletteReload { No, Yes };
 // The palette's colours and their picture, 16 rows of 16 cells. The view is told of changes.
 class Palette {
   public:
+    static constexpr int kColumns = 16;
+    static constexpr int kRows = 16;
+    static constexpr int kCellSize = 13;  // pixels, with the edge
+
     explicit Palette(ColorsView& view);
 
     const gdi::PaletteColors& Colors() const { return colors_; }

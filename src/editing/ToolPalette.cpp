@@ -9,10 +9,6 @@ namespace kestrel::editing {
 
 namespace {
 
-constexpr int kToolColumns = 4;
-constexpr int kToolRows = 3;
-constexpr int kCellWidth = 23;
-constexpr int kCellHeight = 22;
 // Where a glyph stands in its cell.
 constexpr int kGlyphX = 4;
 constexpr int kGlyphY = 3;
@@ -33,10 +29,10 @@ constexpr int SlotOf(ToolId tool) {
     return static_cast<int>(tool) - 1;
 }
 constexpr int LeftOf(ToolId tool) {
-    return SlotOf(tool) % kToolColumns * kCellWidth;
+    return SlotOf(tool) % ToolPalette::kColumns * ToolPalette::kCellWidth;
 }
 constexpr int TopOf(ToolId tool) {
-    return SlotOf(tool) / kToolColumns * kCellHeight;
+    return SlotOf(tool) / ToolPalette::kColumns * ToolPalette::kCellHeight;
 }
 
 }  // namespace
@@ -45,13 +41,13 @@ ToolPalette::ToolPalette(const EditorViews& views, Selection& selection, gdi::CO
     : views_(views),
       selection_(selection),
       strip_(ToolStrip()),
-      picTools_(kToolColumns * kCellWidth, kToolRows * kCellHeight, windowColor) {
+      picTools_(kColumns * kCellWidth, kRows * kCellHeight, windowColor) {
     Paint();
 }
 
 std::optional<ToolId> ToolPalette::ToolAt(int x, int y) {
-    if (x < 0 || y < 0 || x >= kToolColumns * kCellWidth || y >= kToolRows * kCellHeight) return {};
-    return static_cast<ToolId>(x / kCellWidth + 1 + kToolColumns * (y / kCellHeight));
+    if (x < 0 || y < 0 || x >= kColumns * kCellWidth || y >= kRows * kCellHeight) return {};
+    return static_cast<ToolId>(x / kCellWidth + 1 + kColumns * (y / kCellHeight));
 }
 
 void ToolPalette::SelectTool(ToolId tool) {

@@ -15,6 +15,12 @@ namespace kestrel::editing {
 // palette.
 class ToolPalette {
   public:
+    static constexpr int kColumns = 4;
+    static constexpr int kRows = 3;
+    // In pixels.
+    static constexpr int kCellWidth = 23;
+    static constexpr int kCellHeight = 22;
+
     ToolPalette(const EditorViews& views, Selection& selection, gdi::COLORREF windowColor);
 
     // What the palette looks like.

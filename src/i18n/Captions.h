@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "i18n/Language.h"
 
 namespace kestrel::i18n {
@@ -48,6 +50,14 @@ inline constexpr Text kGradientRed{"  (R):", "红(R):"};
 inline constexpr Text kGradientGreen{"  (G):", "绿(G):"};
 inline constexpr Text kGradientBlue{"  (B):", "蓝(B):"};
 inline constexpr Text kDegrees{"Degrees:", " 角度:"};
+// What screen readers call its controls: an end of the gradient, and a part of that end's colour.
+inline constexpr std::array kShadeEndNames{Text{"Start color", "起始颜色"},
+                                           Text{"End color", "结束颜色"}};
+inline constexpr std::array kShadePartNames{Text{"red", "红"}, Text{"green", "绿"},
+                                            Text{"blue", "蓝"}};
+
+// What screen readers call the picture that follows the controls of a dialog.
+inline constexpr Text kPreviewName{"Preview", "预览"};
 
 // The extraction of icons: its button, what screen readers call the grid and the bar beside it, and
 // the line for the first icon of the file that it begins with, and of a file chosen since.

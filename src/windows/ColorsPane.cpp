@@ -3,11 +3,14 @@
 #include <qdrawutil.h>
 
 #include <QPainter>
+#include <algorithm>
 
 #include "desktop/Pictures.h"
 #include "i18n/Captions.h"
+#include "i18n/Speech.h"
 #include "resources/WellPictures.h"
 #include "windows/FrmMouseButtons.h"
+#include "windows/widgets/AccessibleCells.h"
 #include "windows/widgets/DesktopFont.h"
 #include "windows/widgets/PictureIcon.h"
 #include "windows/widgets/WindowDesign.h"
@@ -28,6 +31,11 @@ constexpr QRect kWells(0, 0, 208, 20);
 constexpr std::array kIndicators{QRect(3, 4, 11, 11), QRect(21, 4, 11, 11)};
 constexpr QPoint kPicPal(0, 25);
 constexpr QRect kChkPal(0, 237, 208, 15);
+
+constexpr widgets::CellLayout kCells{
+    editing::Palette::kColumns, editing::Palette::kRows,
+    QSize(editing::Palette::kCellSize, editing::Palette::kCellSize), 0,
+    widgets::MarkGround::AnyColor};
 
 enum class Pictures { Wells, Menus };
 
@@ -68,7 +76,8 @@ constexpr std::array kColorBoxes{
 
 }  // namespace
 
-ColorsPane::ColorsPane(const Parts& parts, QWidget* parent) : QWidget(parent), parts_(parts) {
+ColorsPane::ColorsPane(const Parts& parts, QWidget* parent)
+    : QWidget(parent), parts_(parts), picPal_(kCells, this) {
     setFixedSize(kColorsSize);
     setMouseTracking(true);
     LayOutBoxes();
@@ -88,8 +97,20 @@ void ColorsPane::LayOutBoxes() {
         box->onMouseMove = [this, &row] {
             parts_.status.SetStatusPanel(StatusPanel::Hint, row.hint.Now());
         };
+        box->setFocusPolicy(Qt::TabFocus);
+        box->onArrow = [this, i](QPoint step) {
+            const int last = static_cast<int>(kBoxes) - 1;
+            const int next = std::clamp(static_cast<int>(i) + step.x() + step.y(), 0, last);
+            LetTabFind(static_cast<std::size_t>(next));
+            boxes_[static_cast<std::size_t>(next)]->setFocus(Qt::TabFocusReason);
+        };
         boxes_[i] = box;
     }
+}
+
+void ColorsPane::LetTabFind(std::size_t box) {
+    for (PictureBox* each : boxes_)
+        each->setFocusPolicy(each == boxes_[box] ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void ColorsPane::LayOutPalette() {
@@ -115,8 +136,18 @@ void ColorsPane::FitTexts() {
 
 void ColorsPane::Show(editing::Palette& palette) {
     picPal_.Show(palette.PicPal());
+    picPal_.nameOf = [&palette](QPoint cell) {
+        const int index = cell.y() * editing::Palette::kColumns + cell.x();
+        return QString::fromStdString(
+            i18n::ColorName(palette.Colors()[static_cast<std::size_t>(index)]));
+    };
     connect(&chkPal_, &QCheckBox::toggled, this,
             [&palette](bool ticked) { palette.SetChkPal(ticked); });
+}
+
+void ColorsPane::RepaintPalette() {
+    picPal_.update();
+    widgets::TellAccessibleCells(picPal_);
 }
 
 void ColorsPane::Connect(Commands& commands, CommandRunner& runner) {
@@ -134,15 +165,33 @@ void ColorsPane::Connect(Commands& commands, CommandRunner& runner) {
 }
 
 void ColorsPane::AddTo(NamedControls& controls) {
-    for (PictureBox* box : boxes_)
-        controls.AddToolTip(*box);
-    controls.AddToolTip(picPal_);
+    for (std::size_t i = 0; i < kBoxes; ++i) {
+        if (i >= wellNames_.size()) {
+            controls.AddToolTip(*boxes_[i]);
+            continue;
+        }
+        controls.AddToolTip(kColorBoxes[i].name, [this, i](const QString& text) {
+            boxes_[i]->setToolTip(text);
+            wellNames_[i] = text.trimmed();
+            NameWell(i);
+        });
+    }
+    controls.AddToolTip("PicPal", [this](const QString& text) { picPal_.setToolTip(text); });
+    controls.AddName(picPal_);
     controls.AddCaption("ChkPal", [this](const QString& text) { chkPal_.setText(text); });
+}
+
+void ColorsPane::FollowLanguage() {
+    for (std::size_t well = 0; well < wellNames_.size(); ++well)
+        NameWell(well);
+    widgets::TellAccessibleCells(picPal_);
 }
 
 void ColorsPane::ShowWell(Button button, gdi::COLORREF color, bool transparent) {
     const std::size_t well = button == Button::Right ? 1 : 0;
     pens_[well] = desktop::ToColor(color);
+    transparent_[well] = transparent;
+    NameWell(well);
     update(kIndicators[well]);
     if (transparent) {
         boxes_[well]->Show(
@@ -150,6 +199,12 @@ void ColorsPane::ShowWell(Button button, gdi::COLORREF color, bool transparent) 
     } else {
         boxes_[well]->Show(pens_[well], {});
     }
+}
+
+void ColorsPane::NameWell(std::size_t well) {
+    const std::string color = i18n::ColorName(desktop::ToColorRef(pens_[well]), transparent_[well]);
+    boxes_[well]->SetName(
+        QString::fromStdString(i18n::Named(wellNames_[well].toStdString(), color)));
 }
 
 void ColorsPane::paintEvent(QPaintEvent* /*event*/) {

@@ -43,6 +43,8 @@ QRect Grown(const QRect& place) {
 FrmClipData::FrmClipData(QWidget* owner, gdi::Size picture) : QDialog(owner) {
     widgets::DressDialog(*this, ToText(i18n::kPasteTitle.Now()));
     sizeText_ = QStringLiteral("%1 x %2 pixels.").arg(picture.width).arg(picture.height);
+    // What is only painted has no text that a screen reader could find.
+    setAccessibleDescription(ToText(i18n::kPasteTooLarge.Now()) + QLatin1Char(' ') + sizeText_);
     setFont(widgets::FontOf(*this, Grown(widgets::kDesignedText)));
     setFixedSize(Grown(kClient).size());
     LayOutControls();

@@ -52,6 +52,7 @@ FrmColAdj::FrmColAdj(QWidget* owner, imaging::ColorAdjustment& colors, gdi::Surf
       picture_(std::move(preview)),
       PicShade_(new widgets::SurfaceWidget(picture_, this)) {
     PicShade_->setObjectName("PicShade");
+    NamePreview(*PicShade_);
     QVBoxLayout* rows = NewRows(*this, i18n::kColorAdjustmentTitle);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(kBetweenColumns);

@@ -8,6 +8,7 @@
 #include "resources/WellPictures.h"
 #include "tools/MagnifierSettings.h"
 #include "windows/WindowColor.h"
+#include "windows/widgets/AccessibleCells.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
@@ -51,14 +52,9 @@ void FrmIcoEd::Form_Load(const std::string& pathToOpen) {
     FollowDesktopColors();
     setMouseTracking(true);
     setAcceptDrops(true);
-    // The keyboard starts at the window itself, not at the first button.
-    setFocusPolicy(Qt::StrongFocus);
-    setFocus();
-
     LayOutControls();
     BuildToolbar();
-    // Tab goes from the last button of the toolbar to the check box.
-    setTabOrder(toolbar1_->Button(commands::ToolbarRows().back().key), &colors_.ChkPal());
+    BuildKeys();
     ShowTextControls(false);
     commands::ApplyMainCaptions(i18n::UiLanguage(), controls_);
     BuildMenus();
@@ -130,6 +126,8 @@ gdi::Rect FrmIcoEd::ScreenArea() const {
 void FrmIcoEd::LanguageChanged() {
     editor_.ShowTitle();
     statusBar_.Clear();
+    colors_.FollowLanguage();
+    widgets::TellAccessibleCells(tools_.PicTools());
     magnifier_.ShowCaptions(i18n::UiLanguage());
     commands_.tray.LanguageChanged();
     FitTexts();

@@ -63,7 +63,7 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     // FrmIcoEd_Layout.cpp
     void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-    // FrmIcoEd_Menu.cpp
+    // FrmIcoEd_Keys.cpp
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -75,7 +75,6 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
 
     // FrmIcoEd_Events.cpp
     bool IsBackground(QPoint at) const;
-    bool MoveSelectionByKey(const QKeyEvent& event);
     // FrmIcoEd_Layout.cpp
     void LayOutControls();
     void ShowTextControls(bool shown);
@@ -87,8 +86,11 @@ class FrmIcoEd : public QWidget, private editing::EditorWindow, private commands
     void BuildToolbar();
     // A click on an item or a button.
     void RunRow(std::span<const commands::CommandRow> rows, std::string_view key);
-    void ShowEditingPopupByKey();
     void Toolbar1_MouseMove(int x);
+    // FrmIcoEd_Keys.cpp
+    void BuildKeys();
+    void ShowEditingPopupByKey();
+    bool MoveSelectionByKey(const QKeyEvent& event);
 
     void SetTitle(const std::string& title) override;
     void RefreshEditCommands() override;

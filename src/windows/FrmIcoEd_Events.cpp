@@ -1,12 +1,10 @@
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QKeyEvent>
 #include <QMimeData>
 #include <QUrl>
 #include <algorithm>
 
 #include "windows/FrmIcoEd.h"
-#include "windows/widgets/ArrowStep.h"
 #include "windows/widgets/MousePoint.h"
 
 namespace kestrel::windows {
@@ -82,16 +80,6 @@ void FrmIcoEd::mouseReleaseEvent(QMouseEvent* event) {
 bool FrmIcoEd::IsBackground(QPoint at) const {
     const QWidget* const hit = childAt(at);
     return hit == nullptr || hit == &grid_ || hit == &preview_ || hit == &tools_ || hit == &colors_;
-}
-
-// The arrow keys; false for any other key.
-bool FrmIcoEd::MoveSelectionByKey(const QKeyEvent& event) {
-    const auto step = widgets::ArrowStep(event.key());
-    const bool modified = (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier;
-    // On the toolbar they go from button to button.
-    if (!step || modified || !hasFocus()) return false;
-    runner_.Run([&] { editor_.Selected().MoveBy(step->x(), step->y()); });
-    return true;
 }
 
 }  // namespace kestrel::windows

@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "windows/FrmIcoEd.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
@@ -30,7 +31,9 @@ void FrmIcoEd::LayOutControls() {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setFixedSize(kMainSize);
+    widgets::SetRole(*this, QAccessible::Window);
     setFont(widgets::FontOf(*this, kMainFont));
+    toolbar1_->setObjectName("Toolbar1");
     toolbar1_->move(kToolbar);
     grid_.move(kGrid);
     preview_.move(kPreview);
@@ -40,13 +43,19 @@ void FrmIcoEd::LayOutControls() {
     statusBar_.setGeometry(kStatusBar);
 
     grid_.Show(editor_);
-    grid_.onPopup = [this] { EditingPopup()->popup(QCursor::pos()); };
+    grid_.onPopup = [this] { EditingPopup()->popup(grid_.PopupPoint()); };
     preview_.Show(editor_.Views().PicIcon);
     tools_.Show(editor_);
     colors_.Show(editor_.ColorPalette());
     colors_.Connect(commands_, runner_);
+    grid_.AddTo(controls_);
     preview_.AddTo(controls_);
+    tools_.AddTo(controls_);
     colors_.AddTo(controls_);
+    menuBar_->setObjectName("MenuBar");
+    controls_.AddName(*menuBar_);
+    controls_.AddName(*toolbar1_);
+    controls_.AddName(statusBar_);
 }
 
 void FrmIcoEd::ShowTextControls(bool shown) {

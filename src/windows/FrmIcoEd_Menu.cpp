@@ -1,6 +1,3 @@
-#include <QContextMenuEvent>
-#include <QGuiApplication>
-#include <QKeyEvent>
 #include <QMenu>
 #include <algorithm>
 
@@ -68,34 +65,6 @@ void FrmIcoEd::Toolbar1_MouseMove(int x) {
 
 QMenu* FrmIcoEd::EditingPopup() {
     return popupView_.Popup(kPopupRoot);
-}
-
-void FrmIcoEd::ShowEditingPopupByKey() {
-    // The button that drags would choose an item where it comes up.
-    if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-    const bool overGrid = grid_.PicMain().underMouse();
-    EditingPopup()->popup(overGrid ? QCursor::pos() : grid_.mapToGlobal(grid_.rect().center()));
-}
-
-void FrmIcoEd::contextMenuEvent(QContextMenuEvent* event) {
-    // The right mouse button draws.
-    if (event->reason() == QContextMenuEvent::Keyboard) ShowEditingPopupByKey();
-}
-
-void FrmIcoEd::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
-        ShowEditingPopupByKey();
-    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
-        menuBar_->setActiveAction(menuBar_->actions().constFirst());
-    } else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier) {
-        RunRow(commands::MenuBarRows(), "mnuHelp2");
-    } else if (event->key() == Qt::Key_Escape) {
-        // From the toolbar back to the window, from there out of the selection.
-        if (hasFocus()) runner_.Run([this] { editor_.Selected().DropSelection(); });
-        setFocus();
-    } else if (!MoveSelectionByKey(*event)) {
-        QWidget::keyPressEvent(event);
-    }
 }
 
 void FrmIcoEd::RefreshEditCommands() {

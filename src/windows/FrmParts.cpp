@@ -5,6 +5,8 @@
 
 #include "desktop/ScreenFit.h"
 #include "desktop/Text.h"
+#include "i18n/Captions.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
@@ -41,6 +43,11 @@ QWidget* NewFrame(QWidget* picture) {
     inside->addWidget(picture);
     frame->setFixedSize(frame->sizeHint());
     return frame;
+}
+
+void NamePreview(QWidget& picture) {
+    widgets::SetRole(picture, QAccessible::Graphic);
+    picture.setAccessibleName(desktop::ToText(i18n::kPreviewName.Now()));
 }
 
 void PlaceDialog(QDialog& dialog, int parts) {

@@ -19,6 +19,9 @@ QHBoxLayout* NewButtons(QDialog& dialog, const i18n::Text& ok, const i18n::Text&
 // A picture in a sunken frame.
 QWidget* NewFrame(QWidget* picture);
 
+// Tells screen readers that this picture shows what the dialog's controls make of it.
+void NamePreview(QWidget& picture);
+
 // The dialog's controls are complete: gives it its size and its place on the screen, with one part
 // of so many of the free height above it.
 void PlaceDialog(QDialog& dialog, int parts = 2);

@@ -6,6 +6,7 @@
 #include "desktop/Pictures.h"
 #include "desktop/Text.h"
 #include "i18n/Captions.h"
+#include "i18n/Speech.h"
 #include "imaging/filters/Levels.h"
 #include "windows/FrmParts.h"
 
@@ -60,6 +61,7 @@ FrmShades::FrmShades(QWidget* owner)
       VsbDegrees_(new widgets::ValueBar(Qt::Vertical)),
       LblDegrees_(new QLabel) {
     PicSml_->setObjectName("PicSml");
+    NamePreview(*PicSml_);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(kBetweenBlocks);
     columns->addWidget(NewColorGroup(End::Start));
@@ -98,6 +100,11 @@ QWidget* FrmShades::NewColorGroup(End end) {
 void FrmShades::AddLevel(std::size_t index, int value) {
     Hsb_[index] = NewLevelBar(index, value);
     TxtColor_[index] = NewLevelBox(index, value);
+    const QString name =
+        QString::fromStdString(i18n::Named(i18n::kShadeEndNames[index / kChannels].Now(),
+                                           i18n::kShadePartNames[index % kChannels].Now()));
+    Hsb_[index]->setAccessibleName(name);
+    TxtColor_[index]->setAccessibleName(name);
     connect(Hsb_[index], &QScrollBar::valueChanged, this,
             [this, index](int now) { Hsb_Change(index, now); });
     connect(TxtColor_[index], &QLineEdit::textChanged, this,
@@ -160,8 +167,12 @@ void FrmShades::ShowShade() {
     shades_ = {ColorAt(End::Start), ColorAt(End::End),
                VsbDegrees_->value() * imaging::kDegreesPerStep};
     LblDegrees_->setText(QString::number(shades_.degrees));
-    swatch_[0]->Show(desktop::ToColor(shades_.start), {});
-    swatch_[1]->Show(desktop::ToColor(shades_.end), {});
+    for (const End end : {End::Start, End::End}) {
+        const auto index = static_cast<std::size_t>(end);
+        swatch_[index]->Show(desktop::ToColor(ColorAt(end)), {});
+        swatch_[index]->SetName(QString::fromStdString(
+            i18n::Named(i18n::kShadeEndNames[index].Now(), i18n::ColorName(ColorAt(end)))));
+    }
     picture_ = imaging::DrawShade(shades_);
     PicSml_->update();
 }

@@ -3,24 +3,35 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <optional>
+#include <string_view>
 
 #include "commands/DocumentCommands.h"
+#include "editing/CellCursor.h"
 #include "editing/Editor.h"
-#include "windows/widgets/SurfaceWidget.h"
+#include "windows/NamedControls.h"
+#include "windows/widgets/CellSurface.h"
 
 namespace kestrel::windows {
 
-// The editing grid in its sunken edge: hands the mouse to the editor and shows what that draws.
+// The editing grid in its sunken edge: hands mouse and keys to the editor and shows what that
+// draws.
 class GridPane : public QWidget, public editing::GridView, public commands::GridGuard {
   public:
     explicit GridPane(QWidget* parent);
 
-    // Shows the editor's grid, and hands it the mouse from now on.
+    // Shows the editor's grid, and hands it mouse and keys from now on.
     void Show(editing::Editor& editor);
-    // Tells the editor again where the pointer is, where it is over the grid.
+    void AddTo(NamedControls& controls) { controls.AddName(picMain_); }
+    // Tells the editor again where the keyboard's mark is or, without one, the pointer, where that
+    // is over the grid.
     void FollowPointer();
+    // Says this to whoever listens there, and after it the marked cell.
+    void Say(std::string_view text);
+    // Where a pop-up belongs, on the screen.
+    QPoint PopupPoint() const;
 
-    widgets::SurfaceWidget& PicMain() { return picMain_; }
+    widgets::CellSurface& PicMain() { return picMain_; }
 
     // The editing pop-up is asked for.
     std::function<void()> onPopup;
@@ -35,7 +46,13 @@ class GridPane : public QWidget, public editing::GridView, public commands::Grid
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    widgets::SurfaceWidget picMain_{this};
+    void TakeMouse(editing::Editor& editor);
+    void TakeKeys(editing::Editor& editor);
+
+    widgets::CellSurface picMain_;
+    std::optional<editing::CellCursor> cursor_;
+    // What is said before the cell, until the keyboard moves on.
+    QString said_;
     QTimer tmr_;
 };
 

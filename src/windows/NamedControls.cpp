@@ -7,6 +7,13 @@ namespace kestrel::windows {
 void NamedControls::AddToolTip(QWidget& control) {
     toolTips_[control.objectName().toStdString()] = [&control](const QString& text) {
         control.setToolTip(text);
+        control.setAccessibleName(text.trimmed());
+    };
+}
+
+void NamedControls::AddName(QWidget& control) {
+    names_[control.objectName().toStdString()] = [&control](const QString& text) {
+        control.setAccessibleName(text);
     };
 }
 
@@ -16,6 +23,10 @@ void NamedControls::SetControlCaption(std::string_view control, std::string_view
 
 void NamedControls::SetControlToolTip(std::string_view control, std::string_view text) {
     Show(toolTips_, control, text);
+}
+
+void NamedControls::SetControlName(std::string_view control, std::string_view text) {
+    Show(names_, control, text);
 }
 
 void NamedControls::SetButtonToolTip(std::string_view key, std::string_view text) {

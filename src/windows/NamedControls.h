@@ -19,11 +19,14 @@ class NamedControls : public commands::MainControls {
     explicit NamedControls(widgets::ToolBar& toolbar) : toolbar_(toolbar) {}
 
     void AddCaption(const std::string& control, const ShowText& show) { captions_[control] = show; }
-    // Under the name of its object.
+    // Under the name of its object. Its tool tip is its name for screen readers, too.
     void AddToolTip(QWidget& control);
+    void AddToolTip(const std::string& control, const ShowText& show) { toolTips_[control] = show; }
+    void AddName(QWidget& control);
 
     void SetControlCaption(std::string_view control, std::string_view text) override;
     void SetControlToolTip(std::string_view control, std::string_view text) override;
+    void SetControlName(std::string_view control, std::string_view text) override;
     void SetButtonToolTip(std::string_view key, std::string_view text) override;
     void EnableButton(std::string_view key, bool enabled) override;
 
@@ -35,6 +38,7 @@ class NamedControls : public commands::MainControls {
     widgets::ToolBar& toolbar_;
     ByName captions_;
     ByName toolTips_;
+    ByName names_;
 };
 
 }  // namespace kestrel::windows

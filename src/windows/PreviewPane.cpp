@@ -6,6 +6,7 @@
 #include "desktop/Text.h"
 #include "i18n/Captions.h"
 #include "resources/WellPictures.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/DesktopFont.h"
 #include "windows/widgets/PictureIcon.h"
 #include "windows/widgets/WindowDesign.h"
@@ -49,6 +50,7 @@ PreviewPane::PreviewPane(editing::StatusView& status, const controls::ImageList&
     setFixedSize(kPreviewSize);
     setMouseTracking(true);
     picIcon_.setObjectName("PicIcon");
+    widgets::SetRole(picIcon_, QAccessible::Graphic);
     picIcon_.move(widgets::kEdgeDistance, widgets::kEdgeDistance);
     picIcon_.onMouseMove = [&status](Qt::MouseButtons /*held*/, QPoint /*at*/) {
         status.SetStatusPanel(StatusPanel::Hint, i18n::kActualSize.Now());
@@ -60,6 +62,7 @@ PreviewPane::PreviewPane(editing::StatusView& status, const controls::ImageList&
 }
 
 void PreviewPane::AddTo(NamedControls& controls) {
+    controls.AddName(picIcon_);
     controls.AddCaption("Label1",
                         [this](const QString& text) { label1_.setText(OnTwoLines(text)); });
 }

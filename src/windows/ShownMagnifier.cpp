@@ -1,5 +1,7 @@
 #include "windows/ShownMagnifier.h"
 
+#include "windows/widgets/AccessibleRole.h"
+
 namespace kestrel::windows {
 
 void ShownMagnifier::ShowMagnifier() {
@@ -8,6 +10,7 @@ void ShownMagnifier::ShowMagnifier() {
     if (window_ == nullptr) {
         window_ = new frmZoom(services_);
         window_->setAttribute(Qt::WA_DeleteOnClose);
+        widgets::SetRole(*window_, QAccessible::Window);
     }
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->show();

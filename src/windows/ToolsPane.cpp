@@ -3,15 +3,32 @@
 #include <QToolTip>
 
 #include "desktop/Text.h"
+#include "editing/ToolTable.h"
 #include "windows/FrmMouseButtons.h"
+#include "windows/widgets/AccessibleCells.h"
 #include "windows/widgets/WindowDesign.h"
 
 namespace kestrel::windows {
 
-ToolsPane::ToolsPane(QWidget* parent) : QWidget(parent) {
+namespace {
+
+using editing::ToolPalette;
+
+constexpr widgets::CellLayout kCells{ToolPalette::kColumns, ToolPalette::kRows,
+                                     QSize(ToolPalette::kCellWidth, ToolPalette::kCellHeight), 0,
+                                     widgets::MarkGround::Window};
+
+editing::ToolId ToolIn(QPoint cell) {
+    return static_cast<editing::ToolId>(cell.y() * ToolPalette::kColumns + cell.x() + 1);
+}
+
+}  // namespace
+
+ToolsPane::ToolsPane(QWidget* parent) : QWidget(parent), picTools_(kCells, this) {
     setMouseTracking(true);
     // Edges with the tool's picture between them.
     picTools_.DivideBy({"|...################..|", "|...###############..|"});
+    picTools_.setObjectName("PicTools");
     picTools_.move(widgets::kEdgeDistance, widgets::kEdgeDistance);
 }
 
@@ -29,6 +46,15 @@ void ToolsPane::Show(editing::Editor& editor) {
     picTools_.onMouseUp = [&tools](Qt::MouseButton button, QPoint at) {
         tools.PicTools_MouseUp(ToButton(button), at.x(), at.y());
     };
+    picTools_.nameOf = [](QPoint cell) {
+        return desktop::ToText(editing::RowOf(ToolIn(cell)).toolTip.Now());
+    };
+    picTools_.isChosen = [&tools](QPoint cell) { return tools.CurrentTool() == ToolIn(cell); };
+}
+
+void ToolsPane::RepaintTools() {
+    picTools_.update();
+    widgets::TellAccessibleCells(picTools_);
 }
 
 void ToolsPane::SetToolTipOfTools(std::string_view text) {

@@ -3,7 +3,8 @@
 #include <QWidget>
 
 #include "editing/Editor.h"
-#include "windows/widgets/SurfaceWidget.h"
+#include "windows/NamedControls.h"
+#include "windows/widgets/CellSurface.h"
 
 namespace kestrel::windows {
 
@@ -12,19 +13,21 @@ class ToolsPane : public QWidget, public editing::ToolsView {
   public:
     explicit ToolsPane(QWidget* parent);
 
-    // Shows the editor's tools, and hands them the mouse from now on.
+    // Shows the editor's tools, and hands them mouse and keys from now on.
     void Show(editing::Editor& editor);
 
-    widgets::SurfaceWidget& PicTools() { return picTools_; }
+    void AddTo(NamedControls& controls) { controls.AddName(picTools_); }
 
-    void RepaintTools() override { picTools_.update(); }
+    widgets::CellSurface& PicTools() { return picTools_; }
+
+    void RepaintTools() override;
     void SetToolTipOfTools(std::string_view text) override;
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    widgets::SurfaceWidget picTools_{this};
+    widgets::CellSurface picTools_;
 };
 
 }  // namespace kestrel::windows

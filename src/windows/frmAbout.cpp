@@ -14,6 +14,7 @@
 #include "document/ApplicationIcon.h"
 #include "i18n/Captions.h"
 #include "i18n/Messages.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/DevicePixels.h"
 
 namespace kestrel::windows {
@@ -46,7 +47,11 @@ QLabel* NewHeading(const QString& text) {
 // The program's icon, enlarged.
 class Picture : public QWidget {
   public:
-    Picture() { setFixedSize(picture_.size() * kPictureTimes); }
+    Picture() {
+        setFixedSize(picture_.size() * kPictureTimes);
+        setAccessibleName(ToText(i18n::kProgramName));
+        widgets::SetRole(*this, QAccessible::Graphic);
+    }
 
   protected:
     void paintEvent(QPaintEvent* /*event*/) override {

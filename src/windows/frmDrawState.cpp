@@ -9,6 +9,7 @@
 #include "i18n/Captions.h"
 #include "windows/FrmParts.h"
 #include "windows/WindowColor.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/DevicePixels.h"
 #include "windows/widgets/WindowDesign.h"
 
@@ -65,6 +66,7 @@ frmDrawState::frmDrawState(QWidget* owner, gdi::IconPlanes icon)
       CmdClose_(new QPushButton(this)) {
     widgets::DressDialog(*this, {});
     picCut_->setObjectName("picCut");
+    widgets::SetRole(*picCut_, QAccessible::Graphic);
     picCut_->move(PlaceOf(tools::DrawStates().size() - 1, kIconTop));
     CmdClose_->setObjectName("CmdClose");
     CmdClose_->setDefault(true);

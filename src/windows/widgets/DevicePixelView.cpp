@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "desktop/Pictures.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/DevicePixels.h"
 
 namespace kestrel::widgets {
@@ -18,6 +19,7 @@ constexpr int kRowsAtATime = 16;
 DevicePixelView::DevicePixelView(DrawRows drawRows, QWidget* parent)
     : QWidget(parent), drawRows_(std::move(drawRows)) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    SetRole(*this, QAccessible::Graphic);
 }
 
 gdi::Size DevicePixelView::SizeInPixels() const {

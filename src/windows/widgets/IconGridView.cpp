@@ -9,6 +9,7 @@
 #include "desktop/Text.h"
 #include "i18n/Captions.h"
 #include "i18n/Messages.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/DevicePixels.h"
 #include "windows/widgets/MousePoint.h"
 
@@ -33,6 +34,7 @@ IconGridView::IconGridView(tools::IconExtraction& extraction, QWidget* parent)
     : QWidget(parent), extraction_(extraction) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
+    SetRole(*this, QAccessible::Graphic);
     ShowFile();
 }
 

@@ -158,6 +158,9 @@ void MenuView::Follow(const MenuItem& item) {
     QAction* action = ActionOf(item.key);
     if (action == nullptr) return;
     action->setText(WithMnemonic(Fitting(Readable(desktop::ToText(item.caption)), font_)));
+    // For screen readers, who are told a heading's own name where its menu begins.
+    if (action->menu() != nullptr)
+        action->menu()->setAccessibleName(action->text().remove(QLatin1Char('&')).trimmed());
     action->setEnabled(item.enabled);
     action->setVisible(item.visible);
     action->setChecked(item.checked);

@@ -2,16 +2,47 @@
 
 #include <qdrawutil.h>
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "windows/widgets/ArrowStep.h"
+#include "windows/widgets/KeyChoice.h"
 #include "windows/widgets/MousePoint.h"
 
 namespace kestrel::widgets {
 
+namespace {
+
+class AccessibleBox : public QAccessibleWidget {
+  public:
+    explicit AccessibleBox(PictureBox& box) : QAccessibleWidget(&box), box_(box) {}
+
+    QAccessible::Role role() const override {
+        return box_.onMouseUp ? QAccessible::Button : QAccessible::Graphic;
+    }
+    QStringList actionNames() const override {
+        return box_.onMouseUp ? QStringList{pressAction()} : QStringList();
+    }
+    void doAction(const QString& name) override {
+        if (name == pressAction() && box_.onMouseUp) box_.onMouseUp(Qt::LeftButton);
+    }
+
+  private:
+    PictureBox& box_;
+};
+
+QAccessibleInterface* NewAccessible(const QString& /*className*/, QObject* object) {
+    auto* box = dynamic_cast<PictureBox*>(object);
+    return box == nullptr ? nullptr : new AccessibleBox(*box);
+}
+
+}  // namespace
+
 PictureBox::PictureBox(Edge edge, QWidget* parent) : QWidget(parent), edge_(edge) {
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
+    QAccessible::installFactory(NewAccessible);
 }
 
 void PictureBox::Show(const QColor& color, const QIcon& picture) {
@@ -31,6 +62,9 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     if (edge_ == Edge::Sunken || pressed_ || underMouse()) {
         qDrawShadePanel(&painter, rect(), palette(), edge_ == Edge::Sunken || pressed_, 1);
     }
+    if (!hasFocus()) return;
+    const bool isFilled = edge_ == Edge::Sunken;
+    DrawFocusMark(painter, rect(), isFilled ? MarkGround::AnyColor : MarkGround::Window, palette());
 }
 
 void PictureBox::mousePressEvent(QMouseEvent* /*event*/) {
@@ -52,6 +86,23 @@ void PictureBox::mouseMoveEvent(QMouseEvent* event) {
 void PictureBox::mouseReleaseEvent(QMouseEvent* event) {
     SetPressed(false);
     if (rect().contains(UnitOf(*event)) && onMouseUp) onMouseUp(event->button());
+}
+
+void PictureBox::keyPressEvent(QKeyEvent* event) {
+    const Qt::MouseButton button = ButtonOfKey(*event);
+    const auto step = ArrowStep(event->key());
+    if (button != Qt::NoButton) {
+        if (!event->isAutoRepeat() && onMouseUp) onMouseUp(button);
+    } else if (step && onArrow && (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier) {
+        onArrow(*step);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void PictureBox::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    if (IsByKey(event->reason()) && onMouseMove) onMouseMove();
 }
 
 void PictureBox::SetPressed(bool pressed) {

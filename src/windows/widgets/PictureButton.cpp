@@ -2,7 +2,9 @@
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QRegularExpression>
 
+#include "windows/widgets/FocusMark.h"
 #include "windows/widgets/PictureIcon.h"
 
 namespace kestrel::widgets {
@@ -17,8 +19,9 @@ PictureButton::PictureButton(const controls::ImageList& pictures, int number, QS
 }
 
 void PictureButton::SetName(const QString& name) {
+    static const QRegularExpression kShortcut(QStringLiteral("\\s*\\([^)]*\\)\\s*$"));
     setToolTip(name);
-    setAccessibleName(name);
+    setAccessibleName(QString(name).remove(kShortcut).trimmed());
 }
 
 // The style's own sign of the keyboard is lost on dark desktops.
@@ -26,8 +29,7 @@ void PictureButton::paintEvent(QPaintEvent* event) {
     QToolButton::paintEvent(event);
     if (!hasFocus()) return;
     QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    DrawFocusMark(painter, rect().adjusted(1, 1, -1, -1), MarkGround::Window, palette());
 }
 
 void PictureButton::keyPressEvent(QKeyEvent* event) {

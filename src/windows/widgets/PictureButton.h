@@ -13,7 +13,8 @@ class PictureButton : public QToolButton {
     PictureButton(const controls::ImageList& pictures, int number, QSize pictureSize,
                   QWidget* parent);
 
-    // What it is called by tool tip and screen reader.
+    // What it is called by the tool tip and, without the shortcut behind it in parentheses, by
+    // screen readers.
     void SetName(const QString& name);
 
   protected:

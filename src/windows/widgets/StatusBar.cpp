@@ -3,6 +3,7 @@
 #include <array>
 
 #include "desktop/Text.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/DesktopFont.h"
 #include "windows/widgets/WindowDesign.h"
 
@@ -23,6 +24,8 @@ constexpr std::array kPanels{PanelRow{0, ""}, PanelRow{84, "Transparent"}, Panel
 }  // namespace
 
 StatusBar::StatusBar(QWidget* parent) : QWidget(parent) {
+    setObjectName("StatusBar");
+    SetRole(*this, QAccessible::StatusBar);
     for (const PanelRow& row : kPanels) {
         auto* label = new QLabel(this);
         label->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));

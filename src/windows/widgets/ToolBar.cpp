@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "desktop/Text.h"
+#include "windows/widgets/AccessibleRole.h"
 #include "windows/widgets/MousePoint.h"
 
 namespace kestrel::widgets {
@@ -24,6 +25,7 @@ constexpr int kLineMargin = 4;
 ToolBar::ToolBar(const controls::ImageList& pictures, QSize buttonSize, QWidget* parent)
     : QWidget(parent), pictures_(pictures), buttonSize_(buttonSize) {
     setMouseTracking(true);
+    SetRole(*this, QAccessible::ToolBar);
 }
 
 void ToolBar::AddButton(std::string_view key, int number) {
