@@ -21,25 +21,25 @@ namespace kestrel::cli {
 namespace {
 
 using system::SystemFailure;
-using Bytes = std::vector<std::uint8_t>;
+using ByteList = std::vector<std::uint8_t>;
 
-Bytes IcoBytes(const gdi::IconPlanes& icon, gdi::Point /*hotspot*/) {
+ByteList IcoBytes(const gdi::IconPlanes& icon, gdi::Point /*hotspot*/) {
     const formats::IcoBytes bytes = formats::EncodeIco(icon);
     return {bytes.begin(), bytes.end()};
 }
 
-Bytes CurBytes(const gdi::IconPlanes& icon, gdi::Point hotspot) {
+ByteList CurBytes(const gdi::IconPlanes& icon, gdi::Point hotspot) {
     const formats::IcoBytes bytes = formats::EncodeCur(icon, hotspot);
     return {bytes.begin(), bytes.end()};
 }
 
-Bytes PngBytes(const gdi::IconPlanes& icon, gdi::Point /*hotspot*/) {
+ByteList PngBytes(const gdi::IconPlanes& icon, gdi::Point /*hotspot*/) {
     return formats::PngBytes(icon);
 }
 
 struct Format {
     std::string_view name;
-    Bytes (*encode)(const gdi::IconPlanes& icon, gdi::Point hotspot);
+    ByteList (*encode)(const gdi::IconPlanes& icon, gdi::Point hotspot);
 };
 // The first is that of what has no ending.
 constexpr Format kFormats[] = {{"ico", IcoBytes}, {"cur", CurBytes}, {"png", PngBytes}};
@@ -125,7 +125,7 @@ Result<void> CheckTerminal(const std::string& name, bool forced) {
     return WrongUsage("standard output is a terminal; --force writes to it all the same");
 }
 
-Bytes EncodeIcon(const IconTarget& target, const gdi::IconPlanes& icon, gdi::Point hotspot) {
+ByteList EncodeIcon(const IconTarget& target, const gdi::IconPlanes& icon, gdi::Point hotspot) {
     return WantedFormat(target)->encode(icon, hotspot);
 }
 
