@@ -32,7 +32,7 @@ constexpr std::array kIndicators{QRect(3, 4, 11, 11), QRect(21, 4, 11, 11)};
 constexpr QPoint kPicPal(0, 25);
 constexpr QRect kChkPal(0, 237, 208, 15);
 
-constexpr widgets::CellLayout kCells{
+constexpr widgets::CellLayout kPaletteCells{
     editing::Palette::kColumns, editing::Palette::kRows,
     QSize(editing::Palette::kCellSize, editing::Palette::kCellSize), 0,
     widgets::MarkGround::AnyColor};
@@ -77,7 +77,7 @@ constexpr std::array kColorBoxes{
 }  // namespace
 
 ColorsPane::ColorsPane(const Parts& parts, QWidget* parent)
-    : QWidget(parent), parts_(parts), picPal_(kCells, this) {
+    : QWidget(parent), parts_(parts), picPal_(kPaletteCells, this) {
     setFixedSize(kColorsSize);
     setMouseTracking(true);
     LayOutBoxes();

@@ -24,9 +24,9 @@ using editing::GridCursor;
 constexpr int kGuardAfterOpen = 250;  // milliseconds
 
 // With the line that closes the grid.
-constexpr widgets::CellLayout kCells{gdi::kIconSize, gdi::kIconSize,
-                                     QSize(document::kCellSize, document::kCellSize), 1,
-                                     widgets::MarkGround::AnyColor};
+constexpr widgets::CellLayout kGridCells{gdi::kIconSize, gdi::kIconSize,
+                                         QSize(document::kCellSize, document::kCellSize), 1,
+                                         widgets::MarkGround::AnyColor};
 
 QCursor ReadCursor(std::string_view art, int hotX, int hotY) {
     constexpr gdi::ArtInk kInks[] = {{'k', gdi::kBlack}, {'w', gdi::kWhite}};
@@ -70,7 +70,7 @@ QString NameOf(editing::Editor& editor, QPoint cell) {
 
 }  // namespace
 
-GridPane::GridPane(QWidget* parent) : QWidget(parent), picMain_(kCells, this) {
+GridPane::GridPane(QWidget* parent) : QWidget(parent), picMain_(kGridCells, this) {
     setMouseTracking(true);
     constexpr std::string_view kLineAndCell = "|.........";
     picMain_.DivideBy({kLineAndCell, kLineAndCell});

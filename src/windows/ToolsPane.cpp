@@ -14,9 +14,9 @@ namespace {
 
 using editing::ToolPalette;
 
-constexpr widgets::CellLayout kCells{ToolPalette::kColumns, ToolPalette::kRows,
-                                     QSize(ToolPalette::kCellWidth, ToolPalette::kCellHeight), 0,
-                                     widgets::MarkGround::Window};
+constexpr widgets::CellLayout kToolCells{ToolPalette::kColumns, ToolPalette::kRows,
+                                         QSize(ToolPalette::kCellWidth, ToolPalette::kCellHeight),
+                                         0, widgets::MarkGround::Window};
 
 editing::ToolId ToolIn(QPoint cell) {
     return static_cast<editing::ToolId>(cell.y() * ToolPalette::kColumns + cell.x() + 1);
@@ -24,7 +24,7 @@ editing::ToolId ToolIn(QPoint cell) {
 
 }  // namespace
 
-ToolsPane::ToolsPane(QWidget* parent) : QWidget(parent), picTools_(kCells, this) {
+ToolsPane::ToolsPane(QWidget* parent) : QWidget(parent), picTools_(kToolCells, this) {
     setMouseTracking(true);
     // Edges with the tool's picture between them.
     picTools_.DivideBy({"|...################..|", "|...###############..|"});

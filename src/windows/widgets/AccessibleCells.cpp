@@ -167,7 +167,7 @@ void AccessibleCells::Tell(int index, QAccessible::Event kind) const {
     QAccessible::updateAccessibility(&event);
 }
 
-QAccessibleInterface* NewAccessible(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* NewAccessibleCells(const QString& /*className*/, QObject* object) {
     auto* cells = dynamic_cast<CellSurface*>(object);
     return cells == nullptr ? nullptr : new AccessibleCells(*cells);
 }
@@ -181,7 +181,7 @@ AccessibleCells* Accessible(CellSurface& cells) {
 }  // namespace
 
 void InstallAccessibleCells() {
-    QAccessible::installFactory(NewAccessible);
+    QAccessible::installFactory(NewAccessibleCells);
 }
 
 void TellAccessibleCells(CellSurface& cells) {

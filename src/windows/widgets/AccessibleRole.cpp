@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* kRole = "accessibleRole";
 
-QAccessibleInterface* NewAccessible(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* NewAccessibleRole(const QString& /*className*/, QObject* object) {
     auto* widget = qobject_cast<QWidget*>(object);
     const QVariant role = widget == nullptr ? QVariant() : widget->property(kRole);
     if (!role.isValid()) return nullptr;
@@ -19,7 +19,7 @@ QAccessibleInterface* NewAccessible(const QString& /*className*/, QObject* objec
 }  // namespace
 
 void SetRole(QWidget& widget, QAccessible::Role role) {
-    QAccessible::installFactory(NewAccessible);
+    QAccessible::installFactory(NewAccessibleRole);
     widget.setProperty(kRole, static_cast<int>(role));
 }
 

@@ -32,7 +32,7 @@ class AccessibleBox : public QAccessibleWidget {
     PictureBox& box_;
 };
 
-QAccessibleInterface* NewAccessible(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* NewAccessibleBox(const QString& /*className*/, QObject* object) {
     auto* box = dynamic_cast<PictureBox*>(object);
     return box == nullptr ? nullptr : new AccessibleBox(*box);
 }
@@ -42,7 +42,7 @@ QAccessibleInterface* NewAccessible(const QString& /*className*/, QObject* objec
 PictureBox::PictureBox(Edge edge, QWidget* parent) : QWidget(parent), edge_(edge) {
     setMouseTracking(true);
     setAttribute(Qt::WA_Hover);
-    QAccessible::installFactory(NewAccessible);
+    QAccessible::installFactory(NewAccessibleBox);
 }
 
 void PictureBox::Show(const QColor& color, const QIcon& picture) {
