@@ -2,24 +2,17 @@
 
 #include <QApplication>
 #include <QColorDialog>
-#include <QDialogButtonBox>
 #include <QElapsedTimer>
-#include <QLineEdit>
 #include <QLocale>
 #include <QMouseEvent>
-#include <QPrintDialog>
 #include <QPrinter>
-#include <QTimer>
-#include <cerrno>
 #include <filesystem>
-#include <memory>
 #include <optional>
 
 #include "desktop/Pictures.h"
+#include "desktop/PrinterDialog.h"
 #include "desktop/ScreenFit.h"
 #include "i18n/Language.h"
-#include "i18n/Messages.h"
-#include "platform/system/PathText.h"
 
 namespace kestrel::desktop {
 
@@ -99,82 +92,6 @@ bool Ask(QDialog& dialog) {
     if (dialog.parentWidget() != nullptr) dialog.parentWidget()->activateWindow();
     return confirmed;
 }
-
-// The hourglass is shown while it lives.
-class WaitCursor {
-  public:
-    WaitCursor() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
-
-// The library asks the print server on the window's thread, and waits as long as it takes: it is
-// kept from a server that is silent, before the printer is made and again when it is chosen.
-class PrinterDialog : public QPrintDialog {
-  public:
-    using Silence = std::unique_ptr<NoPrintServer>;
-
-    PrinterDialog(QPrinter& printer, Silence& silence, services::MessageBoxes& boxes,
-                  QWidget* owner)
-        : QPrintDialog(&printer, owner), silence_(silence), boxes_(boxes) {
-        setOptions(PrintToFile | PrintShowPageSize);
-        // Once the library has shown them all.
-        QTimer::singleShot(0, this, [this] {
-            HideWhatNeedsPages();
-            KeepFromSpecialFiles();
-        });
-    }
-
-    void accept() override {
-        if (!silence_) silence_ = AvoidSilentServer();
-        QPrintDialog::accept();
-    }
-
-    static Silence AvoidSilentServer() {
-        const WaitCursor wait;
-        return PrintServerAnswers() ? nullptr : std::make_unique<NoPrintServer>();
-    }
-
-  private:
-    // There is one page.
-    void HideWhatNeedsPages() {
-        for (const char* name : {"gbPrintRange", "reverse", "duplex"}) {
-            if (auto* choice = findChild<QWidget*>(QLatin1String(name))) choice->hide();
-        }
-    }
-
-    // The library opens files beside the name that is typed, to complete it, and the file itself to
-    // see whether it can be written. A pipe would keep it for ever.
-    void KeepFromSpecialFiles() {
-        auto* file = findChild<QLineEdit*>(QStringLiteral("filename"));
-        auto* buttons = findChild<QDialogButtonBox*>();
-        if (file == nullptr || buttons == nullptr) return;
-        file->setCompleter(nullptr);
-        disconnect(buttons, &QDialogButtonBox::accepted, this, nullptr);
-        connect(buttons, &QDialogButtonBox::accepted, this, [this, file] {
-            if (file->isVisible() && IsSpecial(*file)) {
-                boxes_.Show(services::BoxIcon::Exclamation, services::BoxButtons::Ok,
-                            std::string(i18n::ReasonOf(EINVAL, "")),
-                            std::string(i18n::kErrorTitle.Now()));
-            } else if (!QMetaObject::invokeMethod(this, "_q_checkFields")) {
-                accept();
-            }
-        });
-    }
-
-    static bool IsSpecial(const QLineEdit& file) {
-        std::error_code unknown;
-        const auto kind = std::filesystem::status(file.text().toStdString(), unknown).type();
-        return kind == std::filesystem::file_type::fifo ||
-               kind == std::filesystem::file_type::socket ||
-               kind == std::filesystem::file_type::character ||
-               kind == std::filesystem::file_type::block;
-    }
-
-    Silence& silence_;
-    services::MessageBoxes& boxes_;
-};
 
 }  // namespace
 
