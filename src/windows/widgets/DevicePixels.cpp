@@ -8,10 +8,6 @@ namespace kestrel::widgets {
 
 namespace {
 
-// Points come with errors of rounding, on Wayland cut to 256ths of a unit: a pixel's edge must not
-// fall to its neighbour.
-constexpr qreal kCut = 1.0 / 256;
-
 // A painter that counts the pixels of its device, and gives back what it was.
 class DevicePainting {
   public:
@@ -33,8 +29,12 @@ QRect DevicePixelsOf(const QWidget& widget) {
     const qreal scale = widget.devicePixelRatioF();
     const QPoint from = widget.mapTo(widget.window(), QPoint());
     const QPoint end = from + QPoint(widget.width(), widget.height());
-    const auto first = [&](int unit) { return static_cast<int>(std::ceil(unit * scale - kCut)); };
-    const auto last = [&](int unit) { return static_cast<int>(std::floor(unit * scale + kCut)); };
+    const auto first = [&](int unit) {
+        return static_cast<int>(std::ceil(unit * scale - kPointError));
+    };
+    const auto last = [&](int unit) {
+        return static_cast<int>(std::floor(unit * scale + kPointError));
+    };
     return {first(from.x()), first(from.y()), last(end.x()) - first(from.x()),
             last(end.y()) - first(from.y())};
 }
@@ -43,14 +43,14 @@ gdi::Point DevicePixelAt(const QWidget& widget, QPointF unit) {
     const QPointF pixel =
         (unit + widget.mapTo(widget.window(), QPoint())) * widget.devicePixelRatioF();
     const QPoint first = DevicePixelsOf(widget).topLeft();
-    return {static_cast<int>(std::floor(pixel.x() + kCut)) - first.x(),
-            static_cast<int>(std::floor(pixel.y() + kCut)) - first.y()};
+    return {static_cast<int>(std::floor(pixel.x() + kPointError)) - first.x(),
+            static_cast<int>(std::floor(pixel.y() + kPointError)) - first.y()};
 }
 
 void UseDevicePixels(QPainter& painter) {
     const QTransform toDevice = painter.deviceTransform();
-    painter.setTransform(QTransform::fromTranslate(std::ceil(toDevice.dx() - kCut),
-                                                   std::ceil(toDevice.dy() - kCut)) *
+    painter.setTransform(QTransform::fromTranslate(std::ceil(toDevice.dx() - kPointError),
+                                                   std::ceil(toDevice.dy() - kPointError)) *
                          toDevice.inverted() * painter.worldTransform());
 }
 

@@ -8,6 +8,10 @@
 
 namespace kestrel::widgets {
 
+// Points come with errors of rounding, on Wayland cut to 256ths of a unit: a pixel's edge must not
+// fall to its neighbour.
+inline constexpr qreal kPointError = 1.0 / 256;
+
 // The pixels of the screen that lie wholly within a widget; points are those of its window.
 QRect DevicePixelsOf(const QWidget& widget);
 

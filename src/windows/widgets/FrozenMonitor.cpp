@@ -10,6 +10,7 @@
 #include "desktop/Pictures.h"
 #include "desktop/Text.h"
 #include "i18n/Captions.h"
+#include "windows/widgets/DevicePixels.h"
 
 namespace kestrel::widgets {
 
@@ -96,11 +97,9 @@ void FrozenMonitor::paintEvent(QPaintEvent* event) {
 void FrozenMonitor::PointAt(QPointF unit) {
     if (unit == pointer_) return;
     pointer_ = unit;
-    // Wayland cuts points to so much of a unit: a pixel's edge must not fall to its neighbour.
-    constexpr double kCut = 1.0 / 256;
     const double pixels = Pixels();
-    onPointer({part_.left + static_cast<int>(std::floor((unit.x() + kCut) * pixels)),
-               part_.top + static_cast<int>(std::floor((unit.y() + kCut) * pixels))});
+    onPointer({part_.left + static_cast<int>(std::floor((unit.x() + kPointError) * pixels)),
+               part_.top + static_cast<int>(std::floor((unit.y() + kPointError) * pixels))});
 }
 
 void FrozenMonitor::enterEvent(QEnterEvent* event) {
