@@ -51,7 +51,11 @@ QRectF SurfaceWidget::UnitsOf(gdi::Rect pixels) const {
 
 void SurfaceWidget::Repaint(gdi::Rect area) {
     if (surface_ == nullptr) return;
-    const QRectF units = UnitsOf(area);
+    // A rubber band reaches beyond the surface.
+    const QRect inside = QRect(area.left, area.top, area.width, area.height) &
+                         QRect(0, 0, surface_->Width(), surface_->Height());
+    if (inside.isEmpty()) return;
+    const QRectF units = UnitsOf({inside.x(), inside.y(), inside.width(), inside.height()});
     const QRect whole = units.toAlignedRect();
     // The desktop library rounds once more before it hands on what was painted.
     update(whole == units ? whole : whole.adjusted(-1, -1, 1, 1));
