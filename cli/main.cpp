@@ -21,6 +21,17 @@ using namespace kestrel;
 using cli::Arguments;
 using cli::Subcommand;
 
+// An empty value comes of a variable that is not set: taken for an option left out, it would let
+// the last of several files be taken for the one to write.
+void RefuseEmptyValues(CLI::App& command) {
+    for (CLI::Option* option : command.get_options()) {
+        if (option->get_positional() || option->get_expected_max() == 0) continue;
+        option->check([](const std::string& value) {
+            return std::string(value.empty() ? "an empty value is none" : "");
+        });
+    }
+}
+
 // Declaring is most of the work: where a subcommand comes first, that one alone is declared.
 void Declare(CLI::App& app, std::string_view firstWord, Arguments& arguments) {
     app.require_subcommand(1);
@@ -32,7 +43,9 @@ void Declare(CLI::App& app, std::string_view firstWord, Arguments& arguments) {
     const bool onlyFirst = std::ranges::any_of(cli::Subcommands(), isFirst);
     for (const Subcommand& subcommand : cli::Subcommands()) {
         if (onlyFirst && !isFirst(subcommand)) continue;
-        subcommand.declare(*app.add_subcommand(subcommand.name, subcommand.help), arguments);
+        CLI::App& command = *app.add_subcommand(subcommand.name, subcommand.help);
+        subcommand.declare(command, arguments);
+        RefuseEmptyValues(command);
     }
 }
 

@@ -38,6 +38,7 @@ Misused '-j wants a number from 1 to' info -j 0 in.ico
 Misused 'not expected: --more' info --more in.ico
 Misused 'ico: the name ends in none' convert in.ico ico
 Misused '--format' convert --format gif in.ico out.ico
+Misused '--into' convert --format png --into '' in.ico old.ico
 Misused 'mnuNone: no such command' apply mnuNegative,mnuNone in.ico out.ico
 Misused 'COMMANDS: a name is missing' apply mnuNegative, in.ico out.ico
 Misused 'takes no value' apply mnuImageOpts3= in.ico out.ico
