@@ -97,6 +97,8 @@ Result<void> ListedNames::ReadMore() {
     const int error = errno;
     unread_.resize(filled + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
     atEnd_ = count <= 0;
+    if (end_ != '\0' && unread_.find('\0', filled) != std::string::npos)
+        return FailureOf(list_, {EINVAL, "a name in it holds a zero byte, which -0 tells about"});
     if (count >= 0) return {};
     return FailureOf(list_ == kStandardStream ? "standard input" : list_,
                      system::SystemFailure(error).value());

@@ -34,6 +34,8 @@ cp old.ico ./-
 printf -- '-\n\nin/a.ico' | Icon info --files-from - >output
 [[ $(grep -c : output) -eq 4 && $(head -1 output) == './-: ICO' ]] || Fail "a list: $(<output)"
 Ends 0 '' info --files-from /dev/null
+printf 'in/a.ico\0in/b.ico' >zeros
+Ends 1 'zero byte' info --files-from zeros
 Ends 2 'in/../in/b.ico: its result would be called as that of in/b.ico' \
     convert --into never --format png in/b.ico in/a.ico in/../in/b.ico
 ln -s in/a.ico link.ico
