@@ -26,7 +26,7 @@ Result<std::vector<std::size_t>> ChosenIcons(const SourceFile& file,
     for (const std::string& number : numbers) {
         const auto icon = file.Numbered(number);
         if (!icon) return tl::unexpected(icon.error());
-        icons.push_back(*icon);
+        if (std::ranges::find(icons, *icon) == icons.end()) icons.push_back(*icon);
     }
     if (!icons.empty()) return icons;
     icons.resize(file.Count());
@@ -104,6 +104,7 @@ Result<void> ExtractFile(const InputFile& input, const Arguments& arguments, Res
         report.Add(written);
         if (!written && EndsAll(written.error().number)) break;
     }
+    results.EndFile(report);
     return {};
 }
 

@@ -83,11 +83,17 @@ Result<void> Results::Replace(const std::string& result, const struct stat& stat
     report.replacements.push_back(*std::move(replacement));
     // Each is an open file, and one program can have thousands of icons.
     constexpr std::size_t kMostOfOneFile = 16;
-    if (report.replacements.size() == kMostOfOneFile) {
-        system::JointFlush flush(calls_);
-        PlaceReplacements({&report, 1}, flush);
-    }
+    if (report.replacements.size() == kMostOfOneFile) Place(report);
     return {};
+}
+
+void Results::Place(Report& report) {
+    system::JointFlush flush(calls_);
+    PlaceReplacements({&report, 1}, flush);
+}
+
+void Results::EndFile(Report& report) {
+    if (report.replacements.size() > 1) Place(report);
 }
 
 bool Results::IsRead(const struct stat& status) {

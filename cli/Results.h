@@ -36,8 +36,13 @@ class Results {
     Result<void> Write(const std::string& result, std::span<const std::uint8_t> bytes,
                        Report& report);
 
+    // Once all results of a file are written: its replacements take their places, unless there is
+    // but one, for each of them is an open file.
+    void EndFile(Report& report);
+
   private:
     bool IsRead(const struct stat& status);
+    void Place(Report& report);
     Result<void> Replace(const std::string& result, const struct stat& status,
                          std::span<const std::uint8_t> bytes, Report& report);
     Result<void> Create(const std::string& result, std::span<const std::uint8_t> bytes);

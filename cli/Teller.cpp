@@ -16,7 +16,7 @@ Result<void> Teller::Tell(std::vector<Report> reports) {
         }
         replacements_ += report.replacements.size();
         waiting_.push_back(std::move(report));
-        if (replacements_ >= kMostWaiting) PlaceWaiting();
+        if (replacements_ >= kMostWaiting || waiting_.size() >= kMostReports) PlaceWaiting();
     }
     WriteOutput();
     progress_.Show(totals_);

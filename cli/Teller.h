@@ -18,6 +18,8 @@ class Teller {
   public:
     // A flush takes as long for so many small files as for one, and so many can be open at once.
     static constexpr std::size_t kMostWaiting = 256;
+    // Of other files so many wait behind a replacement.
+    static constexpr std::size_t kMostReports = 4096;
 
     explicit Teller(Progress progress) : progress_(progress) {}
 
