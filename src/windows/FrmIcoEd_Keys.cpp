@@ -20,7 +20,7 @@ void FrmIcoEd::BuildKeys() {
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this, [this, &row] {
             // What is dragged keeps its tool and its colour.
-            if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
+            if (QGuiApplication::mouseButtons() != Qt::NoButton || editor_.IsInGesture()) return;
             runner_.Run([&] { row.run(commands_, {}); });
             grid_.Say(row.told(commands_));
         });
