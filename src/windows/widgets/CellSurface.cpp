@@ -118,7 +118,10 @@ bool CellSurface::PressByKey(const QKeyEvent& event) {
     const Qt::MouseButton button = ButtonOfKey(event);
     if (button == Qt::NoButton || (onKeyDown && event.key() != Qt::Key_Space)) return false;
     if (event.isAutoRepeat() || held_ != Qt::NoButton || IsMouseHeld()) return true;
+    const bool isSeen = ShowsMark();
     UseByKeyboard(true);
+    // What draws does so where one sees it.
+    if (onKeyDown && !isSeen) return true;
     if (!onKeyDown) {
         Click(cell_, button);
     } else {
